@@ -1,0 +1,39 @@
+#pragma once
+
+#include "base/DateText.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+/// What one pane shows: the entries of a PC folder or of a controller's directory, in the order in
+/// which they were found. `Names`, `Sizes` and `Dates` run in parallel.
+struct FolderListing {
+    std::string Path; ///< the folder listed; empty for a controller
+    std::int32_t Count = 0;
+    std::vector<std::string> Names;   ///< UTF-8, as found
+    std::vector<std::int32_t> Sizes;  ///< bytes (at most 2^31 - 1 is shown), `folderSize` for a folder
+    std::vector<DateText> Dates;      ///< local time of the last change; empty when unknown
+    std::int16_t SortType = 0;        ///< column: 0 name, 1 size, 2 date
+    std::int16_t SortDir = 0;         ///< 1 descending, anything else ascending
+
+    static constexpr std::int32_t folderSize = -1;
+
+    void clear() {
+        Count = 0;
+        Names.clear();
+        Sizes.clear();
+        Dates.clear();
+    }
+
+    void append(std::string name, std::int32_t size, DateText date) {
+        Names.push_back(std::move(name));
+        Sizes.push_back(size);
+        Dates.push_back(date);
+        ++Count;
+    }
+};
+
+} // namespace vantrel

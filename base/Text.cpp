@@ -1,0 +1,157 @@
+#include "base/Text.h"
+
+#include <algorithm>
+
+namespace vantrel {
+
+namespace {
+
+constexpr char32_t replacementCharacter = 0xFFFD;
+
+char upper(char character) {
+    return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A')
+                                                : character;
+}
+
+char lower(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
+                                                : character;
+}
+
+struct Decoded {
+    char32_t codePoint = replacementCharacter;
+    std::size_t length = 1;
+};
+
+/// The sequence length that a lead byte announces; 0 when it can start none.
+std::size_t announcedLength(unsigned char lead) {
+    if (lead < 0x80)
+        return 1;
+    if (lead >= 0xC2 && lead <= 0xDF)
+        return 2;
+    if (lead >= 0xE0 && lead <= 0xEF)
+        return 3;
+    return lead >= 0xF0 && lead <= 0xF4 ? 4 : 0;
+}
+
+bool isScalar(char32_t codePoint) {
+    return codePoint <= 0x10FFFF && (codePoint < 0xD800 || codePoint > 0xDFFF);
+}
+
+/// Overlong forms, surrogates and values past U+10FFFF are as invalid as stray bytes.
+Decoded decodeFirst(std::string_view bytes) {
+    const auto lead = static_cast<unsigned char>(bytes.front());
+    const std::size_t length = announcedLength(lead);
+    if (length == 1)
+        return {lead, 1};
+    if (length == 0 || length > bytes.size())
+        return {};
+    char32_t codePoint = lead & (0x7Fu >> length);
+    for (std::size_t i = 1; i < length; ++i) {
+        const auto next = static_cast<unsigned char>(bytes[i]);
+        if ((next & 0xC0u) != 0x80u)
+            return {};
+        codePoint = (codePoint << 6) | (next & 0x3Fu);
+    }
+    const bool overlong =
+        (length == 3 && codePoint < 0x800) || (length == 4 && codePoint < 0x10000);
+    return overlong || !isScalar(codePoint) ? Decoded{} : Decoded{codePoint, length};
+}
+
+void append(std::string& text, char32_t codePoint) {
+    const auto tail = [&](unsigned shift) {
+        text += static_cast<char>(0x80u | ((codePoint >> shift) & 0x3Fu));
+    };
+    if (codePoint < 0x80) {
+        text += static_cast<char>(codePoint);
+    } else if (codePoint < 0x800) {
+        text += static_cast<char>(0xC0u | (codePoint >> 6));
+        tail(0);
+    } else if (codePoint < 0x10000) {
+        text += static_cast<char>(0xE0u | (codePoint >> 12));
+        tail(6);
+        tail(0);
+    } else {
+        text += static_cast<char>(0xF0u | (codePoint >> 18));
+        tail(12);
+        tail(6);
+        tail(0);
+    }
+}
+
+} // namespace
+
+std::string_view trimmed(std::string_view text, std::string_view outer) {
+    const auto first = text.find_first_not_of(outer);
+    if (first == std::string_view::npos)
+        return text.substr(0, 0);
+    return text.substr(first, text.find_last_not_of(outer) - first + 1);
+}
+
+std::string asciiUpper(std::string_view text) {
+    std::string result(text);
+    std::ranges::transform(result, result.begin(), upper);
+    return result;
+}
+
+std::string asciiLower(std::string_view text) {
+    std::string result(text);
+    std::ranges::transform(result, result.begin(), lower);
+    return result;
+}
+
+bool equalsIgnoringAsciiCase(std::string_view left, std::string_view right) {
+    return std::ranges::equal(left, right, {}, upper, upper);
+}
+
+bool startsWith(std::string_view text, std::string_view start) {
+    return text.starts_with(start);
+}
+
+bool endsWith(std::string_view text, std::string_view end) {
+    return text.ends_with(end);
+}
+
+std::vector<std::string_view> split(std::string_view text, char separator) {
+    std::vector<std::string_view> pieces;
+    std::size_t start = 0;
+    for (auto end = text.find(separator); end != std::string_view::npos;
+         end = text.find(separator, start)) {
+        pieces.push_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+    pieces.push_back(text.substr(start));
+    return pieces;
+}
+
+std::vector<std::string_view> lines(std::string_view text) {
+    std::vector<std::string_view> result;
+    while (!text.empty()) {
+        const auto end = std::min(text.find_first_of("\r\n"), text.size());
+        result.push_back(text.substr(0, end));
+        const auto rest = text.substr(end);
+        text = rest.substr(rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, rest.size()));
+    }
+    return result;
+}
+
+std::u32string codePoints(std::string_view utf8) {
+    std::u32string result;
+    result.reserve(utf8.size());
+    while (!utf8.empty()) {
+        const Decoded decoded = decodeFirst(utf8);
+        result += decoded.codePoint;
+        utf8.remove_prefix(decoded.length);
+    }
+    return result;
+}
+
+std::string utf8(std::u32string_view codePoints) {
+    std::string result;
+    result.reserve(codePoints.size());
+    for (const char32_t codePoint : codePoints)
+        append(result, isScalar(codePoint) ? codePoint : replacementCharacter);
+    return result;
+}
+
+} // namespace vantrel

@@ -1,0 +1,15 @@
+# What every target of ours is compiled and linked with, as one interface target.
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+# The simulator is a shared library made of the same static rooms.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+add_library(vantrel_options INTERFACE)
+target_compile_features(vantrel_options INTERFACE cxx_std_20)
+target_compile_options(vantrel_options INTERFACE -Wall -Wextra -Wconversion -Wshadow -Wnon-virtual-dtor)
+if(VANTREL_SANITIZE)
+    target_compile_options(vantrel_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(vantrel_options INTERFACE -fsanitize=address,undefined)
+endif()

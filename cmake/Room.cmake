@@ -1,0 +1,31 @@
+# vantrel_room(<name> [SEES <room>...] SOURCES <file>...)
+#
+# One folder, one static library. A room's headers are reached as "<name>/Header.h" through an
+# include folder that holds a link to this room only, so an include of a room that is not listed
+# under SEES (or seen by one of those) does not compile.
+function(vantrel_room name)
+    cmake_parse_arguments(ROOM "" "" "SEES;SOURCES" ${ARGN})
+    set(doorway "${PROJECT_BINARY_DIR}/rooms/${name}")
+    file(MAKE_DIRECTORY "${doorway}")
+    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${doorway}/${name}" SYMBOLIC)
+
+    # BOOTSTRAP-SHIM begin
+    set(there "")
+    foreach(s IN LISTS ROOM_SOURCES)
+        if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${s}")
+            list(APPEND there "${s}")
+        endif()
+    endforeach()
+    if(NOT there)
+        file(WRITE "${PROJECT_BINARY_DIR}/empty.cpp" "")
+        set(there "${PROJECT_BINARY_DIR}/empty.cpp")
+    endif()
+    set(ROOM_SOURCES ${there})
+    # BOOTSTRAP-SHIM end
+    add_library(vantrel_${name} STATIC ${ROOM_SOURCES})
+    target_include_directories(vantrel_${name} PUBLIC "${doorway}")
+    target_link_libraries(vantrel_${name} PRIVATE vantrel_options)
+    foreach(seen IN LISTS ROOM_SEES)
+        target_link_libraries(vantrel_${name} PUBLIC vantrel_${seen})
+    endforeach()
+endfunction()

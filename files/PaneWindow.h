@@ -1,0 +1,46 @@
+#pragma once
+
+#include "base/ApplicationState.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+class PaneRows;
+
+/// One pane's list control, `lsvPC` or `lsvCtrl`, as the file operations see it.
+class PaneList {
+  public:
+    virtual ~PaneList() = default;
+    /// Shows these rows in place of the old ones and selects the first. The rows are borrowed until
+    /// the next call.
+    virtual void show(const PaneRows& rows) = 0;
+    /// Positions of the selected rows, in list order.
+    virtual std::vector<std::size_t> selectedRows() const = 0;
+    /// Selects these rows and no others, and focuses the first of them.
+    virtual void select(const std::vector<std::size_t>& rows) = 0;
+    virtual void focus() = 0;
+};
+
+/// The main window as the file operations see it.
+class PaneWindow {
+  public:
+    virtual ~PaneWindow() = default;
+    virtual PaneList& list(ActiveSide side) = 0;
+    /// The chosen entry of the pane's filter box, from 0.
+    virtual int filterIndex(ActiveSide side) const = 0;
+    /// Replaces the entries of the pane's filter box and chooses the first, without an event.
+    virtual void setFilterChoices(ActiveSide side, const std::vector<std::string>& choices) = 0;
+    /// The status-bar panel "PC" or "Ctrl".
+    virtual void setStatus(ActiveSide side, const std::string& text) = 0;
+    /// Shows the busy pointer until called with false; calls nest.
+    virtual void setBusyPointer(bool busy) = 0;
+    /// Refuses every command, key, choice, drop, timer and close until unlocked; calls nest.
+    virtual void setLocked(bool locked) = 0;
+    /// Lets pending events run once; refuses re-entry.
+    virtual void yield() = 0;
+};
+
+} // namespace vantrel

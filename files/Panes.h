@@ -1,0 +1,57 @@
+#pragma once
+
+#include "base/ApplicationState.h"
+#include "files/PaneRows.h"
+
+namespace vantrel {
+
+class MessageTable;
+class PaneWindow;
+class Snappy;
+class TransferTable;
+
+/// Both panes' contents: reads the listings, fills and sorts the lists and writes the counts.
+class Panes {
+  public:
+    Panes(ApplicationState& state, Snappy& session, const TransferTable& table,
+          const MessageTable& messages, PaneWindow& window);
+
+    /// Lists `folder` into the PC listing and makes it the PC folder; false, with the listing and
+    /// the folder as they were, when it cannot be opened.
+    bool scanPC(const std::string& folder);
+    /// Reads the controller's directory and adds the table's fixed names; false, with the listing as
+    /// it was, when the session could not read it.
+    bool readController();
+    /// No entries, for a controller that was not read.
+    void emptyController();
+
+    /// Rebuilds a list control from its listing, with the pane's filter and order, and its count in
+    /// the status bar.
+    void fill(ActiveSide side);
+    /// Puts the rows in the order of the listing's sort state and shows them.
+    void sort(ActiveSide side);
+    void showCount(ActiveSide side);
+    /// Fills both filter boxes for the current controller model, entry 0 chosen.
+    void fillFilterChoices();
+
+    FolderListing& listing(ActiveSide side);
+    const PaneRows& rows(ActiveSide side) const;
+    /// The names of the selected rows, in list order.
+    std::vector<std::string> selectedNames(ActiveSide side) const;
+    /// Selects the rows that have one of these names, if any is still there.
+    void selectNames(ActiveSide side, const std::vector<std::string>& names);
+
+  private:
+    PaneRows& rows(ActiveSide side);
+    bool accepts(ActiveSide side, std::string_view upperName) const;
+
+    ApplicationState& state_;
+    Snappy& session_;
+    const TransferTable& table_;
+    const MessageTable& messages_;
+    PaneWindow& window_;
+    PaneRows pcRows_;
+    PaneRows controllerRows_;
+};
+
+} // namespace vantrel

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantrel {
+
+/// One row of the file table.
+struct TransferRow {
+    std::string Name;              ///< upper case: a file name, "*." and an extension, or a pattern
+    std::int16_t uploadMask = 0;   ///< models from which the file may be received
+    std::int16_t downloadMask = 0; ///< models to which the file may be sent
+};
+
+/// Which files may be sent to and received from which controller model.
+class TransferTable {
+  public:
+    /// Reads "FileTable.tbl", or "FileTable.dat" when the first cannot be opened. False when there
+    /// is neither or a line is broken; the rows before it stay.
+    bool load(const std::string& programFolder);
+
+    const std::vector<TransferRow>& rows() const { return rows_; }
+
+    /// `download` is true for a transfer from the PC into the controller.
+    bool isTransferable(std::string_view name, bool download, std::int16_t modelBit) const;
+
+  private:
+    std::vector<TransferRow> rows_;
+};
+
+} // namespace vantrel

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "lang/MessageBoxes.h"
+
+#include <string>
+
+namespace vantrel {
+
+class ProgressPanel;
+
+/// The buttons of the question dialog, by their number.
+enum class Answer { Yes = 0, No = 1, All = 2, Cancel = 3 };
+
+/// The Yes / No / All / Cancel dialog `frmMsgYesNo`. Closing it otherwise than by a button is
+/// Cancel.
+class QuestionWindow {
+  public:
+    virtual ~QuestionWindow() = default;
+    virtual Answer ask(const std::string& title, const std::string& question) = 0;
+};
+
+/// Speaks with the operator while an operation may be showing its progress: since the progress
+/// window stays on top of everything, it is hidden around each box and question and shown again
+/// after it.
+class OperatorDialog {
+  public:
+    OperatorDialog(ProgressPanel& progress, QuestionWindow& question, MessageBoxes& boxes)
+        : progress_(progress), question_(question), boxes_(boxes) {}
+
+    Answer ask(const std::string& title, const std::string& question);
+    void tell(const std::string& text, BoxIcon icon);
+    bool askOkCancel(const std::string& text, BoxIcon icon);
+    bool askYesNo(const std::string& text, BoxIcon icon);
+
+  private:
+    ProgressPanel& progress_;
+    QuestionWindow& question_;
+    MessageBoxes& boxes_;
+};
+
+} // namespace vantrel

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <string>
+
+namespace vantrel {
+
+class ProgressPanel;
+
+/// What shows a ProgressPanel: the window `frmMsgStat`.
+class ProgressView {
+  public:
+    virtual ~ProgressView() = default;
+    /// Brings the window in line with the panel, and paints it.
+    virtual void refresh(const ProgressPanel& panel) = 0;
+    /// Lets pending events run once, so that a press of Cancel can be delivered.
+    virtual void yield() = 0;
+    /// Destroys the window; the panel is not shown again.
+    virtual void unload() = 0;
+};
+
+/// The progress dialog without its window: texts, bar and the cancel mark. There is one, shared by
+/// the session and the transfer commands.
+class ProgressPanel {
+  public:
+    /// The text of the mark that the Cancel button leaves.
+    static constexpr const char* cancelled = "CANCEL";
+
+    void attach(ProgressView* view) { view_ = view; }
+
+    void setTitle(std::string title);
+    void setCancelCaption(std::string caption);
+    void showCancelButton(bool shown);
+    void showBar(bool shown);
+
+    /// Makes the window visible, clears the cancel mark and yields once.
+    void show(std::string message);
+    /// Makes the window visible again as it was; mark and texts stay, nothing yields.
+    void showAgain();
+    void hide();
+    /// Another step of the same work: texts and bar change, the mark stays, nothing yields. `item`
+    /// of `count` is counted from 0; `waitingFor` is the second label's text.
+    void step(std::string message, int item, int count, std::string waitingFor);
+    void yield();
+    void unload();
+
+    void pressCancel() { mark_ = cancelled; }
+    void clearMark() { mark_.clear(); }
+    bool isCancelled() const { return mark_ == cancelled; }
+
+    bool isVisible() const { return visible_; }
+    const std::string& title() const { return title_; }
+    const std::string& message() const { return message_; }
+    const std::string& waitingFor() const { return waitingFor_; }
+    const std::string& cancelCaption() const { return cancelCaption_; }
+    bool cancelButtonShown() const { return cancelButtonShown_; }
+    bool barShown() const { return barShown_; }
+    int item() const { return item_; }
+    int count() const { return count_; }
+
+  private:
+    void refresh();
+
+    ProgressView* view_ = nullptr;
+    std::string title_;
+    std::string message_;
+    std::string waitingFor_;
+    std::string cancelCaption_;
+    std::string mark_;
+    bool visible_ = false;
+    bool cancelButtonShown_ = true;
+    bool barShown_ = true;
+    int item_ = 0;
+    int count_ = 0;
+};
+
+} // namespace vantrel

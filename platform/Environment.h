@@ -1,0 +1,25 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <string>
+
+namespace vantrel {
+
+/// The running program's own file, absolute, as the system knows it.
+std::string executablePath();
+
+/// The English name of the user's default locale's language: "Japanese", "English", "German".
+/// Elsewhere than on Windows it is taken from LC_ALL, LC_MESSAGES or LANG; "English" when unset.
+std::string localeLanguageName();
+
+/// Opens a document with the program that the system has for it.
+Outcome openDocument(const std::string& path);
+/// Starts the plain-text editor with a file: notepad on Windows, elsewhere the desktop's program
+/// for text files.
+Outcome editTextFile(const std::string& path);
+
+/// `name` of the communication library on this system: "Zurolink.dll", "libZurolink.so".
+std::string libraryFileName();
+
+} // namespace vantrel

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "base/DateText.h"
+#include "base/Result.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace vantrel {
+
+/// File access by absolute UTF-8 path. Every failed open, write, flush and close is a `Failure`
+/// with the system's reason.
+
+Result<std::string> readFile(const std::string& path);
+
+/// Replaces the file whole: writes a temporary file beside it, flushes it to the disk and renames
+/// it, so that the file is complete old or complete new whatever happens. A symbolic link is
+/// followed, the file's permissions are kept.
+Outcome replaceFile(const std::string& path, std::string_view content);
+
+Outcome renameFile(const std::string& from, const std::string& to);
+Outcome removeFile(const std::string& path);
+
+/// A regular file (or a link to one).
+bool isRegularFile(const std::string& path);
+bool isFolder(const std::string& path);
+/// Whether anything at all has this name, a dangling link included.
+bool anythingExists(const std::string& path);
+
+/// The entry's own spelling in `folder` of a name given in any letter case, or an empty text. An
+/// exact match wins.
+std::string findIgnoringCase(const std::string& folder, std::string_view name);
+
+struct FolderEntry {
+    std::string_view name; ///< valid during the call only
+    bool isFolder = false;
+    std::uint64_t size = 0; ///< bytes
+    DateText changed;
+    bool detailsKnown = true; ///< false when the entry's details could not be read
+};
+
+/// Calls `visit` for each entry but "." and "..", in the system's order. Fails only when the folder
+/// itself cannot be opened. A name that is no valid UTF-8 is shown with U+FFFD.
+Outcome visitFolder(const std::string& path, const std::function<void(const FolderEntry&)>& visit);
+/// The same without looking at each entry's details: only names.
+Outcome visitNames(const std::string& path, const std::function<void(std::string_view)>& visit);
+
+std::string currentFolder();
+Outcome changeCurrentFolder(const std::string& path);
+
+} // namespace vantrel

@@ -1,0 +1,35 @@
+# Which Debian packages the build, the tests and the virtual display need, and how to get them.
+# Sourced by ./run and ./test.
+
+build_packages=(g++ cmake ninja-build ccache libwxgtk3.2-dev librsvg2-common fonts-vlgothic)
+display_packages=(xvfb openbox xdotool imagemagick x11-utils adwaita-icon-theme)
+test_packages=(libgtest-dev libgmock-dev)
+
+is_debian_like() {
+    command -v dpkg-query >/dev/null && command -v apt-get >/dev/null
+}
+
+missing_packages() {
+    local package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+            printf '%s\n' "$package"
+    done
+}
+
+# Installs what is missing; on another kind of system says what is needed and goes on.
+ensure_packages() {
+    if ! is_debian_like; then
+        printf 'Not a Debian-like system. What is needed, by its Debian names:\n  %s\n' "$*"
+        return 0
+    fi
+    local -a missing
+    mapfile -t missing < <(missing_packages "$@")
+    [ ${#missing[@]} -gt 0 ] || return 0
+    printf 'Installing: %s\n' "${missing[*]}"
+    local -a as_root=()
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    "${as_root[@]}" apt-get update -q
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -q --no-install-recommends "${missing[@]}"
+}

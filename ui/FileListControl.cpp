@@ -1,0 +1,267 @@
+#include "ui/FileListControl.h"
+
+#include "files/PaneRows.h"
+#include "ui/IconSet.h"
+
+#include <wx/sizer.h>
+#include <wx/wupdlock.h>
+
+namespace vantrel {
+
+namespace {
+
+constexpr int largeIconSize = 32;
+constexpr int smallIconSize = 16;
+// In pixels at 96 dpi; what the settings' default column widths come to.
+constexpr std::array<int, FileListControl::columnCount> builtInWidths{93, 47, 100};
+
+long viewStyle(ListView view) {
+    switch (view) {
+    case ListView::LargeIcons:
+        return wxLC_ICON;
+    case ListView::SmallIcons:
+        return wxLC_SMALL_ICON;
+    case ListView::List:
+        return wxLC_LIST;
+    case ListView::Details:
+        return wxLC_REPORT | wxLC_VIRTUAL;
+    }
+    return wxLC_LIST;
+}
+
+wxString text(std::string_view utf8) {
+    return wxString::FromUTF8(utf8.data(), utf8.size());
+}
+
+wxVector<wxBitmapBundle> kindIcons(int size) {
+    wxVector<wxBitmapBundle> icons;
+    for (const auto kind : {FileKind::Folder, FileKind::JobFile, FileKind::PlainFile})
+        icons.push_back(icon(imageKey(kind), wxSize(size, size)));
+    return icons;
+}
+
+int imageIndex(FileKind kind) {
+    return kind == FileKind::Folder ? 0 : kind == FileKind::JobFile ? 1 : 2;
+}
+
+/// The native control; in details view it asks the rows for what is visible.
+class NativeList : public wxListCtrl {
+  public:
+    NativeList(wxWindow* parent, long style, const wxString& name, const PaneRows* const& rows)
+        : wxListCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, style, wxDefaultValidator,
+                     name),
+          rows_(rows) {}
+
+  private:
+    bool has(long item) const { return rows_ && item >= 0 && std::size_t(item) < rows_->size(); }
+
+    wxString OnGetItemText(long item, long column) const override {
+        if (!has(item))
+            return {};
+        const auto row = std::size_t(item);
+        if (column == 0)
+            return text(rows_->name(row));
+        return column == 1 ? text(rows_->sizeText(row)) : text(rows_->dateText(row));
+    }
+
+    int OnGetItemImage(long item) const override {
+        return has(item) ? imageIndex(rows_->kind(std::size_t(item))) : -1;
+    }
+
+    const PaneRows* const& rows_;
+};
+
+} // namespace
+
+ListView listView(std::int16_t displayType) {
+    return displayType >= 0 && displayType <= 3 ? static_cast<ListView>(displayType)
+                                                : ListView::List;
+}
+
+FileListControl::FileListControl(wxWindow* parent, const wxString& name)
+    : wxPanel(parent), listName_(name) {
+    for (std::size_t column = 0; column < columnCount; ++column)
+        widths_[column] = FromDIP(builtInWidths[column]);
+    SetSizer(new wxBoxSizer(wxVERTICAL));
+    createList();
+}
+
+void FileListControl::createList() {
+    list_ = new NativeList(this, viewStyle(view_) | wxLC_AUTOARRANGE | wxBORDER_THEME, listName_,
+                           rows_);
+    list_->SetFont(GetFont());
+    list_->SetNormalImages(kindIcons(largeIconSize));
+    list_->SetSmallImages(kindIcons(smallIconSize));
+    addColumns();
+    bindEvents();
+    GetSizer()->Add(list_, 1, wxEXPAND);
+    Layout();
+}
+
+void FileListControl::addColumns() {
+    if (view_ != ListView::Details)
+        return;
+    for (std::size_t column = 0; column < columnCount; ++column) {
+        const auto format = column == 1 ? wxLIST_FORMAT_RIGHT : wxLIST_FORMAT_LEFT;
+        list_->AppendColumn(titles_[column], format, widths_[column]);
+    }
+}
+
+void FileListControl::setView(ListView view) {
+    if (view == view_)
+        return;
+    const auto selected = selectedRows();
+    const bool hadFocus = list_->HasFocus();
+    widths_ = columnWidths();
+    const wxWindowUpdateLocker frozen(this);
+    list_->Destroy();
+    view_ = view;
+    createList();
+    fillItems();
+    select(selected);
+    if (hadFocus)
+        list_->SetFocus();
+}
+
+void FileListControl::setColumnTitles(const std::array<wxString, columnCount>& titles) {
+    titles_ = titles;
+    if (view_ != ListView::Details)
+        return;
+    for (std::size_t column = 0; column < columnCount; ++column) {
+        wxListItem item;
+        item.SetMask(wxLIST_MASK_TEXT);
+        item.SetText(titles[column]);
+        list_->SetColumn(int(column), item);
+    }
+}
+
+void FileListControl::setColumnWidths(const std::array<int, columnCount>& widths) {
+    for (std::size_t column = 0; column < columnCount; ++column) {
+        if (widths[column] <= 0)
+            continue;
+        widths_[column] = widths[column];
+        if (view_ == ListView::Details)
+            list_->SetColumnWidth(int(column), widths[column]);
+    }
+}
+
+std::array<int, FileListControl::columnCount> FileListControl::columnWidths() const {
+    if (view_ != ListView::Details)
+        return widths_;
+    std::array<int, columnCount> widths{};
+    for (std::size_t column = 0; column < columnCount; ++column)
+        widths[column] = list_->GetColumnWidth(int(column));
+    return widths;
+}
+
+void FileListControl::show(const PaneRows& rows) {
+    rows_ = &rows;
+    const wxWindowUpdateLocker frozen(list_);
+    fillItems();
+    select(rows.size() > 0 ? std::vector<std::size_t>{0} : std::vector<std::size_t>{});
+}
+
+void FileListControl::fillItems() {
+    filling_ = true;
+    const long count = rows_ ? long(rows_->size()) : 0;
+    if (view_ == ListView::Details) {
+        list_->SetItemState(-1, 0, wxLIST_STATE_SELECTED);
+        list_->SetItemCount(count);
+        list_->Refresh();
+    } else {
+        list_->DeleteAllItems();
+        for (long row = 0; row < count; ++row)
+            list_->InsertItem(row, text(rows_->name(std::size_t(row))),
+                              imageIndex(rows_->kind(std::size_t(row))));
+    }
+    filling_ = false;
+}
+
+std::vector<std::size_t> FileListControl::selectedRows() const {
+    std::vector<std::size_t> rows;
+    for (long item = list_->GetFirstSelected(); item != -1; item = list_->GetNextSelected(item))
+        rows.push_back(std::size_t(item));
+    return rows;
+}
+
+void FileListControl::select(const std::vector<std::size_t>& rows) {
+    filling_ = true;
+    for (const auto old : selectedRows())
+        list_->SetItemState(long(old), 0, wxLIST_STATE_SELECTED);
+    for (const auto row : rows)
+        list_->SetItemState(long(row), wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
+    if (!rows.empty()) {
+        list_->SetItemState(long(rows.front()), wxLIST_STATE_FOCUSED, wxLIST_STATE_FOCUSED);
+        list_->EnsureVisible(long(rows.front()));
+    }
+    filling_ = false;
+    changed();
+}
+
+void FileListControl::selectAll() {
+    const wxWindowUpdateLocker frozen(list_);
+    filling_ = true;
+    // Item by item: only some of the ports accept -1 for all of them.
+    for (long item = 0; item < list_->GetItemCount(); ++item)
+        list_->SetItemState(item, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
+    filling_ = false;
+    changed();
+}
+
+void FileListControl::focus() {
+    list_->SetFocus();
+}
+
+std::size_t FileListControl::itemCount() const {
+    return std::size_t(list_->GetItemCount());
+}
+
+long FileListControl::focusedRow() const {
+    const long focused = list_->GetFocusedItem();
+    return focused != -1 && focused < list_->GetItemCount() ? focused : list_->GetFirstSelected();
+}
+
+/// A change of 1,000 items raises 1,000 events; the listener hears of it once, when they are done.
+void FileListControl::changed() {
+    if (filling_ || changePending_)
+        return;
+    changePending_ = true;
+    CallAfter([this] {
+        changePending_ = false;
+        if (onSelectionChanged)
+            onSelectionChanged();
+    });
+}
+
+void FileListControl::bindEvents() {
+    const auto selectionChanged = [this](wxListEvent& event) {
+        changed();
+        event.Skip();
+    };
+    list_->Bind(wxEVT_LIST_ITEM_SELECTED, selectionChanged);
+    list_->Bind(wxEVT_LIST_ITEM_DESELECTED, selectionChanged);
+    list_->Bind(wxEVT_LIST_ITEM_FOCUSED, selectionChanged);
+    list_->Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent& event) {
+        if (onOpen)
+            onOpen(event.GetIndex());
+    });
+    list_->Bind(wxEVT_LIST_COL_CLICK, [this](wxListEvent& event) {
+        if (onColumnClicked)
+            onColumnClicked(event.GetColumn());
+    });
+    list_->Bind(wxEVT_LIST_BEGIN_DRAG, [this](wxListEvent&) {
+        if (onDragBegun)
+            onDragBegun();
+    });
+    list_->Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
+        if (onActivated)
+            onActivated();
+        event.Skip();
+    });
+    list_->Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) {
+        if (onMenuRequested)
+            onMenuRequested(event.GetPosition());
+    });
+}
+
+} // namespace vantrel

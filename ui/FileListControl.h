@@ -1,0 +1,79 @@
+#pragma once
+
+#include "files/PaneWindow.h"
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include <wx/listctrl.h>
+#include <wx/panel.h>
+
+namespace vantrel {
+
+/// The views of a pane's list, by the number that the settings store.
+enum class ListView { LargeIcons = 0, SmallIcons = 1, List = 2, Details = 3 };
+
+/// The stored number as a view; an unknown number shows the list.
+ListView listView(std::int16_t displayType);
+
+/// One pane's file list, `lsvPC` or `lsvCtrl`: four views over the rows of a pane. Shows what the
+/// rows say, never sorts or filters. The details view asks for visible rows only; the native control
+/// behind the panel is made anew when the view changes, since neither system can turn that on and
+/// off in place.
+class FileListControl : public wxPanel, public PaneList {
+  public:
+    static constexpr std::size_t columnCount = 3;
+
+    FileListControl(wxWindow* parent, const wxString& name);
+
+    void setView(ListView view);
+    ListView view() const { return view_; }
+    void setColumnTitles(const std::array<wxString, columnCount>& titles);
+    /// Pixels; a width of 0 keeps the built-in one.
+    void setColumnWidths(const std::array<int, columnCount>& widths);
+    std::array<int, columnCount> columnWidths() const;
+
+    void show(const PaneRows& rows) override;
+    std::vector<std::size_t> selectedRows() const override;
+    void select(const std::vector<std::size_t>& rows) override;
+    void focus() override;
+
+    std::size_t itemCount() const;
+    /// The row that has the keyboard focus, or the first selected one, or -1.
+    long focusedRow() const;
+    void selectAll();
+    /// The native list, for what only it can do. It changes with the view.
+    wxListCtrl& native() { return *list_; }
+
+    /// Called after the selection or the focused item changed by the operator or by a fill.
+    std::function<void()> onSelectionChanged;
+    /// Called with the row that was double-clicked or opened with Enter.
+    std::function<void(long row)> onOpen;
+    /// Called with the clicked header's column, from 0.
+    std::function<void(int column)> onColumnClicked;
+    /// Called when the list gets the keyboard focus or a mouse press.
+    std::function<void()> onActivated;
+    /// Called when the operator drags the selection.
+    std::function<void()> onDragBegun;
+    /// Called for a request of the pop-up menu, after the row under the pointer was selected.
+    std::function<void(wxPoint screenPosition)> onMenuRequested;
+
+  private:
+    void createList();
+    void bindEvents();
+    void addColumns();
+    void fillItems();
+    void changed();
+
+    const PaneRows* rows_ = nullptr;
+    wxListCtrl* list_ = nullptr;
+    wxString listName_;
+    ListView view_ = ListView::List;
+    std::array<wxString, columnCount> titles_;
+    std::array<int, columnCount> widths_;
+    bool filling_ = false;
+    bool changePending_ = false;
+};
+
+} // namespace vantrel

@@ -1,0 +1,80 @@
+#include "ui/OperationGuard.h"
+
+#include <wx/app.h>
+#include <wx/timer.h>
+#include <wx/window.h>
+
+namespace vantrel {
+
+namespace {
+
+bool isMousePress(const wxEvent& event) {
+    const auto* mouse = dynamic_cast<const wxMouseEvent*>(&event);
+    return mouse && (mouse->ButtonDown() || mouse->ButtonUp() || mouse->ButtonDClick() ||
+                     mouse->GetEventType() == wxEVT_MOUSEWHEEL);
+}
+
+/// Whether an event is something that the operator does, as opposed to painting, sizing and the
+/// like. Menu, tool, button, list and tree events are all command events.
+bool isOperatorAction(const wxEvent& event) {
+    return event.IsCommandEvent() || dynamic_cast<const wxKeyEvent*>(&event) ||
+           isMousePress(event) || dynamic_cast<const wxTimerEvent*>(&event) ||
+           dynamic_cast<const wxDropFilesEvent*>(&event);
+}
+
+/// A message that a window sends itself about its own state, which no operator caused.
+bool isNotice(const wxEvent& event) {
+    const auto type = event.GetEventType();
+    return type == wxEVT_CREATE || type == wxEVT_DESTROY || type == wxEVT_CHILD_FOCUS ||
+           type == wxEVT_HELP;
+}
+
+} // namespace
+
+OperationGuard::OperationGuard() {
+    wxEvtHandler::AddFilter(this);
+}
+
+OperationGuard::~OperationGuard() {
+    wxEvtHandler::RemoveFilter(this);
+}
+
+void OperationGuard::unlock() {
+    if (depth_ > 0)
+        --depth_;
+}
+
+void OperationGuard::yield() {
+    if (yielding_)
+        return;
+    yielding_ = true;
+    wxTheApp->Yield(true);
+    yielding_ = false;
+}
+
+bool OperationGuard::concernsGuarded(const wxEvent& event) const {
+    if (const auto* timer = dynamic_cast<const wxTimerEvent*>(&event)) {
+        const auto* owner = dynamic_cast<const wxWindow*>(timer->GetTimer().GetOwner());
+        return owner && wxGetTopLevelParent(const_cast<wxWindow*>(owner)) == guarded_;
+    }
+    auto* window = wxDynamicCast(event.GetEventObject(), wxWindow);
+    if (!window) // a menu's events name the menu
+        return event.GetEventType() == wxEVT_MENU;
+    return wxGetTopLevelParent(window) == guarded_;
+}
+
+int OperationGuard::FilterEvent(wxEvent& event) {
+    if (!isLocked() || !guarded_)
+        return Event_Skip;
+    if (auto* close = dynamic_cast<wxCloseEvent*>(&event)) {
+        if (event.GetEventObject() != guarded_ || !close->CanVeto())
+            return Event_Skip;
+        close->Veto();
+        return Event_Processed;
+    }
+    if (!isOperatorAction(event) || isNotice(event) || !concernsGuarded(event))
+        return Event_Skip;
+    return Event_Processed;
+}
+
+} // namespace vantrel
