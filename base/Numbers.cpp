@@ -26,13 +26,12 @@ bool isDigit(char character) {
 /// Whether a number that no double holds is too large rather than too small: the power of ten of
 /// its first significant digit decides.
 bool isTooLarge(std::string_view number) {
-    const auto significant = number.find_first_of("123456789");
-    const auto exponentMark = std::min(number.find_first_of("eE"), number.size());
-    const auto point = std::min({number.find('.'), exponentMark});
-    const bool exponentIsNegative = number.substr(exponentMark).substr(0, 2).ends_with('-');
-    if (exponentMark != number.size())
-        return !exponentIsNegative;
-    return significant < point;
+    const auto mantissa = number.substr(0, number.find_first_of("eE"));
+    const auto exponentText = trimmed(number.substr(mantissa.size()), "eE+");
+    const auto point = std::min(mantissa.find('.'), mantissa.size());
+    const auto significant = std::min(mantissa.find_first_of("123456789"), mantissa.size());
+    const double exponent = exponentText.empty() ? 0.0 : leadingNumber(exponentText);
+    return static_cast<double>(point) - static_cast<double>(significant) + exponent > 0;
 }
 
 /// An unsigned number. Words such as "inf" and hexadecimal forms are none.

@@ -42,7 +42,7 @@ std::size_t nextSeparator(std::string_view path, std::size_t start, PathStyle st
 
 /// The length of "\\server\share", or 0 for another path.
 std::size_t shareLength(std::string_view path, PathStyle style) {
-    if (style != PathStyle::Windows || afterSeparators(path, 0, style) < 2)
+    if (style != PathStyle::Windows || afterSeparators(path, 0, style) != 2)
         return 0;
     const auto serverEnd = nextSeparator(path, 2, style);
     return nextSeparator(path, afterSeparators(path, serverEnd, style), style);
@@ -165,9 +165,8 @@ std::string PathRules::shorten(std::string_view path, std::size_t maximumLength)
 bool PathRules::isPlainName(std::string_view name) {
     if (name.empty() || name.size() > longestName || name.ends_with('.') || name.ends_with(' '))
         return false;
-    const std::u32string characters = codePoints(name);
-    const bool isValid = utf8(characters) == name;
-    return isValid && std::ranges::none_of(characters, isForbidden) && !isDeviceName(name);
+    return isValidUtf8(name) && std::ranges::none_of(codePoints(name), isForbidden) &&
+           !isDeviceName(name);
 }
 
 } // namespace vantrel

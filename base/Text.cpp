@@ -21,6 +21,7 @@ char lower(char character) {
 struct Decoded {
     char32_t codePoint = replacementCharacter;
     std::size_t length = 1;
+    bool isValid = false;
 };
 
 /// The sequence length that a lead byte announces; 0 when it can start none.
@@ -43,7 +44,7 @@ Decoded decodeFirst(std::string_view bytes) {
     const auto lead = static_cast<unsigned char>(bytes.front());
     const std::size_t length = announcedLength(lead);
     if (length == 1)
-        return {lead, 1};
+        return {lead, 1, true};
     if (length == 0 || length > bytes.size())
         return {};
     char32_t codePoint = lead & (0x7Fu >> length);
@@ -55,7 +56,7 @@ Decoded decodeFirst(std::string_view bytes) {
     }
     const bool overlong =
         (length == 3 && codePoint < 0x800) || (length == 4 && codePoint < 0x10000);
-    return overlong || !isScalar(codePoint) ? Decoded{} : Decoded{codePoint, length};
+    return overlong || !isScalar(codePoint) ? Decoded{} : Decoded{codePoint, length, true};
 }
 
 void append(std::string& text, char32_t codePoint) {
@@ -133,6 +134,20 @@ std::vector<std::string_view> lines(std::string_view text) {
         text = rest.substr(rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, rest.size()));
     }
     return result;
+}
+
+bool isAscii(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+bool isValidUtf8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const Decoded decoded = decodeFirst(bytes);
+        if (!decoded.isValid)
+            return false;
+        bytes.remove_prefix(decoded.length);
+    }
+    return true;
 }
 
 std::u32string codePoints(std::string_view utf8) {

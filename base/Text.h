@@ -23,8 +23,13 @@ std::vector<std::string_view> split(std::string_view text, char separator);
 /// no further line. The views point into `text`.
 std::vector<std::string_view> lines(std::string_view text);
 
+bool isAscii(std::string_view text);
+/// Whether the bytes are strict UTF-8: no overlong forms, no surrogates, nothing past U+10FFFF.
+bool isValidUtf8(std::string_view bytes);
+
 /// The characters of strict UTF-8 as code points; an invalid byte becomes U+FFFD.
 std::u32string codePoints(std::string_view utf8);
+/// The characters as UTF-8; a code point that is none becomes U+FFFD.
 std::string utf8(std::u32string_view codePoints);
 
 } // namespace vantrel

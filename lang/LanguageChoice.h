@@ -1,5 +1,7 @@
 #pragma once
 
+#include "lang/FontSettings.h"
+
 #include <string>
 
 namespace vantrel {
@@ -16,9 +18,10 @@ class LanguageChoice {
     LanguageChoice(ApplicationState& state, MessageTable& table, const LanguageFiles& files,
                    MessageBoxes& boxes, std::string localeLanguage);
 
-    /// The locale's language, else "System"; false, after a message, when neither file is there.
+    /// The locale's language, else "System"; false, after a message, when neither file can be read.
     bool loadDefaultLanguage();
-    /// The language recorded in the settings file; false when the language dialog has to be shown.
+    /// The language recorded in the settings file, read in; false when the language dialog has to
+    /// be shown.
     bool loadLanguagePreference(const std::string& settingsPath);
     /// The locale's default font, then whatever [Font Info] of the settings file says.
     void setDefaultFonts(const std::string& settingsPath);
@@ -30,8 +33,5 @@ class LanguageChoice {
     MessageBoxes& boxes_;
     std::string localeLanguage_;
 };
-
-/// Overrides the font fields for each [Font Info] key that is present and not empty.
-void readFontSettings(const std::string& settingsPath, ApplicationState& state);
 
 } // namespace vantrel

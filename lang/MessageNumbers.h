@@ -4,47 +4,185 @@
 
 namespace vantrel::message {
 
-// Numbers of the texts in the language files, named by use. Resource numbers are looked up through
-// MessageTable::resourceMessage, which adds 500.
+// Numbers of the texts in the language files, named by use. Where a text is joined to a name, a
+// number or a reason, the blank between them belongs to the text. Resource numbers are looked up
+// through MessageTable::resourceMessage, which adds 500.
 
 inline constexpr std::int32_t title = 0;
 inline constexpr std::int32_t askReadController = 1;
 inline constexpr std::int32_t controllerNotRead = 2;
-inline constexpr std::int32_t languageFileMissing = 3;
-inline constexpr std::int32_t transferFailed = 5;
+inline constexpr std::int32_t languageFileMissing = 3; ///< with the file's name inserted
+inline constexpr std::int32_t transferFailed = 5;      ///< then the function that failed
 inline constexpr std::int32_t noSuchFile = 6;
 inline constexpr std::int32_t transferTitle = 7;
-inline constexpr std::int32_t kindRefused = 8;
-inline constexpr std::int32_t deleteFailed = 9;
-inline constexpr std::int32_t askDeleteOnPC = 10;
-inline constexpr std::int32_t askDeleteOnController = 11;
+inline constexpr std::int32_t kindRefused = 8;            ///< after [name]
+inline constexpr std::int32_t deleteFailed = 9;           ///< then the function that failed
+inline constexpr std::int32_t askDeleteOnPC = 10;         ///< after [name]
+inline constexpr std::int32_t askDeleteOnController = 11; ///< after [name]
 inline constexpr std::int32_t folderNotOpened = 12;
 inline constexpr std::int32_t askExit = 13;
-inline constexpr std::int32_t countPC = 14;
-inline constexpr std::int32_t countController = 15;
+inline constexpr std::int32_t countPC = 14;         ///< then the count, then `countEnd`
+inline constexpr std::int32_t countController = 15; ///< then the count, then `countEnd`
 inline constexpr std::int32_t countEnd = 16;
-inline constexpr std::int32_t askPrint = 17;
-inline constexpr std::int32_t viewerFailed = 18;
-inline constexpr std::int32_t listIndex = 26;
-inline constexpr std::int32_t notDeletedFromPC = 27;
-inline constexpr std::int32_t originalNotDeleted = 28;
-inline constexpr std::int32_t registryNotRead = 33;
+inline constexpr std::int32_t askPrint = 17;     ///< then [name]
+inline constexpr std::int32_t viewerFailed = 18; ///< then [name]
+inline constexpr std::int32_t saveJobsTitle = 19;
+inline constexpr std::int32_t loadJobsTitle = 20;
+inline constexpr std::int32_t saveVariablesTitle = 21;
+inline constexpr std::int32_t loadVariablesTitle = 22;
+inline constexpr std::int32_t jobListField = 23;
+inline constexpr std::int32_t variableListField = 24;
+inline constexpr std::int32_t versionHeading = 25;
+inline constexpr std::int32_t listIndex = 26;          ///< then " ( " index " )"
+inline constexpr std::int32_t notDeletedFromPC = 27;   ///< after [name]
+inline constexpr std::int32_t originalNotDeleted = 28; ///< after [name]
+inline constexpr std::int32_t registryNotRead = 33;    ///< then [file name]
 inline constexpr std::int32_t addressUnset = 34;
-inline constexpr std::int32_t jobFileHead = 38;
+inline constexpr std::int32_t jobFileHead = 38; ///< then [name] and `jobFileMissing`
 inline constexpr std::int32_t jobFileMissing = 39;
+inline constexpr std::int32_t libraryUnusable = 40; ///< then the library's path
+inline constexpr std::int32_t simulationNotice = 41;
+inline constexpr std::int32_t controllerNameRefused = 42; ///< after [name]
+inline constexpr std::int32_t startFailed = 43;           ///< then the reason
+inline constexpr std::int32_t nameNotExpressible = 44;    ///< after [name]
 inline constexpr std::int32_t listFileHint = 45;
-inline constexpr std::int32_t modeHispeed = 190;
-inline constexpr std::int32_t modeBsc = 191;
+inline constexpr std::int32_t registryNotWritten = 46;   ///< then the reason
+inline constexpr std::int32_t folderPassedOver = 47;     ///< after [name]
+inline constexpr std::int32_t robotFolderNotListed = 48; ///< after [robot's name]
+inline constexpr std::int32_t localEntriesSkipped = 49;  ///< with the number inserted
+inline constexpr std::int32_t waitingForController = 50;
+inline constexpr std::int32_t progressItem = 51; ///< then the position, `progressOf`, the number
+inline constexpr std::int32_t progressOf = 52;
+inline constexpr std::int32_t listFileNotRead = 53;    ///< then [file name] or the reason
+inline constexpr std::int32_t listFileNotWritten = 54; ///< then [file name] or the reason
+inline constexpr std::int32_t folderGone = 55;         ///< after [folder]
+inline constexpr std::int32_t localJobPassedOver = 56; ///< after [name]
+inline constexpr std::int32_t nothingToPrint = 57;
+inline constexpr std::int32_t printFailed = 58;
+inline constexpr std::int32_t editorNotStarted = 59;        ///< after [file name]
+inline constexpr std::int32_t libraryFunctionsMissing = 60; ///< then the names
+
+// Menus, with their mnemonics.
+inline constexpr std::int32_t menuFile = 101;
+inline constexpr std::int32_t menuCopy = 102;
+inline constexpr std::int32_t menuMove = 103;
+inline constexpr std::int32_t menuDelete = 104;
+inline constexpr std::int32_t menuSelectAll = 105;
+inline constexpr std::int32_t menuDisplayFile = 106;
+inline constexpr std::int32_t menuPrint = 107;
+inline constexpr std::int32_t menuExit = 108;
+inline constexpr std::int32_t menuView = 109;
+inline constexpr std::int32_t menuLargeIcons = 110;
+inline constexpr std::int32_t menuSmallIcons = 111;
+inline constexpr std::int32_t menuList = 112;
+inline constexpr std::int32_t menuDetails = 113;
+inline constexpr std::int32_t menuSort = 114;
+inline constexpr std::int32_t menuByName = 115;
+inline constexpr std::int32_t menuBySize = 116;
+inline constexpr std::int32_t menuByDate = 117;
+inline constexpr std::int32_t menuRefresh = 118;
+inline constexpr std::int32_t menuOptions = 119;
+inline constexpr std::int32_t menuSettings = 120;
+inline constexpr std::int32_t menuSaveJobs = 121;
+inline constexpr std::int32_t menuLoadJobs = 122;
+inline constexpr std::int32_t menuSaveVariables = 123;
+inline constexpr std::int32_t menuLoadVariables = 124;
+inline constexpr std::int32_t menuLanguage = 125;
+inline constexpr std::int32_t menuHelp = 126;
+inline constexpr std::int32_t menuManual = 128;
+inline constexpr std::int32_t menuAbout = 129;
+inline constexpr std::int32_t menuTransferMode = 130;
+inline constexpr std::int32_t menuModeHispeed = 131;
+inline constexpr std::int32_t menuModeBsc = 132;
+
+// Tool tips, frames and labels of the main window.
+inline constexpr std::int32_t tipCopy = 140;
+inline constexpr std::int32_t tipMove = 141;
+inline constexpr std::int32_t tipDelete = 142;
+inline constexpr std::int32_t tipSelectAll = 143;
+inline constexpr std::int32_t tipRefresh = 145;
+inline constexpr std::int32_t tipLargeIcons = 146;
+inline constexpr std::int32_t tipSmallIcons = 147;
+inline constexpr std::int32_t tipList = 148;
+inline constexpr std::int32_t tipDetails = 149;
+inline constexpr std::int32_t tipDisplayFile = 150;
+inline constexpr std::int32_t tipUpFolder = 151;
+inline constexpr std::int32_t tipPrint = 152;
+inline constexpr std::int32_t framePC = 153;
+inline constexpr std::int32_t frameController = 155;
+inline constexpr std::int32_t labelFile = 156;
+inline constexpr std::int32_t labelFileType = 157;
+inline constexpr std::int32_t labelSerialLine = 158;
+inline constexpr std::int32_t labelFolder = 159;
+inline constexpr std::int32_t modeHispeed = 190; ///< tool tip and part of the title
+inline constexpr std::int32_t modeBsc = 191;     ///< tool tip and part of the title
+inline constexpr std::int32_t labelIPAddress = 192;
 inline constexpr std::int32_t newRobot = 193;
 inline constexpr std::int32_t startingUp = 210;
 inline constexpr std::int32_t columnName = 211;
 inline constexpr std::int32_t columnSize = 212;
 inline constexpr std::int32_t columnDate = 213;
+inline constexpr std::int32_t tipPCPane = 214;
+inline constexpr std::int32_t tipControllerPane = 215;
+inline constexpr std::int32_t labelRobot = 230;
+
+// The settings dialog.
+inline constexpr std::int32_t settingsTitle = 300;
+inline constexpr std::int32_t settingsRobotPage = 301;
+inline constexpr std::int32_t settingsCommunicationPage = 302;
+inline constexpr std::int32_t settingsOptionsPage = 303;
+inline constexpr std::int32_t registeredRobots = 304;
+inline constexpr std::int32_t insertAfter = 305;
+inline constexpr std::int32_t insertBefore = 306;
+inline constexpr std::int32_t deleteRobot = 307;
+inline constexpr std::int32_t selectedRobot = 308;
+inline constexpr std::int32_t settingsRobotName = 309;
+inline constexpr std::int32_t settingsIPAddress = 310;
+inline constexpr std::int32_t initialFolder = 311;
+inline constexpr std::int32_t portSettings = 312;
+inline constexpr std::int32_t port = 313;
+inline constexpr std::int32_t baudRate = 314;
+inline constexpr std::int32_t parity = 315;
+inline constexpr std::int32_t dataLength = 316;
+inline constexpr std::int32_t stopBits = 317;
+inline constexpr std::int32_t controllerSettings = 318;
+inline constexpr std::int32_t syncRobotFolder = 319;
+inline constexpr std::int32_t receiveRelatedJobs = 320;
+inline constexpr std::int32_t showJobHeader = 321;
+inline constexpr std::int32_t keepNoSettings = 322;
+inline constexpr std::int32_t restoreDefaults = 323;
+inline constexpr std::int32_t applySettings = 324;
+
+// Buttons that several windows share; none has a mnemonic.
+inline constexpr std::int32_t ok = 325;
+inline constexpr std::int32_t cancel = 326;
+inline constexpr std::int32_t close = 327;
+
+// What the settings dialog's check finds.
+inline constexpr std::int32_t robotWithoutName = 330;
+inline constexpr std::int32_t robotNameTaken = 331;      ///< after [robot's name]
+inline constexpr std::int32_t robotNameRefused = 332;    ///< after [robot's name]
+inline constexpr std::int32_t robotAddressRefused = 333; ///< after [robot's name]
+inline constexpr std::int32_t robotFolderRefused = 334;  ///< after [robot's name]
+
+// The language dialog.
+inline constexpr std::int32_t languageTitle = 340;
+inline constexpr std::int32_t ignoreLanguageSelection = 341;
+inline constexpr std::int32_t editLanguageFile = 342;
+inline constexpr std::int32_t chooseFont = 343;
+inline constexpr std::int32_t languageFileNotRead = 344; ///< then the reason
+inline constexpr std::int32_t languageNotRecorded = 345; ///< then the reason
+
+// Other windows.
+inline constexpr std::int32_t executionMessage = 350; ///< the start message's title
+inline constexpr std::int32_t printPreview = 360;
+inline constexpr std::int32_t page = 361; ///< then the page, `progressOf`, the number of pages
+inline constexpr std::int32_t tipFolderTree = 370;
 
 namespace resource {
-inline constexpr std::int32_t alreadyExists = 2;
-inline constexpr std::int32_t transferring = 4;
-inline constexpr std::int32_t deleting = 7;
+inline constexpr std::int32_t alreadyExists = 2; ///< after a name and a blank
+inline constexpr std::int32_t transferring = 4;  ///< then a name, or alone
+inline constexpr std::int32_t deleting = 7;      ///< then a name
 inline constexpr std::int32_t yes = 30;
 inline constexpr std::int32_t no = 31;
 inline constexpr std::int32_t all = 32;

@@ -29,8 +29,8 @@ class MessageTable {
 
     /// The text of a code that a controller gave: 1000 to 5200, else the empty text.
     std::string controllerErrorText(std::int32_t code) const;
-    /// The text shown for any error code: a controller's text, else the resource message of the
-    /// code, else the number itself. Never empty.
+    /// The text shown for any error code: from 1000 to 5200 the controller's text, for any other
+    /// code its resource message; where there is none, the number itself. Never empty.
     std::string errorText(std::int32_t code) const;
 
   private:

@@ -13,13 +13,15 @@ namespace vantrel {
 /// File access by absolute UTF-8 path. Every failed open, write, flush and close is a `Failure`
 /// with the system's reason.
 
+/// Only a regular file is read: a pipe or a device could hang the caller or never end.
 Result<std::string> readFile(const std::string& path);
 
 /// Replaces the file whole: writes a temporary file beside it, flushes it to the disk and renames
 /// it, so that the file is complete old or complete new whatever happens. A symbolic link is
-/// followed, the file's permissions are kept.
+/// followed, the file's permissions are kept, a write-protected file is refused.
 Outcome replaceFile(const std::string& path, std::string_view content);
 
+/// An existing `to` is replaced.
 Outcome renameFile(const std::string& from, const std::string& to);
 Outcome removeFile(const std::string& path);
 
@@ -30,7 +32,7 @@ bool isFolder(const std::string& path);
 bool anythingExists(const std::string& path);
 
 /// The entry's own spelling in `folder` of a name given in any letter case, or an empty text. An
-/// exact match wins.
+/// exact match wins, then the first in byte order.
 std::string findIgnoringCase(const std::string& folder, std::string_view name);
 
 struct FolderEntry {

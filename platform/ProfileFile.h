@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -13,8 +14,12 @@ namespace vantrel {
 /// UTF-8 here; the file is in the ANSI code page, or in UTF-16 when it starts with that mark.
 class ProfileFile {
   public:
-    /// `path` is absolute; the file need not exist.
+    /// `path` is absolute; the file need not exist. It is read here, once; one that is missing or
+    /// cannot be read leaves every value at its default.
     explicit ProfileFile(std::string path);
+    ~ProfileFile();
+    ProfileFile(ProfileFile&&) noexcept;
+    ProfileFile& operator=(ProfileFile&&) noexcept;
 
     /// The value, or `defaultValue`; cut to `bufferSize` - 1 bytes of the code page.
     std::string text(std::string_view section, std::string_view key, std::string_view defaultValue,
@@ -22,17 +27,22 @@ class ProfileFile {
     std::int32_t integer(std::string_view section, std::string_view key,
                          std::int32_t defaultValue) const;
 
-    /// Remembers a value for `save`. Refused when the code page lacks one of its characters.
+    /// Remembers a value for `save`. Refused when the code page lacks one of its characters or when
+    /// it could not be read back, such as one with a line end.
     Outcome set(std::string_view section, std::string_view key, std::string_view value);
 
-    /// Writes all that was set in one go; the file is complete old or complete new.
+    /// Writes all that was set in one go; the file is complete old or complete new, and is not
+    /// written at all when nothing was changed. Fails for a file that exists but could not be read,
+    /// since nobody knows what it holds.
     Outcome save();
 
     const std::string& path() const { return path_; }
 
   private:
+    struct Content;
+
     std::string path_;
-    std::string content_;
+    std::unique_ptr<Content> content_;
 };
 
 } // namespace vantrel

@@ -1,0 +1,63 @@
+# Lays out the trial part of a program's folder, at install time.
+#
+# The library is brought up to date, unless one of that name is not the stand-in: then it is the
+# maker's, and stays. Everything else belongs to the operator once it is there: a settings file, the
+# robot list, the set-up and each controller's folder are put down only where they are missing, so
+# that a job deleted on a controller stays deleted.
+
+get_filename_component(prefix "${CMAKE_INSTALL_PREFIX}" ABSOLUTE)
+set(folder "$ENV{DESTDIR}${prefix}")
+
+function(install_library)
+    set(installed "${folder}/${TRIAL_LIBRARY_NAME}")
+    if(EXISTS "${installed}")
+        file(STRINGS "${installed}" mark REGEX "ZurolinkSimulator" LIMIT_COUNT 1)
+        if(NOT mark)
+            message(STATUS "Kept, since it is not the simulator: ${installed}")
+            return()
+        endif()
+    endif()
+    # `prefix` alone: this command adds DESTDIR by itself.
+    file(INSTALL "${TRIAL_LIBRARY}" DESTINATION "${prefix}" TYPE SHARED_LIBRARY)
+endfunction()
+
+function(copy_missing from name)
+    if(EXISTS "${folder}/${name}")
+        message(STATUS "Kept: ${folder}/${name}")
+        return()
+    endif()
+    get_filename_component(destination "${folder}/${name}" DIRECTORY)
+    file(COPY "${from}/${name}" DESTINATION "${destination}")
+endfunction()
+
+# The PC folder of the first start has to be absolute. The file is in the code page of the system,
+# and its reader takes 127 characters, so a folder that is not plain ASCII or too long is left out:
+# the program then starts in its own folder.
+function(write_settings)
+    if(EXISTS "${folder}/Vantrel.ini")
+        message(STATUS "Kept: ${folder}/Vantrel.ini")
+        return()
+    endif()
+    set(jobs "${prefix}/jobs")
+    if(CMAKE_HOST_WIN32)
+        string(REPLACE "/" "\\" jobs "${jobs}")
+    endif()
+    string(LENGTH "${jobs}" length)
+    set(path_line "Path=${jobs}\r\n")
+    if(NOT TRIAL_FOLDER_IS_USED_HERE OR NOT jobs MATCHES "^[ -~]+$" OR length GREATER 127)
+        set(path_line "")
+    endif()
+    file(WRITE "${folder}/Vantrel.ini"
+        "[Vantrel]\r\n${path_line}TransMode=16\r\n"
+        "[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n")
+endfunction()
+
+install_library()
+copy_missing("${TRIAL_DATA}" simulator.ini)
+copy_missing("${TRIAL_DATA}/samples" robot.ini)
+file(GLOB controllers RELATIVE "${TRIAL_DATA}/samples" "${TRIAL_DATA}/samples/controllers/*")
+foreach(controller IN LISTS controllers)
+    copy_missing("${TRIAL_DATA}/samples" "${controller}")
+endforeach()
+copy_missing("${TRIAL_DATA}/samples/pc" jobs)
+write_settings()

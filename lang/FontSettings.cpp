@@ -1,0 +1,55 @@
+#include "lang/FontSettings.h"
+
+#include "base/ApplicationState.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "platform/ProfileFile.h"
+
+#include <optional>
+
+namespace vantrel {
+
+namespace {
+
+constexpr std::string_view section = "Font Info";
+constexpr std::size_t valueBuffer = 100;
+// Beyond this no window of ours would fit a screen; such a value can only be a damaged file.
+constexpr std::int16_t largestFontSize = 200; ///< points
+
+/// "True" and "False" in any letter case, or a number, of which only 0 is false.
+std::optional<bool> truthValue(std::string_view text) {
+    if (equalsIgnoringAsciiCase(text, "True"))
+        return true;
+    if (equalsIgnoringAsciiCase(text, "False"))
+        return false;
+    if (const auto number = wholeNumber(text))
+        return *number != 0;
+    return std::nullopt;
+}
+
+void readTruthValue(const ProfileFile& settings, std::string_view key, bool& field) {
+    field = truthValue(settings.text(section, key, "", valueBuffer)).value_or(field);
+}
+
+} // namespace
+
+void setLocaleFont(std::string_view localeLanguage, ApplicationState& state) {
+    const bool japanese = localeLanguage == "Japanese";
+    state.FontName = japanese ? "ＭＳ Ｐゴシック" : "MS Sans Serif";
+    state.FontBold = !japanese;
+    state.FontItalic = false;
+    state.FontSize = japanese ? 9 : 8;
+}
+
+void readFontSettings(const std::string& settingsPath, ApplicationState& state) {
+    const ProfileFile settings(settingsPath);
+    if (auto name = settings.text(section, "FontName", "", valueBuffer); !name.empty())
+        state.FontName = std::move(name);
+    readTruthValue(settings, "FontBOLD", state.FontBold);
+    readTruthValue(settings, "FontItalic", state.FontItalic);
+    const auto size = leadingInteger16(settings.text(section, "FontSize", "", valueBuffer));
+    if (size >= 1 && size <= largestFontSize)
+        state.FontSize = size;
+}
+
+} // namespace vantrel

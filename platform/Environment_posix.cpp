@@ -1,0 +1,62 @@
+#include "platform/Descriptor_posix.h"
+#include "platform/DetachedProgram_posix.h"
+#include "platform/Environment.h"
+#include "platform/Files.h"
+#include "platform/LanguageNames.h"
+
+#include <cstdlib>
+
+namespace vantrel {
+
+namespace {
+
+/// The desktop's own opener: it knows the user's choices for each kind of file.
+constexpr const char* desktopOpener = "xdg-open";
+
+Outcome openWithDesktop(const std::string& path) {
+    struct stat details {};
+    if (!readDetails(path, details))
+        return systemFailure(errno);
+    // An absolute path is never taken for an option or an address.
+    return startDetached(desktopOpener,
+                         path.starts_with('/') ? path : currentFolder() + '/' + path);
+}
+
+} // namespace
+
+std::string executablePath() {
+    std::string path(256, '\0');
+    while (true) {
+        const auto length = ::readlink("/proc/self/exe", path.data(), path.size());
+        if (length < 0)
+            return {};
+        if (static_cast<std::size_t>(length) < path.size())
+            return path.substr(0, static_cast<std::size_t>(length));
+        path.resize(path.size() * 2);
+    }
+}
+
+std::string localeLanguageName() {
+    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        const char* value = std::getenv(variable);
+        if (value && *value != '\0')
+            return languageNameOfLocale(value);
+    }
+    return languageNameOfLocale("");
+}
+
+Outcome openDocument(const std::string& path) {
+    return openWithDesktop(path);
+}
+
+/// The desktop's program for the file too: what VISUAL and EDITOR name usually needs a terminal,
+/// and a window has none.
+Outcome editTextFile(const std::string& path) {
+    return openWithDesktop(path);
+}
+
+std::string libraryFileName() {
+    return "libZurolink.so";
+}
+
+} // namespace vantrel

@@ -1,0 +1,135 @@
+#include "base/Text.h"
+#include "platform/Descriptor_posix.h"
+#include "platform/Files.h"
+#include "platform/TextCase.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
+#include <new>
+#include <stdexcept>
+
+namespace vantrel {
+
+namespace {
+
+/// Reads until the end, whatever size the system told beforehand.
+int readAll(int descriptor, std::size_t expectedSize, std::string& content) {
+    constexpr std::size_t block = 65536;
+    content.resize(expectedSize + 1);
+    std::size_t used = 0;
+    while (true) {
+        if (used == content.size())
+            content.resize(content.size() + content.size() / 2 + block);
+        const auto count = ::read(descriptor, content.data() + used, content.size() - used);
+        if (count == 0)
+            break;
+        if (count < 0 && errno != EINTR)
+            return errno;
+        used += count < 0 ? 0 : static_cast<std::size_t>(count);
+    }
+    content.resize(used);
+    return 0;
+}
+
+Result<std::string> readOpenFile(const Descriptor& file) {
+    struct stat details {};
+    if (::fstat(file.number(), &details) != 0)
+        return systemFailure(errno);
+    if (S_ISDIR(details.st_mode))
+        return systemFailure(EISDIR);
+    if (!S_ISREG(details.st_mode))
+        return Failure{"Not a regular file"};
+    std::string content;
+    const int error = readAll(file.number(), static_cast<std::size_t>(details.st_size), content);
+    if (error != 0)
+        return systemFailure(error);
+    return content;
+}
+
+/// One entry of that very name: what leads out of the folder or to itself is none.
+bool isEntryName(std::string_view name) {
+    return !name.empty() && name != "." && name != ".." && !hasNul(name) &&
+           name.find('/') == std::string_view::npos;
+}
+
+} // namespace
+
+Result<std::string> readFile(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(EINVAL);
+    // Without waiting: opening a pipe without a writer would hang.
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!file.isOpen())
+        return systemFailure(errno);
+    try {
+        return readOpenFile(file);
+    } catch (const std::bad_alloc&) {
+        return systemFailure(ENOMEM);
+    } catch (const std::length_error&) {
+        return systemFailure(EFBIG);
+    }
+}
+
+Outcome renameFile(const std::string& from, const std::string& to) {
+    if (hasNul(from) || hasNul(to))
+        return systemFailure(EINVAL);
+    if (::rename(from.c_str(), to.c_str()) != 0)
+        return systemFailure(errno);
+    return Done{};
+}
+
+Outcome removeFile(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(EINVAL);
+    if (::unlink(path.c_str()) != 0)
+        return systemFailure(errno);
+    return Done{};
+}
+
+bool isRegularFile(const std::string& path) {
+    struct stat details {};
+    return readDetails(path, details) && S_ISREG(details.st_mode);
+}
+
+bool isFolder(const std::string& path) {
+    struct stat details {};
+    return readDetails(path, details) && S_ISDIR(details.st_mode);
+}
+
+bool anythingExists(const std::string& path) {
+    struct stat details {};
+    return !hasNul(path) && ::lstat(path.c_str(), &details) == 0;
+}
+
+std::string findIgnoringCase(const std::string& folder, std::string_view name) {
+    if (!isEntryName(name))
+        return {};
+    if (anythingExists(folder + '/' + std::string(name)))
+        return std::string(name);
+    const std::string wanted = upperCase(name);
+    std::string found;
+    visitNames(folder, [&](std::string_view entry) {
+        // Of several spellings the first in byte order, so that the answer never depends on the
+        // order in which the system lists them.
+        if (upperCase(entry) == wanted && (found.empty() || entry < found))
+            found = entry;
+    });
+    return found;
+}
+
+std::string currentFolder() {
+    const std::unique_ptr<char, decltype(&std::free)> path(::getcwd(nullptr, 0), &std::free);
+    return path ? path.get() : "";
+}
+
+Outcome changeCurrentFolder(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(EINVAL);
+    if (::chdir(path.c_str()) != 0)
+        return systemFailure(errno);
+    return Done{};
+}
+
+} // namespace vantrel

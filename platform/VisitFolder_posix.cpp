@@ -1,0 +1,75 @@
+#include "base/Text.h"
+#include "platform/Descriptor_posix.h"
+#include "platform/Files.h"
+#include "platform/LocalDates_posix.h"
+
+#include <dirent.h>
+#include <memory>
+
+namespace vantrel {
+
+namespace {
+
+struct CloseFolder {
+    void operator()(DIR* folder) const { ::closedir(folder); }
+};
+using Folder = std::unique_ptr<DIR, CloseFolder>;
+
+bool isOneself(std::string_view name) {
+    return name == "." || name == "..";
+}
+
+/// Calls `visit` with each entry's name as the system has it.
+template <typename Visit>
+Outcome visitEntries(const std::string& path, const Visit& visit) {
+    if (hasNul(path))
+        return systemFailure(EINVAL);
+    const Folder folder(::opendir(path.c_str()));
+    if (!folder)
+        return systemFailure(errno);
+    while (const dirent* entry = ::readdir(folder.get())) {
+        if (!isOneself(entry->d_name))
+            visit(::dirfd(folder.get()), entry->d_name);
+    }
+    return Done{};
+}
+
+/// The name to show; `storage` holds it when it differs from the system's bytes.
+std::string_view shownName(std::string_view name, std::string& storage) {
+    if (isValidUtf8(name))
+        return name;
+    storage = utf8(codePoints(name));
+    return storage;
+}
+
+/// What a link leads to is what counts; one that leads nowhere has no details.
+void readEntry(int folder, const char* name, LocalDates& dates, FolderEntry& entry) {
+    struct stat details {};
+    if (::fstatat(folder, name, &details, 0) != 0) {
+        entry.detailsKnown = false;
+        return;
+    }
+    entry.isFolder = S_ISDIR(details.st_mode);
+    entry.size = entry.isFolder ? 0 : static_cast<std::uint64_t>(details.st_size);
+    entry.changed = dates.text(details.st_mtime);
+}
+
+} // namespace
+
+Outcome visitFolder(const std::string& path, const std::function<void(const FolderEntry&)>& visit) {
+    LocalDates dates;
+    std::string storage;
+    return visitEntries(path, [&](int folder, const char* name) {
+        FolderEntry entry;
+        entry.name = shownName(name, storage);
+        readEntry(folder, name, dates, entry);
+        visit(entry);
+    });
+}
+
+Outcome visitNames(const std::string& path, const std::function<void(std::string_view)>& visit) {
+    std::string storage;
+    return visitEntries(path, [&](int, const char* name) { visit(shownName(name, storage)); });
+}
+
+} // namespace vantrel

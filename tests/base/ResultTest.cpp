@@ -1,0 +1,35 @@
+#include "base/Result.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace vantrel {
+namespace {
+
+TEST(Result, HoldsAValue) {
+    const Result<std::string> result(std::string("content"));
+    ASSERT_TRUE(result);
+    EXPECT_EQ(*result, "content");
+    EXPECT_EQ(result->size(), 7u);
+}
+
+TEST(Result, HoldsTheReasonOfAFailure) {
+    const Result<std::string> result(Failure{"No such file"});
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.reason(), "No such file");
+}
+
+TEST(Result, HandsOverAValueThatCannotBeCopied) {
+    Result<std::unique_ptr<int>> result(std::make_unique<int>(7));
+    const std::unique_ptr<int> taken = std::move(*result);
+    EXPECT_EQ(*taken, 7);
+}
+
+TEST(Result, OutcomeIsDoneOrFailed) {
+    EXPECT_TRUE(Outcome(Done{}));
+    EXPECT_FALSE(Outcome(Failure{"disk full"}));
+}
+
+} // namespace
+} // namespace vantrel

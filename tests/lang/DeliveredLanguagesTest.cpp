@@ -1,0 +1,242 @@
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "lang/Captions.h"
+#include "lang/LanguageFile.h"
+#include "platform/Files.h"
+#include "platform/TextEncoding.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+
+namespace vantrel {
+namespace {
+
+using namespace std::string_literals;
+using testing::IsEmpty;
+
+constexpr const char* languages[] = {"Japanese", "English", "System"};
+
+// Numbers that no constant names because they are computed: a code of ours and 500, or the code
+// that a controller gives.
+constexpr std::int32_t computedNumbers[] = {
+    490,  499,  500,  501,  503,  506,  520,  521,  522,  523,  524,  525,  526,
+    1000, 1110, 1200, 1210, 1220, 1230, 1240, 1300, 1310, 1320, 1400, 1500, 1510,
+    1520, 2010, 2020, 2030, 2040, 3010, 3020, 3030, 4010, 4020, 4030, 5200};
+
+using Texts = std::map<std::int32_t, MessageEntry>;
+
+std::string contentOf(const std::string& path) {
+    const auto bytes = readFile(path);
+    EXPECT_TRUE(bytes) << path;
+    return bytes ? *bytes : std::string{};
+}
+
+std::string languageFile(const std::string& language) {
+    return contentOf(VANTREL_DATA_FOLDER "/" + language + ".lng");
+}
+
+Texts textsOf(const std::string& language) {
+    Texts texts;
+    for (auto& entry : parseLanguageFile(languageFile(language)))
+        EXPECT_TRUE(texts.emplace(entry.MsgNo, entry).second)
+            << language << entry.MsgNo << " twice";
+    return texts;
+}
+
+std::string shownText(const Texts& texts, std::int32_t number) {
+    const auto found = texts.find(number);
+    return found == texts.end() ? std::string{} : found->second.Text2;
+}
+
+std::set<std::int32_t> numbersOf(const std::string& language) {
+    std::set<std::int32_t> numbers;
+    for (const auto& [number, entry] : textsOf(language))
+        numbers.insert(number);
+    return numbers;
+}
+
+/// Every number that has a name in the program; the names are read from the header itself, so that
+/// a new constant without a text is found.
+std::set<std::int32_t> namedNumbers() {
+    std::set<std::int32_t> numbers;
+    std::int32_t offset = 0;
+    const auto header = contentOf(VANTREL_LANG_FOLDER "/MessageNumbers.h");
+    for (const auto line : lines(header)) {
+        if (line == "namespace resource {")
+            offset = 500;
+        const auto equals = line.find(" =");
+        if (startsWith(line, "inline constexpr std::int32_t ") && equals != line.npos)
+            numbers.insert(leadingInteger32(line.substr(equals + 2)) + offset);
+    }
+    EXPECT_EQ(offset, 500);
+    return numbers;
+}
+
+/// A number and two texts in double quotes, one blank between, and nothing else.
+bool isCleanEntry(std::string_view line) {
+    const auto pieces = split(line, '"');
+    return pieces.size() == 5 && endsWith(pieces[0], " ") && wholeNumber(pieces[0]) &&
+           pieces[2] == " " && pieces[4].empty();
+}
+
+/// The key of a caption, in lower case: what follows its only "&".
+std::optional<char> mnemonic(const std::string& caption) {
+    const auto mark = caption.find('&');
+    if (mark == std::string::npos || mark != caption.rfind('&') || mark + 1 == caption.size())
+        return std::nullopt;
+    const auto key = static_cast<unsigned char>(caption[mark + 1]);
+    if (!std::isalnum(key))
+        return std::nullopt;
+    return static_cast<char>(std::tolower(key));
+}
+
+/// Captions that are on the screen together, so that each key may occur only once.
+std::map<std::string, std::vector<std::int32_t>> mnemonicGroups() {
+    using enum Menu;
+    const std::map<std::string, std::vector<Menu>> menus = {
+        {"menu bar",
+         {mnuFileMain, mnuDispMain, mnuTransMode, mnuSortMain, mnuRefresh, mnuOptMain,
+          mnuHelpMain}},
+        {"file menu", {mnuFile, mnuEnd}},
+        {"view menu", {mnuDisp}},
+        {"mode menu", {mnuModeHiSpeed, mnuModeBsc}},
+        {"sort menu", {mnuSort}},
+        {"options menu", {mnuOpt}},
+        {"help menu", {mnuHelp, mnuVer}},
+        {"pop-up menu", {mnuRightFile, mnuFileDispMain, mnuSortIconMain, mnuRightRefresh}},
+        {"pop-up views", {mnuFileDisp}},
+        {"pop-up sorts", {mnuSortIcon}},
+    };
+    std::map<std::string, std::vector<std::int32_t>> groups = {
+        {"question dialog", {530, 531, 532, 533}}, {"settings dialog", {320, 321, 322}}};
+    for (const auto& [name, members] : menus)
+        for (const auto& row : menuCaptions())
+            if (std::ranges::find(members, row.item.menu) != members.end())
+                groups[name].push_back(row.message);
+    return groups;
+}
+
+std::set<std::int32_t> numbersWithMnemonic() {
+    std::set<std::int32_t> numbers;
+    for (const auto& [name, members] : mnemonicGroups())
+        numbers.insert(members.begin(), members.end());
+    return numbers;
+}
+
+bool hasOuterBlank(const std::string& text, bool atEnd) {
+    return !text.empty() && (atEnd ? text.back() : text.front()) == ' ';
+}
+
+class DeliveredLanguage : public testing::TestWithParam<const char*> {};
+
+INSTANTIATE_TEST_SUITE_P(Files, DeliveredLanguage, testing::ValuesIn(languages),
+                         [](const auto& row) { return std::string(row.param); });
+
+TEST_P(DeliveredLanguage, IsUtf8WithoutAMark) {
+    EXPECT_EQ(decodeText(languageFile(GetParam())).encoding, TextEncoding::Utf8);
+}
+
+TEST_P(DeliveredLanguage, HasNoLineThatWouldBePassedOver) {
+    const auto content = languageFile(GetParam());
+    const auto all = lines(content);
+    auto line = std::ranges::find(all, "Start:");
+    ASSERT_NE(line, all.end());
+    for (++line; line != all.end(); ++line)
+        EXPECT_TRUE(line->empty() || startsWith(*line, ";") || isCleanEntry(*line)) << *line;
+}
+
+TEST_P(DeliveredLanguage, HoldsEveryNumberThatTheProgramUses) {
+    const auto numbers = numbersOf(GetParam());
+    for (const auto number : namedNumbers())
+        EXPECT_TRUE(numbers.contains(number)) << number;
+    for (const auto number : computedNumbers)
+        EXPECT_TRUE(numbers.contains(number)) << number;
+}
+
+TEST_P(DeliveredLanguage, HoldsNoNumberThatNothingUses) {
+    auto numbers = numbersOf(GetParam());
+    for (const auto number : namedNumbers())
+        numbers.erase(number);
+    for (const auto number : computedNumbers)
+        numbers.erase(number);
+    EXPECT_THAT(numbers, IsEmpty());
+    EXPECT_FALSE(namedNumbers().contains(127));
+    EXPECT_FALSE(namedNumbers().contains(144));
+}
+
+TEST_P(DeliveredLanguage, HasTextsThatCanBeShown) {
+    for (const auto& [number, entry] : textsOf(GetParam()))
+        for (const auto& text : {entry.Text1, entry.Text2}) {
+            EXPECT_FALSE(trimmed(text).empty()) << number;
+            EXPECT_EQ(text.find('"'), std::string::npos) << number;
+            EXPECT_TRUE(std::ranges::none_of(text, [](char c) { return c >= 0 && c < ' '; }))
+                << number;
+        }
+}
+
+TEST_P(DeliveredLanguage, HasPlaceholdersWhereSomethingIsInserted) {
+    for (const auto& [number, entry] : textsOf(GetParam())) {
+        const auto expected = number == 3 || number == 49 ? 1 : 0;
+        EXPECT_EQ(std::ranges::count(entry.Text1, '%'), expected) << number;
+        EXPECT_EQ(std::ranges::count(entry.Text2, '%'), expected) << number;
+    }
+}
+
+TEST_P(DeliveredLanguage, KeepsTheBlanksThatJoinTexts) {
+    for (const auto& [number, entry] : textsOf(GetParam()))
+        for (const bool atEnd : {false, true})
+            EXPECT_EQ(hasOuterBlank(entry.Text1, atEnd), hasOuterBlank(entry.Text2, atEnd))
+                << number;
+}
+
+TEST_P(DeliveredLanguage, HasOneKeyPerCaptionOfAMenuOrDialog) {
+    const auto texts = textsOf(GetParam());
+    for (const auto& [group, numbers] : mnemonicGroups()) {
+        // The option buttons of the controller models bring their first letters along.
+        auto taken = group == "settings dialog" ? "bacdet"s : ""s;
+        for (const auto number : numbers) {
+            const auto key = mnemonic(shownText(texts, number));
+            ASSERT_TRUE(key) << group << number;
+            EXPECT_EQ(taken.find(*key), std::string::npos) << group << number;
+            taken += *key;
+        }
+    }
+}
+
+TEST_P(DeliveredLanguage, HasKeysInMenusAndDialogsOnly) {
+    const auto withKeys = numbersWithMnemonic();
+    for (const auto& [number, entry] : textsOf(GetParam()))
+        EXPECT_EQ(entry.Text2.find('&') != std::string::npos, withKeys.contains(number)) << number;
+}
+
+TEST(DeliveredLanguages, HaveTheSameNumbersAndReferenceTexts) {
+    const auto english = textsOf("English");
+    for (const char* language : languages) {
+        EXPECT_EQ(numbersOf(language), numbersOf("English")) << language;
+        for (const auto& [number, entry] : textsOf(language))
+            EXPECT_EQ(entry.Text1, english.at(number).Text1) << language << number;
+    }
+}
+
+TEST(DeliveredLanguages, EnglishAndSystemShowTheReferenceTexts) {
+    for (const char* language : {"English", "System"})
+        for (const auto& [number, entry] : textsOf(language))
+            EXPECT_EQ(entry.Text2, entry.Text1) << language << number;
+}
+
+TEST(DeliveredLanguages, SameKeyInEveryLanguage) {
+    const auto japanese = textsOf("Japanese");
+    const auto english = textsOf("English");
+    for (const auto number : numbersWithMnemonic())
+        EXPECT_EQ(mnemonic(shownText(japanese, number)), mnemonic(shownText(english, number)))
+            << number;
+}
+
+} // namespace
+} // namespace vantrel

@@ -1,0 +1,170 @@
+#include "platform/ProfileFile.h"
+
+#include "platform/ProfileCases.h"
+#include "support/TemporaryFolder.h"
+
+#include <filesystem>
+#include <unistd.h>
+
+namespace vantrel {
+namespace {
+
+using namespace tests;
+
+ProfileFile openProfile(const TemporaryFolder& folder, const std::optional<std::string>& content) {
+    if (content)
+        folder.write("test.ini", *content);
+    return ProfileFile(folder.path("test.ini"));
+}
+
+class ProfileRead : public testing::TestWithParam<ProfileReadCase> {};
+
+TEST_P(ProfileRead, GivesTheValue) {
+    const auto& row = GetParam();
+    const TemporaryFolder folder;
+    const ProfileFile file = openProfile(folder, row.file);
+    EXPECT_EQ(file.text(row.section, row.key, row.defaultValue, row.bufferSize), row.expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ProfileRead, testing::ValuesIn(profileReadCases), rowName);
+
+class ProfileInteger : public testing::TestWithParam<ProfileIntegerCase> {};
+
+TEST_P(ProfileInteger, GivesTheNumber) {
+    const TemporaryFolder folder;
+    const ProfileFile file = openProfile(folder, GetParam().file);
+    EXPECT_EQ(file.integer("S", "k", GetParam().defaultValue), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ProfileInteger, testing::ValuesIn(profileIntegerCases), rowName);
+
+class ProfileWrite : public testing::TestWithParam<ProfileWriteCase> {};
+
+TEST_P(ProfileWrite, ChangesNothingElse) {
+    const auto& row = GetParam();
+    const TemporaryFolder folder;
+    ProfileFile file = openProfile(folder, row.before);
+    ASSERT_TRUE(file.set(row.section, row.key, row.value));
+    ASSERT_TRUE(file.save());
+    EXPECT_EQ(folder.read("test.ini"), row.after);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ProfileWrite, testing::ValuesIn(profileWriteCases), rowName);
+
+TEST(ProfileFile, WritesSeveralValuesInTheirOrder) {
+    const TemporaryFolder folder;
+    ProfileFile file(folder.path("test.ini"));
+    ASSERT_TRUE(file.set("Vantrel", "Port", "1"));
+    ASSERT_TRUE(file.set("PCType", "DispType", "3"));
+    ASSERT_TRUE(file.set("Vantrel", "Baudrate", "9600"));
+    ASSERT_TRUE(file.save());
+    EXPECT_EQ(folder.read("test.ini"),
+              "[Vantrel]\r\nPort=1\r\nBaudrate=9600\r\n[PCType]\r\nDispType=3\r\n");
+}
+
+TEST(ProfileFile, WritesNothingBeforeItIsSaved) {
+    const TemporaryFolder folder;
+    ProfileFile file(folder.path("test.ini"));
+    ASSERT_TRUE(file.set("S", "k", "v"));
+    EXPECT_FALSE(folder.has("test.ini"));
+}
+
+/// Which file it is, apart from its name: a file that was replaced is another one.
+auto identity(const TemporaryFolder& folder) {
+    return std::filesystem::last_write_time(folder.path("test.ini")).time_since_epoch().count();
+}
+
+TEST(ProfileFile, IsNotWrittenWhenNothingChanged) {
+    const TemporaryFolder folder;
+    folder.write("test.ini", "[S]\r\nk=v\r\n");
+    const std::filesystem::file_time_type longAgo{};
+    std::filesystem::last_write_time(folder.path("test.ini"), longAgo);
+    const auto before = identity(folder);
+    ProfileFile file(folder.path("test.ini"));
+    ASSERT_TRUE(file.set("S", "k", "other"));
+    ASSERT_TRUE(file.set("S", "k", "v"));
+    EXPECT_TRUE(file.save());
+    EXPECT_EQ(identity(folder), before);
+}
+
+TEST(ProfileFile, IsNotCreatedWhenNothingWasSet) {
+    const TemporaryFolder folder;
+    EXPECT_TRUE(ProfileFile(folder.path("test.ini")).save());
+    EXPECT_FALSE(folder.has("test.ini"));
+}
+
+TEST(ProfileFile, CreatesNoFolder) {
+    const TemporaryFolder folder;
+    ProfileFile file(folder.path("none/test.ini"));
+    ASSERT_TRUE(file.set("S", "k", "v"));
+    const auto outcome = file.save();
+    ASSERT_FALSE(outcome);
+    EXPECT_EQ(outcome.reason(), "No such file or directory");
+    EXPECT_FALSE(folder.has("none"));
+}
+
+TEST(ProfileFile, LeavesAFileThatItCannotReadAsItIs) {
+    const TemporaryFolder folder;
+    folder.makeFolder("test.ini");
+    ProfileFile file(folder.path("test.ini"));
+    EXPECT_EQ(file.text("S", "k", "d", 128), "d");
+    ASSERT_TRUE(file.set("S", "k", "v"));
+    EXPECT_FALSE(file.save());
+    EXPECT_TRUE(std::filesystem::is_directory(folder.path("test.ini")));
+}
+
+TEST(ProfileFile, LeavesAFileWithoutReadPermissionAsItIs) {
+    if (::geteuid() == 0)
+        GTEST_SKIP() << "permissions do not stop the administrator";
+    const TemporaryFolder folder;
+    const std::string path = folder.write("test.ini", "[S]\r\nk=precious\r\n");
+    std::filesystem::permissions(path, std::filesystem::perms::owner_write);
+    ProfileFile file(path);
+    ASSERT_TRUE(file.set("S", "k", "v"));
+    EXPECT_FALSE(file.save());
+    std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+    EXPECT_EQ(folder.read("test.ini"), "[S]\r\nk=precious\r\n");
+}
+
+TEST(ProfileFile, CanBeSavedAgainAfterAFailure) {
+    const TemporaryFolder folder;
+    ProfileFile file(folder.path("late/test.ini"));
+    ASSERT_TRUE(file.set("S", "k", "v"));
+    ASSERT_FALSE(file.save());
+    folder.makeFolder("late");
+    EXPECT_TRUE(file.save());
+    EXPECT_EQ(folder.read("late/test.ini"), "[S]\r\nk=v\r\n");
+}
+
+TEST(ProfileFile, RefusesACharacterThatTheCodePageLacks) {
+    const TemporaryFolder folder;
+    folder.write("test.ini", "[S]\r\nk=1\r\n");
+    ProfileFile file(folder.path("test.ini"));
+    EXPECT_FALSE(file.set("S", "k", "\u20AC"));
+    EXPECT_FALSE(file.set("S", "\u20AC", "2"));
+    EXPECT_TRUE(file.save());
+    EXPECT_EQ(folder.read("test.ini"), "[S]\r\nk=1\r\n");
+}
+
+TEST(ProfileFile, CutsAValueAtItsNul) {
+    const TemporaryFolder folder;
+    const ProfileFile file = openProfile(folder, std::string("[S]\r\nk=a\0b\r\n", 12));
+    EXPECT_EQ(file.text("S", "k", "d", 128), "a");
+}
+
+TEST(ProfileFile, KeepsItsPath) {
+    const ProfileFile file("/nowhere/test.ini");
+    EXPECT_EQ(file.path(), "/nowhere/test.ini");
+}
+
+TEST(ProfileCases, AllowListNamesCasesThatExist) {
+    for (const auto name : differsUnderWine) {
+        const auto isNamed = [&](const NamedRow& row) { return row.name == name; };
+        EXPECT_TRUE(std::ranges::any_of(profileReadCases, isNamed) ||
+                    std::ranges::any_of(profileWriteCases, isNamed))
+            << name;
+    }
+}
+
+} // namespace
+} // namespace vantrel

@@ -1,0 +1,315 @@
+#include "support/FakeZurolink.h"
+
+#include "base/Text.h"
+#include "link/JobFile.h"
+#include "link/JobNameSet.h"
+#include "platform/TextCase.h"
+#include "platform/TextEncoding.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace vantrel::tests {
+namespace {
+
+constexpr std::int16_t accepted = 1;
+constexpr std::int16_t done = 0;
+constexpr std::int16_t endOfDirectory = -1;
+constexpr std::int16_t wrongUse = 1110;
+constexpr std::int16_t noSuchLine = 2040;
+
+std::filesystem::path pcFile(const std::string& folder, const std::string& name) {
+    const auto native = [](const std::string& utf8) {
+        return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
+    };
+    return native(folder) / native(name);
+}
+
+/// A job's name on the controller: by its "//NAME" line, else by its file's name.
+std::string controllerName(const std::string& fileName, const std::string& bytes) {
+    if (!isJobFileName(fileName))
+        return fileName;
+    const std::string inside = jobNameInside(bytes);
+    const std::string base = fileName.substr(0, fileName.rfind('.'));
+    return normalisedJobName(inside.empty() ? base : inside) + ".JBI";
+}
+
+/// A job is asked for as "NAME.JBI", "NAME.JBR" and "NAME".
+std::string storedName(const std::string& asked) {
+    if (isJobFileName(asked))
+        return asked.substr(0, asked.rfind('.')) + ".JBI";
+    return asked.find('.') == std::string::npos ? asked + ".JBI" : asked;
+}
+
+std::string joined(std::initializer_list<std::string> arguments) {
+    std::string text;
+    for (const std::string& argument : arguments)
+        text += (text.empty() ? "" : ", ") + argument;
+    return text;
+}
+
+std::string text(std::int32_t number) {
+    return std::to_string(number);
+}
+
+} // namespace
+
+void FakeController::put(const std::string& name, const std::string& bytes) {
+    const auto [place, isNew] = places_.try_emplace(name, lastPlace_ + 1);
+    if (isNew)
+        ++lastPlace_;
+    files_[place->second] = {name, bytes};
+}
+
+std::string FakeController::bytes(const std::string& name) const {
+    const auto place = places_.find(name);
+    return place == places_.end() ? std::string() : files_.at(place->second).bytes;
+}
+
+bool FakeController::erase(const std::string& name) {
+    const auto place = places_.find(name);
+    if (place == places_.end())
+        return false;
+    files_.erase(place->second);
+    places_.erase(place);
+    return true;
+}
+
+std::vector<std::string> FakeController::names() const {
+    std::vector<std::string> all;
+    for (const auto& [place, file] : files_)
+        all.push_back(file.name);
+    return all;
+}
+
+bool FakeController::operator==(const FakeController& other) const {
+    return files_ == other.files_ && variables == other.variables;
+}
+
+const std::string* FakeController::nameAfter(std::int64_t& place) const {
+    const auto next = files_.upper_bound(place);
+    if (next == files_.end())
+        return nullptr;
+    place = next->first;
+    return &next->second.name;
+}
+
+void FakeZurolink::disturb(const Disturbance& disturbance) {
+    disturbance_ = disturbance;
+    strict_ = false;
+}
+
+void FakeZurolink::forgetCalls() {
+    calls_.clear();
+    counts_.clear();
+    total_ = 0;
+}
+
+std::vector<std::string> FakeZurolink::trace() const {
+    std::vector<std::string> texts;
+    for (const Call& call : calls_)
+        texts.push_back(call.text);
+    return texts;
+}
+
+int FakeZurolink::callCount(const std::string& function) const {
+    const auto found = counts_.find(function);
+    return found == counts_.end() ? 0 : found->second;
+}
+
+std::int16_t FakeZurolink::misuse(const std::string& what) const {
+    if (strict_)
+        ADD_FAILURE() << "misuse of the library: " << what;
+    return wrongUse;
+}
+
+std::optional<std::int16_t> FakeZurolink::disturbed(const char* function,
+                                                    std::int16_t success) const {
+    if (!disturbance_ || (!disturbance_->function.empty() && disturbance_->function != function))
+        return {};
+    const int count = disturbance_->function.empty() ? total_ : callCount(function);
+    const bool hit = count == disturbance_->call ||
+                     (disturbance_->fromThereOn && count > disturbance_->call);
+    if (!hit)
+        return {};
+    return disturbance_->doNothing ? success : disturbance_->code;
+}
+
+std::int16_t FakeZurolink::perform(const char* function, const std::string& arguments,
+                                   std::int16_t success,
+                                   const std::function<std::int16_t()>& work) {
+    ++total_;
+    ++counts_[function];
+    if (onCall)
+        onCall(function);
+    const auto instead = disturbed(function, success);
+    const std::int16_t result = instead ? *instead : work();
+    if (records_)
+        calls_.push_back({function, function + ("(" + arguments + ")"), result, instead.has_value()});
+    return result;
+}
+
+std::int16_t FakeZurolink::onLink(const char* function, std::int16_t handle,
+                                  const std::string& arguments, std::int16_t success,
+                                  bool connected,
+                                  const std::function<std::int16_t(Link&)>& work) {
+    const std::string all = arguments.empty() ? text(handle) : joined({text(handle), arguments});
+    return perform(function, all, success, [&]() -> std::int16_t {
+        const auto link = links_.find(handle);
+        if (link == links_.end())
+            return misuse(std::string(function) + " on an unknown handle");
+        if (link->second.connected != connected)
+            return misuse(std::string(function) + " out of order");
+        return work(link->second);
+    });
+}
+
+std::int16_t FakeZurolink::BscOpen(const char* path, std::int16_t type) {
+    return perform("BscOpen", joined({fromCodePage(path), text(type)}), 0, [&]() -> std::int16_t {
+        if (!links_.empty())
+            misuse("two links at a time");
+        links_[++lastHandle_] = {fromCodePage(path), type, {}, false, 0, {}};
+        return lastHandle_;
+    });
+}
+
+std::int16_t FakeZurolink::BscSetCom(std::int16_t handle, std::int16_t port, std::int32_t baudrate,
+                                     std::int16_t parity, std::int16_t dataLen,
+                                     std::int16_t stopBit) {
+    const auto arguments =
+        joined({text(port), text(baudrate), text(parity), text(dataLen), text(stopBit)});
+    return onLink("BscSetCom", handle, arguments, accepted, false, [&](Link& link) {
+        link.line = "COM" + text(port);
+        return link.type == 1 ? accepted : misuse("BscSetCom on an Ethernet link");
+    });
+}
+
+std::int16_t FakeZurolink::BscSetEther(std::int16_t handle, const char* ip, std::int16_t mode,
+                                       void* window) {
+    const auto number = static_cast<std::int32_t>(reinterpret_cast<std::uintptr_t>(window));
+    const auto arguments = joined({ip, text(mode), text(number)});
+    return onLink("BscSetEther", handle, arguments, accepted, false, [&](Link& link) {
+        link.line = ip;
+        return link.type == 16 ? accepted : misuse("BscSetEther on a serial link");
+    });
+}
+
+std::int16_t FakeZurolink::BscConnect(std::int16_t handle) {
+    return onLink("BscConnect", handle, {}, accepted, false, [&](Link& link) {
+        link.connected = controllers_.contains(link.line);
+        return link.connected ? accepted : noSuchLine;
+    });
+}
+
+std::int16_t FakeZurolink::BscDisConnect(std::int16_t handle) {
+    return onLink("BscDisConnect", handle, {}, accepted, true, [](Link& link) {
+        link.connected = false;
+        return accepted;
+    });
+}
+
+std::int16_t FakeZurolink::BscClose(std::int16_t handle) {
+    return onLink("BscClose", handle, {}, done, false, [&](Link&) {
+        links_.erase(handle);
+        return done;
+    });
+}
+
+std::int16_t FakeZurolink::writeEntry(Link& link, char* buffer, std::int16_t length) {
+    static const std::string again = "ENDLESS.JBI";
+    const FakeController& controller = controllers_[link.line];
+    const std::string* const name = controller.endless ? &again : controller.nameAfter(link.place);
+    if (!name)
+        return endOfDirectory;
+    const std::string bytes = toCodePage(*name).value_or(*name);
+    const auto room = static_cast<std::size_t>(length);
+    std::memcpy(buffer, bytes.data(), std::min(bytes.size(), room));
+    if (bytes.size() < room)
+        buffer[bytes.size()] = '\0';
+    return done;
+}
+
+std::int16_t FakeZurolink::BscFindFirst(std::int16_t handle, char* buffer, std::int16_t length) {
+    return onLink("BscFindFirst", handle, text(length), done, true, [&](Link& link) {
+        link.place = 0;
+        return writeEntry(link, buffer, length);
+    });
+}
+
+std::int16_t FakeZurolink::BscFindNext(std::int16_t handle, char* buffer, std::int16_t length) {
+    return onLink("BscFindNext", handle, text(length), done, true,
+                  [&](Link& link) { return writeEntry(link, buffer, length); });
+}
+
+std::int16_t FakeZurolink::BscDownLoad(std::int16_t handle, const char* file) {
+    const std::string name = fromCodePage(file);
+    return onLink("BscDownLoad", handle, name, done, true, [&](Link& link) -> std::int16_t {
+        std::ifstream stream(pcFile(link.folder, name), std::ios::binary);
+        if (!stream)
+            return pcFileNotFound;
+        const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+        FakeController& controller = controllers_[link.line];
+        const std::string stored = controllerName(name, bytes);
+        if (jobExtension(name) == ".JBI" && controller.has(stored))
+            return jobExists;
+        controller.put(stored, bytes);
+        return done;
+    });
+}
+
+std::int16_t FakeZurolink::BscUpLoad(std::int16_t handle, const char* file) {
+    const std::string name = fromCodePage(file);
+    return onLink("BscUpLoad", handle, name, done, true, [&](Link& link) -> std::int16_t {
+        const FakeController& controller = controllers_[link.line];
+        if (!controller.has(storedName(name)))
+            return notFound;
+        std::ofstream(pcFile(link.folder, name), std::ios::binary)
+            << controller.bytes(storedName(name));
+        return done;
+    });
+}
+
+std::int16_t FakeZurolink::BscSelectJob(std::int16_t handle, const char* job) {
+    const std::string name = fromCodePage(job);
+    return onLink("BscSelectJob", handle, name, done, true, [&](Link& link) -> std::int16_t {
+        if (!controllers_[link.line].has(storedName(name)))
+            return notFound;
+        link.selected = storedName(name);
+        return done;
+    });
+}
+
+std::int16_t FakeZurolink::BscDeleteJob(std::int16_t handle) {
+    return onLink("BscDeleteJob", handle, {}, done, true, [&](Link& link) -> std::int16_t {
+        return controllers_[link.line].erase(link.selected) ? done : notFound;
+    });
+}
+
+std::int16_t FakeZurolink::BscGetVarData(std::int16_t handle, std::int16_t kind,
+                                         std::int16_t number, double* values) {
+    const auto arguments = joined({text(kind), text(number)});
+    return onLink("BscGetVarData", handle, arguments, done, true, [&](Link& link) {
+        const auto& variables = controllers_[link.line].variables;
+        const auto found = variables.find({kind, number});
+        // What a kind does not have stays as it is in the caller's buffer.
+        if (found != variables.end())
+            std::copy_n(found->second.begin(), kind < 4 ? 1 : 9, values);
+        return done;
+    });
+}
+
+std::int16_t FakeZurolink::BscPutVarData(std::int16_t handle, std::int16_t kind,
+                                         std::int16_t number, const double* values) {
+    const auto arguments = joined({text(kind), text(number)});
+    return onLink("BscPutVarData", handle, arguments, done, true, [&](Link& link) {
+        std::copy_n(values, 10, controllers_[link.line].variables[{kind, number}].begin());
+        return done;
+    });
+}
+
+} // namespace vantrel::tests

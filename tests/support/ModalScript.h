@@ -1,0 +1,50 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+
+#include <gtest/gtest.h>
+#include <wx/app.h>
+#include <wx/dialog.h>
+#include <wx/modalhook.h>
+
+namespace vantrel::tests {
+
+/// Acts on the modal dialogs that open while it lives, in their order. A dialog that nobody expects
+/// is closed at once and fails the test, and so does an expected one that never opens.
+class ModalScript : public wxModalDialogHook {
+  public:
+    ModalScript() { Register(); }
+    ~ModalScript() override {
+        Unregister();
+        EXPECT_TRUE(steps_.empty()) << steps_.size() << " expected dialogs did not open";
+    }
+
+    /// Looks at the dialog instead of showing it, and answers with a button's id.
+    void answer(std::function<int(wxDialog&)> look) { steps_.push_back({std::move(look), {}}); }
+    /// Acts while the dialog is really open, and has to end it.
+    void act(std::function<void(wxDialog&)> action) { steps_.push_back({{}, std::move(action)}); }
+
+  private:
+    struct Step {
+        std::function<int(wxDialog&)> look;
+        std::function<void(wxDialog&)> action;
+    };
+
+    int Enter(wxDialog* dialog) override {
+        if (steps_.empty()) {
+            ADD_FAILURE() << "unexpected dialog: " << dialog->GetTitle();
+            return wxID_CANCEL;
+        }
+        const Step step = std::move(steps_.front());
+        steps_.pop_front();
+        if (step.look)
+            return step.look(*dialog);
+        wxTheApp->CallAfter([action = step.action, dialog] { action(*dialog); });
+        return wxID_NONE;
+    }
+
+    std::deque<Step> steps_;
+};
+
+} // namespace vantrel::tests

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "link/ProgressPanel.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vantrel::tests {
+
+/// Remembers what the progress window showed.
+class RecordingProgressView : public ProgressView {
+  public:
+    struct Picture {
+        bool visible;
+        std::string title;
+        std::string message;
+        std::string waitingFor;
+        bool cancelButton;
+        bool bar;
+        int item;
+        int count;
+    };
+
+    void refresh(const ProgressPanel& panel) override {
+        pictures.push_back({panel.isVisible(), panel.title(), panel.message(), panel.waitingFor(),
+                            panel.cancelButtonShown(), panel.barShown(), panel.item(),
+                            panel.count()});
+    }
+    void yield() override {
+        ++yields;
+        if (onYield)
+            onYield(yields);
+    }
+    void unload() override { ++unloads; }
+
+    /// The different messages that were to be seen, in order.
+    std::vector<std::string> messages() const {
+        std::vector<std::string> seen;
+        for (const auto& picture : pictures)
+            if (picture.visible && (seen.empty() || seen.back() != picture.message))
+                seen.push_back(picture.message);
+        return seen;
+    }
+
+    std::vector<Picture> pictures;
+    int yields = 0;
+    int unloads = 0;
+    std::function<void(int yield)> onYield; ///< what the operator does at yield 1, 2, ...
+};
+
+} // namespace vantrel::tests

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "link/OperatorDialog.h"
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace vantrel::tests {
+
+/// Records every question and answers from a script; an unscripted one is answered Cancel, as a
+/// dialog closed by its close box is.
+class ScriptedQuestionWindow : public QuestionWindow {
+  public:
+    Answer ask(const std::string& title, const std::string& question) override {
+        titles.push_back(title);
+        questions.push_back(question);
+        if (whileOpen)
+            whileOpen();
+        return nextAnswer();
+    }
+
+    std::deque<Answer> answers;
+    std::vector<std::string> titles;
+    std::vector<std::string> questions;
+    std::function<void()> whileOpen; ///< what happens while the dialog is on the screen
+
+  private:
+    Answer nextAnswer() {
+        if (answers.empty())
+            return Answer::Cancel;
+        const Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+};
+
+} // namespace vantrel::tests

@@ -1,0 +1,67 @@
+#include "support/DisplayLock.h"
+
+#include <cstdio>
+#include <memory>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <wx/app.h>
+#include <wx/evtloop.h>
+#include <wx/init.h>
+
+// The main program of tests that open real windows.
+
+namespace {
+
+class WindowTestApp : public wxApp {
+  public:
+    bool OnInit() override {
+        // Tests destroy their last window many times over.
+        SetExitOnFrameDelete(false);
+        return true;
+    }
+    bool OnExceptionInMainLoop() override { throw; }
+};
+
+int runWithWindows(int argc, char** argv) {
+    const vantrel::tests::DisplayLock alone;
+    wxApp::SetInstance(new WindowTestApp);
+    if (!wxEntryStart(argc, argv) || !wxTheApp->CallOnInit()) {
+        std::fputs("These tests open real windows and found no display to open them on.\n"
+                   "Start a virtual one with a window manager (Xvfb, openbox) and set DISPLAY.\n",
+                   stderr);
+        return 1;
+    }
+    int failed = 0;
+    {
+        wxEventLoop loop;
+        const wxEventLoopActivator active(&loop);
+        failed = RUN_ALL_TESTS();
+    }
+    wxTheApp->OnExit();
+    wxEntryCleanup();
+    return failed;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    testing::InitGoogleMock(&argc, argv);
+    // Listing is done by the build, where there need be no display.
+    if (testing::GTEST_FLAG(list_tests))
+        return RUN_ALL_TESTS();
+    return runWithWindows(argc, argv);
+}
+
+/// What the toolkit and the font libraries keep until the process ends is none of our leaks.
+extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions() {
+    return "leak:libfontconfig\n"
+           "leak:libpango\n"
+           "leak:libgtk-3\n"
+           "leak:libgdk-3\n"
+           "leak:libglib-2\n"
+           "leak:libgobject-2\n"
+           "leak:libcairo\n"
+           "leak:librsvg\n"
+           "leak:libX11\n";
+}
