@@ -1,14 +1,19 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/RobotRecord.h"
+#include "platform/TextEncoding.h"
 
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace vantrel {
 
-struct ApplicationState;
 class MessageBoxes;
 class MessageTable;
+class RobotPaths;
+struct ApplicationState;
 
 /// The robot box `cmbRbtName` as the registry fills it; filling raises no operator's event.
 class RobotBox {
@@ -25,16 +30,50 @@ class RobotRegistry {
     RobotRegistry(ApplicationState& state, const MessageTable& messages, MessageBoxes& boxes,
                   std::string programFolder);
 
-    /// Fills the robot list, selects the boot robot and fills the box.
+    /// Fills the robot list, selects the boot robot and fills the box. A file that is missing is
+    /// written first; one that cannot be read is told, and box and current robot stay as they were.
     void read(RobotBox& box);
-    /// Rewrites the file whole from the list and the current robot's name.
-    Outcome write() const;
+
+    /// Fills the box again after an edit and selects the current robot.
+    void fillBox(RobotBox& box) const;
+
+    /// To be called when the operator has applied a change of the list. A file that could not be
+    /// read whole is rewritten only then.
+    void noteEdit() { edited_ = true; }
+
+    /// Rewrites the file whole from the list and the current robot's name, in the encoding in which
+    /// it was read. A file that could not be read whole is left alone, or kept beside the new one
+    /// under another name when the operator has edited the list.
+    Outcome write();
+
+    const std::string& path() const { return path_; }
 
   private:
+    std::string defaultText() const;
+    Result<std::string> fileContent() const;
+    bool readList(const std::string& content);
+    void readBootName(const std::string& text);
+    void selectBootRobot();
+    void tellNotRead();
+    std::optional<std::string> encoded(const std::string& text) const;
+    Outcome keepUnreadFile() const;
+
     ApplicationState& state_;
     const MessageTable& messages_;
     MessageBoxes& boxes_;
     std::string programFolder_;
+    std::string path_;
+    TextEncoding encoding_ = TextEncoding::CodePage;
+    bool plain_ = true; ///< the file holds ASCII only, which any encoding can go on from
+    bool readWhole_ = true;
+    bool edited_ = false;
 };
+
+/// The folder that relative robot folders start from: `folder` in lower case, or in its own
+/// spelling where the system tells letter case apart and the lower-case folder does not exist.
+std::string robotBaseFolder(const std::string& folder);
+
+/// Makes the folders of a list absolute up to the sentinel; false when there is none.
+bool makeFoldersAbsolute(std::vector<RobotRecord>& robots, const RobotPaths& paths);
 
 } // namespace vantrel

@@ -4,17 +4,22 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 namespace vantrel {
 
 struct ApplicationState;
 
-/// Where the main window is when the settings are written; all in twips, with fractions.
+/// Where the main window is when the settings are written; all in twips, with fractions. A number
+/// that nobody changed is passed as it stands in `WindowPos` (see twipsUnlessUnchanged).
 struct WindowPlacement {
     bool isNormal = true; ///< neither minimised nor maximised
     double left = 0, top = 0, width = 0, height = 0;
     std::array<double, 3> columnWidths{}; ///< of the first three columns of `lsvPC`
 };
+
+/// `IniFileName` for an executable, given with or without its folder: its base name and ".ini".
+std::string settingsFileName(std::string_view executable);
 
 /// The settings file: the executable's base name and ".ini" in the program's folder.
 class SettingsFile {
@@ -22,8 +27,12 @@ class SettingsFile {
     SettingsFile(std::string programFolder, std::string iniFileName);
 
     /// [Vantrel], [PCType] and [CtrlType] into the state; what is missing takes its default.
+    /// Numbers stay as they are stored, in range or not; one beyond the field's bits becomes the
+    /// nearest that the field can hold.
     void read(ApplicationState& state) const;
-    /// The same keys in the same order. The caller decides whether a failure is reported.
+    /// The same keys in the same order. A text that the file's encoding cannot express keeps its
+    /// old value and makes the outcome a failure; everything else is written all the same. The
+    /// caller decides whether a failure is reported.
     Outcome write(const ApplicationState& state, const WindowPlacement& placement) const;
 
     const std::string& path() const { return path_; }

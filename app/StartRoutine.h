@@ -1,11 +1,12 @@
 #pragma once
 
+#include "app/CommandLine.h"
+#include "base/Result.h"
+
 #include <string>
-#include <vector>
 
 namespace vantrel {
 
-struct ApplicationState;
 class LanguageChoice;
 class MessageBoxes;
 class MessageTable;
@@ -15,6 +16,7 @@ class RobotRegistry;
 class SettingsFile;
 class Snappy;
 class TransferTable;
+struct ApplicationState;
 
 /// What the start routine needs of the windows.
 class StartWindows {
@@ -25,6 +27,7 @@ class StartWindows {
     virtual void showLanguageDialog() = 0;
     /// `FrmMessage`, modeless, painted before the call returns.
     virtual void showStartMessage() = 0;
+    /// Does nothing when the operator has closed it already.
     virtual void unloadStartMessage() = 0;
     /// `frmVers`: loaded hidden, later made visible without blocking.
     virtual void loadVersionWindow() = 0;
@@ -35,9 +38,57 @@ class StartWindows {
     virtual void focusPCList() = 0;
     /// The main window's own start routine.
     virtual void startMainWindow() = 0;
+    /// Box and panes are there once the main window has been built.
     virtual RobotBox& robotBox() = 0;
     virtual Panes& panes() = 0;
+    /// Called once, before any of the windows is built.
     virtual Snappy& createSession() = 0;
+};
+
+/// How the start routine ended. In all cases but `Running` the program ends with it.
+enum class StartResult {
+    ExitSwitch,
+    NoLanguage,
+    Automation,
+    LanguageCancelled,
+    Running,
+    Trapped, ///< an unexpected error, which has been told; nothing may be saved
+};
+
+/// What the start routine works with; everything is borrowed and outlives it.
+struct StartServices {
+    ApplicationState& state;
+    TransferTable& table;
+    LanguageChoice& language;
+    const MessageTable& messages;
+    MessageBoxes& boxes;
+    const SettingsFile& settings;
+    RobotRegistry& registry;
+    StartWindows& windows;
+    CommandLine commandLine;
+    std::string executable;    ///< absolute
+    std::string programFolder; ///< absolute
+};
+
+/// The start of the program, from the command line to the window that is ready to work with.
+class StartRoutine {
+  public:
+    explicit StartRoutine(const StartServices& services);
+
+    StartResult Main();
+
+  private:
+    StartResult run();
+    Outcome enterProgramFolder();
+    void setHelpFile();
+    bool chooseLanguage();
+    void loadSettings();
+    void offerControllerDirectory();
+    void openMainWindow();
+    StartResult trap(const std::string& reason);
+
+    StartServices with_;
+    Snappy* session_ = nullptr;
 };
 
 } // namespace vantrel

@@ -10,8 +10,8 @@ namespace vantrel {
 struct ControllerModel {
     std::string_view name;
     bool isPC = false;
-    std::int16_t capabilities = 0; ///< sum of `capabilityBsc` and `capabilityHispeed`
-    std::int16_t bit = 0;          ///< the model's bit in the file table's masks
+    std::int16_t capabilities = 0;             ///< sum of `capabilityBsc` and `capabilityHispeed`
+    std::int16_t bit = 0;                      ///< the model's bit in the file table's masks
     std::span<const std::string_view> filters; ///< each: extensions without point, joined by ";"
 };
 

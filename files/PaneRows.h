@@ -13,13 +13,16 @@
 namespace vantrel {
 
 /// The rows that a pane shows of its listing: filtered and in order. Holds positions only; the
-/// listing is borrowed and must not change between `fill` and the next use of a row.
+/// listing is borrowed. A list control may paint at any yield, with rows that it was shown before
+/// the last `fill`: a row that is not there any more reads as an empty one.
 class PaneRows {
   public:
     explicit PaneRows(const FolderListing& listing) : listing_(listing) {}
 
     /// Folders always, files when `accepts` says yes to the upper-cased name; in listing order.
-    void fill(const std::function<bool(std::string_view upperName)>& accepts);
+    /// Only ASCII letters are upper-cased: all that a filter looks at. False, without rows, when
+    /// the listing is not whole: it counts more entries than it holds.
+    bool fill(const std::function<bool(std::string_view upperName)>& accepts);
     /// By the listing's `SortType` and `SortDir`: by size as text; else by name or date and then
     /// folders and files apart.
     void sort();
@@ -32,6 +35,10 @@ class PaneRows {
     std::string_view dateText(std::size_t row) const;
 
   private:
+    bool isWhole() const;
+    bool holds(std::uint32_t entry) const;
+    bool isThere(std::size_t row) const;
+
     const FolderListing& listing_;
     std::vector<std::uint32_t> order_;
 };

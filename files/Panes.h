@@ -3,6 +3,9 @@
 #include "base/ApplicationState.h"
 #include "files/PaneRows.h"
 
+#include <string>
+#include <vector>
+
 namespace vantrel {
 
 class MessageTable;
@@ -19,15 +22,15 @@ class Panes {
     /// Lists `folder` into the PC listing and makes it the PC folder; false, with the listing and
     /// the folder as they were, when it cannot be opened.
     bool scanPC(const std::string& folder);
-    /// Reads the controller's directory and adds the table's fixed names; false, with the listing as
-    /// it was, when the session could not read it.
+    /// Reads the controller's directory and adds the table's fixed names; false, with the listing
+    /// as it was, when the session could not read it.
     bool readController();
     /// No entries, for a controller that was not read.
     void emptyController();
 
     /// Rebuilds a list control from its listing, with the pane's filter and order, and its count in
-    /// the status bar.
-    void fill(ActiveSide side);
+    /// the status bar. False, with an empty list, when the listing is not whole.
+    bool fill(ActiveSide side);
     /// Puts the rows in the order of the listing's sort state and shows them.
     void sort(ActiveSide side);
     void showCount(ActiveSide side);
@@ -43,7 +46,6 @@ class Panes {
 
   private:
     PaneRows& rows(ActiveSide side);
-    bool accepts(ActiveSide side, std::string_view upperName) const;
 
     ApplicationState& state_;
     Snappy& session_;

@@ -1,30 +1,20 @@
 #pragma once
 
+#include "base/ApplicationState.h"
+#include "files/TransferServices.h"
+
+#include <functional>
+#include <vector>
+
 namespace vantrel {
 
-struct ApplicationState;
-class MessageTable;
-class OperatorDialog;
-class PaneWindow;
-class Panes;
-class ProgressPanel;
-class Snappy;
-class TransferTable;
-
-/// What the transfer commands work with; everything is borrowed and outlives them.
-struct TransferServices {
-    ApplicationState& state;
-    Snappy& session;
-    Panes& panes;
-    PaneWindow& window;
-    const TransferTable& table;
-    const MessageTable& messages;
-    ProgressPanel& progress;
-    OperatorDialog& dialog;
-};
+struct CommandOutcome;
+struct SelectedItem;
 
 /// The commands on the selected items of a pane. Each locks the window while it runs, reports its
-/// failures itself, refreshes what it changed and returns true when nothing failed.
+/// failures itself, refreshes what it changed, keeps the selection by name and returns true when
+/// nothing failed. An item that was passed over with a message is no failure; a command that the
+/// operator cancelled returns false.
 class TransferCommands {
   public:
     explicit TransferCommands(const TransferServices& services) : with_(services) {}
@@ -33,8 +23,23 @@ class TransferCommands {
     bool sendCopy();
     /// Selected controller files into the PC folder, through the session's job list.
     bool receiveCopy();
+    /// File by file; each PC file is deleted once it was sent.
+    bool sendMove();
+    /// File by file; each controller job is deleted once its file is in the PC folder.
+    bool receiveMove();
+    bool deleteOnController();
+    /// Files only; a folder is never deleted.
+    bool deleteOnPC();
+
+    /// Reads one pane's content anew and shows it.
+    bool refresh(ActiveSide side);
 
   private:
+    using Items = std::vector<SelectedItem>;
+    using Work = std::function<CommandOutcome(const Items& items)>;
+
+    bool run(ActiveSide source, const Work& work);
+
     TransferServices with_;
 };
 

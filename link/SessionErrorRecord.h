@@ -19,6 +19,7 @@ inline constexpr std::int16_t entryRejected = 22;      ///< a line that is no va
 inline constexpr std::int16_t nameRefused = 23;        ///< not one plain file name
 inline constexpr std::int16_t directoryEndless = 24;   ///< 1,000,000 entries and no end
 inline constexpr std::int16_t fileDidNotArrive = 25;   ///< reported as done, but it is not there
+inline constexpr std::int16_t fileNotReplaceable = 26; ///< the old PC file cannot be set aside
 inline constexpr std::int16_t libraryUnusable = -10;   ///< missing, wrong or incomplete library
 } // namespace session_code
 

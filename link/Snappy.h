@@ -1,52 +1,24 @@
 #pragma once
 
-#include "base/TransferMode.h"
 #include "link/SessionErrorRecord.h"
+#include "link/SessionProperties.h"
+#include "link/SessionServices.h"
 
 #include <cstdint>
-#include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace vantrel {
 
-class LanguageFiles;
-class MessageTable;
-class OperatorDialog;
-class ProgressPanel;
-class Zurolink;
-
-/// What the session works with; everything is borrowed and outlives it.
-struct SessionServices {
-    Zurolink& library;
-    TransferMode& TransMode; ///< shared with the main window; read at every connect
-    MessageTable& messages;
-    const LanguageFiles& languages;
-    ProgressPanel& progress;
-    OperatorDialog& dialog;
-    std::string programFolder;            ///< absolute; made current by every connect
-    std::function<void*()> dummyWindow;   ///< the handle of `frmDumy`, loaded on first use
-};
-
 /// The one controller session: every operation on a controller passes through it. Each operation
 /// opens its own link and closes it again; a failure returns false and leaves its reason in the
-/// error record. Sending into the controller is "download", fetching from it "upload".
-class Snappy {
+/// error record. Sending into the controller is "download", fetching from it "upload". The public
+/// fields are those of `SessionProperties`.
+class Snappy : public SessionProperties {
   public:
     explicit Snappy(const SessionServices& services);
     ~Snappy();
-
-    std::int16_t port = 1;        ///< 1 = COM1
-    std::int32_t Baudrate = 9600; ///< bit/s
-    std::int16_t parity = 2;
-    std::int16_t DataLen = 8;
-    std::int16_t StopBit = 0;
-    std::string path;                    ///< the PC folder that the library works in
-    bool DisplayMonitor = true;          ///< off: no progress, every question answers Cancel
-    std::string MonitorTitle = "Snappy"; ///< caption of progress and questions
-    std::string IPaddress;               ///< dotted form
 
     std::int32_t JobListCount() const;
     std::int32_t VarListCount() const;

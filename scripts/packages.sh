@@ -1,7 +1,7 @@
 # Which Debian packages the build, the tests and the virtual display need, and how to get them.
 # Sourced by ./run and ./test.
 
-build_packages=(g++ cmake ninja-build ccache libwxgtk3.2-dev librsvg2-common fonts-vlgothic)
+build_packages=(g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev pkg-config librsvg2-common fonts-vlgothic)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils adwaita-icon-theme)
 test_packages=(libgtest-dev libgmock-dev)
 

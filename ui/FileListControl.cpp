@@ -12,6 +12,12 @@ namespace {
 
 constexpr int largeIconSize = 32;
 constexpr int smallIconSize = 16;
+// The list of the GTK port is drawn by the toolkit and has no themed border of its own.
+#ifdef __WXGTK__
+constexpr long listBorder = wxBORDER_SIMPLE;
+#else
+constexpr long listBorder = wxBORDER_THEME;
+#endif
 // In pixels at 96 dpi; what the settings' default column widths come to.
 constexpr std::array<int, FileListControl::columnCount> builtInWidths{93, 47, 100};
 
@@ -45,10 +51,10 @@ int imageIndex(FileKind kind) {
 }
 
 /// The native control; in details view it asks the rows for what is visible.
-class NativeList : public wxListCtrl {
+class NativeList : public wxListView {
   public:
     NativeList(wxWindow* parent, long style, const wxString& name, const PaneRows* const& rows)
-        : wxListCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, style, wxDefaultValidator,
+        : wxListView(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, style, wxDefaultValidator,
                      name),
           rows_(rows) {}
 
@@ -87,7 +93,7 @@ FileListControl::FileListControl(wxWindow* parent, const wxString& name)
 }
 
 void FileListControl::createList() {
-    list_ = new NativeList(this, viewStyle(view_) | wxLC_AUTOARRANGE | wxBORDER_THEME, listName_,
+    list_ = new NativeList(this, viewStyle(view_) | wxLC_AUTOARRANGE | listBorder, listName_,
                            rows_);
     list_->SetFont(GetFont());
     list_->SetNormalImages(kindIcons(largeIconSize));
@@ -208,6 +214,13 @@ void FileListControl::selectAll() {
     changed();
 }
 
+std::optional<FileKind> FileListControl::focusedKind() const {
+    const long row = focusedRow();
+    if (!rows_ || row < 0 || std::size_t(row) >= rows_->size())
+        return {};
+    return rows_->kind(std::size_t(row));
+}
+
 void FileListControl::focus() {
     list_->SetFocus();
 }
@@ -248,6 +261,12 @@ void FileListControl::bindEvents() {
     list_->Bind(wxEVT_LIST_COL_CLICK, [this](wxListEvent& event) {
         if (onColumnClicked)
             onColumnClicked(event.GetColumn());
+    });
+    list_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
+        if (onKey)
+            onKey(event);
+        else
+            event.Skip();
     });
     list_->Bind(wxEVT_LIST_BEGIN_DRAG, [this](wxListEvent&) {
         if (onDragBegun)

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "files/FileKinds.h"
 #include "files/PaneWindow.h"
-
-#include <array>
-#include <functional>
-#include <string>
 
 #include <wx/listctrl.h>
 #include <wx/panel.h>
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
 
 namespace vantrel {
 
@@ -18,9 +20,9 @@ enum class ListView { LargeIcons = 0, SmallIcons = 1, List = 2, Details = 3 };
 ListView listView(std::int16_t displayType);
 
 /// One pane's file list, `lsvPC` or `lsvCtrl`: four views over the rows of a pane. Shows what the
-/// rows say, never sorts or filters. The details view asks for visible rows only; the native control
-/// behind the panel is made anew when the view changes, since neither system can turn that on and
-/// off in place.
+/// rows say, never sorts or filters. The details view asks for visible rows only; the native
+/// control behind the panel is made anew when the view changes, since neither system can turn that
+/// on and off in place.
 class FileListControl : public wxPanel, public PaneList {
   public:
     static constexpr std::size_t columnCount = 3;
@@ -42,9 +44,11 @@ class FileListControl : public wxPanel, public PaneList {
     std::size_t itemCount() const;
     /// The row that has the keyboard focus, or the first selected one, or -1.
     long focusedRow() const;
+    /// Of that row; nothing when there is none.
+    std::optional<FileKind> focusedKind() const;
     void selectAll();
     /// The native list, for what only it can do. It changes with the view.
-    wxListCtrl& native() { return *list_; }
+    wxListView& native() { return *list_; }
 
     /// Called after the selection or the focused item changed by the operator or by a fill.
     std::function<void()> onSelectionChanged;
@@ -54,6 +58,8 @@ class FileListControl : public wxPanel, public PaneList {
     std::function<void(int column)> onColumnClicked;
     /// Called when the list gets the keyboard focus or a mouse press.
     std::function<void()> onActivated;
+    /// Called with every key pressed in the list; the list handles what the listener skips.
+    std::function<void(wxKeyEvent&)> onKey;
     /// Called when the operator drags the selection.
     std::function<void()> onDragBegun;
     /// Called for a request of the pop-up menu, after the row under the pointer was selected.
@@ -67,7 +73,7 @@ class FileListControl : public wxPanel, public PaneList {
     void changed();
 
     const PaneRows* rows_ = nullptr;
-    wxListCtrl* list_ = nullptr;
+    wxListView* list_ = nullptr;
     wxString listName_;
     ListView view_ = ListView::List;
     std::array<wxString, columnCount> titles_;

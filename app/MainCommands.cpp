@@ -1,0 +1,262 @@
+#include "app/MainCommands.h"
+
+#include "app/CommandStates.h"
+#include "app/MainWindowView.h"
+#include "app/ModeCommands.h"
+#include "base/PathRules.h"
+#include "files/PaneWindow.h"
+#include "files/Panes.h"
+#include "files/TransferCommands.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/OperatorDialog.h"
+#include "link/Snappy.h"
+
+namespace vantrel {
+
+namespace {
+
+/// Refuses the operator's actions for as long as it lives.
+class WindowLock {
+  public:
+    explicit WindowLock(PaneWindow& window) : window_(window) { window_.setLocked(true); }
+    ~WindowLock() { window_.setLocked(false); }
+    WindowLock(const WindowLock&) = delete;
+    WindowLock& operator=(const WindowLock&) = delete;
+
+  private:
+    PaneWindow& window_;
+};
+
+/// The buttons that forward to a menu, by their keys.
+struct ToolCommand {
+    std::string_view key;
+    MenuItem item;
+};
+
+constexpr ToolCommand toolCommands[] = {
+    {"FileCopy", {Menu::mnuFile, fileCopy}},     {"FileMove", {Menu::mnuFile, fileMove}},
+    {"FileDelete", {Menu::mnuFile, fileDelete}}, {"AllSelect", {Menu::mnuFile, fileSelectAll}},
+    {"Refresh", {Menu::mnuRefresh, 0}},          {"modeHiSpeed", {Menu::mnuModeHiSpeed, 0}},
+    {"modeBsc", {Menu::mnuModeBsc, 0}},          {"DispBig", {Menu::mnuDisp, 0}},
+    {"DispSmall", {Menu::mnuDisp, 1}},           {"DispList", {Menu::mnuDisp, 2}},
+    {"DispDetail", {Menu::mnuDisp, 3}},
+};
+
+constexpr int keyBackspace = 8;
+constexpr int keyDelete = 127;
+
+} // namespace
+
+bool MainCommands::menu(MenuItem item) {
+    const auto index = static_cast<std::int16_t>(item.index);
+    switch (item.menu) {
+    case Menu::mnuFile:
+    case Menu::mnuRightFile:
+        return mnuFile(item.index), item.index <= fileSelectAll;
+    case Menu::mnuDisp:
+    case Menu::mnuFileDisp:
+        return mnuDisp(index), true;
+    case Menu::mnuSort:
+    case Menu::mnuSortIcon:
+        return mnuSort(index), true;
+    case Menu::mnuModeBsc:
+        return mnuModeBsc(), true;
+    case Menu::mnuModeHiSpeed:
+        return mnuModeHiSpeed(), true;
+    case Menu::mnuRefresh:
+    case Menu::mnuRightRefresh:
+        return mnuRefresh(), true;
+    case Menu::mnuEnd:
+        return mnuEnd(), true;
+    default:
+        return false;
+    }
+}
+
+void MainCommands::tool(std::string_view key) {
+    if (key == "UpFolder")
+        return upFolder();
+    for (const auto& command : toolCommands)
+        if (command.key == key)
+            menu(command.item);
+}
+
+bool MainCommands::listKey(ActiveSide side, int key, bool control) {
+    const auto states = currentStates();
+    if (key == keyDelete && states.mnuFile[fileDelete].enabled)
+        mnuFile(fileDelete);
+    else if (control && key == 'A')
+        mnuFile(fileSelectAll);
+    else if (key == keyBackspace && side == ActiveSide::PC)
+        upFolder();
+    else
+        return false;
+    return true;
+}
+
+void MainCommands::mnuFile(int index) {
+    const bool controller = with_.state.Active == ActiveSide::Controller;
+    if (index == fileCopy)
+        controller ? with_.transfers.receiveCopy() : with_.transfers.sendCopy();
+    else if (index == fileMove)
+        controller ? with_.transfers.receiveMove() : with_.transfers.sendMove();
+    else if (index == fileDelete)
+        controller ? with_.transfers.deleteOnController() : with_.transfers.deleteOnPC();
+    else if (index == fileSelectAll)
+        with_.view.selectAll(with_.state.Active);
+    updateStates();
+}
+
+void MainCommands::mnuDisp(std::int16_t index) {
+    auto& state = with_.state;
+    (state.Active == ActiveSide::PC ? state.PCDispType : state.CtrlDispType) = index;
+    with_.view.showView(state.Active, index);
+    updateStates();
+}
+
+void MainCommands::mnuSort(std::int16_t index) {
+    const auto side = with_.state.Active;
+    const auto selected = with_.panes.selectedNames(side);
+    with_.panes.listing(side).SortType = index;
+    with_.panes.sort(side);
+    with_.panes.selectNames(side, selected);
+    updateStates();
+}
+
+void MainCommands::mnuModeBsc() {
+    switchTo(TransferMode::Bsc);
+}
+
+void MainCommands::mnuModeHiSpeed() {
+    switchTo(TransferMode::HispeedLink);
+}
+
+void MainCommands::switchTo(TransferMode mode) {
+    if (switchMode(with_.state, mode) && with_.state.StartupDone)
+        emptyControllerPane();
+    showMode();
+    updateStates();
+}
+
+void MainCommands::showMode() {
+    shownMode_ = with_.state.TransMode;
+    with_.view.showMode(modeLook(with_.state.TransMode, with_.messages));
+}
+
+void MainCommands::applyHispeedAvailability() {
+    if (leaveUnavailableMode(with_.state)) {
+        emptyControllerPane();
+        showMode();
+    }
+    updateStates();
+}
+
+void MainCommands::modeWasChanged() {
+    if (shownMode_ != with_.state.TransMode)
+        emptyControllerPane();
+    showMode();
+    updateStates();
+}
+
+void MainCommands::recaption() {
+    showMode();
+    with_.panes.showCount(ActiveSide::PC);
+    with_.panes.showCount(ActiveSide::Controller);
+    updateStates();
+}
+
+/// The list of one machine never stands beside the name of another.
+void MainCommands::emptyControllerPane() {
+    with_.panes.emptyController();
+    with_.panes.fill(ActiveSide::Controller);
+}
+
+void MainCommands::mnuRefresh() {
+    {
+        const WindowLock lock(with_.window);
+        if (with_.state.Active == ActiveSide::Controller)
+            refreshController();
+        else
+            refreshPC();
+    }
+    with_.window.list(with_.state.Active).focus();
+    updateStates();
+}
+
+void MainCommands::refreshController() {
+    const auto selected = with_.panes.selectedNames(ActiveSide::Controller);
+    if (!with_.panes.readController()) {
+        // An unset address was reported by the session already.
+        if (!with_.session.endedByUnsetAddress())
+            with_.dialog.tell(with_.messages.getMessage(message::controllerNotRead),
+                              BoxIcon::Exclamation);
+        return;
+    }
+    with_.panes.fill(ActiveSide::Controller);
+    with_.panes.selectNames(ActiveSide::Controller, selected);
+}
+
+void MainCommands::refreshPC() {
+    const auto selected = with_.panes.selectedNames(ActiveSide::PC);
+    openPCFolder(with_.state.PCPath);
+    with_.panes.selectNames(ActiveSide::PC, selected);
+}
+
+void MainCommands::openPCFolder(const std::string& folder) {
+    if (!with_.panes.scanPC(folder)) {
+        with_.dialog.tell("File Get Error!!", BoxIcon::Exclamation);
+        return;
+    }
+    with_.view.showFolder(with_.state.PCPath);
+    if (!with_.panes.fill(ActiveSide::PC))
+        with_.dialog.tell("File Dispaly Error!!", BoxIcon::Exclamation);
+}
+
+void MainCommands::upFolder() {
+    const auto parent = PathRules().parent(with_.state.PCPath);
+    if (parent != with_.state.PCPath)
+        openPCFolder(parent);
+    updateStates();
+}
+
+void MainCommands::mnuEnd() {
+    with_.view.closeWindow();
+}
+
+void MainCommands::activate(ActiveSide side) {
+    if (with_.state.Active == side)
+        return;
+    with_.state.Active = side;
+    with_.view.showActiveSide(side);
+    updateStates();
+}
+
+void MainCommands::chooseFilter(ActiveSide side) {
+    with_.panes.fill(side);
+    updateStates();
+}
+
+void MainCommands::updateStates() {
+    with_.view.showStates(currentStates());
+}
+
+CommandStates MainCommands::currentStates() const {
+    const auto& state = with_.state;
+    return commandStates({
+        .active = state.Active,
+        .pcDispType = state.PCDispType,
+        .ctrlDispType = state.CtrlDispType,
+        .pcSortType = state.PCListing.SortType,
+        .ctrlSortType = state.CtrlListing.SortType,
+        .mode = state.TransMode,
+        .hispeedAvailable = hispeedAvailable(state),
+        .locked = state.Busy,
+        .viewerShown = false,
+        .focusedKind = with_.view.focusedKind(),
+        .controllerFilter = with_.window.filterIndex(ActiveSide::Controller),
+        .JBR = state.JBR,
+    });
+}
+
+} // namespace vantrel

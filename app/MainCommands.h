@@ -1,0 +1,88 @@
+#pragma once
+
+#include "base/ApplicationState.h"
+#include "lang/Captions.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vantrel {
+
+class MainWindowView;
+class MessageTable;
+class OperatorDialog;
+struct CommandStates;
+class PaneWindow;
+class Panes;
+class Snappy;
+class TransferCommands;
+
+/// What the main window's commands work with; everything is borrowed and outlives them.
+struct MainServices {
+    ApplicationState& state;
+    Snappy& session;
+    Panes& panes;
+    TransferCommands& transfers;
+    const MessageTable& messages;
+    OperatorDialog& dialog;
+    PaneWindow& window;
+    MainWindowView& view;
+};
+
+/// The commands of the main window, by their names in its menus. Each acts on the active pane and
+/// ends by bringing menus and buttons in line.
+class MainCommands {
+  public:
+    explicit MainCommands(const MainServices& services) : with_(services) {}
+
+    /// Runs a menu entry; false when it is none of these commands.
+    bool menu(MenuItem item);
+    /// Runs a tool button by its key; another key does nothing.
+    void tool(std::string_view key);
+    /// A key pressed in a pane's list, by its character code; false when the list itself handles
+    /// it.
+    bool listKey(ActiveSide side, int key, bool control);
+
+    /// 0 copy, 1 move, 2 delete, 3 select all.
+    void mnuFile(int index);
+    /// View 0 to 3 of the active pane.
+    void mnuDisp(std::int16_t index);
+    /// Sort type of the active pane; an index without a column sorts by name.
+    void mnuSort(std::int16_t index);
+    void mnuModeBsc();
+    void mnuModeHiSpeed();
+    void mnuRefresh();
+    /// One folder up in the PC pane; a root stays.
+    void upFolder();
+    void mnuEnd();
+
+    /// Makes a pane the active one.
+    void activate(ActiveSide side);
+    /// Refills a pane after another entry of its filter box was chosen.
+    void chooseFilter(ActiveSide side);
+    /// Lists a folder in the PC pane; a failure is told and changes nothing.
+    void openPCFolder(const std::string& folder);
+    /// Leaves a mode that the controller model does not have, and shows what is available.
+    void applyHispeedAvailability();
+    /// Shows a mode that the session was told by name.
+    void modeWasChanged();
+    /// After a change of language: title and counts.
+    void recaption();
+    /// Brings menus and buttons in line with the state.
+    void updateStates();
+
+  private:
+    CommandStates currentStates() const;
+    void switchTo(TransferMode mode);
+    void showMode();
+    void refreshController();
+    void refreshPC();
+
+    void emptyControllerPane();
+
+    MainServices with_;
+    TransferMode shownMode_ = TransferMode::Bsc;
+};
+
+} // namespace vantrel

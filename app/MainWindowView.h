@@ -1,0 +1,42 @@
+#pragma once
+
+#include "base/ApplicationState.h"
+#include "files/FileKinds.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace vantrel {
+
+struct CommandStates;
+struct ModeLook;
+
+/// The main window as its commands and its start see it: it shows what it is told and knows no
+/// rule.
+class MainWindowView {
+  public:
+    virtual ~MainWindowView() = default;
+
+    /// The caption font and every caption of the window, counts included.
+    virtual void applyFont() = 0;
+    virtual void applyCaptions() = 0;
+    /// Twips; of the window and of the first three columns of `lsvPC`.
+    virtual void place(const std::array<std::int32_t, 8>& windowPositions) = 0;
+
+    virtual void showStates(const CommandStates& states) = 0;
+    virtual void showMode(const ModeLook& look) = 0;
+    virtual void showActiveSide(ActiveSide side) = 0;
+    virtual void showSerialLine(const std::string& port, const std::string& format) = 0;
+    virtual void showAddress(const std::string& address) = 0;
+    virtual void showFolder(const std::string& path) = 0;
+    virtual void showView(ActiveSide side, std::int16_t displayType) = 0;
+
+    virtual void selectAll(ActiveSide side) = 0;
+    /// Of the item that has the focus in `lsvPC`.
+    virtual std::optional<FileKind> focusedKind() const = 0;
+    virtual void closeWindow() = 0;
+};
+
+} // namespace vantrel

@@ -1,0 +1,74 @@
+#include "app/RobotFileWriter.h"
+
+#include "app/RobotList.h"
+#include "app/RobotPaths.h"
+#include "base/Text.h"
+
+#include <initializer_list>
+
+namespace vantrel {
+namespace {
+
+bool isReadable(std::string_view value) {
+    return value.find_first_of(registryDelimiters) == std::string_view::npos &&
+           value.find('\0') == std::string_view::npos;
+}
+
+// What a value would be read back as, were it written as it stands.
+std::string_view asToken(std::string_view value) {
+    value = value.substr(0, value.find('\0'));
+    const std::size_t start = value.find_first_not_of(registryDelimiters);
+    if (start == std::string_view::npos)
+        return {};
+    value.remove_prefix(start);
+    return value.substr(0, value.find_first_of(registryDelimiters));
+}
+
+bool isQuoted(std::string_view text) {
+    return text.size() > 1 && (text.front() == '"' || text.front() == '\'') &&
+           text.front() == text.back();
+}
+
+void addLine(std::string& text, std::initializer_list<std::string_view> parts) {
+    for (const std::string_view part : parts)
+        text += part;
+    text += "\r\n";
+}
+
+void addRobot(std::string& text, const RobotRecord& robot, const RobotPaths& paths) {
+    addLine(text, {"[Robot]"});
+    addLine(text, {"Name=", writableName(robot.Name)});
+    addLine(text, {"IPaddr=", asToken(robot.IPaddr)});
+    addLine(text, {"Path=", writableFolder(robot.Path, paths)});
+    addLine(text, {});
+}
+
+} // namespace
+
+std::string writableName(std::string_view name) {
+    std::string_view kept = trimmed(asToken(name));
+    while (isQuoted(kept))
+        kept = trimmed(kept.substr(1, kept.size() - 2));
+    return kept == endOfRobots ? std::string() : std::string(kept);
+}
+
+std::string writableFolder(std::string_view folder, const RobotPaths& paths) {
+    if (isReadable(folder))
+        return std::string(folder);
+    const std::string relative = paths.relative(folder);
+    return isReadable(relative) && !paths.isAbsolute(relative) ? relative : std::string();
+}
+
+std::string registryText(std::string_view bootName, const std::vector<RobotRecord>& robots,
+                         const RobotPaths& paths) {
+    std::string text;
+    addLine(text, {"[Boot]"});
+    addLine(text, {"Name=", writableName(bootName)});
+    addLine(text, {});
+    const std::size_t count = robotCount(robots);
+    for (std::size_t index = 0; index < count; ++index)
+        addRobot(text, robots[index], paths);
+    return text;
+}
+
+} // namespace vantrel

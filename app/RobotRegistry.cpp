@@ -1,0 +1,195 @@
+#include "app/RobotRegistry.h"
+
+#include "app/RobotFileReader.h"
+#include "app/RobotFileWriter.h"
+#include "app/RobotList.h"
+#include "app/RobotPaths.h"
+#include "base/ApplicationState.h"
+#include "base/PathRules.h"
+#include "lang/MessageBoxes.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "platform/Files.h"
+#include "platform/ProfileFile.h"
+#include "platform/TextCase.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace vantrel {
+namespace {
+
+constexpr const char* fileName = "robot.ini";
+constexpr const char* defaultName = "DEFAULT";
+/// Longer than any name that a list can show, so that the boot name is never cut.
+constexpr std::size_t bootNameBuffer = 4096;
+
+bool isAscii(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+// A file in another encoding is not rightly read by the profile functions.
+bool profileUnderstands(TextEncoding encoding, bool plain) {
+    if (encoding == TextEncoding::Utf8)
+        return plain;
+    return encoding != TextEncoding::Utf8WithMark;
+}
+
+// The first name at which encoding the file fails, for the reason that is told.
+Failure notExpressible(const std::vector<RobotRecord>& robots, TextEncoding encoding) {
+    const auto found = std::ranges::find_if(robots, [encoding](const RobotRecord& robot) {
+        return !encodeText(robot.Name + robot.IPaddr + robot.Path, encoding);
+    });
+    const std::string name = found == robots.end() ? std::string() : " [" + found->Name + "]";
+    return {"A character cannot be expressed in the encoding of " + std::string(fileName) + name};
+}
+
+} // namespace
+
+std::string robotBaseFolder(const std::string& folder) {
+    const std::string lower = lowerCase(folder);
+    return isFolder(lower) ? lower : folder;
+}
+
+bool makeFoldersAbsolute(std::vector<RobotRecord>& robots, const RobotPaths& paths) {
+    for (RobotRecord& robot : robots) {
+        if (robot.Name == endOfRobots)
+            return true;
+        robot.Path = paths.absolute(robot.Path);
+    }
+    return false;
+}
+
+RobotRegistry::RobotRegistry(ApplicationState& state, const MessageTable& messages,
+                             MessageBoxes& boxes, std::string programFolder)
+    : state_(state), messages_(messages), boxes_(boxes),
+      programFolder_(PathRules().withoutTrailingSeparator(programFolder)),
+      path_(PathRules().join(programFolder_, fileName)) {}
+
+void RobotRegistry::read(RobotBox& box) {
+    // In a folder that cannot be written the default list is worked with all the same; that it
+    // cannot be kept is told when the program ends.
+    if (!anythingExists(path_))
+        (void)replaceFile(path_, encoded(defaultText()).value_or(std::string()));
+    const Result<std::string> content = fileContent();
+    state_.BaseDir = robotBaseFolder(currentFolder());
+    state_.RobotList = emptyRobotList();
+    if (!content || !readList(*content)) {
+        tellNotRead();
+        return;
+    }
+    selectBootRobot();
+    fillBox(box);
+}
+
+Result<std::string> RobotRegistry::fileContent() const {
+    if (anythingExists(path_))
+        return readFile(path_);
+    return encoded(defaultText()).value_or(std::string());
+}
+
+std::string RobotRegistry::defaultText() const {
+    std::vector<RobotRecord> robots = emptyRobotList();
+    RobotRecord robot;
+    robot.Name = defaultName;
+    robot.IPaddr = "0.0.0.0";
+    robot.Path = programFolder_;
+    robots.insert(robots.begin(), robot);
+    return registryText(defaultName, robots, RobotPaths(programFolder_));
+}
+
+// Whether the folders can be entered is not looked at here: nothing would follow from it, and a
+// dead network path would hold up the start. A folder is entered when its robot is chosen.
+bool RobotRegistry::readList(const std::string& content) {
+    const DecodedText decoded = decodeText(content);
+    encoding_ = decoded.encoding;
+    plain_ = encoding_ == TextEncoding::Utf8 && isAscii(content);
+    readBootName(decoded.text);
+    TextLines lines(decoded.text);
+    RobotFileReader reader(lines, boxes_, programFolder_);
+    state_.RobotList = reader.readList();
+    readWhole_ = !reader.endedEarly();
+    return makeFoldersAbsolute(state_.RobotList, RobotPaths(state_.BaseDir));
+}
+
+void RobotRegistry::readBootName(const std::string& text) {
+    if (profileUnderstands(encoding_, plain_)) {
+        state_.BootName = ProfileFile(path_).text("Boot", "Name", "", bootNameBuffer);
+        return;
+    }
+    TextLines lines(text);
+    RobotFileReader reader(lines, boxes_, programFolder_);
+    std::optional<std::string> block = reader.FindFirstBlock();
+    while (block && *block != "Boot")
+        block = reader.FindFirstBlock();
+    RobotRecord boot;
+    if (block)
+        reader.ReadBlock_Robot(boot);
+    state_.BootName = writableName(boot.Name);
+}
+
+void RobotRegistry::selectBootRobot() {
+    constexpr std::size_t limit = std::numeric_limits<std::int16_t>::max();
+    const std::size_t count = std::min(robotCount(state_.RobotList), limit);
+    state_.CurrentRobotIndex = 0;
+    for (std::size_t index = 0; index < count; ++index) {
+        if (state_.RobotList[index].Name == state_.BootName)
+            state_.CurrentRobotIndex = static_cast<std::int16_t>(index);
+    }
+    if (count > 0)
+        state_.CurrentRobot = state_.RobotList[static_cast<std::size_t>(state_.CurrentRobotIndex)];
+    state_.StartRobotIndex = state_.CurrentRobotIndex;
+}
+
+void RobotRegistry::fillBox(RobotBox& box) const {
+    box.clear();
+    const std::size_t count = robotCount(state_.RobotList);
+    for (std::size_t index = 0; index < count; ++index)
+        box.add(state_.RobotList[index].Name);
+    if (state_.CurrentRobotIndex >= 0 && static_cast<std::size_t>(state_.CurrentRobotIndex) < count)
+        box.select(state_.CurrentRobotIndex);
+}
+
+void RobotRegistry::tellNotRead() {
+    readWhole_ = false;
+    boxes_.tell(messages_.getMessage(message::registryNotRead) + "[" + fileName + "]",
+                BoxIcon::Exclamation);
+}
+
+// A file that holds ASCII only goes on in the code page, which the profile functions read; only
+// where that lacks a character, or would be taken for UTF-8, in UTF-8.
+std::optional<std::string> RobotRegistry::encoded(const std::string& text) const {
+    if (!plain_)
+        return encodeText(text, encoding_);
+    auto bytes = encodeText(text, TextEncoding::CodePage);
+    if (bytes && decodeText(*bytes).text == text)
+        return bytes;
+    return encodeText(text, TextEncoding::Utf8);
+}
+
+Outcome RobotRegistry::keepUnreadFile() const {
+    if (!anythingExists(path_))
+        return Done{};
+    std::string backup = path_ + ".bak";
+    for (int number = 2; anythingExists(backup); ++number)
+        backup = path_ + ".bak" + std::to_string(number);
+    return renameFile(path_, backup);
+}
+
+Outcome RobotRegistry::write() {
+    if (!readWhole_ && !edited_)
+        return Done{};
+    const auto bytes = encoded(
+        registryText(state_.CurrentRobot.Name, state_.RobotList, RobotPaths(state_.BaseDir)));
+    if (!bytes)
+        return notExpressible(state_.RobotList, encoding_);
+    if (!readWhole_) {
+        if (const Outcome kept = keepUnreadFile(); !kept)
+            return kept;
+        readWhole_ = true;
+    }
+    return replaceFile(path_, *bytes);
+}
+
+} // namespace vantrel

@@ -1,0 +1,42 @@
+#include "app/Shutdown.h"
+
+#include "app/RobotRegistry.h"
+#include "base/ApplicationState.h"
+#include "lang/MessageBoxes.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/Snappy.h"
+
+namespace vantrel {
+
+bool Shutdown::close() {
+    if (closed_)
+        return true;
+    // Before anything is unloaded: a running operation still needs its windows.
+    if (isRefused())
+        return false;
+    with_.windows.unloadOtherWindows();
+    if (!with_.boxes.askOkCancel(with_.messages.getMessage(message::askExit), BoxIcon::Question))
+        return false;
+    if (!with_.state.NoSave)
+        save();
+    with_.session.Quit();
+    closed_ = true;
+    return true;
+}
+
+bool Shutdown::isRefused() const {
+    return with_.windows.isLocked() || with_.state.Busy || !with_.state.StartupDone;
+}
+
+void Shutdown::save() const {
+    // Settings that cannot be kept cost the operator a few clicks and are not worth a word; lost
+    // robots are.
+    (void)with_.settings.write(with_.state, with_.windows.placement());
+    const Outcome registry = with_.registry.write();
+    if (!registry)
+        with_.boxes.tell(with_.messages.getMessage(message::registryNotWritten) + registry.reason(),
+                         BoxIcon::Exclamation);
+}
+
+} // namespace vantrel

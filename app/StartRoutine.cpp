@@ -1,0 +1,131 @@
+#include "app/StartRoutine.h"
+
+#include "app/ModeCommands.h"
+#include "app/RobotRegistry.h"
+#include "app/SessionParameters.h"
+#include "app/SettingsFile.h"
+#include "base/ApplicationState.h"
+#include "base/PathRules.h"
+#include "files/Panes.h"
+#include "files/TransferTable.h"
+#include "lang/LanguageChoice.h"
+#include "lang/MessageBoxes.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/Snappy.h"
+#include "platform/Files.h"
+
+#include <exception>
+
+namespace vantrel {
+
+StartRoutine::StartRoutine(const StartServices& services) : with_(services) {}
+
+StartResult StartRoutine::Main() {
+    try {
+        return run();
+    } catch (const std::exception& error) {
+        return trap(error.what());
+    }
+}
+
+StartResult StartRoutine::run() {
+    if (with_.commandLine.endsAtOnce)
+        return StartResult::ExitSwitch;
+    with_.state.IniFileName = settingsFileName(with_.executable);
+    with_.state.TransMode = TransferMode::Bsc;
+    // A missing or broken table leaves its rows so far; transfers then explain what they refuse.
+    (void)with_.table.load(with_.programFolder);
+    if (!with_.language.loadDefaultLanguage())
+        return StartResult::NoLanguage;
+    with_.state.StartupDone = false;
+    if (with_.commandLine.startedForAutomation)
+        return StartResult::Automation;
+    session_ = &with_.windows.createSession();
+    if (const Outcome entered = enterProgramFolder(); !entered)
+        return trap(with_.programFolder + ": " + entered.reason());
+    setHelpFile();
+    if (!chooseLanguage())
+        return StartResult::LanguageCancelled;
+    setHelpFile();
+    loadSettings();
+    offerControllerDirectory();
+    openMainWindow();
+    return StartResult::Running;
+}
+
+Outcome StartRoutine::enterProgramFolder() {
+    const Outcome entered = changeCurrentFolder(with_.programFolder);
+    if (entered)
+        with_.state.PCPath = currentFolder();
+    return entered;
+}
+
+// One file for every language.
+void StartRoutine::setHelpFile() {
+    with_.windows.setHelpFile(PathRules().join(with_.programFolder, "Vantrel.hlp"));
+}
+
+bool StartRoutine::chooseLanguage() {
+    const std::string& settingsPath = with_.settings.path();
+    if (with_.language.loadLanguagePreference(settingsPath)) {
+        // The locale's font first: a settings file without fonts must not leave one of size 0.
+        with_.language.setDefaultFonts(settingsPath);
+        return true;
+    }
+    with_.state.LangCancelled = false;
+    with_.windows.showLanguageDialog();
+    return !with_.state.LangCancelled;
+}
+
+void StartRoutine::loadSettings() {
+    with_.windows.showStartMessage();
+    // The registry fills the robot box, so the window has to be there, still hidden.
+    with_.windows.buildMainWindow();
+    with_.settings.read(with_.state);
+    with_.registry.read(with_.windows.robotBox());
+    passSessionParameters(with_.state, *session_);
+    session_->path = with_.state.PCPath;
+    with_.windows.unloadStartMessage();
+    // Before the directory is read, so that the question is about the machine that is meant. The
+    // controller's filters follow the model, which is known only now.
+    normaliseMode(with_.state);
+    with_.windows.panes().fillFilterChoices();
+}
+
+void StartRoutine::offerControllerDirectory() {
+    Panes& panes = with_.windows.panes();
+    const MessageTable& messages = with_.messages;
+    if (with_.boxes.askYesNo(messages.getMessage(message::askReadController), BoxIcon::Question)) {
+        with_.windows.loadVersionWindow();
+        if (!panes.readController()) {
+            // An address that is not set has been told by the session.
+            if (!session_->endedByUnsetAddress())
+                with_.boxes.tell(messages.getMessage(message::controllerNotRead),
+                                 BoxIcon::Exclamation);
+            panes.emptyController();
+        }
+        with_.windows.showVersionWindow();
+    } else {
+        panes.emptyController();
+    }
+    panes.fill(ActiveSide::Controller);
+}
+
+void StartRoutine::openMainWindow() {
+    with_.windows.showMainWindow();
+    with_.windows.focusPCList();
+    with_.state.Busy = false;
+    with_.windows.startMainWindow();
+    with_.state.StartupDone = true;
+}
+
+// The texts of a language may not be there yet, so this one is fixed like that of a missing
+// language file.
+StartResult StartRoutine::trap(const std::string& reason) {
+    with_.state.NoSave = true;
+    with_.boxes.tell("Start Error.(" + reason + ")", BoxIcon::Exclamation);
+    return StartResult::Trapped;
+}
+
+} // namespace vantrel

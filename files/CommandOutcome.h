@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+namespace vantrel {
+
+/// What a transfer command comes to. A side is touched when something there may have changed; only
+/// touched sides are read anew at the end.
+struct CommandOutcome {
+    bool succeeded = true;
+    bool pcTouched = false;
+    bool controllerTouched = false;
+};
+
+/// An item of a pane when a command began.
+struct SelectedItem {
+    std::string name;
+    bool isFolder = false;
+};
+
+} // namespace vantrel

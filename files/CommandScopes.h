@@ -1,0 +1,42 @@
+#pragma once
+
+#include "files/TransferServices.h"
+
+#include <cstddef>
+#include <string>
+
+namespace vantrel {
+
+/// Keeps the main window locked while a command runs.
+class WindowLock {
+  public:
+    explicit WindowLock(PaneWindow& window);
+    ~WindowLock();
+    WindowLock(const WindowLock&) = delete;
+    WindowLock& operator=(const WindowLock&) = delete;
+
+  private:
+    PaneWindow& window_;
+};
+
+/// Shows a command's progress, with the Cancel button and a cleared cancel mark. However the
+/// command ends, the progress is hidden and the session's `DisplayMonitor` on again.
+class CommandProgress {
+  public:
+    /// `label` stands alone first and before the file's name in each step.
+    CommandProgress(const TransferServices& services, const std::string& title, std::string label);
+    ~CommandProgress();
+    CommandProgress(const CommandProgress&) = delete;
+    CommandProgress& operator=(const CommandProgress&) = delete;
+
+    /// The next file of a command that goes file by file: shows it and lets a press of Cancel in.
+    /// False when the operator has cancelled.
+    bool next(const std::string& name, std::size_t item, std::size_t count);
+    bool isCancelled() const;
+
+  private:
+    TransferServices with_;
+    std::string label_;
+};
+
+} // namespace vantrel

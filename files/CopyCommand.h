@@ -1,0 +1,27 @@
+#pragma once
+
+#include "files/CommandOutcome.h"
+#include "files/PermissionTests.h"
+#include "files/TransferServices.h"
+
+#include <vector>
+
+namespace vantrel {
+
+/// A copy through the session's job list: the session asks its own overwrite questions and stops at
+/// the first failure of the library.
+class CopyCommand {
+  public:
+    explicit CopyCommand(const TransferServices& services) : with_(services) {}
+
+    CommandOutcome send(const std::vector<SelectedItem>& items);
+    /// With the `JBR` setting on, ".JBR" files are asked for in place of ".JBI" jobs.
+    CommandOutcome receive(std::vector<SelectedItem> items);
+
+  private:
+    bool transfer(const std::vector<SelectedItem>& items, Direction direction, bool& called);
+
+    TransferServices with_;
+};
+
+} // namespace vantrel

@@ -1,0 +1,79 @@
+#include "files/DeleteCommand.h"
+
+#include "base/ApplicationState.h"
+#include "base/PathRules.h"
+#include "files/TransferReports.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/OperatorDialog.h"
+#include "link/Snappy.h"
+#include "platform/Files.h"
+
+namespace vantrel {
+
+DeleteCommand::DeleteCommand(const TransferServices& services)
+    : with_(services), title_(with_.messages.getMessage(message::title)),
+      progress_(with_, title_, with_.messages.resourceMessage(message::resource::deleting)) {}
+
+/// The session works silently, since its progress would take the place of this command's, whose
+/// Cancel button has to stay for the files that follow.
+CommandOutcome DeleteCommand::onController(const std::vector<SelectedItem>& items) {
+    with_.session.DisplayMonitor = false;
+    run(items, message::askDeleteOnController,
+        [this](const std::string& name) { return deleteOnController(name); });
+    return outcome_;
+}
+
+CommandOutcome DeleteCommand::onPC(const std::vector<SelectedItem>& items) {
+    run(items, message::askDeleteOnPC, [this](const std::string& name) {
+        deleteOnPC(name);
+        return true;
+    });
+    return outcome_;
+}
+
+void DeleteCommand::run(const std::vector<SelectedItem>& items, std::int32_t question,
+                        const Deletion& deletion) {
+    for (std::size_t item = 0; item < items.size() && !cancelled_; ++item) {
+        const std::string& name = items[item].name;
+        if (items[item].isFolder)
+            TransferReports(with_).aboutFile(name, message::folderPassedOver);
+        else if (isWanted(name, question))
+            cancelled_ = !progress_.next(name, item, items.size()) || !deletion(name);
+    }
+    outcome_.succeeded = outcome_.succeeded && !cancelled_;
+}
+
+bool DeleteCommand::isWanted(const std::string& name, std::int32_t question) {
+    if (deleteAll_)
+        return true;
+    const std::string text = "[" + name + "]" + with_.messages.getMessage(question);
+    const Answer answer = with_.dialog.ask(title_, text);
+    deleteAll_ = answer == Answer::All;
+    cancelled_ = answer == Answer::Cancel;
+    return answer == Answer::Yes || answer == Answer::All;
+}
+
+bool DeleteCommand::deleteOnController(const std::string& name) {
+    outcome_.controllerTouched = true;
+    if (with_.session.JobDelete(name))
+        return true;
+    outcome_.succeeded = false;
+    if (with_.session.endedByUnsetAddress()) {
+        outcome_.controllerTouched = false;
+        return false;
+    }
+    TransferReports(with_).deletionFailed();
+    return true;
+}
+
+void DeleteCommand::deleteOnPC(const std::string& name) {
+    outcome_.pcTouched = true;
+    const Outcome removed = removeFile(PathRules().join(with_.state.PCPath, name));
+    if (removed)
+        return;
+    outcome_.succeeded = false;
+    TransferReports(with_).aboutFile(name, message::notDeletedFromPC, removed.reason());
+}
+
+} // namespace vantrel

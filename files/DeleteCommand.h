@@ -1,0 +1,41 @@
+#pragma once
+
+#include "files/CommandOutcome.h"
+#include "files/CommandScopes.h"
+#include "files/TransferServices.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+/// The deletion of selected items, each asked for until the operator answers All. A failure is
+/// reported and the next file follows. Made for one command.
+class DeleteCommand {
+  public:
+    explicit DeleteCommand(const TransferServices& services);
+
+    CommandOutcome onController(const std::vector<SelectedItem>& items);
+    CommandOutcome onPC(const std::vector<SelectedItem>& items);
+
+  private:
+    /// False when the command ends with this file.
+    using Deletion = std::function<bool(const std::string& name)>;
+
+    void run(const std::vector<SelectedItem>& items, std::int32_t question,
+             const Deletion& deletion);
+    bool isWanted(const std::string& name, std::int32_t question);
+    bool deleteOnController(const std::string& name);
+    void deleteOnPC(const std::string& name);
+
+    TransferServices with_;
+    std::string title_;
+    CommandProgress progress_;
+    CommandOutcome outcome_;
+    bool deleteAll_ = false;
+    bool cancelled_ = false;
+};
+
+} // namespace vantrel

@@ -1,0 +1,138 @@
+#include "files/MoveCommand.h"
+
+#include "base/ApplicationState.h"
+#include "base/PathRules.h"
+#include "files/TransferReports.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/LocalJobList.h"
+#include "link/OperatorDialog.h"
+#include "link/Snappy.h"
+#include "platform/Files.h"
+
+namespace vantrel {
+
+MoveCommand::MoveCommand(const TransferServices& services, Direction direction)
+    : with_(services), direction_(direction),
+      title_(with_.messages.getMessage(message::transferTitle)),
+      progress_(with_, title_, with_.messages.resourceMessage(message::resource::transferring)) {
+    with_.session.path = PathRules().withSeparator(with_.state.PCPath);
+    with_.session.DisplayMonitor = false;
+}
+
+CommandOutcome MoveCommand::run(const std::vector<SelectedItem>& items) {
+    const auto names = movable(items);
+    for (std::size_t item = 0; item < names.size(); ++item)
+        if (!progress_.next(names[item], item, names.size()) || !move(names[item])) {
+            outcome_.succeeded = false;
+            break;
+        }
+    return outcome_;
+}
+
+/// Jobs that belong to the PC alone are passed over here as in the session's list transfers.
+std::vector<std::string> MoveCommand::movable(const std::vector<SelectedItem>& items) const {
+    LocalJobList local;
+    local.read(with_.session.path);
+    auto names = PermissionTests(with_, direction_).permitted(items);
+    std::erase_if(names, [&](const std::string& name) {
+        if (!local.contains(name))
+            return false;
+        TransferReports(with_).aboutFile(name, message::localJobPassedOver);
+        return true;
+    });
+    return names;
+}
+
+bool MoveCommand::move(const std::string& name) {
+    const Arrival arrival = transfer(name);
+    if (arrival != Arrival::Arrived)
+        return arrival == Arrival::NotArrived;
+    if (direction_ == Direction::Receive)
+        return removeFromController(name);
+    removeFromPC(name);
+    return true;
+}
+
+MoveCommand::Arrival MoveCommand::transfer(const std::string& name) {
+    if (callSession(name, overwriteAll_))
+        return Arrival::Arrived;
+    if (overwriteAll_ || !existsAlready())
+        return failed();
+    switch (askOverwrite(name)) {
+    case Answer::No:
+        return Arrival::NotArrived;
+    case Answer::Cancel:
+        return Arrival::EndOfCommand;
+    case Answer::All:
+        overwriteAll_ = true;
+        break;
+    case Answer::Yes:
+        break;
+    }
+    return transferOver(name);
+}
+
+/// With the operator's leave. "Exists already" is a failure now: asking again would not end.
+MoveCommand::Arrival MoveCommand::transferOver(const std::string& name) {
+    if (progress_.isCancelled())
+        return Arrival::EndOfCommand;
+    return callSession(name, true) ? Arrival::Arrived : failed();
+}
+
+bool MoveCommand::callSession(const std::string& name, bool overwrite) {
+    touchBothSides();
+    return direction_ == Direction::Send ? with_.session.JobDownLoad(name, overwrite)
+                                         : with_.session.JobUpLoad(name, overwrite);
+}
+
+void MoveCommand::touchBothSides() {
+    outcome_.pcTouched = true;
+    outcome_.controllerTouched = true;
+}
+
+/// The silent session answers its own overwrite question with Cancel.
+bool MoveCommand::existsAlready() const {
+    return !with_.session.endedByUnsetAddress() && with_.session.ErrorFunction().empty() &&
+           with_.session.ErrorCode() == session_code::cancelled;
+}
+
+Answer MoveCommand::askOverwrite(const std::string& name) const {
+    return with_.dialog.ask(
+        title_, name + " " + with_.messages.resourceMessage(message::resource::alreadyExists));
+}
+
+/// An unset address concerns every file: the session has told the operator, and the command ends
+/// without another attempt.
+MoveCommand::Arrival MoveCommand::failed() {
+    outcome_.succeeded = false;
+    if (with_.session.endedByUnsetAddress()) {
+        outcome_.controllerTouched = false;
+        return Arrival::EndOfCommand;
+    }
+    TransferReports(with_).transferFailed();
+    return Arrival::NotArrived;
+}
+
+void MoveCommand::removeFromPC(const std::string& name) {
+    const Outcome removed = removeFile(PathRules().join(with_.state.PCPath, name));
+    if (removed)
+        return;
+    outcome_.succeeded = false;
+    TransferReports(with_).aboutFile(name, message::originalNotDeleted, removed.reason());
+}
+
+/// A press of Cancel keeps the original: it stops before the next call, and this is one.
+bool MoveCommand::removeFromController(const std::string& name) {
+    if (progress_.isCancelled())
+        return false;
+    if (with_.session.JobDelete(name))
+        return true;
+    outcome_.succeeded = false;
+    if (with_.session.endedByUnsetAddress())
+        return false;
+    TransferReports(with_).originalNotDeleted(name);
+    return true;
+}
+
+} // namespace vantrel

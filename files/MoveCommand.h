@@ -1,0 +1,48 @@
+#pragma once
+
+#include "files/CommandOutcome.h"
+#include "files/CommandScopes.h"
+#include "files/PermissionTests.h"
+#include "files/TransferServices.h"
+
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+enum class Answer;
+
+/// A move, file by file: each source goes once its copy has arrived, which the session vouches for.
+/// The session works silently and the questions are asked here; a failure of one file is reported
+/// and the next one follows. Made for one command.
+class MoveCommand {
+  public:
+    MoveCommand(const TransferServices& services, Direction direction);
+
+    CommandOutcome run(const std::vector<SelectedItem>& items);
+
+  private:
+    enum class Arrival { Arrived, NotArrived, EndOfCommand };
+
+    std::vector<std::string> movable(const std::vector<SelectedItem>& items) const;
+    /// False when the command ends with this file.
+    bool move(const std::string& name);
+    Arrival transfer(const std::string& name);
+    Arrival transferOver(const std::string& name);
+    bool callSession(const std::string& name, bool overwrite);
+    bool existsAlready() const;
+    Answer askOverwrite(const std::string& name) const;
+    Arrival failed();
+    void removeFromPC(const std::string& name);
+    bool removeFromController(const std::string& name);
+    void touchBothSides();
+
+    TransferServices with_;
+    Direction direction_;
+    std::string title_;
+    CommandProgress progress_;
+    CommandOutcome outcome_;
+    bool overwriteAll_ = false;
+};
+
+} // namespace vantrel

@@ -1,0 +1,50 @@
+#include "files/PaneRefresh.h"
+
+#include "files/Panes.h"
+#include "files/TransferReports.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/Snappy.h"
+
+namespace vantrel {
+
+PaneRefresh::PaneRefresh(const TransferServices& services)
+    : with_(services), selectedOnPC_(with_.panes.selectedNames(ActiveSide::PC)),
+      selectedOnController_(with_.panes.selectedNames(ActiveSide::Controller)) {}
+
+bool PaneRefresh::refreshPC() const {
+    if (!with_.panes.scanPC(with_.state.PCPath)) {
+        TransferReports(with_).tell("File Get Error!!");
+        return false;
+    }
+    return fill(ActiveSide::PC, selectedOnPC_);
+}
+
+/// The old list stays when the directory cannot be read, and the operator is told so even when the
+/// command has reported a failure already: what is shown may be out of date. Only an unset address
+/// has been named by the session itself.
+bool PaneRefresh::refreshController() const {
+    if (!with_.panes.readController()) {
+        if (!with_.session.endedByUnsetAddress())
+            TransferReports(with_).tell(with_.messages.getMessage(message::controllerNotRead));
+        return false;
+    }
+    return fill(ActiveSide::Controller, selectedOnController_);
+}
+
+void PaneRefresh::refreshTouched(const CommandOutcome& outcome) const {
+    if (outcome.controllerTouched)
+        refreshController();
+    if (outcome.pcTouched)
+        refreshPC();
+}
+
+bool PaneRefresh::fill(ActiveSide side, const std::vector<std::string>& selected) const {
+    const bool isFilled = with_.panes.fill(side);
+    if (!isFilled)
+        TransferReports(with_).tell("File Dispaly Error!!");
+    with_.panes.selectNames(side, selected);
+    return isFilled;
+}
+
+} // namespace vantrel

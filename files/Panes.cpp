@@ -1,0 +1,166 @@
+#include "files/Panes.h"
+
+#include "base/PathRules.h"
+#include "files/ControllerModels.h"
+#include "files/FileFilters.h"
+#include "files/PaneWindow.h"
+#include "files/TransferTable.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/Snappy.h"
+#include "platform/Files.h"
+
+#include <algorithm>
+#include <limits>
+#include <unordered_set>
+
+namespace vantrel {
+
+namespace {
+
+class BusyPointer {
+  public:
+    explicit BusyPointer(PaneWindow& window) : window_(window) { window_.setBusyPointer(true); }
+    ~BusyPointer() { window_.setBusyPointer(false); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+
+  private:
+    PaneWindow& window_;
+};
+
+std::int32_t listedSize(const FolderEntry& entry) {
+    constexpr std::uint64_t largest = std::numeric_limits<std::int32_t>::max();
+    return entry.isFolder ? FolderListing::folderSize
+                          : static_cast<std::int32_t>(std::min(entry.size, largest));
+}
+
+/// The entries of `from`; the sort state of `to` stays, since it belongs to the pane.
+void takeEntries(FolderListing& to, FolderListing&& from) {
+    to.Path = std::move(from.Path);
+    to.Count = from.Count;
+    to.Names = std::move(from.Names);
+    to.Sizes = std::move(from.Sizes);
+    to.Dates = std::move(from.Dates);
+}
+
+/// The data files that a controller has under names of its own, whether or not its directory names
+/// them.
+void appendFixedNames(FolderListing& listing, const TransferTable& table, std::int16_t modelBit) {
+    for (const TransferRow& row : table.rows())
+        if (row.Name.find('*') == std::string::npos && (row.uploadMask & modelBit) != 0)
+            listing.append(row.Name, 0, DateText());
+}
+
+const ControllerModel& modelOf(ActiveSide side, const ApplicationState& state) {
+    return side == ActiveSide::PC ? pcModel() : controllerModel(state.Controler);
+}
+
+} // namespace
+
+Panes::Panes(ApplicationState& state, Snappy& session, const TransferTable& table,
+             const MessageTable& messages, PaneWindow& window)
+    : state_(state), session_(session), table_(table), messages_(messages), window_(window),
+      pcRows_(state.PCListing), controllerRows_(state.CtrlListing) {}
+
+bool Panes::scanPC(const std::string& folder) {
+    const BusyPointer busy(window_);
+    FolderListing scanned;
+    scanned.Path = folder;
+    const Outcome outcome =
+        visitFolder(PathRules().withSeparator(folder), [&scanned](const FolderEntry& entry) {
+            scanned.append(std::string(entry.name), listedSize(entry), entry.changed);
+        });
+    if (!outcome)
+        return false;
+    takeEntries(state_.PCListing, std::move(scanned));
+    pcRows_.clear();
+    state_.PCPath = folder;
+    return true;
+}
+
+bool Panes::readController() {
+    const BusyPointer busy(window_);
+    session_.MonitorTitle = messages_.getMessage(message::title);
+    std::vector<std::string> names;
+    if (!session_.ReadDirectory(names))
+        return false;
+    FolderListing read;
+    for (std::string& name : names)
+        read.append(std::move(name), 0, DateText());
+    appendFixedNames(read, table_, controllerModel(state_.Controler).bit);
+    takeEntries(state_.CtrlListing, std::move(read));
+    controllerRows_.clear();
+    return true;
+}
+
+void Panes::emptyController() {
+    state_.CtrlListing.clear();
+    state_.CtrlListing.Path.clear();
+    controllerRows_.clear();
+}
+
+bool Panes::fill(ActiveSide side) {
+    const BusyPointer busy(window_);
+    const ControllerModel& model = modelOf(side, state_);
+    const bool isWhole =
+        rows(side).fill([&model, index = window_.filterIndex(side)](std::string_view upperName) {
+            return matchesFilter(upperName, index, model);
+        });
+    sort(side);
+    showCount(side);
+    return isWhole;
+}
+
+/// Events that the yield lets in may fill the pane anew: what is shown after it are the rows as
+/// they are then.
+void Panes::sort(ActiveSide side) {
+    constexpr std::int16_t columnSize = 1;
+    rows(side).sort();
+    if (listing(side).SortType != columnSize)
+        window_.yield();
+    window_.list(side).show(rows(side));
+}
+
+void Panes::showCount(ActiveSide side) {
+    const auto start = side == ActiveSide::PC ? message::countPC : message::countController;
+    window_.setStatus(side, messages_.getMessage(start) + std::to_string(rows(side).size()) +
+                                messages_.getMessage(message::countEnd));
+}
+
+void Panes::fillFilterChoices() {
+    for (const ActiveSide side : {ActiveSide::PC, ActiveSide::Controller})
+        window_.setFilterChoices(side, filterChoices(modelOf(side, state_)));
+}
+
+FolderListing& Panes::listing(ActiveSide side) {
+    return side == ActiveSide::PC ? state_.PCListing : state_.CtrlListing;
+}
+
+PaneRows& Panes::rows(ActiveSide side) {
+    return side == ActiveSide::PC ? pcRows_ : controllerRows_;
+}
+
+const PaneRows& Panes::rows(ActiveSide side) const {
+    return side == ActiveSide::PC ? pcRows_ : controllerRows_;
+}
+
+std::vector<std::string> Panes::selectedNames(ActiveSide side) const {
+    std::vector<std::string> names;
+    for (const std::size_t row : window_.list(side).selectedRows())
+        if (row < rows(side).size())
+            names.push_back(rows(side).name(row));
+    return names;
+}
+
+void Panes::selectNames(ActiveSide side, const std::vector<std::string>& names) {
+    const std::unordered_set<std::string_view> wanted(names.begin(), names.end());
+    std::vector<std::size_t> found;
+    for (std::size_t row = 0; row < rows(side).size(); ++row)
+        if (wanted.contains(rows(side).name(row)))
+            found.push_back(row);
+    if (!found.empty())
+        window_.list(side).select(found);
+}
+
+} // namespace vantrel

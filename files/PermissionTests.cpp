@@ -1,0 +1,55 @@
+#include "files/PermissionTests.h"
+
+#include "base/ApplicationState.h"
+#include "base/PathRules.h"
+#include "files/ControllerModels.h"
+#include "files/TransferReports.h"
+#include "files/TransferTable.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/SessionErrorRecord.h"
+#include "platform/TextEncoding.h"
+
+namespace vantrel {
+
+std::vector<std::string> PermissionTests::permitted(const std::vector<SelectedItem>& items) const {
+    std::vector<std::string> names;
+    for (const SelectedItem& item : items)
+        if (passes(item))
+            names.push_back(item.name);
+    return names;
+}
+
+bool PermissionTests::passes(const SelectedItem& item) const {
+    if (item.isFolder) {
+        TransferReports(with_).aboutFile(item.name, message::folderPassedOver);
+        return false;
+    }
+    const std::int16_t modelBit = controllerModel(with_.state.Controler).bit;
+    if (!with_.table.isTransferable(item.name, direction_ == Direction::Send, modelBit)) {
+        TransferReports(with_).aboutFile(item.name, message::kindRefused);
+        return false;
+    }
+    return hasUsableName(item.name);
+}
+
+/// A name with a path in it could reach a file outside the folder, and one that the library's code
+/// page cannot express would reach another file: both end here, so that the other files still go.
+bool PermissionTests::hasUsableName(const std::string& name) const {
+    const TransferReports reports(with_);
+    if (!PathRules::isPlainName(name)) {
+        if (direction_ == Direction::Receive)
+            reports.aboutFile(name, message::controllerNameRefused);
+        else
+            reports.transferFailed("[" + name + "]",
+                                   with_.messages.errorText(session_code::nameRefused));
+        return false;
+    }
+    if (!toCodePage(name)) {
+        reports.aboutFile(name, message::nameNotExpressible);
+        return false;
+    }
+    return true;
+}
+
+} // namespace vantrel

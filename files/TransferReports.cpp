@@ -1,0 +1,80 @@
+#include "files/TransferReports.h"
+
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/OperatorDialog.h"
+#include "link/Snappy.h"
+
+namespace vantrel {
+
+namespace {
+
+/// The step under which the session records a file that is not in the controller's directory, and
+/// a directory that could not be read.
+constexpr const char* directoryStep = "BscFind";
+
+std::string bracketed(const std::string& name) {
+    return "[" + name + "]";
+}
+
+std::string inParentheses(const std::string& text) {
+    return " ( " + text + " )";
+}
+
+} // namespace
+
+void TransferReports::aboutFile(const std::string& name, std::int32_t messageNumber) const {
+    tell(bracketed(name) + with_.messages.getMessage(messageNumber));
+}
+
+void TransferReports::aboutFile(const std::string& name, std::int32_t messageNumber,
+                                const std::string& reason) const {
+    tell(bracketed(name) + with_.messages.getMessage(messageNumber) + inParentheses(reason));
+}
+
+void TransferReports::transferFailed() const {
+    tellSessionFailure(message::transferFailed, {});
+}
+
+void TransferReports::listTransferFailed() const {
+    // The operator pressed Cancel and knows; a report of it would only have to be clicked away.
+    if (with_.session.ErrorFunction().empty() &&
+        with_.session.ErrorCode() == session_code::cancelled)
+        return;
+    tellSessionFailure(message::transferFailed,
+                       " (" + std::to_string(with_.session.ErrorIndex()) + ")");
+}
+
+void TransferReports::transferFailed(const std::string& function, const std::string& reason) const {
+    tell(with_.messages.getMessage(message::transferFailed) + function + inParentheses(reason));
+}
+
+void TransferReports::deletionFailed() const {
+    tell(with_.messages.getMessage(message::deleteFailed) + functionAndReason());
+}
+
+void TransferReports::originalNotDeleted(const std::string& name) const {
+    tell(bracketed(name) + with_.messages.getMessage(message::originalNotDeleted) + " " +
+         functionAndReason());
+}
+
+void TransferReports::tell(const std::string& text) const {
+    with_.dialog.tell(text, BoxIcon::Exclamation);
+}
+
+std::string TransferReports::errorText() const {
+    return with_.messages.errorText(with_.session.ErrorCode());
+}
+
+void TransferReports::tellSessionFailure(std::int32_t head, const std::string& end) const {
+    if (with_.session.ErrorFunction() == directoryStep)
+        tell(with_.messages.getMessage(message::noSuchFile));
+    else
+        tell(with_.messages.getMessage(head) + functionAndReason() + end);
+}
+
+std::string TransferReports::functionAndReason() const {
+    return with_.session.ErrorFunction() + inParentheses(errorText());
+}
+
+} // namespace vantrel

@@ -1,0 +1,64 @@
+#include "link/JobBatch.h"
+
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/LinkConnection.h"
+#include "link/LocalJobList.h"
+#include "link/OperatorDialog.h"
+#include "link/SessionErrorRecord.h"
+#include "link/SessionProgress.h"
+#include "link/SessionProperties.h"
+
+namespace vantrel {
+
+bool JobBatch::run(const std::vector<std::string>& entries) {
+    tools_.progress.open(tools_.progress.transferring(), true, true);
+    const TransferOutcome outcome = runThrough(entries);
+    tools_.progress.hide();
+    // A failure is reported by the caller and needs the operator's whole attention.
+    if (outcome != TransferOutcome::Failed)
+        tellSkipped();
+    return outcome == TransferOutcome::Done;
+}
+
+TransferOutcome JobBatch::runThrough(const std::vector<std::string>& entries) {
+    const auto count = static_cast<std::int32_t>(entries.size());
+    for (std::int32_t index = 0; index < count; ++index) {
+        const std::string& entry = entries[static_cast<std::size_t>(index)];
+        tools_.progress.step(tools_.progress.transferring(entry), index, count);
+        if (tools_.localJobs.contains(entry)) {
+            ++skipped_;
+            continue;
+        }
+        const TransferOutcome outcome = handle(entry, index);
+        record(outcome, index);
+        if (outcome == TransferOutcome::Failed || outcome == TransferOutcome::Cancelled)
+            return outcome;
+    }
+    return TransferOutcome::Done;
+}
+
+TransferOutcome JobBatch::handle(const std::string& entry, std::int32_t index) {
+    const TransferOutcome outcome = transfer_(entry, index, overwriteAll_);
+    overwriteAll_ = overwriteAll_ || outcome == TransferOutcome::DoneAll;
+    if (outcome == TransferOutcome::Failed)
+        return outcome;
+    return tools_.progress.isCancelledAfterYield() ? TransferOutcome::Cancelled : outcome;
+}
+
+void JobBatch::record(TransferOutcome outcome, std::int32_t index) {
+    if (outcome == TransferOutcome::Cancelled)
+        tools_.error.set(session_code::cancelled, "", index);
+    // An address that is not set leaves the whole record alone.
+    if (outcome == TransferOutcome::Failed && !tools_.link.endedByUnsetAddress())
+        tools_.error.ErrorIndex = index;
+}
+
+void JobBatch::tellSkipped() const {
+    if (skipped_ > 0 && tools_.properties.DisplayMonitor)
+        tools_.dialog.tell(tools_.messages.getMessageWithInsertion(message::localEntriesSkipped,
+                                                                   std::to_string(skipped_)),
+                           BoxIcon::None);
+}
+
+} // namespace vantrel

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "link/TransferOutcome.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+class LinkConnection;
+class LocalJobList;
+class MessageTable;
+class OperatorDialog;
+class SessionProgress;
+struct SessionErrorRecord;
+struct SessionProperties;
+
+/// Transfers a list of files one after the other, in list order, passing over the jobs that belong
+/// to the PC alone. One object serves one run.
+class JobBatch {
+  public:
+    using Transfer = std::function<TransferOutcome(const std::string& entry, std::int32_t index,
+                                                   bool overwriteAll)>;
+
+    struct Tools {
+        const SessionProperties& properties;
+        const LinkConnection& link;
+        SessionProgress& progress;
+        SessionErrorRecord& error;
+        const LocalJobList& localJobs;
+        const MessageTable& messages;
+        OperatorDialog& dialog;
+    };
+
+    JobBatch(const Tools& tools, Transfer transfer)
+        : tools_(tools), transfer_(std::move(transfer)) {}
+
+    /// True when every entry was handled. Hides the progress.
+    bool run(const std::vector<std::string>& entries);
+
+  private:
+    TransferOutcome runThrough(const std::vector<std::string>& entries);
+    TransferOutcome handle(const std::string& entry, std::int32_t index);
+    void record(TransferOutcome outcome, std::int32_t index);
+    void tellSkipped() const;
+
+    Tools tools_;
+    Transfer transfer_;
+    bool overwriteAll_ = false;
+    std::int32_t skipped_ = 0;
+};
+
+} // namespace vantrel

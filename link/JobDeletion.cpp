@@ -1,0 +1,28 @@
+#include "link/JobDeletion.h"
+
+#include "link/LinkConnection.h"
+#include "link/SessionProgress.h"
+#include "link/Zurolink.h"
+#include "platform/TextCase.h"
+
+namespace vantrel {
+
+bool JobDeletion::remove(const std::string& name) {
+    progress_.show(progress_.deleting(name));
+    const auto libraryName = link_.libraryFileName(normalisedJobName(name), "BscSelectJob");
+    return libraryName && removeOver(*libraryName);
+}
+
+bool JobDeletion::removeOver(const std::string& libraryName) {
+    const std::int16_t handle = link_.connect();
+    if (handle < 0)
+        return false;
+    const std::int16_t selected = link_.library().BscSelectJob(handle, libraryName.c_str());
+    if (selected != 0)
+        return link_.finish(handle, selected, "BscSelectJob");
+    const std::int16_t deleted = link_.library().BscDeleteJob(handle);
+    link_.finish(handle, deleted, "BscDeleteJob");
+    return deleted == 0;
+}
+
+} // namespace vantrel

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "link/TransferOutcome.h"
+#include "link/TransferTools.h"
+
+#include <cstdint>
+#include <string>
+
+namespace vantrel {
+
+/// Fetches one file from the controller into the PC folder. The folder ends up with the complete
+/// new file or as it was before.
+class JobFetch {
+  public:
+    explicit JobFetch(const TransferTools& tools) : tools_(tools) {}
+
+    /// Reads which names the PC folder has. False, with the reason recorded, when it cannot be read.
+    bool listFolder();
+    /// `index` is the file's place among several, for the error record.
+    TransferOutcome fetch(const std::string& name, std::int32_t index, bool overwriteAll);
+
+  private:
+    bool receive(const std::string& name, const std::string& libraryName, std::int32_t index);
+    bool receiveOver(std::int16_t handle, const std::string& name, const std::string& libraryName,
+                     std::int32_t index);
+
+    TransferTools tools_;
+};
+
+} // namespace vantrel

@@ -1,0 +1,45 @@
+#include "link/JobFile.h"
+
+#include "base/Text.h"
+#include "platform/Files.h"
+#include "platform/TextEncoding.h"
+
+#include <algorithm>
+
+namespace vantrel {
+namespace {
+
+constexpr std::string_view nameKey = "//NAME";
+
+/// What stands on the line after the key, or an empty text when the line is another one.
+std::string_view nameOnLine(std::string_view line) {
+    if (!startsWith(line, nameKey))
+        return {};
+    const std::string_view rest = line.substr(nameKey.size());
+    const bool keyEnds = startsWith(rest, " ") || startsWith(rest, "\t");
+    return keyEnds ? trimmed(rest) : std::string_view();
+}
+
+} // namespace
+
+// The whole file decides on its encoding: a short name alone may look like another one.
+std::string jobNameInside(std::string_view bytes) {
+    const std::string text = decodeText(bytes).text;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = std::min(text.find_first_of("\r\n", at), text.size());
+        const auto name = nameOnLine(std::string_view(text).substr(at, end - at));
+        if (!name.empty())
+            return std::string(name);
+        at = end + 1;
+    }
+    return {};
+}
+
+Result<JobFile> JobFile::read(const std::string& path) {
+    const auto content = readFile(path);
+    if (!content)
+        return Failure{content.reason()};
+    return JobFile(jobNameInside(*content));
+}
+
+} // namespace vantrel

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace vantrel {
+
+/// A directory's names by their normalised form. Each name is normalised once when it is added and
+/// each lookup costs one more normalisation, however long the directory is.
+class JobNameSet {
+  public:
+    /// Gives the form in which names are compared.
+    using Form = std::string (*)(std::string_view name);
+
+    JobNameSet();
+    explicit JobNameSet(Form form) : form_(form) {}
+
+    void assign(const std::vector<std::string>& names);
+    void insert(const std::string& name);
+    void remove(std::string_view name);
+
+    /// Whether a file of this whole name is there.
+    bool hasFile(std::string_view name) const;
+    /// The directory's entry for the job with this name, or an empty text. Extensions don't count:
+    /// a job is found as ".JBI", as ".JBR" and without an extension.
+    std::string jobEntry(std::string_view name) const;
+
+  private:
+    Form form_;
+    std::unordered_set<std::string> files_;
+    std::unordered_map<std::string, std::string> jobs_; ///< normalised job name to entry
+};
+
+/// The upper-cased extension with its point (".JBI"), or an empty text.
+std::string jobExtension(std::string_view fileName);
+/// Whether the name has one of a job file's extensions, ".JBI" and ".JBR" in any letter case.
+bool isJobFileName(std::string_view fileName);
+
+} // namespace vantrel

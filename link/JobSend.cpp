@@ -1,0 +1,96 @@
+#include "link/JobSend.h"
+
+#include "base/PathRules.h"
+#include "link/JobDeletion.h"
+#include "link/JobFile.h"
+#include "link/JobNameSet.h"
+#include "link/LinkConnection.h"
+#include "link/OverwriteQuestion.h"
+#include "link/SessionErrorRecord.h"
+#include "link/SessionProgress.h"
+#include "link/SessionProperties.h"
+#include "link/Zurolink.h"
+
+namespace vantrel {
+
+TransferOutcome JobSend::send(const std::string& file, std::int32_t index, bool overwriteAll) {
+    const auto libraryName = tools_.link.libraryFileName(file, "BscDownLoad", index);
+    if (!libraryName)
+        return TransferOutcome::Failed;
+    const auto inside = readNameInside(file, index);
+    if (!inside)
+        return TransferOutcome::Failed;
+    const TransferOutcome outcome = prepare(file, *inside, overwriteAll);
+    if (!goesOn(outcome))
+        return outcome;
+    if (!transmit(file, *libraryName, index))
+        return TransferOutcome::Failed;
+    tools_.directory.insert(inside->empty() ? file : *inside + ".JBI");
+    return outcome;
+}
+
+std::optional<std::string> JobSend::readNameInside(const std::string& file, std::int32_t index) {
+    if (!isJobFileName(file))
+        return std::string();
+    const auto job = JobFile::read(PathRules().join(tools_.properties.path, file));
+    if (job)
+        return job->name();
+    tools_.error.set(session_code::fileNotReadable, "", index);
+    return {};
+}
+
+// Every question comes before the first deletion, so that a refusal leaves the controller as it was.
+TransferOutcome JobSend::prepare(const std::string& file, const std::string& nameInside,
+                                 bool overwriteAll) {
+    if (!isJobFileName(file))
+        return TransferOutcome::Done;
+    const auto jobs = jobsInTheWay(file, nameInside);
+    const TransferOutcome outcome = overwriteAll ? TransferOutcome::Done : askAll(file, jobs);
+    if (!goesOn(outcome) || jobExtension(file) != ".JBI")
+        return outcome;
+    return removeAll(jobs) ? outcome : TransferOutcome::Failed;
+}
+
+std::vector<std::string> JobSend::jobsInTheWay(const std::string& file,
+                                               const std::string& nameInside) const {
+    std::vector<std::string> jobs{tools_.directory.jobEntry(file)};
+    if (!nameInside.empty())
+        jobs.push_back(tools_.directory.jobEntry(nameInside));
+    if (jobs.front() == jobs.back() && jobs.size() > 1)
+        jobs.pop_back();
+    std::erase(jobs, std::string());
+    return jobs;
+}
+
+TransferOutcome JobSend::askAll(const std::string& file,
+                                const std::vector<std::string>& jobs) const {
+    const std::string own = tools_.directory.jobEntry(file);
+    TransferOutcome outcome = TransferOutcome::Done;
+    for (const std::string& job : jobs) {
+        outcome = tools_.question.ask(job == own ? file : job);
+        if (outcome != TransferOutcome::Done)
+            break;
+    }
+    return outcome;
+}
+
+bool JobSend::removeAll(const std::vector<std::string>& jobs) {
+    for (const std::string& job : jobs) {
+        if (!deletion_.remove(job))
+            return false;
+        tools_.directory.remove(job);
+    }
+    return true;
+}
+
+bool JobSend::transmit(const std::string& file, const std::string& libraryName,
+                       std::int32_t index) {
+    tools_.progress.show(tools_.progress.transferring(file));
+    const std::int16_t handle = tools_.link.connect();
+    if (handle < 0)
+        return false;
+    const std::int16_t sent = tools_.link.library().BscDownLoad(handle, libraryName.c_str());
+    return tools_.link.finish(handle, sent, "BscDownLoad", index);
+}
+
+} // namespace vantrel

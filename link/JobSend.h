@@ -1,0 +1,43 @@
+#pragma once
+
+#include "link/TransferOutcome.h"
+#include "link/TransferTools.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+class JobDeletion;
+
+/// Sends one file of the PC folder into the controller.
+class JobSend {
+  public:
+    JobSend(const TransferTools& tools, JobDeletion& deletion)
+        : tools_(tools), deletion_(deletion) {}
+
+    /// `index` is the file's place among several, for the error record.
+    TransferOutcome send(const std::string& file, std::int32_t index, bool overwriteAll);
+
+  private:
+    /// The name by the file's "//NAME" line, empty for a file that is no job; nothing, with the
+    /// reason recorded, when the file cannot be read.
+    std::optional<std::string> readNameInside(const std::string& file, std::int32_t index);
+    /// Asks and deletes whatever stands in the file's way.
+    TransferOutcome prepare(const std::string& file, const std::string& nameInside,
+                            bool overwriteAll);
+    /// The jobs on the controller that the file would replace: the one of its own name, and the
+    /// one that its "//NAME" line names.
+    std::vector<std::string> jobsInTheWay(const std::string& file,
+                                          const std::string& nameInside) const;
+    TransferOutcome askAll(const std::string& file, const std::vector<std::string>& jobs) const;
+    bool removeAll(const std::vector<std::string>& jobs);
+    bool transmit(const std::string& file, const std::string& libraryName, std::int32_t index);
+
+    TransferTools tools_;
+    JobDeletion& deletion_;
+};
+
+} // namespace vantrel

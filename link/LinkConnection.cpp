@@ -1,0 +1,125 @@
+#include "link/LinkConnection.h"
+
+#include "base/PathRules.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/OperatorDialog.h"
+#include "link/SessionErrorRecord.h"
+#include "link/SessionProperties.h"
+#include "link/SessionServices.h"
+#include "link/Zurolink.h"
+#include "platform/Files.h"
+#include "platform/TextEncoding.h"
+
+namespace vantrel {
+namespace {
+
+constexpr std::int16_t stepDone = 1; ///< success of set-up, connect and disconnect
+constexpr std::int16_t callDone = 0; ///< success of close and of the transfer functions
+constexpr const char* unsetAddress = "0.0.0.0";
+
+} // namespace
+
+std::int16_t LinkConnection::connect() {
+    // The library keeps files of its own beside the program; without that folder it may still work.
+    static_cast<void>(changeCurrentFolder(services_.programFolder));
+    const auto folder = libraryText(properties_.path, "BscOpen", 0);
+    if (!folder)
+        return noHandle;
+    const std::int16_t handle =
+        library().BscOpen(folder->c_str(), static_cast<std::int16_t>(services_.TransMode));
+    if (handle < 0) {
+        error_.set(handle, "BscOpen", 0);
+        return noHandle;
+    }
+    if (addressUnset())
+        return refuseUnsetAddress(handle);
+    if (configure(handle) && accept(library().BscConnect(handle), "BscConnect"))
+        return handle;
+    library().BscClose(handle);
+    return noHandle;
+}
+
+bool LinkConnection::addressUnset() const {
+    return services_.TransMode != TransferMode::Bsc && properties_.IPaddress == unsetAddress;
+}
+
+std::int16_t LinkConnection::refuseUnsetAddress(std::int16_t handle) {
+    endedByUnsetAddress_ = true;
+    library().BscClose(handle);
+    services_.dialog.tell(services_.messages.getMessage(message::addressUnset),
+                          BoxIcon::Exclamation);
+    return noHandle;
+}
+
+bool LinkConnection::configure(std::int16_t handle) {
+    return services_.TransMode == TransferMode::Bsc ? configureSerial(handle)
+                                                    : configureEthernet(handle);
+}
+
+bool LinkConnection::configureSerial(std::int16_t handle) {
+    const SessionProperties& with = properties_;
+    return accept(library().BscSetCom(handle, with.port, with.Baudrate, with.parity, with.DataLen,
+                                      with.StopBit),
+                  "BscSetCom");
+}
+
+bool LinkConnection::configureEthernet(std::int16_t handle) {
+    const auto address = libraryText(properties_.IPaddress, "BscSetEther", 0);
+    if (!address)
+        return false;
+    void* const window = services_.dummyWindow ? services_.dummyWindow() : nullptr;
+    return accept(library().BscSetEther(handle, address->c_str(), 0, window), "BscSetEther");
+}
+
+bool LinkConnection::accept(std::int16_t result, const char* function) {
+    if (result != stepDone)
+        error_.set(result, function, 0);
+    return result == stepDone;
+}
+
+bool LinkConnection::disconnect(std::int16_t handle) {
+    const std::int16_t disconnected = library().BscDisConnect(handle);
+    if (disconnected != stepDone) {
+        // Deliberately no BscClose: a link that is still connected stays the library's.
+        error_.set(disconnected, "BscDisConnect");
+        return false;
+    }
+    const std::int16_t closed = library().BscClose(handle);
+    if (closed != callDone)
+        error_.set(closed, "BscClose");
+    return closed == callDone;
+}
+
+bool LinkConnection::finish(std::int16_t handle, std::int16_t result, const char* function,
+                            std::optional<std::int32_t> index) {
+    const bool closed = disconnect(handle);
+    if (result == callDone)
+        return closed;
+    error_.set(result, function, index);
+    return false;
+}
+
+std::optional<std::string> LinkConnection::libraryText(const std::string& text,
+                                                       const char* function,
+                                                       std::optional<std::int32_t> index) {
+    auto converted = toCodePage(text);
+    if (!converted)
+        error_.set(session_code::nameNotExpressible, function, index);
+    return converted;
+}
+
+std::optional<std::string> LinkConnection::libraryFileName(const std::string& name,
+                                                           const char* function,
+                                                           std::optional<std::int32_t> index) {
+    if (PathRules::isPlainName(name))
+        return libraryText(name, function, index);
+    error_.set(session_code::nameRefused, "", index);
+    return {};
+}
+
+Zurolink& LinkConnection::library() const {
+    return services_.library;
+}
+
+} // namespace vantrel

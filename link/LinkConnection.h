@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace vantrel {
+
+struct SessionErrorRecord;
+struct SessionProperties;
+struct SessionServices;
+class Zurolink;
+
+/// The link to the controller, which every operation opens for itself and closes again. What fails
+/// goes to the error record.
+class LinkConnection {
+  public:
+    static constexpr std::int16_t noHandle = -1;
+
+    LinkConnection(const SessionServices& services, const SessionProperties& properties,
+                   SessionErrorRecord& error)
+        : services_(services), properties_(properties), error_(error) {}
+
+    /// The library's handle, or `noHandle` with everything closed again.
+    std::int16_t connect();
+    /// False when a step failed. A link that would not disconnect is left open.
+    bool disconnect(std::int16_t handle);
+    /// Ends the link after a call whose success is `result` 0. On failure the link is closed first,
+    /// so that the record tells of the call and not of the closing.
+    bool finish(std::int16_t handle, std::int16_t result, const char* function,
+                std::optional<std::int32_t> index = {});
+
+    /// A text as the library takes it, or nothing, with `function` recorded as the step that could
+    /// not be reached.
+    std::optional<std::string> libraryText(const std::string& text, const char* function,
+                                           std::optional<std::int32_t> index = {});
+    /// The same for the name of a file or job, which has to be one plain component: "*" or "..\\x"
+    /// never reach the library or the disk.
+    std::optional<std::string> libraryFileName(const std::string& name, const char* function,
+                                               std::optional<std::int32_t> index = {});
+
+    Zurolink& library() const;
+
+    /// To be called where an operation begins.
+    void forgetUnsetAddress() { endedByUnsetAddress_ = false; }
+    /// The operator has been told that the robot's address is not set; nothing was recorded.
+    bool endedByUnsetAddress() const { return endedByUnsetAddress_; }
+
+  private:
+    bool addressUnset() const;
+    std::int16_t refuseUnsetAddress(std::int16_t handle);
+    bool configure(std::int16_t handle);
+    bool configureSerial(std::int16_t handle);
+    bool configureEthernet(std::int16_t handle);
+    bool accept(std::int16_t result, const char* function);
+
+    const SessionServices& services_;
+    const SessionProperties& properties_;
+    SessionErrorRecord& error_;
+    bool endedByUnsetAddress_ = false;
+};
+
+} // namespace vantrel

@@ -1,0 +1,49 @@
+#include "link/OperatorDialog.h"
+
+#include "link/ProgressPanel.h"
+
+namespace vantrel {
+namespace {
+
+/// Keeps a visible progress window out of the way for the time of a box.
+class ProgressAside {
+  public:
+    explicit ProgressAside(ProgressPanel& progress)
+        : progress_(progress), wasVisible_(progress.isVisible()) {
+        progress_.hide();
+    }
+    ~ProgressAside() {
+        if (wasVisible_)
+            progress_.showAgain();
+    }
+    ProgressAside(const ProgressAside&) = delete;
+    ProgressAside& operator=(const ProgressAside&) = delete;
+
+  private:
+    ProgressPanel& progress_;
+    bool wasVisible_;
+};
+
+} // namespace
+
+Answer OperatorDialog::ask(const std::string& title, const std::string& question) {
+    const ProgressAside aside(progress_);
+    return question_.ask(title, question);
+}
+
+void OperatorDialog::tell(const std::string& text, BoxIcon icon) {
+    const ProgressAside aside(progress_);
+    boxes_.tell(text, icon);
+}
+
+bool OperatorDialog::askOkCancel(const std::string& text, BoxIcon icon) {
+    const ProgressAside aside(progress_);
+    return boxes_.askOkCancel(text, icon);
+}
+
+bool OperatorDialog::askYesNo(const std::string& text, BoxIcon icon) {
+    const ProgressAside aside(progress_);
+    return boxes_.askYesNo(text, icon);
+}
+
+} // namespace vantrel

@@ -1,0 +1,73 @@
+#include "link/ProgressPanel.h"
+
+#include <utility>
+
+namespace vantrel {
+
+void ProgressPanel::setTitle(std::string title) {
+    title_ = std::move(title);
+    refresh();
+}
+
+void ProgressPanel::setCancelCaption(std::string caption) {
+    cancelCaption_ = std::move(caption);
+    refresh();
+}
+
+void ProgressPanel::showCancelButton(bool shown) {
+    cancelButtonShown_ = shown;
+    refresh();
+}
+
+void ProgressPanel::showBar(bool shown) {
+    barShown_ = shown;
+    refresh();
+}
+
+void ProgressPanel::show(std::string message) {
+    message_ = std::move(message);
+    clearMark();
+    visible_ = true;
+    refresh();
+    yield();
+}
+
+void ProgressPanel::showAgain() {
+    visible_ = true;
+    refresh();
+}
+
+void ProgressPanel::hide() {
+    if (!visible_)
+        return;
+    visible_ = false;
+    if (view_)
+        view_->refresh(*this);
+}
+
+void ProgressPanel::step(std::string message, int item, int count, std::string waitingFor) {
+    message_ = std::move(message);
+    item_ = item;
+    count_ = count;
+    waitingFor_ = std::move(waitingFor);
+    refresh();
+}
+
+void ProgressPanel::yield() {
+    if (view_)
+        view_->yield();
+}
+
+void ProgressPanel::unload() {
+    visible_ = false;
+    if (ProgressView* const view = std::exchange(view_, nullptr))
+        view->unload();
+}
+
+// Texts that change while nobody sees them are painted when the window comes back.
+void ProgressPanel::refresh() {
+    if (view_ && visible_)
+        view_->refresh(*this);
+}
+
+} // namespace vantrel

@@ -1,0 +1,198 @@
+#include "link/SessionOperations.h"
+
+#include "link/SessionValues.h"
+#include "link/Snappy.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+namespace vantrel {
+namespace {
+
+using Arguments = std::vector<SessionValue>;
+
+/// Argument `at` as an operation's parameter of this type, or nothing when it does not convert.
+/// Truth values may be left out and are false then; lists only go out.
+template <typename Type>
+std::optional<Type> parameter(const Arguments& arguments, std::size_t at) {
+    const SessionValue value = at < arguments.size() ? arguments[at] : SessionValue();
+    const bool given = !std::holds_alternative<std::monostate>(value);
+    if constexpr (std::is_same_v<Type, std::vector<std::string>>)
+        return Type();
+    else if constexpr (std::is_same_v<Type, bool>)
+        return given ? flagFrom(value) : false;
+    else if constexpr (std::is_same_v<Type, std::string>)
+        return given ? std::optional(textFrom(value)) : std::nullopt;
+    else if constexpr (std::is_same_v<Type, std::int16_t>)
+        return integer16From(value);
+    else
+        return integer32From(value);
+}
+
+SessionValue outValue(const std::string& text) {
+    return text;
+}
+
+SessionValue outValue(const std::vector<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names)
+        text += name + "\n";
+    return text;
+}
+
+/// Gives an argument back to the caller when the operation takes it by reference to change it.
+template <typename Declared, typename Type>
+void giveBack(Arguments& arguments, std::size_t at, const Type& value) {
+    if constexpr (std::is_same_v<Declared, Type&>) {
+        arguments.resize(std::max(arguments.size(), at + 1));
+        arguments[at] = outValue(value);
+    }
+}
+
+template <typename Returned, typename... Declared, std::size_t... At, typename Method>
+Result<SessionValue> invoke(Snappy& session, Method method, Arguments& arguments,
+                            std::index_sequence<At...>) {
+    std::tuple<std::optional<std::remove_cvref_t<Declared>>...> taken{
+        parameter<std::remove_cvref_t<Declared>>(arguments, At)...};
+    if (!(std::get<At>(taken) && ...))
+        return Failure{"an argument is missing or of the wrong kind"};
+    SessionValue result;
+    if constexpr (std::is_void_v<Returned>)
+        (session.*method)(*std::get<At>(taken)...);
+    else
+        result = toSessionValue((session.*method)(*std::get<At>(taken)...));
+    (giveBack<Declared>(arguments, At, *std::get<At>(taken)), ...);
+    return result;
+}
+
+template <typename Returned, typename... Declared>
+Result<SessionValue> dispatch(Snappy& session, Returned (Snappy::*method)(Declared...),
+                              Arguments& arguments) {
+    return invoke<Returned, Declared...>(session, method, arguments,
+                                         std::index_sequence_for<Declared...>());
+}
+
+template <typename Returned, typename... Declared>
+Result<SessionValue> dispatch(Snappy& session, Returned (Snappy::*method)(Declared...) const,
+                              Arguments& arguments) {
+    return invoke<Returned, Declared...>(session, method, arguments,
+                                         std::index_sequence_for<Declared...>());
+}
+
+struct Operation {
+    std::string_view name;
+    Result<SessionValue> (*call)(Snappy&, Arguments&);
+};
+
+struct Property {
+    std::string_view name;
+    SessionValue (*get)(const Snappy&);
+    bool (*set)(Snappy&, const SessionValue&);
+};
+
+template <auto Method>
+Result<SessionValue> callOperation(Snappy& session, Arguments& arguments) {
+    return dispatch(session, Method, arguments);
+}
+
+template <auto Field>
+SessionValue getProperty(const Snappy& session) {
+    return toSessionValue(session.*Field);
+}
+
+template <auto Field>
+bool setProperty(Snappy& session, const SessionValue& value) {
+    using Type = std::remove_cvref_t<decltype(session.*Field)>;
+    auto converted = parameter<Type>({value}, 0);
+    if (converted)
+        session.*Field = std::move(*converted);
+    return converted.has_value();
+}
+
+#define VANTREL_PROPERTY(name)                                                                     \
+    { #name, getProperty<&Snappy::name>, setProperty<&Snappy::name> }
+#define VANTREL_OPERATION(name)                                                                    \
+    { #name, callOperation<&Snappy::name> }
+
+constexpr Property properties[] = {
+    VANTREL_PROPERTY(port),      VANTREL_PROPERTY(Baudrate),       VANTREL_PROPERTY(parity),
+    VANTREL_PROPERTY(DataLen),   VANTREL_PROPERTY(StopBit),        VANTREL_PROPERTY(path),
+    VANTREL_PROPERTY(DisplayMonitor), VANTREL_PROPERTY(MonitorTitle), VANTREL_PROPERTY(IPaddress),
+};
+
+constexpr Operation operations[] = {
+    VANTREL_OPERATION(JobListCount),    VANTREL_OPERATION(VarListCount),
+    VANTREL_OPERATION(ErrorCode),       VANTREL_OPERATION(ErrorFunction),
+    VANTREL_OPERATION(ErrorIndex),      VANTREL_OPERATION(GetCTRLError),
+    VANTREL_OPERATION(JobList),         VANTREL_OPERATION(VarList),
+    VANTREL_OPERATION(ReadDirectory),   VANTREL_OPERATION(JobDownLoad),
+    VANTREL_OPERATION(JobDelete),       VANTREL_OPERATION(JobUpLoad),
+    VANTREL_OPERATION(JobListDownLoad), VANTREL_OPERATION(JobListUpLoad),
+    VANTREL_OPERATION(AddJobList),      VANTREL_OPERATION(JobListClear),
+    VANTREL_OPERATION(RemoveJobList),   VANTREL_OPERATION(SetJobListFile),
+    VANTREL_OPERATION(SetVarListFile),  VANTREL_OPERATION(ReadVarListFile),
+    VANTREL_OPERATION(VarListClear),    VANTREL_OPERATION(AddVarList),
+    VANTREL_OPERATION(RemoveVarList),   VANTREL_OPERATION(SetLangageMode),
+    VANTREL_OPERATION(VarDownLoad),     VANTREL_OPERATION(VarUpLoad),
+    VANTREL_OPERATION(VarListDownLoad), VANTREL_OPERATION(VarListUpLoad),
+    VANTREL_OPERATION(WriteVarListFile), VANTREL_OPERATION(Quit),
+    VANTREL_OPERATION(SetTansMode),
+};
+
+#undef VANTREL_PROPERTY
+#undef VANTREL_OPERATION
+
+template <typename Row, std::size_t count>
+const Row* findRow(const Row (&rows)[count], std::string_view name) {
+    const auto found = std::find_if(std::begin(rows), std::end(rows),
+                                    [name](const Row& row) { return row.name == name; });
+    return found == std::end(rows) ? nullptr : found;
+}
+
+Failure unknownName(std::string_view name) {
+    return Failure{"unknown name: " + std::string(name)};
+}
+
+} // namespace
+
+Result<SessionValue> SessionOperations::call(std::string_view name,
+                                             std::vector<SessionValue>& arguments) {
+    if (const Operation* const operation = findRow(operations, name))
+        return operation->call(session_, arguments);
+    if (arguments.empty())
+        return get(name);
+    const Outcome outcome = set(name, arguments.front());
+    if (!outcome)
+        return Failure{outcome.reason()};
+    return SessionValue();
+}
+
+Result<SessionValue> SessionOperations::get(std::string_view property) const {
+    const Property* const found = findRow(properties, property);
+    if (!found)
+        return unknownName(property);
+    return found->get(session_);
+}
+
+Outcome SessionOperations::set(std::string_view property, const SessionValue& value) {
+    const Property* const found = findRow(properties, property);
+    if (!found)
+        return unknownName(property);
+    if (!found->set(session_, value))
+        return Failure{"the value does not convert"};
+    return Done{};
+}
+
+std::vector<std::string> SessionOperations::names() {
+    std::vector<std::string> all;
+    for (const Property& property : properties)
+        all.emplace_back(property.name);
+    for (const Operation& operation : operations)
+        all.emplace_back(operation.name);
+    return all;
+}
+
+} // namespace vantrel

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace vantrel {
+
+class Snappy;
+
+/// An argument or result of an operation called by name: nothing, a number or a text (UTF-8).
+/// Truth values are 1 and 0.
+using SessionValue = std::variant<std::monostate, double, std::string>;
+
+/// The session's operations and properties by their names, for scripts and remote callers that bind
+/// late. Numbers given as text and texts given as numbers are converted; arguments beyond those
+/// that an operation takes are ignored.
+class SessionOperations {
+  public:
+    explicit SessionOperations(Snappy& session) : session_(session) {}
+
+    /// Calls an operation. Out arguments are written back: `ReadDirectory` gives the names, one per
+    /// line, and `VarUpLoad` the refreshed entry. A property's name alone reads it, with an argument
+    /// it sets it. Fails, without having called anything, on an unknown name and on arguments that
+    /// are missing or do not convert.
+    Result<SessionValue> call(std::string_view name, std::vector<SessionValue>& arguments);
+    Result<SessionValue> call(std::string_view name) {
+        std::vector<SessionValue> none;
+        return call(name, none);
+    }
+
+    Result<SessionValue> get(std::string_view property) const;
+    Outcome set(std::string_view property, const SessionValue& value);
+
+    /// The names of all properties and operations, in the order of the session's interface.
+    static std::vector<std::string> names();
+
+  private:
+    Snappy& session_;
+};
+
+} // namespace vantrel

@@ -1,0 +1,80 @@
+#include "link/SessionProgress.h"
+
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/ProgressPanel.h"
+#include "link/SessionProperties.h"
+
+namespace vantrel {
+
+SessionProgress::SessionProgress(const SessionProperties& properties, const MessageTable& messages,
+                                 ProgressPanel& panel)
+    : properties_(properties), messages_(messages), panel_(panel) {
+    panel_.setTitle(properties_.MonitorTitle);
+    panel_.setCancelCaption(messages_.resourceMessage(message::resource::cancel));
+    panel_.hide();
+}
+
+void SessionProgress::begin() {
+    pressed_ = !silent() && panel_.isVisible() && panel_.isCancelled();
+}
+
+void SessionProgress::open(const std::string& message, bool cancelButton, bool bar) {
+    if (silent())
+        return;
+    panel_.showCancelButton(cancelButton);
+    panel_.showBar(bar);
+    panel_.step(message, 0, 1, messages_.getMessage(message::waitingForController));
+    show(message);
+}
+
+void SessionProgress::show(const std::string& message) {
+    if (silent())
+        return;
+    if (panel_.isVisible())
+        isCancelled();
+    panel_.setTitle(properties_.MonitorTitle);
+    panel_.setCancelCaption(messages_.resourceMessage(message::resource::cancel));
+    panel_.show(message);
+}
+
+void SessionProgress::step(const std::string& message, std::int32_t item, std::int32_t count) {
+    if (!silent())
+        panel_.step(message, item, count, waitingText(item, count));
+}
+
+void SessionProgress::hide() {
+    if (!silent())
+        panel_.hide();
+}
+
+bool SessionProgress::isCancelled() {
+    pressed_ = pressed_ || (!silent() && panel_.isCancelled());
+    return pressed_;
+}
+
+bool SessionProgress::isCancelledAfterYield() {
+    if (!silent())
+        panel_.yield();
+    return isCancelled();
+}
+
+std::string SessionProgress::transferring(const std::string& name) const {
+    return messages_.resourceMessage(message::resource::transferring) + name;
+}
+
+std::string SessionProgress::deleting(const std::string& name) const {
+    return messages_.resourceMessage(message::resource::deleting) + name;
+}
+
+bool SessionProgress::silent() const {
+    return !properties_.DisplayMonitor;
+}
+
+std::string SessionProgress::waitingText(std::int32_t item, std::int32_t count) const {
+    return messages_.getMessage(message::progressItem) + std::to_string(item + 1) +
+           messages_.getMessage(message::progressOf) + std::to_string(count) + "  " +
+           messages_.getMessage(message::waitingForController);
+}
+
+} // namespace vantrel

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace vantrel {
+
+class MessageTable;
+class ProgressPanel;
+struct SessionProperties;
+
+/// The progress dialog as the session shows it: nothing at all while `DisplayMonitor` is off, when
+/// the dialog belongs to the command that called the session.
+///
+/// A press of Cancel can arrive whenever the event loop runs, and showing a message clears its mark;
+/// so the presses of one operation are kept here, where no later message loses them.
+class SessionProgress {
+  public:
+    SessionProgress(const SessionProperties& properties, const MessageTable& messages,
+                    ProgressPanel& panel);
+
+    /// Where an operation begins: of an earlier press only one made in a window that is still
+    /// visible counts, for it is meant for the command that this operation is a part of.
+    void begin();
+
+    void open(const std::string& message, bool cancelButton, bool bar);
+    void show(const std::string& message);
+    /// Text, bar and second label for entry `item` (counted from 0) of `count`; nothing yields.
+    void step(const std::string& message, std::int32_t item, std::int32_t count);
+    void hide();
+
+    /// Whether Cancel was pressed since `begin`.
+    bool isCancelled();
+    /// The same after the event loop had a chance to deliver a press.
+    bool isCancelledAfterYield();
+
+    /// "Transferring " and "Deleting " with a name; without one they stand alone.
+    std::string transferring(const std::string& name = {}) const;
+    std::string deleting(const std::string& name) const;
+
+  private:
+    bool silent() const;
+    std::string waitingText(std::int32_t item, std::int32_t count) const;
+
+    const SessionProperties& properties_;
+    const MessageTable& messages_;
+    ProgressPanel& panel_;
+    bool pressed_ = false;
+};
+
+} // namespace vantrel

@@ -1,0 +1,302 @@
+#include "link/Snappy.h"
+
+#include "lang/LanguageFiles.h"
+#include "lang/MessageTable.h"
+#include "link/DirectoryReader.h"
+#include "link/JobBatch.h"
+#include "link/JobDeletion.h"
+#include "link/JobFetch.h"
+#include "link/JobListStore.h"
+#include "link/JobNameSet.h"
+#include "link/JobSend.h"
+#include "link/LinkConnection.h"
+#include "link/LocalJobList.h"
+#include "link/OverwriteQuestion.h"
+#include "link/ProgressPanel.h"
+#include "link/SessionProgress.h"
+#include "link/VariableBatch.h"
+#include "link/VariableList.h"
+#include "link/VariableTransfer.h"
+#include "platform/Files.h"
+
+#include <utility>
+
+namespace vantrel {
+
+/// The session's members, each with one responsibility, wired up.
+struct Snappy::Parts {
+    Parts(const SessionServices& given, const SessionProperties& properties)
+        : services(given), link(services, properties, error),
+          progress(properties, services.messages, services.progress),
+          question(properties, services.messages, services.dialog), reader(link, error),
+          deletion(link, progress),
+          tools{properties, link, progress, error, question, directoryNames},
+          sending(tools, deletion), fetching(tools),
+          jobs({properties, error, services.messages, services.dialog}), variable(link, error),
+          variables(properties, error) {}
+
+    bool readDirectory();
+    bool transferList(const SessionProperties& properties, JobBatch::Transfer transfer);
+    bool concludeSingle(TransferOutcome outcome);
+
+    SessionServices services;
+    SessionErrorRecord error;
+    LinkConnection link;
+    SessionProgress progress;
+    OverwriteQuestion question;
+    DirectoryReader reader;
+    std::vector<std::string> directory; ///< the controller's, as last read for a transfer
+    JobNameSet directoryNames;
+    JobDeletion deletion;
+    TransferTools tools;
+    JobSend sending;
+    JobFetch fetching;
+    LocalJobList localJobs;
+    JobListStore jobs;
+    VariableTransfer variable;
+    VariableList variables;
+    bool quit = false;
+};
+
+namespace {
+
+/// One public operation: whichever way it is left, the progress dialog is hidden.
+class Operation {
+  public:
+    Operation(LinkConnection& link, SessionProgress& progress) : progress_(progress) {
+        link.forgetUnsetAddress();
+        progress_.begin();
+    }
+    ~Operation() { progress_.hide(); }
+    Operation(const Operation&) = delete;
+    Operation& operator=(const Operation&) = delete;
+
+  private:
+    SessionProgress& progress_;
+};
+
+} // namespace
+
+Snappy::Snappy(const SessionServices& services)
+    : parts_(std::make_unique<Parts>(services, *this)) {
+    path = currentFolder();
+}
+
+Snappy::~Snappy() = default;
+
+std::int32_t Snappy::JobListCount() const {
+    return parts_->jobs.entries().count();
+}
+
+std::int32_t Snappy::VarListCount() const {
+    return parts_->variables.entries().count();
+}
+
+std::int16_t Snappy::ErrorCode() const {
+    return parts_->error.ErrorCode;
+}
+
+const std::string& Snappy::ErrorFunction() const {
+    return parts_->error.ErrorFunction;
+}
+
+std::int32_t Snappy::ErrorIndex() const {
+    return parts_->error.ErrorIndex;
+}
+
+std::string Snappy::GetCTRLError(std::int32_t code) const {
+    return parts_->services.messages.controllerErrorText(code);
+}
+
+std::string Snappy::JobList(std::int32_t index) const {
+    return parts_->jobs.entries().at(index);
+}
+
+std::string Snappy::VarList(std::int32_t index) const {
+    return parts_->variables.entries().at(index);
+}
+
+bool Snappy::endedByUnsetAddress() const {
+    return parts_->link.endedByUnsetAddress();
+}
+
+// Jobs.
+
+bool Snappy::Parts::readDirectory() {
+    const bool read = reader.read(directory);
+    progress.hide();
+    directoryNames.assign(directory);
+    return read;
+}
+
+bool Snappy::Parts::concludeSingle(TransferOutcome outcome) {
+    progress.hide();
+    if (goesOn(outcome) && progress.isCancelled())
+        outcome = TransferOutcome::Cancelled;
+    switch (outcome) {
+    case TransferOutcome::Refused:
+        error.set(session_code::overwriteRefused, "");
+        break;
+    case TransferOutcome::Cancelled:
+        error.set(session_code::cancelled, "");
+        break;
+    case TransferOutcome::DoneAll:
+        error.set(session_code::overwriteAll, "");
+        break;
+    case TransferOutcome::Done:
+    case TransferOutcome::Failed:
+        break;
+    }
+    return goesOn(outcome);
+}
+
+bool Snappy::Parts::transferList(const SessionProperties& properties, JobBatch::Transfer transfer) {
+    JobBatch batch(
+        {properties, link, progress, error, localJobs, services.messages, services.dialog},
+        std::move(transfer));
+    return batch.run(jobs.entries().all());
+}
+
+bool Snappy::ReadDirectory(std::vector<std::string>& list) {
+    const Operation operation(parts_->link, parts_->progress);
+    return parts_->reader.read(list);
+}
+
+bool Snappy::JobDownLoad(const std::string& file, bool overwriteAll) {
+    const Operation operation(parts_->link, parts_->progress);
+    // A name that will be refused opens no link, not even the directory's.
+    if (!parts_->link.libraryFileName(file, "BscDownLoad", 0) || !parts_->readDirectory())
+        return false;
+    parts_->progress.open(parts_->progress.transferring(file), false, true);
+    return parts_->concludeSingle(parts_->sending.send(file, 0, overwriteAll));
+}
+
+bool Snappy::JobDelete(const std::string& name) {
+    const Operation operation(parts_->link, parts_->progress);
+    return parts_->deletion.remove(name);
+}
+
+bool Snappy::JobUpLoad(const std::string& name, bool overwriteAll) {
+    const Operation operation(parts_->link, parts_->progress);
+    if (!parts_->link.libraryFileName(name, "BscUpLoad", 0) || !parts_->fetching.listFolder())
+        return false;
+    parts_->progress.open(parts_->progress.transferring(name), false, true);
+    return parts_->concludeSingle(parts_->fetching.fetch(name, 0, overwriteAll));
+}
+
+bool Snappy::JobListDownLoad() {
+    const Operation operation(parts_->link, parts_->progress);
+    parts_->localJobs.read(path);
+    if (!parts_->readDirectory())
+        return false;
+    return parts_->transferList(
+        *this, [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
+            return parts_->sending.send(entry, index, overwriteAll);
+        });
+}
+
+bool Snappy::JobListUpLoad() {
+    const Operation operation(parts_->link, parts_->progress);
+    parts_->localJobs.read(path);
+    if (!parts_->fetching.listFolder())
+        return false;
+    return parts_->transferList(
+        *this, [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
+            return parts_->fetching.fetch(entry, index, overwriteAll);
+        });
+}
+
+void Snappy::AddJobList(const std::string& entry) {
+    parts_->jobs.entries().add(entry);
+}
+
+void Snappy::JobListClear() {
+    parts_->jobs.entries().clear();
+}
+
+void Snappy::RemoveJobList(std::int32_t index) {
+    parts_->jobs.entries().remove(index);
+}
+
+bool Snappy::SetJobListFile(const std::string& file, bool unchecked) {
+    parts_->localJobs.read(path);
+    return parts_->jobs.load(file, unchecked);
+}
+
+// Variables.
+
+void Snappy::SetVarListFile(const std::string& file) {
+    parts_->variables.setFile(file);
+}
+
+bool Snappy::ReadVarListFile() {
+    return parts_->variables.read();
+}
+
+void Snappy::VarListClear() {
+    parts_->variables.entries().clear();
+}
+
+void Snappy::AddVarList(const std::string& entry) {
+    parts_->variables.entries().add(entry);
+}
+
+void Snappy::RemoveVarList(std::int32_t index) {
+    parts_->variables.entries().remove(index);
+}
+
+bool Snappy::VarDownLoad(const std::string& entry) {
+    const Operation operation(parts_->link, parts_->progress);
+    parts_->progress.open(parts_->progress.transferring(entry), false, false);
+    return parts_->variable.write(entry);
+}
+
+bool Snappy::VarUpLoad(std::string& entry) {
+    const Operation operation(parts_->link, parts_->progress);
+    parts_->progress.open(parts_->progress.transferring(entry), false, false);
+    return parts_->variable.read(entry);
+}
+
+bool Snappy::VarListDownLoad() {
+    const Operation operation(parts_->link, parts_->progress);
+    VariableBatch batch(parts_->link, parts_->progress, parts_->error);
+    return batch.run(parts_->variables.entries(),
+                     [this](std::string& entry) { return parts_->variable.write(entry); });
+}
+
+bool Snappy::VarListUpLoad() {
+    const Operation operation(parts_->link, parts_->progress);
+    VariableBatch batch(parts_->link, parts_->progress, parts_->error);
+    return batch.run(parts_->variables.entries(),
+                     [this](std::string& entry) { return parts_->variable.read(entry); });
+}
+
+bool Snappy::WriteVarListFile(const std::string& file) {
+    return parts_->variables.write(file);
+}
+
+// The session itself.
+
+void Snappy::SetLangageMode(std::int16_t selector) {
+    static constexpr const char* names[] = {"japanese", "English"};
+    if (selector == 0 || selector == 1)
+        static_cast<void>(
+            parts_->services.languages.readInto(names[selector], parts_->services.messages));
+}
+
+void Snappy::Quit() {
+    if (std::exchange(parts_->quit, true))
+        return;
+    parts_->services.progress.unload();
+    if (parts_->services.unloadWindows)
+        parts_->services.unloadWindows();
+}
+
+bool Snappy::SetTansMode(std::int16_t mode) {
+    parts_->services.TransMode = mode == 1 ? TransferMode::HispeedLink : TransferMode::Bsc;
+    if (parts_->services.modeChanged)
+        parts_->services.modeChanged();
+    return mode == 0 || mode == 1;
+}
+
+} // namespace vantrel

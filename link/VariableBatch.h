@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace vantrel {
+
+class EntryList;
+class LinkConnection;
+class SessionProgress;
+struct SessionErrorRecord;
+
+/// Transfers a list of variables one after the other; the first failure or a press of Cancel ends
+/// it, with the entry's index in the error record. Blank lines are passed over.
+class VariableBatch {
+  public:
+    /// Transfers one entry, which may come back refreshed.
+    using Transfer = std::function<bool(std::string& entry)>;
+
+    VariableBatch(const LinkConnection& link, SessionProgress& progress, SessionErrorRecord& error)
+        : link_(link), progress_(progress), error_(error) {}
+
+    bool run(EntryList& entries, const Transfer& transfer);
+
+  private:
+    bool transferOne(EntryList& entries, std::int32_t index, const Transfer& transfer);
+
+    const LinkConnection& link_;
+    SessionProgress& progress_;
+    SessionErrorRecord& error_;
+};
+
+} // namespace vantrel

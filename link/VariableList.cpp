@@ -1,0 +1,52 @@
+#include "link/VariableList.h"
+
+#include "base/PathRules.h"
+#include "base/Text.h"
+#include "link/SessionErrorRecord.h"
+#include "link/SessionProperties.h"
+#include "platform/Files.h"
+
+namespace vantrel {
+namespace {
+
+/// The line end of a text's first line; a text of one line is given the usual one.
+std::string firstLineEnd(std::string_view text) {
+    const std::size_t at = text.find_first_of("\r\n");
+    if (at == std::string_view::npos || startsWith(text.substr(at), "\r\n"))
+        return "\r\n";
+    return std::string(1, text[at]);
+}
+
+} // namespace
+
+bool VariableList::read() {
+    entries_.clear();
+    const auto content = readFile(PathRules().join(properties_.path, file_));
+    if (!content)
+        return fail();
+    const DecodedText decoded = decodeText(*content);
+    encoding_ = decoded.encoding;
+    lineEnd_ = firstLineEnd(decoded.text);
+    for (const std::string_view line : lines(decoded.text))
+        entries_.add(std::string(line));
+    return true;
+}
+
+bool VariableList::write(const std::string& file) {
+    std::string text;
+    for (const std::string& entry : entries_.all())
+        text += entry + lineEnd_;
+    auto bytes = encodeText(text, encoding_);
+    if (!bytes) // a line that came from elsewhere than the file
+        bytes = encodeText(text, TextEncoding::Utf8);
+    if (!bytes || !replaceFile(PathRules().join(properties_.path, file), *bytes))
+        return fail();
+    return true;
+}
+
+bool VariableList::fail() {
+    error_.set(session_code::listFileNotOpened, "");
+    return false;
+}
+
+} // namespace vantrel

@@ -1,0 +1,25 @@
+#include "app/RobotList.h"
+
+#include <gtest/gtest.h>
+
+namespace vantrel {
+namespace {
+
+RobotRecord named(std::string_view name) {
+    RobotRecord record;
+    record.Name = name;
+    return record;
+}
+
+TEST(RobotListTest, CountsUpToTheSentinel) {
+    EXPECT_EQ(robotCount({named("A"), named("B"), named("@END@"), named("C")}), 2U);
+    EXPECT_EQ(robotCount(emptyRobotList()), 0U);
+}
+
+TEST(RobotListTest, WithoutSentinelEveryRecordCounts) {
+    EXPECT_EQ(robotCount({}), 0U);
+    EXPECT_EQ(robotCount({named("A")}), 1U);
+}
+
+} // namespace
+} // namespace vantrel

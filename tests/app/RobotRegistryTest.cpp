@@ -1,0 +1,282 @@
+#include "app/RobotRegistry.h"
+
+#include "AppFakes.h"
+#include "app/RobotFileReader.h"
+#include "app/RobotList.h"
+#include "app/RobotPaths.h"
+#include "base/PathRules.h"
+#include "platform/TextEncoding.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace vantrel {
+namespace {
+
+class RobotRegistryTest : public testing::Test {
+  protected:
+    /// Reads the file `content`.
+    void read(std::string_view content) {
+        folder_.write("robot.ini", content);
+        registry_.read(box_);
+    }
+    std::string file() const { return folder_.read("robot.ini"); }
+    std::string blockOf(const std::string& name, const std::string& address,
+                        const std::string& folder) const {
+        return "[Robot]\r\nName=" + name + "\r\nIPaddr=" + address + "\r\nPath=" + folder +
+               "\r\n\r\n";
+    }
+    static std::string boot(const std::string& name) {
+        return "[Boot]\r\nName=" + name + "\r\n\r\n";
+    }
+    void expectNotRead() const {
+        ASSERT_EQ(boxes_.shown.size(), 1U);
+        EXPECT_EQ(boxes_.shown[0].text, "m33[robot.ini]");
+        EXPECT_EQ(boxes_.shown[0].icon, BoxIcon::Exclamation);
+    }
+    /// Something that exists but is no file that can be read.
+    void makeUnreadable() { folder_.makeFolder("robot.ini/inner"); }
+
+    tests::TemporaryFolder folder_;
+    tests::InFolder inFolder_{folder_.path()};
+    ApplicationState state_;
+    MessageTable messages_ = tests::numberedMessages();
+    tests::FakeMessageBoxes boxes_;
+    tests::RecordingRobotBox box_;
+    RobotRegistry registry_{state_, messages_, boxes_, folder_.path()};
+};
+
+TEST_F(RobotRegistryTest, AMissingFileIsCreated) {
+    registry_.read(box_);
+    EXPECT_EQ(file(), boot("DEFAULT") + blockOf("DEFAULT", "0.0.0.0", folder_.path()));
+    EXPECT_EQ(box_.names, (std::vector<std::string>{"DEFAULT"}));
+    EXPECT_EQ(box_.selected, 0);
+    EXPECT_EQ(state_.BootName, "DEFAULT");
+    EXPECT_EQ(state_.CurrentRobot.Path, folder_.path());
+    EXPECT_EQ(state_.CurrentRobot.IP4, "0");
+    EXPECT_TRUE(boxes_.shown.empty());
+}
+
+TEST_F(RobotRegistryTest, WhereNothingCanBeWrittenTheDefaultListIsUsed) {
+    const std::string gone = folder_.path("gone");
+    RobotRegistry registry(state_, messages_, boxes_, gone);
+    registry.read(box_);
+    EXPECT_EQ(box_.names, (std::vector<std::string>{"DEFAULT"}));
+    EXPECT_EQ(state_.CurrentRobot.Path, gone);
+    EXPECT_TRUE(boxes_.shown.empty());
+    EXPECT_FALSE(registry.write());
+}
+
+TEST_F(RobotRegistryTest, ARobotWithANameOnlyHasTheProgramFolder) {
+    read("[Robot]\r\nName=R1\r\n");
+    EXPECT_EQ(state_.CurrentRobot.Name, "R1");
+    EXPECT_EQ(state_.CurrentRobot.IPaddr, "");
+    EXPECT_EQ(state_.CurrentRobot.Path, folder_.path());
+}
+
+TEST_F(RobotRegistryTest, RelativeFoldersStartFromTheBaseFolder) {
+    read("[Robot]\r\nName=A\r\nPath=data\\r1\r\n[Robot]\r\nName=B\r\nPath=jobs\r\n");
+    EXPECT_EQ(state_.BaseDir, folder_.path());
+    EXPECT_EQ(state_.RobotList[0].Path, PathRules().join(folder_.path("data"), "r1"));
+    EXPECT_EQ(state_.RobotList[1].Path, folder_.path("jobs"));
+}
+
+TEST_F(RobotRegistryTest, TheBaseFolderIsInLowerCaseWhereThatFolderExists) {
+    folder_.makeFolder("Mixed");
+    const std::string lower = folder_.makeFolder("mixed");
+    EXPECT_EQ(robotBaseFolder(folder_.path("Mixed")), lower);
+}
+
+TEST_F(RobotRegistryTest, TheBaseFolderKeepsItsSpellingWhereTheLowerCaseOneDoesNotExist) {
+    const std::string mixed = folder_.makeFolder("Mixed");
+    if (isFolder(folder_.path("mixed")))
+        GTEST_SKIP() << "letter case does not count here";
+    EXPECT_EQ(robotBaseFolder(mixed), mixed);
+}
+
+TEST_F(RobotRegistryTest, ReadingLeavesTheCurrentFolder) {
+    folder_.makeFolder("jobs");
+    read("[Robot]\r\nName=A\r\nPath=jobs\r\n");
+    EXPECT_EQ(currentFolder(), folder_.path());
+}
+
+TEST_F(RobotRegistryTest, TheBootRobotIsSelected) {
+    read("[Boot]\r\nName=B\r\n[Robot]\r\nName=A\r\n[Robot]\r\nName=B\r\nIPaddr=10.0.0.5\r\n");
+    EXPECT_EQ(state_.BootName, "B");
+    EXPECT_EQ(state_.CurrentRobotIndex, 1);
+    EXPECT_EQ(state_.StartRobotIndex, 1);
+    EXPECT_EQ(state_.CurrentRobot.Name, "B");
+    EXPECT_EQ(state_.CurrentRobot.IPaddr, "10.0.0.5");
+    EXPECT_EQ(box_.names, (std::vector<std::string>{"A", "B"}));
+    EXPECT_EQ(box_.selected, 1);
+}
+
+TEST_F(RobotRegistryTest, TheLastOfEqualNamesIsSelected) {
+    read("[Boot]\r\nName=B\r\n[Robot]\r\nName=B\r\n[Robot]\r\nName=B\r\n[Robot]\r\nName=C\r\n");
+    EXPECT_EQ(state_.CurrentRobotIndex, 1);
+}
+
+TEST_F(RobotRegistryTest, AnUnknownBootNameSelectsTheFirstRobot) {
+    read("[Boot]\r\nName=X\r\n[Robot]\r\nName=A\r\n[Robot]\r\nName=B\r\n");
+    EXPECT_EQ(state_.CurrentRobotIndex, 0);
+    EXPECT_EQ(state_.CurrentRobot.Name, "A");
+    EXPECT_EQ(box_.selected, 0);
+}
+
+TEST_F(RobotRegistryTest, BootNamesMatchExactly) {
+    read("[Boot]\r\nName=b\r\n[Robot]\r\nName=A\r\n[Robot]\r\nName=B\r\n");
+    EXPECT_EQ(state_.CurrentRobotIndex, 0);
+}
+
+TEST_F(RobotRegistryTest, AnEmptyFileGivesAnEmptyList) {
+    state_.CurrentRobot.Path = "/from/settings";
+    box_.names = {"old"};
+    read("");
+    EXPECT_EQ(robotCount(state_.RobotList), 0U);
+    EXPECT_EQ(state_.RobotList.back().Name, endOfRobots);
+    EXPECT_TRUE(box_.names.empty());
+    EXPECT_EQ(box_.selected, -1);
+    EXPECT_EQ(state_.CurrentRobot.Path, "/from/settings");
+    EXPECT_TRUE(boxes_.shown.empty());
+}
+
+TEST_F(RobotRegistryTest, AFileThatCannotBeReadIsToldAndLeavesTheBox) {
+    makeUnreadable();
+    box_.names = {"old"};
+    registry_.read(box_);
+    expectNotRead();
+    EXPECT_EQ(box_.names, (std::vector<std::string>{"old"}));
+    EXPECT_EQ(state_.CurrentRobot, RobotRecord());
+    EXPECT_EQ(robotCount(state_.RobotList), 0U);
+}
+
+TEST_F(RobotRegistryTest, AListWithoutSentinelIsRefused) {
+    std::vector<RobotRecord> robots(2);
+    EXPECT_FALSE(makeFoldersAbsolute(robots, RobotPaths("/opt")));
+    robots.back().Name = endOfRobots;
+    EXPECT_TRUE(makeFoldersAbsolute(robots, RobotPaths("/opt")));
+}
+
+TEST_F(RobotRegistryTest, WritingRewritesTheWholeFile) {
+    read(
+        "; mine\r\n[Boot]\r\nName=A\r\n[Other]\r\nx=y\r\n[Robot]\r\nName=A\r\n[Robot]\r\nName=B\r\n"
+        "IPaddr=1.2.3.4\r\nPath=/jobs\r\n");
+    state_.CurrentRobot = state_.RobotList[1];
+    EXPECT_TRUE(registry_.write());
+    EXPECT_EQ(file(),
+              boot("B") + blockOf("A", "", folder_.path()) + blockOf("B", "1.2.3.4", "/jobs"));
+}
+
+TEST_F(RobotRegistryTest, NamesThatCouldNotBeReadBackAreNotWritten) {
+    read("[Robot]\r\nName= 'R1' \r\n");
+    EXPECT_EQ(state_.CurrentRobot.Name, " 'R1' ");
+    EXPECT_TRUE(registry_.write());
+    EXPECT_EQ(file(), boot("R1") + blockOf("R1", "", folder_.path()));
+    registry_.read(box_);
+    EXPECT_EQ(state_.CurrentRobot.Name, state_.BootName);
+}
+
+TEST_F(RobotRegistryTest, AnUnreadFileIsLeftAloneWhenNothingWasEdited) {
+    makeUnreadable();
+    registry_.read(box_);
+    EXPECT_TRUE(registry_.write());
+    EXPECT_TRUE(folder_.has("robot.ini/inner"));
+}
+
+TEST_F(RobotRegistryTest, AnUnreadFileIsKeptAsABackupWhenTheOperatorEdited) {
+    makeUnreadable();
+    folder_.write("robot.ini.bak", "an older backup");
+    registry_.read(box_);
+    state_.RobotList.insert(state_.RobotList.begin(), RobotRecord())->Name = "NEW";
+    registry_.noteEdit();
+    EXPECT_TRUE(registry_.write());
+    EXPECT_EQ(folder_.read("robot.ini.bak"), "an older backup");
+    EXPECT_TRUE(folder_.has("robot.ini.bak2/inner"));
+    EXPECT_NE(file().find("Name=NEW\r\n"), std::string::npos);
+    EXPECT_TRUE(registry_.write());
+    EXPECT_FALSE(folder_.has("robot.ini.bak3"));
+}
+
+TEST_F(RobotRegistryTest, TheBoxCanBeFilledAgain) {
+    read("[Robot]\r\nName=A\r\n[Robot]\r\nName=B\r\n");
+    state_.RobotList[0].Name = "renamed";
+    state_.CurrentRobotIndex = 1;
+    registry_.fillBox(box_);
+    EXPECT_EQ(box_.names, (std::vector<std::string>{"renamed", "B"}));
+    EXPECT_EQ(box_.selected, 1);
+    state_.CurrentRobotIndex = 7;
+    registry_.fillBox(box_);
+    EXPECT_EQ(box_.selected, -1);
+}
+
+struct EncodingCase {
+    const char* name;
+    TextEncoding encoding;
+};
+
+class RobotRegistryEncodingTest : public RobotRegistryTest,
+                                  public testing::WithParamInterface<EncodingCase> {};
+
+TEST_P(RobotRegistryEncodingTest, IsKept) {
+    const std::string text = boot("溶接ﾛﾎﾞｯﾄ") + blockOf("塗装", "1.2.3.4", "/a") +
+                             blockOf("溶接ﾛﾎﾞｯﾄ", "5.6.7.8", "/作業");
+    const std::string bytes = encodeText(text, GetParam().encoding).value();
+    read(bytes);
+    EXPECT_EQ(state_.CurrentRobotIndex, 1);
+    EXPECT_EQ(state_.CurrentRobot.Name, "溶接ﾛﾎﾞｯﾄ");
+    EXPECT_EQ(state_.CurrentRobot.Path, "/作業");
+    EXPECT_TRUE(registry_.write());
+    EXPECT_EQ(file(), bytes);
+}
+
+INSTANTIATE_TEST_SUITE_P(, RobotRegistryEncodingTest,
+                         testing::Values(EncodingCase{"CodePage", TextEncoding::CodePage},
+                                         EncodingCase{"Utf8", TextEncoding::Utf8},
+                                         EncodingCase{"Utf8WithMark", TextEncoding::Utf8WithMark},
+                                         EncodingCase{"Utf16", TextEncoding::Utf16LittleEndian}),
+                         [](const auto& test) { return test.param.name; });
+
+TEST_F(RobotRegistryTest, APlainFileGoesOnInTheCodePage) {
+    read("[Robot]\r\nName=A\r\nPath=/a\r\n");
+    state_.RobotList[0].Name = "溶接";
+    EXPECT_TRUE(registry_.write());
+    EXPECT_EQ(decodeText(file()).encoding, TextEncoding::CodePage);
+}
+
+TEST_F(RobotRegistryTest, APlainFileGoesOnInUtf8WhereTheCodePageCannot) {
+    for (const std::string name : {"Schwei\u00DFroboter", "ﾃｱ"}) {
+        // The second name's code page bytes would be taken for UTF-8.
+        read("[Robot]\r\nName=A\r\nPath=/a\r\n");
+        state_.RobotList[0].Name = name;
+        state_.CurrentRobot = state_.RobotList[0];
+        EXPECT_TRUE(registry_.write());
+        registry_.read(box_);
+        EXPECT_EQ(state_.BootName, name);
+        EXPECT_EQ(state_.CurrentRobot.Name, name);
+    }
+}
+
+TEST_F(RobotRegistryTest, ANameThatTheFilesEncodingLacksIsRefusedByName) {
+    const std::string bytes =
+        encodeText(boot("溶接") + blockOf("溶接", "", "/a"), TextEncoding::CodePage).value();
+    read(bytes);
+    state_.RobotList.insert(state_.RobotList.begin(), RobotRecord())->Name = "\xF0\x9F\xA4\x96";
+    const Outcome written = registry_.write();
+    ASSERT_FALSE(written);
+    EXPECT_NE(written.reason().find("[\xF0\x9F\xA4\x96]"), std::string::npos);
+    EXPECT_EQ(file(), bytes);
+}
+
+TEST_F(RobotRegistryTest, GarbageGivesAnEmptyList) {
+    for (const std::string& garbage :
+         {std::string(10'000'000, 'x'), std::string("\0\0\xFF\xFE\0", 5), std::string("\xFF\xFE["),
+          std::string("[Robot"), std::string("\xEF\xBB\xBF")}) {
+        read(garbage);
+        EXPECT_EQ(robotCount(state_.RobotList), 0U);
+        EXPECT_TRUE(boxes_.shown.empty());
+    }
+}
+
+} // namespace
+} // namespace vantrel

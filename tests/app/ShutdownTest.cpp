@@ -1,0 +1,131 @@
+#include "app/Shutdown.h"
+
+#include "AppFakes.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace vantrel {
+namespace {
+
+class RecordingShutdownWindows final : public ShutdownWindows {
+  public:
+    explicit RecordingShutdownWindows(tests::Log& log) : log_(log) {}
+
+    bool locked = false;
+
+    bool isLocked() const override { return locked; }
+    void unloadOtherWindows() override { log_.push_back("unload"); }
+    WindowPlacement placement() const override {
+        return {.isNormal = true, .left = 15, .top = 30, .width = 9000, .height = 6000};
+    }
+
+  private:
+    tests::Log& log_;
+};
+
+class ShutdownTest : public testing::Test {
+  protected:
+    ShutdownTest() {
+        registry_.read(box_);
+        desk_.folder.write("robot.ini", "");
+        desk_.state.StartupDone = true;
+    }
+    std::string settings() const { return desk_.folder.read("Vantrel.ini"); }
+    std::string registryFile() const { return desk_.folder.read("robot.ini"); }
+    void expectNothingWritten() const {
+        EXPECT_FALSE(desk_.folder.has("Vantrel.ini"));
+        EXPECT_EQ(registryFile(), "");
+    }
+    /// Makes the file one that cannot be written.
+    void block(const std::string& name) {
+        std::filesystem::remove(desk_.folder.path(name));
+        desk_.folder.makeFolder(name + "/inner");
+    }
+
+    tests::Desk desk_;
+    tests::InFolder inFolder_{desk_.folder.path()};
+    tests::RecordingRobotBox box_;
+    SettingsFile settings_{desk_.folder.path(), "Vantrel.ini"};
+    RobotRegistry registry_{desk_.state, desk_.messages, desk_.boxes, desk_.folder.path()};
+    RecordingShutdownWindows windows_{desk_.log};
+    Shutdown shutdown_{{.state = desk_.state,
+                        .settings = settings_,
+                        .registry = registry_,
+                        .session = desk_.session,
+                        .messages = desk_.messages,
+                        .boxes = desk_.boxes,
+                        .windows = windows_}};
+};
+
+TEST_F(ShutdownTest, OkSavesEverythingAndQuitsTheSession) {
+    desk_.boxes.answers = {true};
+    EXPECT_TRUE(shutdown_.close());
+    EXPECT_EQ(desk_.log, (tests::Log{"unload", "askOkCancel m13", "session quit"}));
+    EXPECT_EQ(desk_.boxes.shown[0].icon, BoxIcon::Question);
+    EXPECT_NE(settings().find("Window=15,30,9000,6000,0,0,0\r\n"), std::string::npos);
+    EXPECT_NE(registryFile().find("[Boot]\r\nName=DEFAULT\r\n"), std::string::npos);
+}
+
+TEST_F(ShutdownTest, CancelKeepsTheProgramRunning) {
+    desk_.boxes.answers = {false};
+    EXPECT_FALSE(shutdown_.close());
+    EXPECT_EQ(desk_.log, (tests::Log{"unload", "askOkCancel m13"}));
+    expectNothingWritten();
+}
+
+TEST_F(ShutdownTest, WithNoSaveNothingIsWritten) {
+    desk_.state.NoSave = true;
+    desk_.boxes.answers = {true};
+    EXPECT_TRUE(shutdown_.close());
+    EXPECT_EQ(desk_.log.back(), "session quit");
+    expectNothingWritten();
+}
+
+TEST_F(ShutdownTest, WhileLockedTheCloseIsRefusedWithoutAWord) {
+    windows_.locked = true;
+    EXPECT_FALSE(shutdown_.close());
+    EXPECT_TRUE(desk_.log.empty());
+    expectNothingWritten();
+}
+
+TEST_F(ShutdownTest, WhileBusyOrStartingTheCloseIsRefusedWithoutAWord) {
+    desk_.state.Busy = true;
+    EXPECT_FALSE(shutdown_.close());
+    desk_.state.Busy = false;
+    desk_.state.StartupDone = false;
+    EXPECT_FALSE(shutdown_.close());
+    EXPECT_TRUE(desk_.log.empty());
+}
+
+TEST_F(ShutdownTest, ASettingsFileThatCannotBeWrittenIsNotReported) {
+    block("Vantrel.ini");
+    desk_.boxes.answers = {true};
+    EXPECT_TRUE(shutdown_.close());
+    EXPECT_EQ(desk_.boxes.shown.size(), 1U);
+    EXPECT_NE(registryFile().find("[Boot]"), std::string::npos);
+}
+
+TEST_F(ShutdownTest, ARegistryThatCannotBeWrittenIsToldOnce) {
+    block("robot.ini");
+    desk_.boxes.answers = {true};
+    EXPECT_TRUE(shutdown_.close());
+    ASSERT_EQ(desk_.boxes.shown.size(), 2U);
+    EXPECT_TRUE(desk_.boxes.shown[1].text.starts_with("m46"));
+    EXPECT_GT(desk_.boxes.shown[1].text.size(), std::string("m46").size());
+    EXPECT_EQ(desk_.boxes.shown[1].icon, BoxIcon::Exclamation);
+    EXPECT_EQ(desk_.log.back(), "session quit");
+    EXPECT_NE(settings().find("[Vantrel]"), std::string::npos);
+}
+
+TEST_F(ShutdownTest, ASecondCloseAsksNothing) {
+    desk_.boxes.answers = {true};
+    EXPECT_TRUE(shutdown_.close());
+    const tests::Log before = desk_.log;
+    EXPECT_TRUE(shutdown_.close());
+    EXPECT_EQ(desk_.log, before);
+}
+
+} // namespace
+} // namespace vantrel

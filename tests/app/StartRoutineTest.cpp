@@ -1,0 +1,335 @@
+#include "app/StartRoutine.h"
+
+#include "AppFakes.h"
+#include "app/SettingsFile.h"
+#include "lang/LanguageChoice.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
+
+namespace vantrel {
+namespace {
+
+/// Windows that record what the start routine does to them, and a little of the state at that time.
+class RecordingStartWindows final : public StartWindows {
+  public:
+    explicit RecordingStartWindows(tests::Desk& desk) : desk_(desk) {}
+
+    bool cancelsLanguage = false;
+    std::function<void()> whenBuilt = [] {};
+    std::function<void()> whenStarted = [] {};
+    tests::RecordingRobotBox box;
+
+    void setHelpFile(const std::string& path) override {
+        add("help " + path.substr(desk_.folder.path().size()));
+    }
+    void showLanguageDialog() override {
+        add("language dialog");
+        desk_.state.LangCancelled = cancelsLanguage;
+    }
+    void showStartMessage() override { add("show message"); }
+    void unloadStartMessage() override { add("unload message"); }
+    void loadVersionWindow() override { add("load version"); }
+    void showVersionWindow() override { add("show version"); }
+    void buildMainWindow() override {
+        add("build main, port " + std::to_string(desk_.state.Port));
+        whenBuilt();
+    }
+    void showMainWindow() override { add("show main"); }
+    void focusPCList() override { add("focus"); }
+    void startMainWindow() override {
+        add(std::string("start main") + (desk_.state.Busy ? ", busy" : "") +
+            (desk_.state.StartupDone ? ", done" : ""));
+        whenStarted();
+    }
+    RobotBox& robotBox() override {
+        add("robot box, port " + std::to_string(desk_.state.Port));
+        return box;
+    }
+    Panes& panes() override { return desk_.panes; }
+    Snappy& createSession() override {
+        add("session in " + currentFolder());
+        return desk_.session;
+    }
+
+  private:
+    void add(std::string entry) { desk_.log.push_back(std::move(entry)); }
+
+    tests::Desk& desk_;
+};
+
+class StartRoutineTest : public testing::Test {
+  protected:
+    StartRoutineTest() {
+        writeLanguage("English");
+        write("[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n");
+        desk_.state.Busy = true;
+        desk_.state.StartupDone = true;
+    }
+    /// Every message N reads "mN" in this language.
+    void writeLanguage(const std::string& name) {
+        std::string text = "Start:\r\n";
+        for (int number = 0; number < 600; ++number)
+            text += std::to_string(number) + " \"\" \"m" + std::to_string(number) + "\"\r\n";
+        desk_.folder.write(name + ".lng", text);
+    }
+    void write(const std::string& settings) { desk_.folder.write("Vantrel.ini", settings); }
+    void addSettings(const std::string& more) { write(desk_.folder.read("Vantrel.ini") + more); }
+    StartResult start(CommandLine commandLine = {}) {
+        const SettingsFile settings(desk_.folder.path(), "Vantrel.ini");
+        return StartRoutine({.state = desk_.state,
+                             .table = desk_.table,
+                             .language = language_,
+                             .messages = desk_.messages,
+                             .boxes = desk_.boxes,
+                             .settings = settings,
+                             .registry = registry_,
+                             .windows = windows_,
+                             .commandLine = commandLine,
+                             .executable = desk_.folder.path("Vantrel"),
+                             .programFolder = desk_.folder.path()})
+            .Main();
+    }
+    bool logged(const std::string& entry) const {
+        return std::ranges::find(desk_.log, entry) != desk_.log.end();
+    }
+
+    tests::Desk desk_;
+    tests::TemporaryFolder elsewhere_;
+    tests::InFolder inFolder_{elsewhere_.path()};
+    RecordingStartWindows windows_{desk_};
+    RobotRegistry registry_{desk_.state, desk_.messages, desk_.boxes, desk_.folder.path()};
+    LanguageChoice language_{desk_.state, desk_.messages, desk_.languages, desk_.boxes, "English"};
+};
+
+TEST_F(StartRoutineTest, ExitReadsAndShowsAndWritesNothing) {
+    desk_.state = ApplicationState();
+    EXPECT_EQ(start({.endsAtOnce = true}), StartResult::ExitSwitch);
+    EXPECT_TRUE(desk_.log.empty());
+    EXPECT_EQ(desk_.state.IniFileName, "");
+    EXPECT_FALSE(desk_.folder.has("robot.ini"));
+}
+
+TEST_F(StartRoutineTest, StepsRunInTheirOrder) {
+    addSettings("[Vantrel]\r\nPort=3\r\n");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.log, (tests::Log{"session in " + elsewhere_.path(), "help /Vantrel.hlp",
+                                     "help /Vantrel.hlp", "show message", "build main, port 1",
+                                     "robot box, port 3", "unload message", "askYesNo m1",
+                                     "status Ctrl m150m16", "show main", "focus", "start main"}));
+    EXPECT_FALSE(desk_.state.Busy);
+    EXPECT_TRUE(desk_.state.StartupDone);
+    EXPECT_FALSE(desk_.state.NoSave);
+    EXPECT_EQ(desk_.state.IniFileName, "Vantrel.ini");
+}
+
+TEST_F(StartRoutineTest, TheFirstStartEverAsksForTheLanguage) {
+    write("");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.log[2], "language dialog");
+    EXPECT_TRUE(desk_.folder.has("robot.ini"));
+    EXPECT_EQ(desk_.state.PCPath, desk_.folder.path());
+    EXPECT_EQ(windows_.box.names, (std::vector<std::string>{"DEFAULT"}));
+}
+
+TEST_F(StartRoutineTest, LangSelectBringsTheLanguageDialog) {
+    write("[Language Info]\r\nLanguage=English\r\nLangSelect=1\r\n");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_TRUE(logged("language dialog"));
+}
+
+TEST_F(StartRoutineTest, AMissingRecordedLanguageBringsTheLanguageDialog) {
+    write("[Language Info]\r\nLanguage=Klingon\r\nLangSelect=0\r\n");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_TRUE(logged("language dialog"));
+}
+
+TEST_F(StartRoutineTest, ACancelledLanguageDialogEndsTheStart) {
+    write("");
+    windows_.cancelsLanguage = true;
+    EXPECT_EQ(start(), StartResult::LanguageCancelled);
+    EXPECT_EQ(desk_.log.back(), "language dialog");
+    EXPECT_FALSE(desk_.folder.has("robot.ini"));
+    EXPECT_EQ(desk_.folder.read("Vantrel.ini"), "");
+}
+
+TEST_F(StartRoutineTest, AnEarlierCancelDoesNotCount) {
+    write("");
+    desk_.state.LangCancelled = true;
+    EXPECT_EQ(start(), StartResult::Running);
+}
+
+TEST_F(StartRoutineTest, WithoutAnyLanguageFileNothingStarts) {
+    ASSERT_TRUE(removeFile(desk_.folder.path("English.lng")));
+    EXPECT_EQ(start(), StartResult::NoLanguage);
+    EXPECT_EQ(desk_.log, (tests::Log{"tell Language File Read Error.(System.lng)"}));
+}
+
+TEST_F(StartRoutineTest, AnAutomationStartShowsNoWindow) {
+    EXPECT_EQ(start({.startedForAutomation = true}), StartResult::Automation);
+    EXPECT_TRUE(desk_.log.empty());
+    EXPECT_FALSE(desk_.state.StartupDone);
+    EXPECT_EQ(desk_.state.LanguageName, "English");
+}
+
+TEST_F(StartRoutineTest, ARecordedLanguageWithoutFontsGetsTheDefaultFont) {
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.state.FontName, "MS Sans Serif");
+    EXPECT_EQ(desk_.state.FontSize, 8);
+    EXPECT_TRUE(desk_.state.FontBold);
+}
+
+TEST_F(StartRoutineTest, ARecordedLanguageTakesItsFontsFromTheFile) {
+    addSettings("[Font Info]\r\nFontName=Sans\r\nFontSize=12\r\n");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.state.FontName, "Sans");
+    EXPECT_EQ(desk_.state.FontSize, 12);
+}
+
+TEST_F(StartRoutineTest, TheFileTableAndTheLanguageAreFoundFromAnyFolder) {
+    desk_.folder.write("FileTable.tbl", "*.JBI,1,1,1,1,1,1,1,1,1\r\n");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.table.rows().size(), 1U);
+    EXPECT_EQ(currentFolder(), desk_.folder.path());
+}
+
+TEST_F(StartRoutineTest, TheSessionGetsItsParametersAndTheFolder) {
+    const std::string jobs = desk_.folder.makeFolder("jobs");
+    addSettings("[Vantrel]\r\nPath=" + jobs + "\r\nPort=3\r\nBaudrate=19200\r\n");
+    desk_.folder.write("robot.ini", "[Robot]\r\nName=R1\r\nIPaddr=10.0.0.5\r\n");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.session.port, 3);
+    EXPECT_EQ(desk_.session.Baudrate, 19200);
+    EXPECT_EQ(desk_.session.IPaddress, "10.0.0.5");
+    EXPECT_EQ(desk_.session.path, jobs);
+    EXPECT_EQ(desk_.state.CurrentRobot.Path, desk_.folder.path());
+}
+
+TEST_F(StartRoutineTest, TheControllersFiltersFollowTheStoredModel) {
+    addSettings("[Vantrel]\r\nControler=1\r\n");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.window.controllerFilters, (std::vector<std::string>{"*.JBI", "*.DAT"}));
+}
+
+TEST_F(StartRoutineTest, YesReadsTheDirectory) {
+    desk_.boxes.answers = {true};
+    desk_.library.directory = {"A.JBI", "B.JBI"};
+    EXPECT_EQ(start(), StartResult::Running);
+    const auto question = std::ranges::find(desk_.log, "askYesNo m1");
+    EXPECT_EQ(tests::Log(question + 1, question + 5),
+              (tests::Log{"load version", "BscOpen " + desk_.folder.path() + " 1", "show version",
+                          "status Ctrl m152m16"}));
+    EXPECT_EQ(desk_.window.controller.names, (std::vector<std::string>{"A.JBI", "B.JBI"}));
+}
+
+TEST_F(StartRoutineTest, NoLeavesThePaneEmpty) {
+    desk_.library.directory = {"A.JBI"};
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.state.CtrlListing.Count, 0);
+    EXPECT_TRUE(logged("status Ctrl m150m16"));
+    EXPECT_EQ(desk_.boxes.shown[0].icon, BoxIcon::Question);
+}
+
+TEST_F(StartRoutineTest, AFailingReadIsToldAndTheStartGoesOn) {
+    desk_.boxes.answers = {true};
+    desk_.library.refusesConnection = true;
+    desk_.state.CtrlListing.append("OLD.JBI", 0, DateText());
+    EXPECT_EQ(start(), StartResult::Running);
+    ASSERT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m1", "m2"}));
+    EXPECT_EQ(desk_.boxes.shown[1].icon, BoxIcon::Exclamation);
+    EXPECT_EQ(desk_.state.CtrlListing.Count, 0);
+    EXPECT_TRUE(logged("show version"));
+}
+
+TEST_F(StartRoutineTest, AnAddressThatIsNotSetIsToldOnce) {
+    addSettings("[Vantrel]\r\nTransMode=16\r\n");
+    desk_.folder.write("robot.ini", "[Robot]\r\nName=R1\r\nIPaddr=0.0.0.0\r\n");
+    desk_.boxes.answers = {true};
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m1", "m34"}));
+}
+
+struct ModeCase {
+    const char* name;
+    const char* settings;
+    int linkType; ///< with which the directory is read
+};
+
+class StartModeTest : public StartRoutineTest, public testing::WithParamInterface<ModeCase> {};
+
+TEST_P(StartModeTest, TheDirectoryIsReadTheRightWay) {
+    addSettings("[Vantrel]\r\n" + std::string(GetParam().settings));
+    desk_.folder.write("robot.ini", "[Robot]\r\nName=R1\r\nIPaddr=10.0.0.5\r\n");
+    desk_.boxes.answers = {true};
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_TRUE(
+        logged("BscOpen " + desk_.folder.path() + " " + std::to_string(GetParam().linkType)));
+    EXPECT_EQ(static_cast<int>(desk_.state.TransMode), GetParam().linkType);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , StartModeTest,
+    testing::Values(ModeCase{"Default", "", 1}, ModeCase{"Bsc", "TransMode=1\r\n", 1},
+                    ModeCase{"HighSpeed", "TransMode=16\r\n", 16},
+                    ModeCase{"HighSpeedWithoutTheLink", "TransMode=16\r\nControler=1\r\n", 1},
+                    ModeCase{"Unknown", "TransMode=5\r\n", 1}),
+    [](const auto& test) { return test.param.name; });
+
+TEST_F(StartRoutineTest, ARenamedExecutableHasItsOwnSettings) {
+    const SettingsFile settings(desk_.folder.path(), settingsFileName("tool.exe"));
+    desk_.folder.write("tool.ini", "[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n"
+                                   "[Vantrel]\r\nPort=9\r\n");
+    StartRoutine routine({.state = desk_.state,
+                          .table = desk_.table,
+                          .language = language_,
+                          .messages = desk_.messages,
+                          .boxes = desk_.boxes,
+                          .settings = settings,
+                          .registry = registry_,
+                          .windows = windows_,
+                          .commandLine = {},
+                          .executable = "C:\\Vantrel\\tool.exe",
+                          .programFolder = desk_.folder.path()});
+    EXPECT_EQ(routine.Main(), StartResult::Running);
+    EXPECT_EQ(desk_.state.IniFileName, "tool.ini");
+    EXPECT_EQ(desk_.state.Port, 9);
+}
+
+TEST_F(StartRoutineTest, AnUnexpectedErrorIsToldAndNothingIsSaved) {
+    windows_.whenBuilt = [] { throw std::runtime_error("no more windows"); };
+    EXPECT_EQ(start(), StartResult::Trapped);
+    EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"Start Error.(no more windows)"}));
+    EXPECT_EQ(desk_.boxes.shown[0].icon, BoxIcon::Exclamation);
+    EXPECT_TRUE(desk_.state.NoSave);
+    EXPECT_FALSE(desk_.state.StartupDone);
+}
+
+TEST_F(StartRoutineTest, AnErrorInTheLastStepIsTrappedToo) {
+    windows_.whenStarted = [] { throw std::runtime_error("x"); };
+    EXPECT_EQ(start(), StartResult::Trapped);
+    EXPECT_FALSE(desk_.state.StartupDone);
+}
+
+TEST_F(StartRoutineTest, AFolderThatCannotBeEnteredIsTold) {
+    const SettingsFile settings(desk_.folder.path(), "Vantrel.ini");
+    const std::string gone = desk_.folder.path("gone");
+    StartRoutine routine({.state = desk_.state,
+                          .table = desk_.table,
+                          .language = language_,
+                          .messages = desk_.messages,
+                          .boxes = desk_.boxes,
+                          .settings = settings,
+                          .registry = registry_,
+                          .windows = windows_,
+                          .commandLine = {},
+                          .executable = gone + "/Vantrel",
+                          .programFolder = gone});
+    EXPECT_EQ(routine.Main(), StartResult::Trapped);
+    EXPECT_TRUE(desk_.boxes.texts()[0].starts_with("Start Error.(" + gone + ": "));
+    EXPECT_TRUE(desk_.state.NoSave);
+}
+
+} // namespace
+} // namespace vantrel

@@ -1,0 +1,152 @@
+#pragma once
+
+#include "base/ApplicationState.h"
+#include "files/ControllerModels.h"
+#include "files/Panes.h"
+#include "files/TransferCommands.h"
+#include "files/TransferTable.h"
+#include "lang/LanguageFiles.h"
+#include "lang/MessageTable.h"
+#include "link/OperatorDialog.h"
+#include "link/ProgressPanel.h"
+#include "link/Snappy.h"
+#include "support/FakeMessageBoxes.h"
+#include "support/FakePaneWindow.h"
+#include "support/FakeZurolink.h"
+#include "support/RecordingProgressView.h"
+#include "support/ScriptedQuestionWindow.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace vantrel::tests {
+
+/// Everything below the windows, real but for the library, the windows and the operator: a PC
+/// folder on the disk, and a controller in memory at the serial line.
+class CommandFixture : public testing::Test {
+  protected:
+    static constexpr std::int16_t cygna = 2;
+    static constexpr int allFiles = 4; ///< the PC pane's filter entry "*.*"
+
+    CommandFixture() {
+        program.write("FileTable.tbl", "FIXED.DAT,0,0,0,0,0,0,0,0,1\n"
+                                       "*.JBI,1,1,1,1,1,1,1,1,1\n"
+                                       "*.JBR,1,1,1,1,1,1,1,1,1\n"
+                                       "*.DAT,1,1,1,1,1,1,0,0,1\n"
+                                       "*.CND,0,0,0,0,0,0,1,1,1\n");
+        table.load(program.path());
+        progress.attach(&progressView);
+        state.Controler = cygna;
+        state.PCPath = pc.path();
+        session.path = pc.path();
+        messages.replace({
+            text(0, "Vantrel"),
+            text(2, "not read"),
+            text(5, "Transfer failed: "),
+            text(6, "no such file"),
+            text(7, "File transfer"),
+            text(8, " refused"),
+            text(9, "Delete failed: "),
+            text(10, " delete from the PC?"),
+            text(11, " delete from the controller?"),
+            text(14, "PC: "),
+            text(15, "Controller: "),
+            text(16, " items"),
+            text(27, " not deleted"),
+            text(28, " original not deleted"),
+            text(34, "address unset"),
+            text(42, " unusable name"),
+            text(44, " not expressible"),
+            text(47, " is a folder"),
+            text(49, "skipped: %"),
+            text(56, " is local"),
+            text(502, "already exists. Overwrite it?"),
+            text(503, "cancelled"),
+            text(504, "Transferring "),
+            text(507, "Deleting "),
+            text(521, "not readable"),
+            text(523, "unusable name"),
+            text(525, "did not arrive"),
+            text(533, "Cancel"),
+            text(1200, "not on the controller"),
+            text(2000, "line broken"),
+        });
+    }
+
+    static MessageEntry text(std::int16_t number, const std::string& shown) {
+        return {number, shown, shown};
+    }
+
+    FakeController& robot() { return library.at("COM1"); }
+
+    static std::string job(const std::string& name, const std::string& version = "1") {
+        return "/JOB\r\n//NAME " + name + "\r\nVERSION " + version + "\r\n";
+    }
+    void pcJob(const std::string& name, const std::string& version = "1") {
+        pc.write(name + ".JBI", job(name, version));
+    }
+    void robotJob(const std::string& name, const std::string& version = "1") {
+        robot().put(name + ".JBI", job(name, version));
+    }
+
+    /// Shows both panes as they are now, all PC files, and forgets what that took.
+    void showPanes() {
+        panes.fillFilterChoices();
+        window.pcFilter = allFiles;
+        ASSERT_TRUE(panes.scanPC(pc.path()));
+        ASSERT_TRUE(panes.readController());
+        panes.fill(ActiveSide::PC);
+        panes.fill(ActiveSide::Controller);
+        library.forgetCalls();
+        progressView.pictures.clear();
+    }
+    void selectOnPC(const std::vector<std::string>& names) {
+        showPanes();
+        window.pc.click(names);
+        ASSERT_EQ(window.pc.selected.size(), names.size());
+    }
+    void selectOnController(const std::vector<std::string>& names) {
+        showPanes();
+        window.controller.click(names);
+        ASSERT_EQ(window.controller.selected.size(), names.size());
+    }
+
+    /// What holds after every command, whichever way it ended.
+    void expectLeftInOrder() const {
+        EXPECT_EQ(window.lockDepth, 0);
+        EXPECT_EQ(window.busyDepth, 0);
+        EXPECT_FALSE(progress.isVisible());
+        EXPECT_TRUE(session.DisplayMonitor);
+        EXPECT_EQ(library.openLinks(), 0);
+        EXPECT_FALSE(window.pc.focusedWhileLocked);
+        EXPECT_FALSE(window.controller.focusedWhileLocked);
+    }
+
+    /// Presses Cancel at the n-th yield of a progress window from now on.
+    void pressCancelAtYield(int yield) {
+        progressView.onYield = [this, at = progressView.yields + yield](int now) {
+            if (now == at)
+                progress.pressCancel();
+        };
+    }
+
+    TemporaryFolder program;
+    TemporaryFolder pc;
+    ApplicationState state;
+    MessageTable messages;
+    LanguageFiles languages{program.path()};
+    FakeZurolink library;
+    FakeMessageBoxes boxes;
+    ScriptedQuestionWindow question;
+    RecordingProgressView progressView;
+    ProgressPanel progress;
+    OperatorDialog dialog{progress, question, boxes};
+    FakePaneWindow window;
+    TransferTable table;
+    Snappy session{{library, state.TransMode, messages, languages, progress, dialog, program.path(),
+                    [] { return nullptr; }}};
+    Panes panes{state, session, table, messages, window};
+    TransferCommands commands{{state, session, panes, window, table, messages, progress, dialog}};
+};
+
+} // namespace vantrel::tests

@@ -1,0 +1,158 @@
+#include "CommandFixture.h"
+
+#include <gmock/gmock.h>
+
+namespace vantrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+
+class DeleteCommandTest : public tests::CommandFixture {
+  protected:
+    void TearDown() override { expectLeftInOrder(); }
+
+    void robotJobs() {
+        for (const char* name : {"A", "B", "C"})
+            robotJob(name);
+        selectOnController({"A.JBI", "B.JBI", "C.JBI"});
+    }
+    void pcJobs() {
+        for (const char* name : {"A", "B", "C"})
+            pcJob(name);
+        robot();
+        selectOnPC({"A.JBI", "B.JBI", "C.JBI"});
+    }
+};
+
+TEST_F(DeleteCommandTest, EachJobIsAskedForByName) {
+    robotJobs();
+    question.answers = {Answer::Yes, Answer::No, Answer::Yes};
+    EXPECT_TRUE(commands.deleteOnController());
+    EXPECT_THAT(question.questions, ElementsAre("[A.JBI] delete from the controller?",
+                                                "[B.JBI] delete from the controller?",
+                                                "[C.JBI] delete from the controller?"));
+    EXPECT_THAT(robot().names(), ElementsAre("B.JBI"));
+    EXPECT_THAT(window.controller.names, ElementsAre("B.JBI"));
+    EXPECT_EQ(window.controllerStatus, "Controller: 1 items");
+    EXPECT_EQ(window.controller.focuses, 1);
+}
+
+TEST_F(DeleteCommandTest, AllDeletesThisAndEveryFollowingJob) {
+    robotJobs();
+    question.answers = {Answer::No, Answer::All};
+    EXPECT_TRUE(commands.deleteOnController());
+    EXPECT_THAT(question.questions, SizeIs(2));
+    EXPECT_THAT(robot().names(), ElementsAre("A.JBI"));
+}
+
+TEST_F(DeleteCommandTest, CancelEndsAtOnceAndKeepsTheRest) {
+    robotJobs();
+    question.answers = {Answer::Yes, Answer::Cancel};
+    EXPECT_FALSE(commands.deleteOnController());
+    EXPECT_THAT(question.questions, SizeIs(2));
+    EXPECT_THAT(robot().names(), ElementsAre("B.JBI", "C.JBI"));
+    EXPECT_THAT(window.controller.names, ElementsAre("B.JBI", "C.JBI"));
+}
+
+TEST_F(DeleteCommandTest, NoEverywhereLeavesTheSessionAlone) {
+    robotJobs();
+    question.answers = {Answer::No, Answer::No, Answer::No};
+    EXPECT_TRUE(commands.deleteOnController());
+    EXPECT_EQ(library.callCount(), 0);
+    EXPECT_THAT(window.controller.selectedNames(), ElementsAre("A.JBI", "B.JBI", "C.JBI"));
+}
+
+TEST_F(DeleteCommandTest, CancelOfTheProgressStopsBeforeTheNextJob) {
+    robotJobs();
+    question.answers = {Answer::All};
+    pressCancelAtYield(3); // shown, A, B
+    EXPECT_FALSE(commands.deleteOnController());
+    EXPECT_THAT(robot().names(), ElementsAre("B.JBI", "C.JBI"));
+}
+
+TEST_F(DeleteCommandTest, EachJobIsShownInTheCommandsOwnProgress) {
+    robotJobs();
+    question.answers = {Answer::All};
+    EXPECT_TRUE(commands.deleteOnController());
+    EXPECT_THAT(progressView.messages(),
+                ElementsAre("Deleting ", "Deleting A.JBI", "Deleting B.JBI", "Deleting C.JBI"));
+}
+
+TEST_F(DeleteCommandTest, AFailureIsReportedAndTheNextJobFollows) {
+    robotJobs();
+    question.answers = {Answer::All};
+    library.disturb({"BscSelectJob", 1, false, false, 2000});
+    EXPECT_FALSE(commands.deleteOnController());
+    EXPECT_THAT(boxes.texts(), ElementsAre("Delete failed: BscSelectJob ( line broken )"));
+    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Exclamation);
+    EXPECT_THAT(robot().names(), ElementsAre("A.JBI"));
+}
+
+TEST_F(DeleteCommandTest, AnUnsetAddressEndsTheCommandWithOneMessage) {
+    robotJobs();
+    question.answers = {Answer::All};
+    state.TransMode = TransferMode::HispeedLink;
+    session.IPaddress = "0.0.0.0";
+    EXPECT_FALSE(commands.deleteOnController());
+    EXPECT_THAT(boxes.texts(), ElementsAre("address unset"));
+}
+
+TEST_F(DeleteCommandTest, FilesOfThePCAreAskedForAndDeleted) {
+    pcJobs();
+    question.answers = {Answer::Yes, Answer::No, Answer::Yes};
+    EXPECT_TRUE(commands.deleteOnPC());
+    EXPECT_THAT(question.questions,
+                ElementsAre("[A.JBI] delete from the PC?", "[B.JBI] delete from the PC?",
+                            "[C.JBI] delete from the PC?"));
+    EXPECT_FALSE(pc.has("A.JBI"));
+    EXPECT_TRUE(pc.has("B.JBI"));
+    EXPECT_THAT(window.pc.names, ElementsAre("B.JBI"));
+    EXPECT_THAT(window.pc.selectedNames(), ElementsAre("B.JBI"));
+    EXPECT_EQ(window.pcStatus, "PC: 1 items");
+    EXPECT_EQ(window.pc.focuses, 1);
+    EXPECT_EQ(library.callCount(), 0);
+}
+
+TEST_F(DeleteCommandTest, AllAndCancelCountOnThePCToo) {
+    pcJobs();
+    question.answers = {Answer::No, Answer::All};
+    EXPECT_TRUE(commands.deleteOnPC());
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+    question.answers = {Answer::Cancel};
+    EXPECT_FALSE(commands.deleteOnPC());
+    EXPECT_TRUE(pc.has("A.JBI"));
+}
+
+TEST_F(DeleteCommandTest, AClosedQuestionDeletesNothing) {
+    pcJobs();
+    EXPECT_FALSE(commands.deleteOnPC());
+    EXPECT_THAT(question.questions, SizeIs(1));
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI", "B.JBI", "C.JBI"));
+}
+
+TEST_F(DeleteCommandTest, AFolderIsNamedAndNeverDeleted) {
+    pc.makeFolder("EMPTY");
+    pcJob("A");
+    robot();
+    selectOnPC({"EMPTY", "A.JBI"});
+    question.answers = {Answer::All};
+    EXPECT_TRUE(commands.deleteOnPC());
+    EXPECT_THAT(boxes.texts(), ElementsAre("[EMPTY] is a folder"));
+    EXPECT_THAT(window.pc.names, ElementsAre("EMPTY"));
+}
+
+TEST_F(DeleteCommandTest, AFileThatCannotBeDeletedIsNamedWithTheReasonAndTheNextFollows) {
+    pcJobs();
+    question.answers = {Answer::All};
+    std::filesystem::remove(pc.path("A.JBI"));
+    EXPECT_FALSE(commands.deleteOnPC());
+    ASSERT_THAT(boxes.shown, SizeIs(1));
+    EXPECT_THAT(boxes.shown[0].text, StartsWith("[A.JBI] not deleted ( "));
+    EXPECT_THAT(window.pc.names, IsEmpty());
+}
+
+} // namespace
+} // namespace vantrel

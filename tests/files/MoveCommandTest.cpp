@@ -1,0 +1,326 @@
+#include "CommandFixture.h"
+
+#include <gmock/gmock.h>
+
+namespace vantrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class MoveCommandTest : public tests::CommandFixture {
+  protected:
+    void TearDown() override { expectLeftInOrder(); }
+};
+
+TEST_F(MoveCommandTest, ASentFileLeavesThePC) {
+    pcJob("A");
+    pcJob("B");
+    pcJob("STAYS");
+    robot();
+    selectOnPC({"A.JBI", "B.JBI"});
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A"));
+    EXPECT_EQ(robot().bytes("B.JBI"), job("B"));
+    EXPECT_THAT(window.pc.names, ElementsAre("STAYS.JBI"));
+    EXPECT_THAT(window.controller.names, ElementsAre("A.JBI", "B.JBI"));
+    EXPECT_EQ(window.pcStatus, "PC: 1 items");
+    EXPECT_EQ(window.controllerStatus, "Controller: 2 items");
+    EXPECT_THAT(boxes.texts(), IsEmpty());
+}
+
+TEST_F(MoveCommandTest, AReceivedJobLeavesTheController) {
+    robotJob("A");
+    robotJob("STAYS");
+    selectOnController({"A.JBI"});
+    EXPECT_TRUE(commands.receiveMove());
+    EXPECT_EQ(pc.read("A.JBI"), job("A"));
+    EXPECT_THAT(window.controller.names, ElementsAre("STAYS.JBI"));
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+    EXPECT_EQ(window.controller.focuses, 1);
+}
+
+TEST_F(MoveCommandTest, TheSessionWorksSilentlyWhileTheCommandShowsEachFile) {
+    pcJob("A");
+    pcJob("B");
+    robot();
+    selectOnPC({"A.JBI", "B.JBI"});
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscDownLoad") {
+            EXPECT_FALSE(session.DisplayMonitor);
+            EXPECT_TRUE(progress.isVisible());
+        }
+    };
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_THAT(progressView.messages(),
+                ElementsAre("Transferring ", "Transferring A.JBI", "Transferring B.JBI"));
+}
+
+TEST_F(MoveCommandTest, EachSourceGoesBeforeTheNextFileIsSent) {
+    pcJob("A");
+    pcJob("B");
+    robot();
+    selectOnPC({"A.JBI", "B.JBI"});
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscDownLoad" && library.callCount("BscDownLoad") == 2)
+            EXPECT_FALSE(pc.has("A.JBI"));
+    };
+    EXPECT_TRUE(commands.sendMove());
+}
+
+TEST_F(MoveCommandTest, TheOverwriteQuestionNamesTheFile) {
+    pcJob("A", "new");
+    robotJob("A", "old");
+    selectOnPC({"A.JBI"});
+    question.answers = {Answer::Yes};
+    question.whileOpen = [this] { EXPECT_FALSE(progress.isVisible()); };
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_THAT(question.questions, ElementsAre("A.JBI already exists. Overwrite it?"));
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "new"));
+    EXPECT_FALSE(pc.has("A.JBI"));
+}
+
+class MoveAnswer : public MoveCommandTest, public testing::WithParamInterface<bool> {
+  protected:
+    bool sends() const { return GetParam(); }
+    void put(const char* name) {
+        pcJob(name, sends() ? "new" : "old");
+        robotJob(name, sends() ? "old" : "new");
+    }
+    void select(const std::vector<std::string>& names) {
+        sends() ? selectOnPC(names) : selectOnController(names);
+    }
+    bool move() { return sends() ? commands.sendMove() : commands.receiveMove(); }
+    bool sourceIsThere(const std::string& name) {
+        return sends() ? pc.has(name) : robot().has(name);
+    }
+    std::string destination(const std::string& name) {
+        return sends() ? robot().bytes(name) : pc.read(name);
+    }
+};
+
+TEST_P(MoveAnswer, YesCountsForOneFile) {
+    put("A");
+    put("B");
+    select({"A.JBI", "B.JBI"});
+    question.answers = {Answer::Yes, Answer::No};
+    EXPECT_TRUE(move());
+    EXPECT_EQ(question.questions.size(), 2u);
+    EXPECT_EQ(destination("A.JBI"), job("A", "new"));
+    EXPECT_FALSE(sourceIsThere("A.JBI"));
+    EXPECT_EQ(destination("B.JBI"), job("B", "old"));
+    EXPECT_TRUE(sourceIsThere("B.JBI"));
+}
+
+TEST_P(MoveAnswer, AllCountsForTheRest) {
+    for (const char* name : {"A", "B", "C"})
+        put(name);
+    select({"A.JBI", "B.JBI", "C.JBI"});
+    question.answers = {Answer::No, Answer::All};
+    EXPECT_TRUE(move());
+    EXPECT_EQ(question.questions.size(), 2u);
+    EXPECT_TRUE(sourceIsThere("A.JBI"));
+    EXPECT_EQ(destination("B.JBI"), job("B", "new"));
+    EXPECT_EQ(destination("C.JBI"), job("C", "new"));
+    EXPECT_FALSE(sourceIsThere("C.JBI"));
+}
+
+TEST_P(MoveAnswer, CancelEndsTheCommandAndKeepsWhatWasMoved) {
+    for (const char* name : {"A", "B", "C"})
+        put(name);
+    select({"A.JBI", "B.JBI", "C.JBI"});
+    question.answers = {Answer::Yes, Answer::Cancel};
+    EXPECT_FALSE(move());
+    EXPECT_EQ(destination("A.JBI"), job("A", "new"));
+    EXPECT_FALSE(sourceIsThere("A.JBI"));
+    EXPECT_TRUE(sourceIsThere("B.JBI"));
+    EXPECT_TRUE(sourceIsThere("C.JBI"));
+    EXPECT_EQ(destination("B.JBI"), job("B", "old"));
+    EXPECT_THAT(boxes.texts(), IsEmpty());
+}
+
+TEST_P(MoveAnswer, CancelOfTheProgressEndsBeforeTheNextCall) {
+    put("A");
+    put("B");
+    select({"A.JBI", "B.JBI"});
+    question.answers = {Answer::All};
+    pressCancelAtYield(3); // shown, A, B
+    EXPECT_FALSE(move());
+    EXPECT_FALSE(sourceIsThere("A.JBI"));
+    EXPECT_TRUE(sourceIsThere("B.JBI"));
+    EXPECT_EQ(destination("B.JBI"), job("B", "old"));
+    EXPECT_THAT(boxes.texts(), IsEmpty());
+}
+
+TEST_P(MoveAnswer, CancelPressedWhileTheQuestionIsOpenComesBeforeItsAnswer) {
+    put("A");
+    select({"A.JBI"});
+    question.answers = {Answer::Yes};
+    question.whileOpen = [this] { progress.pressCancel(); };
+    EXPECT_FALSE(move());
+    EXPECT_TRUE(sourceIsThere("A.JBI"));
+    EXPECT_EQ(destination("A.JBI"), job("A", "old"));
+}
+
+TEST_P(MoveAnswer, AFailureIsReportedAndTheNextFileFollows) {
+    put("A");
+    put("B");
+    select({"A.JBI", "B.JBI"});
+    question.answers = {Answer::All};
+    library.disturb({sends() ? "BscDownLoad" : "BscUpLoad", 1, false, false, 2000});
+    EXPECT_FALSE(move());
+    EXPECT_THAT(boxes.texts(),
+                ElementsAre(std::string("Transfer failed: ") +
+                            (sends() ? "BscDownLoad" : "BscUpLoad") + " ( line broken )"));
+    EXPECT_TRUE(sourceIsThere("A.JBI"));
+    EXPECT_FALSE(sourceIsThere("B.JBI"));
+    EXPECT_EQ(destination("B.JBI"), job("B", "new"));
+}
+
+TEST_P(MoveAnswer, AJobOfThePCAloneIsPassedOverByName) {
+    pc.write("LocalJob.lst", "A\r\n");
+    put("A");
+    put("B");
+    select({"A.JBI", "B.JBI"});
+    question.answers = {Answer::Yes};
+    EXPECT_TRUE(move());
+    EXPECT_THAT(boxes.texts(), ElementsAre("[A.JBI] is local"));
+    EXPECT_TRUE(sourceIsThere("A.JBI"));
+    EXPECT_FALSE(sourceIsThere("B.JBI"));
+}
+
+TEST_P(MoveAnswer, AnUnsetAddressEndsTheCommandWithOneMessage) {
+    put("A");
+    put("B");
+    select({"A.JBI", "B.JBI"});
+    question.answers = {Answer::All};
+    state.TransMode = TransferMode::HispeedLink;
+    session.IPaddress = "0.0.0.0";
+    EXPECT_FALSE(move());
+    EXPECT_THAT(boxes.texts(), ElementsAre("address unset"));
+    EXPECT_TRUE(sourceIsThere("A.JBI"));
+    EXPECT_TRUE(sourceIsThere("B.JBI"));
+}
+
+/// A link that does not close counts as a failed transfer, so the source stays.
+TEST_P(MoveAnswer, ADisconnectThatFailsKeepsTheSource) {
+    put("A");
+    robot().erase("A.JBI");
+    if (!sends())
+        robotJob("A", "new");
+    select({"A.JBI"});
+    question.answers = {Answer::Yes};
+    bool transferring = false;
+    library.onCall = [&](const std::string& function) {
+        if (function == "BscDownLoad" || function == "BscUpLoad")
+            transferring = true;
+        else if (transferring && function == "BscDisConnect")
+            library.disturb({function, library.callCount(function), false, false, 2000});
+    };
+    EXPECT_FALSE(move());
+    EXPECT_TRUE(sourceIsThere("A.JBI"));
+    ASSERT_FALSE(boxes.shown.empty());
+    EXPECT_EQ(boxes.shown[0].text, "Transfer failed: BscDisConnect ( line broken )");
+    // The link that could not be closed stays open on purpose.
+    EXPECT_EQ(library.openLinks(), 1);
+    library.tolerateMisuse();
+    library.BscClose(1);
+    for (std::int16_t handle = 2; library.openLinks() > 0 && handle < 20; ++handle)
+        library.BscClose(handle);
+}
+
+INSTANTIATE_TEST_SUITE_P(BothWays, MoveAnswer, testing::Bool(),
+                         [](const auto& row) { return row.param ? "Send" : "Receive"; });
+
+TEST_F(MoveCommandTest, AJobThatExistsAfterTheOverwriteIsAFailureAndNoNewQuestion) {
+    pcJob("A", "new");
+    robotJob("A", "old");
+    selectOnPC({"A.JBI"});
+    question.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
+    library.disturb({"BscDeleteJob", 1, false, true});
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_EQ(question.questions.size(), 1u);
+    EXPECT_TRUE(pc.has("A.JBI"));
+    ASSERT_EQ(boxes.shown.size(), 1u);
+    EXPECT_TRUE(boxes.shown[0].text.starts_with("Transfer failed: BscDownLoad"));
+}
+
+TEST_F(MoveCommandTest, AReceiveThatReportsSuccessButBringsNothingKeepsBothSides) {
+    pcJob("A", "old");
+    robotJob("A", "new");
+    selectOnController({"A.JBI"});
+    question.answers = {Answer::Yes};
+    library.disturb({"BscUpLoad", 1, false, true});
+    EXPECT_FALSE(commands.receiveMove());
+    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed: BscUpLoad ( did not arrive )"));
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "new"));
+    EXPECT_EQ(pc.read("A.JBI"), job("A", "old"));
+    EXPECT_EQ(library.callCount("BscDeleteJob"), 0);
+}
+
+TEST_F(MoveCommandTest, AReceivedJobThatCannotBeDeletedIsNamed) {
+    robotJob("A");
+    robotJob("B");
+    selectOnController({"A.JBI", "B.JBI"});
+    library.disturb({"BscDeleteJob", 1, false, false, 2000});
+    EXPECT_FALSE(commands.receiveMove());
+    EXPECT_THAT(boxes.texts(),
+                ElementsAre("[A.JBI] original not deleted BscDeleteJob ( line broken )"));
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_TRUE(robot().has("A.JBI"));
+    EXPECT_FALSE(robot().has("B.JBI"));
+}
+
+TEST_F(MoveCommandTest, CancelPressedDuringAReceiveKeepsTheControllersJob) {
+    robotJob("A");
+    selectOnController({"A.JBI"});
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscUpLoad")
+            progress.pressCancel();
+    };
+    EXPECT_FALSE(commands.receiveMove());
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_TRUE(robot().has("A.JBI"));
+}
+
+TEST_F(MoveCommandTest, ASentFileThatCannotBeDeletedIsNamedWithTheReason) {
+    pcJob("A");
+    robot();
+    selectOnPC({"A.JBI"});
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscDownLoad")
+            pc.write("A.JBI.taken", ""); // the file is exchanged for a folder once it was sent
+        else if (function == "BscClose" && pc.has("A.JBI.taken") && pc.has("A.JBI")) {
+            std::filesystem::remove(pc.path("A.JBI"));
+            pc.write("A.JBI/inside", "");
+        }
+    };
+    EXPECT_FALSE(commands.sendMove());
+    ASSERT_EQ(boxes.shown.size(), 1u);
+    EXPECT_TRUE(boxes.shown[0].text.starts_with("[A.JBI] original not deleted ( "));
+    EXPECT_TRUE(pc.has("A.JBI/inside"));
+}
+
+TEST_F(MoveCommandTest, RefusedKindsAndFoldersAreNamedAndStay) {
+    pc.write("A.TXT", "");
+    pc.makeFolder("F.JBI");
+    pcJob("B");
+    robot();
+    selectOnPC({"A.TXT", "F.JBI", "B.JBI"});
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_THAT(boxes.texts(),
+                testing::UnorderedElementsAre("[A.TXT] refused", "[F.JBI] is a folder"));
+    EXPECT_THAT(window.pc.names, ElementsAre("F.JBI", "A.TXT"));
+    EXPECT_THAT(robot().names(), ElementsAre("B.JBI"));
+}
+
+TEST_F(MoveCommandTest, RejectedFilesOnlyLeaveTheSessionAlone) {
+    pc.write("A.TXT", "");
+    robot();
+    selectOnPC({"A.TXT"});
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_EQ(library.callCount(), 0);
+}
+
+} // namespace
+} // namespace vantrel

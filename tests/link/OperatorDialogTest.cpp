@@ -1,0 +1,97 @@
+#include "link/OperatorDialog.h"
+#include "link/ProgressPanel.h"
+#include "support/FakeMessageBoxes.h"
+#include "support/RecordingProgressView.h"
+#include "support/ScriptedQuestionWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace vantrel {
+namespace {
+
+/// Notes whether the progress window is out of the way while a box is open.
+class WatchingBoxes : public tests::FakeMessageBoxes {
+  public:
+    explicit WatchingBoxes(const ProgressPanel& panel) : panel_(panel) {}
+
+    void tell(const std::string& text, BoxIcon icon) override {
+        look();
+        FakeMessageBoxes::tell(text, icon);
+    }
+    bool askOkCancel(const std::string& text, BoxIcon icon) override {
+        look();
+        return FakeMessageBoxes::askOkCancel(text, icon);
+    }
+    bool askYesNo(const std::string& text, BoxIcon icon) override {
+        look();
+        return FakeMessageBoxes::askYesNo(text, icon);
+    }
+
+    int covered = 0;
+
+  private:
+    void look() { covered += panel_.isVisible() ? 1 : 0; }
+
+    const ProgressPanel& panel_;
+};
+
+struct OperatorDialogTest : testing::Test {
+    tests::RecordingProgressView view;
+    ProgressPanel panel;
+    tests::ScriptedQuestionWindow question;
+    WatchingBoxes boxes{panel};
+    OperatorDialog dialog{panel, question, boxes};
+
+    OperatorDialogTest() {
+        panel.attach(&view);
+        question.whileOpen = [this] { boxes.covered += panel.isVisible() ? 1 : 0; };
+    }
+
+    void askEverything() {
+        dialog.ask("title", "question");
+        dialog.tell("text", BoxIcon::None);
+        dialog.askOkCancel("text", BoxIcon::Question);
+        dialog.askYesNo("text", BoxIcon::Question);
+    }
+};
+
+TEST_F(OperatorDialogTest, VisibleProgressIsHiddenAroundEveryBox) {
+    panel.show("working");
+    askEverything();
+    EXPECT_EQ(boxes.covered, 0);
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_EQ(panel.message(), "working");
+}
+
+TEST_F(OperatorDialogTest, APressBeforeTheQuestionIsNotLostByIt) {
+    panel.show("working");
+    panel.pressCancel();
+    askEverything();
+    EXPECT_TRUE(panel.isCancelled());
+}
+
+TEST_F(OperatorDialogTest, HiddenProgressStaysHidden) {
+    askEverything();
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_TRUE(view.pictures.empty());
+}
+
+TEST_F(OperatorDialogTest, AnswersComeBackAsGiven) {
+    question.answers = {Answer::Yes, Answer::No, Answer::All, Answer::Cancel};
+    EXPECT_EQ(dialog.ask("title", "question"), Answer::Yes);
+    EXPECT_EQ(dialog.ask("title", "question"), Answer::No);
+    EXPECT_EQ(dialog.ask("title", "question"), Answer::All);
+    EXPECT_EQ(dialog.ask("title", "question"), Answer::Cancel);
+    EXPECT_EQ(question.titles.front(), "title");
+    EXPECT_EQ(question.questions.front(), "question");
+    boxes.answers = {true, false, true};
+    EXPECT_TRUE(dialog.askOkCancel("text", BoxIcon::Exclamation));
+    EXPECT_FALSE(dialog.askYesNo("text", BoxIcon::Question));
+    EXPECT_TRUE(dialog.askYesNo("text", BoxIcon::Question));
+    EXPECT_EQ(boxes.shown.front().icon, BoxIcon::Exclamation);
+}
+
+} // namespace
+} // namespace vantrel

@@ -1,0 +1,136 @@
+#include "link/ProgressPanel.h"
+#include "support/RecordingProgressView.h"
+
+#include <gtest/gtest.h>
+
+namespace vantrel {
+namespace {
+
+using tests::RecordingProgressView;
+
+struct ProgressPanelTest : testing::Test {
+    RecordingProgressView view;
+    ProgressPanel panel;
+
+    ProgressPanelTest() { panel.attach(&view); }
+};
+
+TEST_F(ProgressPanelTest, ShowingAMessageMakesItVisibleAndYieldsOnce) {
+    panel.show("working");
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_EQ(view.yields, 1);
+    ASSERT_FALSE(view.pictures.empty());
+    EXPECT_TRUE(view.pictures.back().visible);
+    EXPECT_EQ(view.pictures.back().message, "working");
+}
+
+TEST_F(ProgressPanelTest, ShowingAMessageClearsTheMarkOfAnEarlierPress) {
+    panel.pressCancel();
+    EXPECT_TRUE(panel.isCancelled());
+    panel.show("working");
+    EXPECT_FALSE(panel.isCancelled());
+}
+
+TEST_F(ProgressPanelTest, AMarkOfTheYieldThatAMessageBringsStays) {
+    view.onYield = [this](int) { panel.pressCancel(); };
+    panel.show("working");
+    EXPECT_TRUE(panel.isCancelled());
+}
+
+TEST_F(ProgressPanelTest, APaintComesBeforeTheYield) {
+    std::size_t paintedAtYield = 0;
+    view.onYield = [&](int) { paintedAtYield = view.pictures.size(); };
+    panel.show("working");
+    EXPECT_GT(paintedAtYield, 0u);
+}
+
+TEST_F(ProgressPanelTest, ShowingAgainKeepsMarkAndTextsAndYieldsNothing) {
+    panel.show("working");
+    panel.pressCancel();
+    panel.hide();
+    EXPECT_FALSE(view.pictures.back().visible);
+    panel.showAgain();
+    EXPECT_TRUE(panel.isCancelled());
+    EXPECT_EQ(panel.message(), "working");
+    EXPECT_EQ(view.yields, 1);
+    EXPECT_TRUE(view.pictures.back().visible);
+}
+
+TEST_F(ProgressPanelTest, AStepChangesTextsAndBarButNeitherMarkNorYields) {
+    panel.show("working");
+    panel.pressCancel();
+    panel.step("file 3", 2, 9, "waiting");
+    EXPECT_TRUE(panel.isCancelled());
+    EXPECT_EQ(view.yields, 1);
+    EXPECT_EQ(view.pictures.back().message, "file 3");
+    EXPECT_EQ(view.pictures.back().item, 2);
+    EXPECT_EQ(view.pictures.back().count, 9);
+    EXPECT_EQ(view.pictures.back().waitingFor, "waiting");
+}
+
+TEST_F(ProgressPanelTest, AMessageLeavesTheBarWhereItIs) {
+    panel.step("file 3", 2, 9, "waiting");
+    panel.show("deleting");
+    EXPECT_EQ(panel.item(), 2);
+    EXPECT_EQ(panel.count(), 9);
+    EXPECT_EQ(panel.waitingFor(), "waiting");
+}
+
+TEST_F(ProgressPanelTest, NothingIsPaintedWhileHidden) {
+    panel.setTitle("Transfer");
+    panel.setCancelCaption("Stop");
+    panel.showBar(false);
+    panel.showCancelButton(false);
+    panel.step("file", 0, 1, "");
+    panel.hide();
+    EXPECT_TRUE(view.pictures.empty());
+    panel.show("working");
+    EXPECT_EQ(view.pictures.back().title, "Transfer");
+    EXPECT_EQ(panel.cancelCaption(), "Stop");
+    EXPECT_FALSE(view.pictures.back().bar);
+    EXPECT_FALSE(view.pictures.back().cancelButton);
+}
+
+TEST_F(ProgressPanelTest, SettingsOfAVisibleWindowArePaintedAtOnce) {
+    panel.show("working");
+    panel.showBar(false);
+    EXPECT_FALSE(view.pictures.back().bar);
+    panel.showCancelButton(false);
+    EXPECT_FALSE(view.pictures.back().cancelButton);
+    panel.setTitle("Other");
+    EXPECT_EQ(view.pictures.back().title, "Other");
+}
+
+TEST_F(ProgressPanelTest, TheWindowIsUnloadedOnceAndNeverTouchedAgain) {
+    panel.show("working");
+    const auto painted = view.pictures.size();
+    panel.unload();
+    panel.unload();
+    panel.show("working");
+    panel.hide();
+    EXPECT_EQ(view.unloads, 1);
+    EXPECT_EQ(view.pictures.size(), painted);
+    EXPECT_EQ(view.yields, 1);
+}
+
+TEST(ProgressPanelWithoutWindow, WorksAlike) {
+    ProgressPanel panel;
+    panel.show("working");
+    panel.step("file", 0, 1, "");
+    EXPECT_TRUE(panel.isVisible());
+    panel.hide();
+    panel.unload();
+    EXPECT_FALSE(panel.isVisible());
+}
+
+TEST(ProgressPanelMark, OnlyTheCancelButtonSetsIt) {
+    ProgressPanel panel;
+    EXPECT_FALSE(panel.isCancelled());
+    EXPECT_STREQ(ProgressPanel::cancelled, "CANCEL");
+    panel.pressCancel();
+    panel.clearMark();
+    EXPECT_FALSE(panel.isCancelled());
+}
+
+} // namespace
+} // namespace vantrel

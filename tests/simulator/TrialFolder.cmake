@@ -1,0 +1,56 @@
+# Installs the trial twice, with an operator's changes in between.
+set(folder "${WORK}/A folder")
+file(REMOVE_RECURSE "${WORK}")
+
+function(install_trial)
+    execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --component trial
+        --prefix "${folder}" OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+function(expect_text name expected)
+    file(READ "${folder}/${name}" content)
+    if(NOT content MATCHES "${expected}")
+        message(FATAL_ERROR "${name} does not hold '${expected}' but:\n${content}")
+    endif()
+endfunction()
+
+function(expect_there)
+    foreach(name IN LISTS ARGN)
+        if(NOT EXISTS "${folder}/${name}")
+            message(FATAL_ERROR "missing: ${name}")
+        endif()
+    endforeach()
+endfunction()
+
+install_trial()
+expect_there(${LIBRARY_NAME} simulator.ini robot.ini Vantrel.ini jobs/LocalJob.lst
+    jobs/handling/PICK13.JBI controllers/line1-weld/MAIN.JBI controllers/bench-seal/variables.txt)
+expect_text(Vantrel.ini "Path=${folder}/jobs")
+expect_text(Vantrel.ini "TransMode=16")
+file(SIZE "${folder}/${LIBRARY_NAME}" library_size)
+
+foreach(name Vantrel.ini robot.ini simulator.ini jobs/MEMO.JBI controllers/line1-weld/ROOF.JBI)
+    file(WRITE "${folder}/${name}" "changed")
+endforeach()
+file(REMOVE "${folder}/controllers/line1-weld/MAIN.JBI" "${folder}/jobs/TRUNK.JBI")
+file(REMOVE_RECURSE "${folder}/controllers/line2-handling")
+file(WRITE "${folder}/${LIBRARY_NAME}" "an older one, ZurolinkSimulator")
+
+install_trial()
+foreach(name Vantrel.ini robot.ini simulator.ini jobs/MEMO.JBI controllers/line1-weld/ROOF.JBI)
+    expect_text("${name}" "^changed$")
+endforeach()
+foreach(name controllers/line1-weld/MAIN.JBI jobs/TRUNK.JBI)
+    if(EXISTS "${folder}/${name}")
+        message(FATAL_ERROR "came back: ${name}")
+    endif()
+endforeach()
+expect_there(controllers/line2-handling/PICK01.JBI)
+file(SIZE "${folder}/${LIBRARY_NAME}" size)
+if(NOT size EQUAL library_size)
+    message(FATAL_ERROR "the older stand-in was not replaced")
+endif()
+
+file(WRITE "${folder}/${LIBRARY_NAME}" "the maker's own")
+install_trial()
+expect_text("${LIBRARY_NAME}" "^the maker's own$")

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "base/ApplicationState.h"
+#include "lang/LanguageFiles.h"
+#include "lang/MessageTable.h"
+#include "support/Windows.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace vantrel::tests {
+
+/// A dialog's surroundings in one of the delivered languages, with that language's own font.
+class DialogTest : public testing::Test {
+  public:
+    explicit DialogTest(const std::string& language = "English") : language_(language) {
+        const auto read = LanguageFiles(VANTREL_DATA_FOLDER).readInto(language, messages);
+        EXPECT_TRUE(bool(read)) << language;
+        const bool japanese = language == "Japanese";
+        state.LanguageName = language;
+        state.FontName = japanese ? "ＭＳ Ｐゴシック" : "MS Sans Serif";
+        state.FontBold = !japanese;
+        state.FontSize = japanese ? 9 : 8;
+    }
+
+    void TearDown() override { runEvents(); }
+
+    /// In the name of a picture.
+    const std::string& language() const { return language_; }
+
+    ApplicationState state;
+    MessageTable messages;
+
+  private:
+    std::string language_;
+};
+
+/// The same in each language that is delivered with its own wording.
+class DialogInLanguage : public DialogTest, public testing::WithParamInterface<const char*> {
+  public:
+    DialogInLanguage() : DialogTest(GetParam()) {}
+};
+
+inline constexpr auto languageName = [](const auto& info) { return std::string(info.param); };
+inline const auto bothLanguages = testing::Values("English", "Japanese");
+
+} // namespace vantrel::tests

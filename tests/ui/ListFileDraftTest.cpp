@@ -1,0 +1,217 @@
+#include "ui/dialogs/ListFileDraft.h"
+
+#include "base/ApplicationState.h"
+#include "link/SessionWorld.h"
+#include "support/NamedRow.h"
+
+namespace vantrel::tests {
+namespace {
+
+namespace mark = list_file_mark;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class ListFileDraftTest : public testing::Test {
+  public:
+    ListFileDraftTest() {
+        state.PCPath = world.pc.path();
+        world.session->path = "/elsewhere";
+        std::vector<MessageEntry> entries;
+        for (const std::int16_t number : {19, 20, 21, 22, 23, 24, 45, 53, 325, 326})
+            entries.push_back({number, "", "text " + std::to_string(number)});
+        messages.replace(entries);
+    }
+
+    ListFileDraft draft(std::string_view mode) {
+        return {state, *world.session, world.boxes, messages, mode};
+    }
+    /// The draft after the operator typed the name and pressed OK.
+    ListFileDraft confirmed(std::string_view mode, const std::string& name) {
+        auto result = draft(mode);
+        result.setName(name);
+        result.confirm();
+        return result;
+    }
+    std::vector<std::string> jobList() const {
+        std::vector<std::string> entries;
+        for (int index = 0; index < world.session->JobListCount(); ++index)
+            entries.push_back(world.session->JobList(index));
+        return entries;
+    }
+
+    SessionWorld world;
+    ApplicationState state;
+    MessageTable messages;
+};
+
+struct CaptionRow : NamedRow {
+    std::string_view mode;
+    const char* title;
+    const char* field;
+};
+
+class ListFileCaptions : public ListFileDraftTest, public testing::WithParamInterface<CaptionRow> {
+};
+
+TEST_P(ListFileCaptions, FollowTheMode) {
+    const auto captioned = draft(GetParam().mode);
+    EXPECT_EQ(captioned.title(), GetParam().title);
+    EXPECT_EQ(captioned.fieldLabel(), GetParam().field);
+    EXPECT_EQ(captioned.hint(), "text 45");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Modes, ListFileCaptions,
+    testing::Values(CaptionRow{{"SaveJobs"}, mark::saveJobs, "text 19", "text 23"},
+                    CaptionRow{{"LoadJobs"}, mark::loadJobs, "text 20", "text 23"},
+                    CaptionRow{{"SaveVariables"}, mark::saveVariables, "text 21", "text 24"},
+                    CaptionRow{{"LoadVariables"}, mark::loadVariables, "text 22", "text 24"}),
+    rowName);
+
+struct NameRow : NamedRow {
+    const char* typed;
+    bool accepted;
+    const char* completed;
+};
+
+class ListFileName : public ListFileDraftTest, public testing::WithParamInterface<NameRow> {};
+
+TEST_P(ListFileName, IsCompletedAndJudged) {
+    auto typed = draft(mark::loadJobs);
+    typed.setName(GetParam().typed);
+    EXPECT_EQ(typed.canConfirm(), GetParam().accepted);
+    if (GetParam().accepted) {
+        EXPECT_EQ(typed.completedName(), GetParam().completed);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, ListFileName,
+                         testing::Values(NameRow{{"WithoutAPoint"}, "jobs", true, "jobs.lst"},
+                                         NameRow{{"WithAPoint"}, "jobs.txt", true, "jobs.txt"},
+                                         NameRow{{"PointAtTheEnd"}, "jobs.", true, "jobs."},
+                                         NameRow{{"OuterBlanks"}, " jobs ", true, "jobs.lst"},
+                                         NameRow{{"Japanese"}, "一覧", true, "一覧.lst"},
+                                         NameRow{{"Empty"}, "", false, ""},
+                                         NameRow{{"BlanksOnly"}, "  ", false, ""},
+                                         NameRow{{"Asterisk"}, "*.LST", false, ""},
+                                         NameRow{{"QuestionMark"}, "job?.lst", false, ""}),
+                         rowName);
+
+struct PresetRow : NamedRow {
+    std::string_view mode;
+    const char* jobListFile;
+    const char* varListFile;
+    const char* preset;
+};
+
+class ListFilePreset : public ListFileDraftTest, public testing::WithParamInterface<PresetRow> {};
+
+TEST_P(ListFilePreset, IsTheLastListFileUnlessAPattern) {
+    state.JobListFile = GetParam().jobListFile;
+    state.VarListFile = GetParam().varListFile;
+    EXPECT_EQ(draft(GetParam().mode).name(), GetParam().preset);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Modes, ListFilePreset,
+    testing::Values(PresetRow{{"Jobs"}, mark::saveJobs, "jobs.lst", "vars.lst", "jobs.lst"},
+                    PresetRow{{"Variables"}, mark::loadVariables, "jobs.lst", "vars.lst",
+                              "vars.lst"},
+                    PresetRow{{"JobPattern"}, mark::loadJobs, "*.LST", "vars.lst", ""},
+                    PresetRow{{"VariablePattern"}, mark::saveVariables, "jobs.lst", "v?.lst", ""}),
+    rowName);
+
+TEST_F(ListFileDraftTest, ShowsALongFolderShortenedAndKnowsTheWholeOne) {
+    state.PCPath = "/" + std::string(60, 'a') + "/robot jobs";
+    EXPECT_EQ(draft(mark::saveJobs).shownFolder(), "robot jobs");
+    EXPECT_EQ(draft(mark::saveJobs).folder(), state.PCPath);
+}
+
+TEST_F(ListFileDraftTest, TheMarkSaysNotReadUntilAListWasRead) {
+    EXPECT_EQ(draft(mark::loadJobs).mark(), "0");
+}
+
+TEST_F(ListFileDraftTest, ReadsTheListFromThePaneFolder) {
+    world.pc.write("jobs.lst", "A.JBI\n");
+    world.pc.write("A.JBI", SessionWorld::job("A"));
+    const auto done = confirmed(mark::loadJobs, "jobs");
+    EXPECT_EQ(done.mark(), "1");
+    EXPECT_EQ(world.session->path, world.pc.path());
+    EXPECT_THAT(jobList(), ElementsAre("A.JBI"));
+    EXPECT_THAT(world.boxes.shown, IsEmpty());
+}
+
+TEST_F(ListFileDraftTest, JobsToBeFetchedNeedNotBeOnThePC) {
+    world.pc.write("jobs.lst", "FAR.JBI\n");
+    EXPECT_EQ(confirmed(mark::saveJobs, "jobs").mark(), "1");
+    EXPECT_THAT(jobList(), ElementsAre("FAR.JBI"));
+    EXPECT_THAT(world.boxes.shown, IsEmpty());
+}
+
+TEST_F(ListFileDraftTest, JobsToBeSentHaveToBeOnThePC) {
+    world.pc.write("jobs.lst", "FAR.JBI\n");
+    world.boxes.answers = {true};
+    confirmed(mark::loadJobs, "jobs");
+    EXPECT_THAT(jobList(), IsEmpty());
+    EXPECT_THAT(world.boxes.texts(), ElementsAre(HasSubstr("[FAR.JBI]")));
+}
+
+TEST_F(ListFileDraftTest, AListThatTheOperatorLeftIsNotReported) {
+    world.pc.write("jobs.lst", "FAR.JBI\n");
+    const auto left = confirmed(mark::loadJobs, "jobs");
+    EXPECT_EQ(left.mark(), "0");
+    EXPECT_EQ(world.boxes.shown.size(), 1U) << "only the question about the missing file";
+}
+
+TEST_F(ListFileDraftTest, ReadsVariableListsInBothVariableModes) {
+    world.pc.write("vars.lst", "B005=12\n");
+    for (const auto mode : {mark::saveVariables, mark::loadVariables}) {
+        world.session->VarListClear();
+        EXPECT_EQ(confirmed(mode, "vars").mark(), "1");
+        EXPECT_EQ(world.session->VarList(0), "B005=12");
+    }
+    EXPECT_EQ(state.VarListFile, "vars.lst");
+    EXPECT_EQ(state.JobListFile, "");
+}
+
+TEST_F(ListFileDraftTest, AFileThatCannotBeReadIsNamedWithTheReason) {
+    const auto failed = confirmed(mark::saveJobs, "nowhere");
+    EXPECT_EQ(failed.mark(), "0");
+    ASSERT_EQ(world.boxes.shown.size(), 1U);
+    EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("text 53[nowhere.lst] No such file"));
+    EXPECT_EQ(world.boxes.shown[0].icon, BoxIcon::Exclamation);
+}
+
+TEST_F(ListFileDraftTest, AFolderOfThatNameIsNamedToo) {
+    world.pc.makeFolder("vars.lst");
+    EXPECT_EQ(confirmed(mark::loadVariables, "vars").mark(), "0");
+    ASSERT_EQ(world.boxes.shown.size(), 1U);
+    EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("[vars.lst]"));
+}
+
+TEST_F(ListFileDraftTest, KeepsTheLastNameThatWorked) {
+    world.pc.write("jobs.lst", "A.JBI\n");
+    confirmed(mark::saveJobs, "jobs");
+    confirmed(mark::saveJobs, "nowhere");
+    EXPECT_EQ(state.JobListFile, "jobs.lst");
+}
+
+TEST_F(ListFileDraftTest, AbandoningReadsNothing) {
+    world.pc.write("jobs.lst", "A.JBI\n");
+    auto left = draft(mark::saveJobs);
+    left.setName("jobs");
+    left.abandon();
+    EXPECT_EQ(left.mark(), "0");
+    EXPECT_THAT(jobList(), IsEmpty());
+    EXPECT_EQ(world.session->path, "/elsewhere");
+}
+
+TEST_F(ListFileDraftTest, AWildcardIsNotConfirmedWhateverAsksForIt) {
+    EXPECT_EQ(confirmed(mark::saveJobs, "*.lst").mark(), "0");
+    EXPECT_EQ(world.session->path, "/elsewhere");
+    EXPECT_THAT(world.boxes.shown, IsEmpty());
+}
+
+} // namespace
+} // namespace vantrel::tests

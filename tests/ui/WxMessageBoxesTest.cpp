@@ -1,0 +1,120 @@
+#include "ui/dialogs/WxMessageBoxes.h"
+
+#include "DialogTest.h"
+#include "support/ModalScript.h"
+#include "ui/dialogs/DialogParent.h"
+#include "ui/dialogs/FrmMessage.h"
+#include "ui/dialogs/WindowHolder.h"
+
+#include <wx/frame.h>
+#include <wx/msgdlg.h>
+
+namespace vantrel::tests {
+namespace {
+
+class WxMessageBoxesTest : public DialogInLanguage {
+  public:
+    /// Answers the next box and remembers what it was.
+    void answerWith(int id) {
+        script.answer([this, id](wxDialog& dialog) {
+            auto& box = dynamic_cast<wxMessageDialog&>(dialog);
+            text = box.GetMessage().utf8_string();
+            title = box.GetCaption().utf8_string();
+            style = box.GetMessageDialogStyle();
+            yes = box.GetYesLabel().utf8_string();
+            no = box.GetNoLabel().utf8_string();
+            ok = box.GetOKLabel().utf8_string();
+            parent = box.GetParent();
+            return id;
+        });
+    }
+
+    ModalScript script;
+    WxMessageBoxes boxes{messages};
+    std::string text, title, yes, no, ok;
+    long style = 0;
+    wxWindow* parent = nullptr;
+};
+
+TEST_P(WxMessageBoxesTest, TellsATextAsItIs) {
+    answerWith(wxID_OK);
+    boxes.tell("A&B 100%s %n.JBI", BoxIcon::Exclamation);
+    EXPECT_EQ(text, "A&B 100%s %n.JBI");
+    EXPECT_EQ(title, "Vantrel");
+    EXPECT_EQ(style & (wxOK | wxCANCEL | wxYES_NO), wxOK);
+    EXPECT_TRUE(style & wxICON_WARNING);
+    EXPECT_EQ(ok, messages.getMessage(325));
+}
+
+TEST_P(WxMessageBoxesTest, AsksYesOrNoWithNoAsTheDefault) {
+    answerWith(wxID_YES);
+    EXPECT_TRUE(boxes.askYesNo("?", BoxIcon::Question));
+    EXPECT_TRUE(style & wxNO_DEFAULT);
+    EXPECT_TRUE(style & wxICON_QUESTION);
+    EXPECT_EQ(yes, messages.resourceMessage(30));
+    EXPECT_EQ(no, messages.resourceMessage(31));
+}
+
+TEST_P(WxMessageBoxesTest, OnlyYesIsYesAndOnlyOKIsOK) {
+    for (const int id : {wxID_NO, wxID_CANCEL, wxID_NONE}) {
+        answerWith(id);
+        EXPECT_FALSE(boxes.askYesNo("?", BoxIcon::Question));
+        answerWith(id);
+        EXPECT_FALSE(boxes.askOkCancel("?", BoxIcon::Question));
+    }
+    answerWith(wxID_OK);
+    EXPECT_TRUE(boxes.askOkCancel("?", BoxIcon::Question));
+}
+
+TEST_P(WxMessageBoxesTest, ABoxWithoutAnIconHasNone) {
+    answerWith(wxID_OK);
+    boxes.tell("text", BoxIcon::None);
+    EXPECT_TRUE(style & wxICON_NONE);
+}
+
+TEST_P(WxMessageBoxesTest, WorksBeforeThereIsALanguage) {
+    const MessageTable none;
+    answerWith(wxID_OK);
+    WxMessageBoxes(none).tell("Language File Read Error.(System.lng)", BoxIcon::Exclamation);
+    EXPECT_EQ(title, "Vantrel");
+    EXPECT_NE(ok, "");
+    EXPECT_EQ(parent, nullptr);
+}
+
+TEST_P(WxMessageBoxesTest, BelongsToTheInnermostModalDialog) {
+    wxDialog open(nullptr, wxID_ANY, "open");
+    script.act([this](wxDialog& dialog) {
+        answerWith(wxID_OK);
+        boxes.tell("text", BoxIcon::None);
+        EXPECT_EQ(parent, &dialog);
+        dialog.EndModal(wxID_OK);
+    });
+    open.ShowModal();
+}
+
+TEST_P(WxMessageBoxesTest, NeverBelongsToAWindowThatComesAndGoes) {
+    const WindowHolder<FrmMessage> start(new FrmMessage("body", messages, state));
+    start->showPainted(runEvents);
+    answerWith(wxID_OK);
+    boxes.tell("text", BoxIcon::None);
+    EXPECT_EQ(parent, nullptr);
+}
+
+TEST_P(WxMessageBoxesTest, IsClosedByItsRealKeys) {
+    for (const auto& [key, answer] : {std::pair(WXK_RETURN, false), std::pair(WXK_ESCAPE, false)}) {
+        bool seen = false;
+        script.act([&, pressed = key](wxDialog&) {
+            const auto active = [] { return wxGetActiveWindow() != nullptr; };
+            seen = true;
+            waitFor(active);
+            pressKey(pressed);
+        });
+        EXPECT_EQ(boxes.askYesNo(messages.getMessage(1) + " A&B 100%", BoxIcon::Question), answer);
+        EXPECT_TRUE(seen);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(In, WxMessageBoxesTest, bothLanguages, languageName);
+
+} // namespace
+} // namespace vantrel::tests

@@ -1,0 +1,169 @@
+#include "ui/dialogs/frmLanguage.h"
+
+#include "DialogTest.h"
+#include "LanguageWorld.h"
+#include "support/ModalScript.h"
+
+#include <gmock/gmock.h>
+#include <wx/fontdlg.h>
+#include <wx/image.h>
+#include <wx/listbox.h>
+#include <wx/statbmp.h>
+
+namespace vantrel::tests {
+namespace {
+
+/// The dialog in each language: `texts` has the captions, the world's own table is what OK fills.
+class frmLanguageTest : public DialogInLanguage {
+  public:
+    frmLanguageTest() { world.state.LanguageName = language(); }
+
+    wxListBox& list() { return control<wxListBox>(dialog, "List1"); }
+    bool hasPicture() { return control<wxStaticBitmap>(dialog, "Picture1").GetBitmap().IsOk(); }
+    void choose(int index, wxEventType how = wxEVT_LISTBOX) {
+        list().SetSelection(index);
+        wxCommandEvent event(how, list().GetId());
+        event.SetInt(index);
+        event.SetEventObject(&list());
+        list().HandleWindowEvent(event);
+    }
+    void writeIcon(const std::string& name) {
+        wxImage::AddHandler(new wxICOHandler);
+        wxImage image(32, 32);
+        ASSERT_TRUE(image.SaveFile(wxString::FromUTF8(world.program.path(name)),
+                                   wxBITMAP_TYPE_ICO));
+    }
+
+    LanguageWorld world;
+    LanguageDraft draft = [this] {
+        world.state.LanguageName = language();
+        world.program.write("Klingon.lng", "Start:\n");
+        return LanguageDraft(world.services());
+    }();
+    frmLanguage dialog{nullptr, draft, messages, world.state};
+};
+
+TEST_P(frmLanguageTest, ShowsTheLanguagesAndTheCurrentOne) {
+    EXPECT_EQ(dialog.GetTitle().utf8_string(), messages.getMessage(340));
+    EXPECT_EQ(list().GetCount(), 4U);
+    EXPECT_EQ(list().GetStringSelection().utf8_string(), language());
+    EXPECT_EQ(labelOf(dialog, "Check1"), messages.getMessage(341));
+    EXPECT_EQ(labelOf(dialog, "Command1"), messages.getMessage(325));
+    EXPECT_EQ(labelOf(dialog, "Command2"), messages.getMessage(326));
+    EXPECT_EQ(labelOf(dialog, "Command3"), messages.getMessage(342));
+    EXPECT_EQ(labelOf(dialog, "Command4"), messages.getMessage(343));
+    EXPECT_TRUE(hasPicture());
+    whileModal(dialog, [&] {
+        expectNothingCutOff(dialog);
+        saveScreenshot(dialog, "language-" + language());
+        click(dialog, "Command2");
+    });
+}
+
+TEST_P(frmLanguageTest, AClickChoosesAndOKTakesIt) {
+    whileModal(dialog, [&] {
+        choose(0);
+        EXPECT_EQ(world.state.LanguageName, "English");
+        tick(dialog, "Check1", true);
+        click(dialog, "Command1");
+    });
+    EXPECT_EQ(world.messages.getMessage(1), "English");
+    EXPECT_EQ(world.state.LangSelect, 0);
+    EXPECT_FALSE(world.state.LangCancelled);
+}
+
+TEST_P(frmLanguageTest, ADoubleClickIsOK) {
+    whileModal(dialog, [&] {
+        choose(1);
+        choose(1, wxEVT_LISTBOX_DCLICK);
+    });
+    EXPECT_EQ(world.messages.getMessage(1), "Japanese");
+}
+
+TEST_P(frmLanguageTest, CancelEscAndCloseBoxPutTheLanguageBack) {
+    for (const int way : {0, 1, 2}) {
+        world.state.LangCancelled = false;
+        whileModal(dialog, [&] {
+            choose(2);
+            if (way == 0)
+                click(dialog, "Command2");
+            else if (way == 1)
+                swallows(dialog, WXK_ESCAPE);
+            else
+                dialog.Close();
+        });
+        EXPECT_TRUE(world.state.LangCancelled) << way;
+        EXPECT_EQ(world.state.LanguageName, language()) << way;
+    }
+}
+
+TEST_P(frmLanguageTest, ALanguageThatCannotBeReadKeepsTheDialogOpen) {
+    whileModal(dialog, [&] {
+        choose(0);
+        std::filesystem::remove(world.program.path("English.lng"));
+        click(dialog, "Command1");
+        EXPECT_TRUE(dialog.IsModal());
+        click(dialog, "Command2");
+    });
+    EXPECT_EQ(world.boxes.shown.size(), 1U);
+}
+
+TEST_P(frmLanguageTest, ALanguageWithoutAnIconShowsAnEmptyPicture) {
+    choose(2);
+    EXPECT_EQ(world.state.LanguageName, "Klingon");
+    EXPECT_FALSE(hasPicture());
+    choose(0);
+    EXPECT_TRUE(hasPicture());
+}
+
+TEST_P(frmLanguageTest, AnIconFileBesideTheLanguageIsItsPicture) {
+    writeIcon("Klingon.ico");
+    choose(2);
+    EXPECT_TRUE(hasPicture());
+}
+
+TEST_P(frmLanguageTest, ADamagedIconIsNoPicture) {
+    world.program.write("Klingon.ico", "no icon at all");
+    choose(2);
+    EXPECT_FALSE(hasPicture());
+}
+
+TEST_P(frmLanguageTest, EditStartsTheEditorAndStaysOpen) {
+    whileModal(dialog, [&] {
+        click(dialog, "Command3");
+        EXPECT_TRUE(dialog.IsModal());
+        click(dialog, "Command2");
+    });
+    EXPECT_THAT(world.edited, testing::ElementsAre(world.program.path(language() + ".lng")));
+}
+
+TEST_P(frmLanguageTest, AFontThatIsChosenIsShownAtOnce) {
+    ModalScript script;
+    script.answer([](wxDialog& fonts) {
+        auto& data = dynamic_cast<wxFontDialog&>(fonts).GetFontData();
+        EXPECT_EQ(data.GetInitialFont().GetPointSize(), 9);
+        data.SetChosenFont(wxFont(wxFontInfo(15).Bold().FaceName("DejaVu Serif")));
+        return wxID_OK;
+    });
+    click(dialog, "Command4");
+    EXPECT_EQ(draft.font(), (CaptionFont{"DejaVu Serif", true, false, 15}));
+    EXPECT_EQ(control<wxButton>(dialog, "Command1").GetFont().GetPointSize(), 15);
+    expectNothingCutOff(dialog);
+}
+
+TEST_P(frmLanguageTest, AFontDialogThatIsLeftChangesNothing) {
+    const auto before = draft.font();
+    ModalScript script;
+    script.answer([](wxDialog&) { return wxID_CANCEL; });
+    click(dialog, "Command4");
+    EXPECT_EQ(draft.font(), before);
+}
+
+TEST_P(frmLanguageTest, F1IsSwallowed) {
+    EXPECT_TRUE(swallows(dialog, WXK_F1));
+}
+
+INSTANTIATE_TEST_SUITE_P(In, frmLanguageTest, bothLanguages, languageName);
+
+} // namespace
+} // namespace vantrel::tests

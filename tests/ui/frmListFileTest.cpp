@@ -1,0 +1,109 @@
+#include "ui/dialogs/frmListFile.h"
+
+#include "DialogTest.h"
+#include "link/SessionWorld.h"
+#include "ui/dialogs/ListFileDraft.h"
+
+namespace vantrel::tests {
+namespace {
+
+namespace mark = list_file_mark;
+
+class frmListFileTest : public DialogInLanguage {
+  public:
+    frmListFileTest() {
+        state.PCPath = world.pc.path();
+        world.pc.write("jobs.lst", "A.JBI\n");
+    }
+
+    SessionWorld world;
+    ListFileDraft draft{state, *world.session, world.boxes, messages, mark::saveJobs};
+    frmListFile dialog{nullptr, draft, state};
+};
+
+TEST_P(frmListFileTest, ShowsFolderFieldAndHint) {
+    EXPECT_EQ(dialog.GetTitle().utf8_string(), messages.getMessage(19));
+    EXPECT_EQ(labelOf(dialog, "lblFile"), messages.getMessage(23));
+    EXPECT_EQ(labelOf(dialog, "lblMsg"), messages.getMessage(45));
+    EXPECT_EQ(labelOf(dialog, "LblPath"), draft.shownFolder());
+    EXPECT_EQ(labelOf(dialog, "cmdOK"), messages.getMessage(325));
+    EXPECT_EQ(labelOf(dialog, "cmdCancel"), messages.getMessage(326));
+    whileModal(dialog, [&] {
+        expectNothingCutOff(dialog);
+        saveScreenshot(dialog, "list-file-" + language());
+        click(dialog, "cmdCancel");
+    });
+}
+
+TEST_P(frmListFileTest, OKIsOnOnlyForAName) {
+    auto& ok = control<wxButton>(dialog, "cmdOK");
+    EXPECT_FALSE(ok.IsEnabled());
+    type(dialog, "txtFile", "jobs");
+    EXPECT_TRUE(ok.IsEnabled());
+    type(dialog, "txtFile", "*.lst");
+    EXPECT_FALSE(ok.IsEnabled());
+}
+
+TEST_P(frmListFileTest, OKReadsTheListAndCloses) {
+    whileModal(dialog, [&] {
+        type(dialog, "txtFile", "jobs");
+        click(dialog, "cmdOK");
+    });
+    EXPECT_EQ(draft.mark(), "1");
+    EXPECT_EQ(world.session->JobList(0), "A.JBI");
+}
+
+TEST_P(frmListFileTest, AFileThatCannotBeReadClosesItToo) {
+    whileModal(dialog, [&] {
+        type(dialog, "txtFile", "nowhere");
+        click(dialog, "cmdOK");
+    });
+    EXPECT_EQ(draft.mark(), "0");
+    EXPECT_EQ(world.boxes.shown.size(), 1U);
+}
+
+TEST_P(frmListFileTest, CancelEscAndCloseBoxReadNothing) {
+    type(dialog, "txtFile", "jobs");
+    whileModal(dialog, [&] { click(dialog, "cmdCancel"); });
+    whileModal(dialog, [&] { swallows(dialog, WXK_ESCAPE); });
+    whileModal(dialog, [&] { dialog.Close(); });
+    EXPECT_EQ(draft.mark(), "0");
+    EXPECT_EQ(world.session->JobListCount(), 0);
+}
+
+TEST_P(frmListFileTest, TheKeyboardTypesANameAndConfirmsIt) {
+    whileModal(dialog, [&] {
+        auto& text = control<wxTextCtrl>(dialog, "txtFile");
+        ASSERT_TRUE(waitFor([&] { return dialog.IsActive() && text.HasFocus(); }));
+        wxUIActionSimulator().Text("jobs");
+        ASSERT_TRUE(waitFor([&] { return text.GetValue() == "jobs"; }));
+        pressKey(WXK_RETURN);
+        waitFor([&] { return !dialog.IsModal(); });
+    });
+    EXPECT_EQ(draft.mark(), "1");
+}
+
+TEST_P(frmListFileTest, EnterWithoutANameDoesNothing) {
+    whileModal(dialog, [&] {
+        wxCommandEvent enter(wxEVT_TEXT_ENTER, control<wxTextCtrl>(dialog, "txtFile").GetId());
+        control<wxTextCtrl>(dialog, "txtFile").HandleWindowEvent(enter);
+        EXPECT_TRUE(dialog.IsModal());
+        click(dialog, "cmdCancel");
+    });
+    EXPECT_TRUE(world.boxes.shown.empty());
+}
+
+TEST_P(frmListFileTest, StartsWithTheLastListFileSelected) {
+    state.JobListFile = "jobs.lst";
+    ListFileDraft again(state, *world.session, world.boxes, messages, mark::saveJobs);
+    frmListFile preset(nullptr, again, state);
+    auto& text = control<wxTextCtrl>(preset, "txtFile");
+    EXPECT_EQ(text.GetValue(), "jobs.lst");
+    EXPECT_EQ(text.GetStringSelection(), "jobs.lst");
+    EXPECT_TRUE(control<wxButton>(preset, "cmdOK").IsEnabled());
+}
+
+INSTANTIATE_TEST_SUITE_P(In, frmListFileTest, bothLanguages, languageName);
+
+} // namespace
+} // namespace vantrel::tests

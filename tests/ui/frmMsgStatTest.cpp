@@ -1,0 +1,176 @@
+#include "ui/dialogs/frmMsgStat.h"
+
+#include "DialogTest.h"
+#include "ui/dialogs/WindowHolder.h"
+
+#include <wx/frame.h>
+#include <wx/gauge.h>
+
+namespace vantrel::tests {
+namespace {
+
+class frmMsgStatTest : public DialogInLanguage {
+  public:
+    frmMsgStatTest() {
+        panel.setTitle(messages.getMessage(7));
+        panel.setCancelCaption(messages.resourceMessage(33));
+    }
+
+    void yieldOnce() {
+        ++yields;
+        runEvents();
+    }
+    std::string message() { return control<wxStaticText>(*window, "lblMsg").GetLabelText().utf8_string(); }
+
+    int yields = 0;
+    ProgressPanel panel;
+    WindowHolder<frmMsgStat> window{
+        new frmMsgStat(panel, messages, state, [this] { yieldOnce(); })};
+};
+
+TEST_P(frmMsgStatTest, IsLoadedHidden) {
+    EXPECT_FALSE(window->IsShown());
+    EXPECT_EQ(window->GetTitle(), "Snappy");
+}
+
+TEST_P(frmMsgStatTest, ShowsWhatThePanelHolds) {
+    panel.show(messages.resourceMessage(4));
+    panel.step(messages.resourceMessage(4) + "PALLET_LAYER_07.JBI", 2, 5,
+               messages.getMessage(51) + "3" + messages.getMessage(52) + "5   " +
+                   messages.getMessage(50));
+    EXPECT_TRUE(window->IsShown());
+    EXPECT_EQ(window->GetTitle().utf8_string(), messages.getMessage(7));
+    EXPECT_EQ(message(), messages.resourceMessage(4) + "PALLET_LAYER_07.JBI");
+    EXPECT_EQ(labelOf(*window, "cmdCancel"), messages.resourceMessage(33));
+    const auto& bar = control<wxGauge>(*window, "pgbInf");
+    EXPECT_EQ(bar.GetRange(), 5);
+    EXPECT_EQ(bar.GetValue(), 2);
+    expectNothingCutOff(*window);
+    saveScreenshot(*window, "progress-" + language());
+}
+
+TEST_P(frmMsgStatTest, StaysOnTop) {
+    EXPECT_TRUE(window->HasFlag(wxSTAY_ON_TOP));
+}
+
+TEST_P(frmMsgStatTest, ShowingYieldsUntilItIsPainted) {
+    panel.show("first");
+    EXPECT_GE(yields, 1);
+    EXPECT_TRUE(window->IsShownOnScreen());
+    yields = 0;
+    panel.step("second", 1, 2, "");
+    EXPECT_EQ(yields, 0) << "a step lets no events run";
+    panel.yield();
+    EXPECT_EQ(yields, 1) << "a painted window needs one yield only";
+}
+
+TEST_P(frmMsgStatTest, AmpersandsOfNamesAreShown) {
+    panel.show("A&B && C.JBI");
+    EXPECT_EQ(message(), "A&B && C.JBI");
+}
+
+TEST_P(frmMsgStatTest, ALongNameDoesNotWidenIt) {
+    panel.show("short");
+    const auto size = window->GetSize();
+    panel.step(std::string(255, 'W'), 0, 1, std::string(255, 'W'));
+    runEvents();
+    EXPECT_EQ(window->GetSize(), size);
+    saveScreenshot(*window, "progress-long-" + language());
+}
+
+TEST_P(frmMsgStatTest, HidesAndComesBackAsItWas) {
+    panel.show("text");
+    panel.pressCancel();
+    panel.hide();
+    EXPECT_FALSE(window->IsShown());
+    panel.showAgain();
+    EXPECT_TRUE(window->IsShown());
+    EXPECT_EQ(message(), "text");
+    EXPECT_TRUE(panel.isCancelled());
+}
+
+TEST_P(frmMsgStatTest, CancelLeavesTheMarkAndSaysThatItWasTaken) {
+    panel.show("text");
+    click(*window, "cmdCancel");
+    EXPECT_TRUE(panel.isCancelled());
+    EXPECT_FALSE(control<wxButton>(*window, "cmdCancel").IsEnabled());
+    panel.show("next");
+    EXPECT_FALSE(panel.isCancelled());
+    EXPECT_TRUE(control<wxButton>(*window, "cmdCancel").IsEnabled());
+}
+
+TEST_P(frmMsgStatTest, EscAndCloseBoxArePressesOfCancel) {
+    panel.show("text");
+    EXPECT_TRUE(swallows(*window, WXK_ESCAPE));
+    EXPECT_TRUE(panel.isCancelled());
+    panel.clearMark();
+    EXPECT_FALSE(window->Close()) << "the window itself stays";
+    EXPECT_TRUE(panel.isCancelled());
+    EXPECT_TRUE(window->IsShown());
+}
+
+TEST_P(frmMsgStatTest, WithoutACancelButtonEscAndCloseBoxDoNothing) {
+    panel.showCancelButton(false);
+    panel.show("text");
+    swallows(*window, WXK_ESCAPE);
+    window->Close();
+    EXPECT_FALSE(panel.isCancelled());
+    EXPECT_TRUE(window->IsShown());
+    EXPECT_FALSE(control<wxButton>(*window, "cmdCancel").IsShown());
+}
+
+TEST_P(frmMsgStatTest, TheBarIsShownOnRequest) {
+    panel.showBar(false);
+    panel.show("text");
+    EXPECT_FALSE(control<wxGauge>(*window, "pgbInf").IsShown());
+    panel.showBar(true);
+    EXPECT_TRUE(control<wxGauge>(*window, "pgbInf").IsShown());
+}
+
+TEST_P(frmMsgStatTest, CountsOutOfOrderLeaveTheBarWithinItsRange) {
+    panel.show("text");
+    panel.step("text", 9, 0, "");
+    EXPECT_EQ(control<wxGauge>(*window, "pgbInf").GetValue(), 1);
+    panel.step("text", -3, -7, "");
+    EXPECT_EQ(control<wxGauge>(*window, "pgbInf").GetValue(), 0);
+}
+
+TEST_P(frmMsgStatTest, F1IsSwallowed) {
+    panel.show("text");
+    EXPECT_TRUE(swallows(*window, WXK_F1));
+    EXPECT_FALSE(panel.isCancelled());
+}
+
+TEST_P(frmMsgStatTest, HasNoDefaultButton) {
+    EXPECT_EQ(window->GetDefaultItem(), nullptr);
+}
+
+TEST_P(frmMsgStatTest, DoesNotTakeTheMainWindowsFocus) {
+    const WindowHolder<wxFrame> main(new wxFrame(nullptr, wxID_ANY, "main"));
+    auto* const text = new wxTextCtrl(main.get(), wxID_ANY);
+    main->Show();
+    text->SetFocus();
+    ASSERT_TRUE(waitFor([&] { return text->HasFocus(); }));
+    panel.show("text");
+    runEvents();
+    EXPECT_TRUE(text->HasFocus());
+}
+
+TEST_P(frmMsgStatTest, UnloadingDetachesItFromThePanel) {
+    panel.show("text");
+    panel.unload();
+    EXPECT_TRUE(waitFor([&] { return !window; }));
+    panel.show("nobody shows this");
+    panel.hide();
+}
+
+TEST_P(frmMsgStatTest, AWindowThatIsDestroyedDetachesItself) {
+    window->Destroy();
+    ASSERT_TRUE(waitFor([&] { return !window; }));
+    panel.show("nobody shows this");
+}
+
+INSTANTIATE_TEST_SUITE_P(In, frmMsgStatTest, bothLanguages, languageName);
+
+} // namespace
+} // namespace vantrel::tests

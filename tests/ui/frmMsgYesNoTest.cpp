@@ -1,0 +1,113 @@
+#include "ui/dialogs/frmMsgYesNo.h"
+
+#include "DialogTest.h"
+#include "support/ModalScript.h"
+
+namespace vantrel::tests {
+namespace {
+
+class frmMsgYesNoTest : public DialogInLanguage {
+  public:
+    std::string overwriteQuestion(const std::string& name) const {
+        return name + " " + messages.resourceMessage(2);
+    }
+
+    frmMsgYesNo dialog{nullptr, "Snappy", overwriteQuestion("WELD_01.JBI"), messages, state};
+};
+
+TEST_P(frmMsgYesNoTest, ShowsTheQuestionAndFourAnswers) {
+    EXPECT_EQ(dialog.GetTitle(), "Snappy");
+    for (int index = 0; index < 4; ++index)
+        EXPECT_EQ(labelOf(dialog, "cmdYesNo" + std::to_string(index)),
+                  messages.resourceMessage(30 + index));
+    whileModal(dialog, [&] {
+        expectNothingCutOff(dialog);
+        saveScreenshot(dialog, "question-" + language());
+        click(dialog, "cmdYesNo3");
+    });
+}
+
+TEST_P(frmMsgYesNoTest, TheMarkIsTheNumberOfTheButton) {
+    for (int index = 0; index < 4; ++index) {
+        const auto number = std::to_string(index);
+        whileModal(dialog, [&] { click(dialog, "cmdYesNo" + number); });
+        EXPECT_EQ(dialog.answerMark(), number);
+        EXPECT_FALSE(dialog.IsShown());
+    }
+}
+
+TEST_P(frmMsgYesNoTest, TheMarkStartsAsCancel) {
+    EXPECT_EQ(dialog.answerMark(), "3");
+}
+
+TEST_P(frmMsgYesNoTest, EscIsCancel) {
+    whileModal(dialog, [&] { swallows(dialog, WXK_ESCAPE); });
+    EXPECT_EQ(dialog.answerMark(), "3");
+}
+
+TEST_P(frmMsgYesNoTest, TheCloseBoxIsCancel) {
+    whileModal(dialog, [&] { dialog.Close(); });
+    EXPECT_EQ(dialog.answerMark(), "3");
+}
+
+TEST_P(frmMsgYesNoTest, CancelIsTheDefaultButton) {
+    EXPECT_EQ(dialog.GetDefaultItem(), &control<wxButton>(dialog, "cmdYesNo3"));
+}
+
+TEST_P(frmMsgYesNoTest, F1IsSwallowed) {
+    EXPECT_TRUE(swallows(dialog, WXK_F1));
+    EXPECT_EQ(dialog.answerMark(), "3");
+}
+
+struct KeyRow {
+    int key;
+    int modifiers;
+    const char* mark;
+};
+
+TEST_P(frmMsgYesNoTest, TheKeyboardAnswersIt) {
+    for (const auto& [key, modifiers, mark] :
+         {KeyRow{'Y', wxMOD_ALT, "0"}, KeyRow{'N', wxMOD_ALT, "1"}, KeyRow{'A', wxMOD_ALT, "2"},
+          KeyRow{'C', wxMOD_ALT, "3"}, KeyRow{WXK_RETURN, wxMOD_NONE, "3"},
+          KeyRow{WXK_ESCAPE, wxMOD_NONE, "3"}, KeyRow{WXK_F4, wxMOD_ALT, "3"}}) {
+        frmMsgYesNo asked(nullptr, "Snappy", "?", messages, state);
+        whileModal(asked, [&] {
+            ASSERT_TRUE(waitFor([&] { return asked.IsActive(); }));
+            pressKey(key, modifiers);
+            waitFor([&] { return !asked.IsModal() || !asked.IsShown(); });
+        });
+        EXPECT_EQ(asked.answerMark(), mark) << key;
+    }
+}
+
+TEST_P(frmMsgYesNoTest, ALongNameWrapsInsteadOfWideningIt) {
+    frmMsgYesNo longOne(nullptr, "Snappy", overwriteQuestion(std::string(200, 'W') + ".JBI"),
+                        messages, state);
+    EXPECT_LT(longOne.GetSize().x, longOne.FromDIP(600));
+    whileModal(longOne, [&] {
+        expectNothingCutOff(longOne);
+        saveScreenshot(longOne, "question-long-" + language());
+        click(longOne, "cmdYesNo3");
+    });
+}
+
+TEST_P(frmMsgYesNoTest, AmpersandsOfNamesAreShown) {
+    const frmMsgYesNo asked(nullptr, "Snappy", "A&B.JBI ?", messages, state);
+    const auto* const label =
+        dynamic_cast<wxStaticText*>(wxWindow::FindWindowByName("lblMsg", &asked));
+    EXPECT_EQ(label->GetLabelText(), "A&B.JBI ?");
+}
+
+TEST_P(frmMsgYesNoTest, EachQuestionIsAskedByADialogOfItsOwn) {
+    QuestionDialogs questions(messages, state);
+    ModalScript operatorsHand;
+    operatorsHand.act([](wxDialog& asked) { click(asked, "cmdYesNo2"); });
+    operatorsHand.act([](wxDialog& asked) { asked.Close(); });
+    EXPECT_EQ(questions.ask("title", "one?"), Answer::All);
+    EXPECT_EQ(questions.ask("title", "two?"), Answer::Cancel);
+}
+
+INSTANTIATE_TEST_SUITE_P(In, frmMsgYesNoTest, bothLanguages, languageName);
+
+} // namespace
+} // namespace vantrel::tests

@@ -1,0 +1,88 @@
+#include "ui/dialogs/frmVers.h"
+
+#include "DialogTest.h"
+#include "support/ModalScript.h"
+#include "ui/dialogs/WindowHolder.h"
+
+namespace vantrel::tests {
+namespace {
+
+class frmVersTest : public DialogInLanguage {
+  public:
+    /// Opens the window as the menu does, and acts while it is open.
+    void whileOpen(const std::function<void()>& action) {
+        ModalScript script;
+        script.act([&](wxDialog&) { action(); });
+        window->openModal();
+    }
+
+    WindowHolder<frmVers> window{new frmVers(nullptr, "1.23", messages, state)};
+};
+
+TEST_P(frmVersTest, ShowsNameAndVersion) {
+    whileOpen([&] {
+        EXPECT_EQ(labelOf(*window, "Label1"), messages.getMessage(25));
+        EXPECT_EQ(labelOf(*window, "Label2"), "Ver1.23");
+        EXPECT_EQ(labelOf(*window, "lblProduct"), "Vantrel");
+        EXPECT_NE(labelOf(*window, "lblCopyright"), "");
+        EXPECT_EQ(labelOf(*window, "Command1"), messages.getMessage(325));
+        EXPECT_EQ(window->GetTitle().Find('&'), wxNOT_FOUND);
+        EXPECT_FALSE(window->GetTitle().empty());
+        expectNothingCutOff(*window);
+        saveScreenshot(*window, "version-" + language());
+        click(*window, "Command1");
+    });
+    EXPECT_FALSE(window->IsShown());
+}
+
+TEST_P(frmVersTest, IsLoadedHidden) {
+    runEvents();
+    EXPECT_FALSE(window->IsShown());
+}
+
+TEST_P(frmVersTest, ShownWithoutWaitingItIsClosedByItsButton) {
+    window->Show();
+    runEvents();
+    EXPECT_TRUE(window->IsShown());
+    click(*window, "Command1");
+    EXPECT_FALSE(window->IsShown());
+}
+
+TEST_P(frmVersTest, OpensModallyWhileItIsVisible) {
+    window->Show();
+    runEvents();
+    bool modal = false;
+    whileOpen([&] {
+        modal = window->IsModal();
+        click(*window, "Command1");
+    });
+    EXPECT_TRUE(modal);
+    EXPECT_FALSE(window->IsShown());
+}
+
+TEST_P(frmVersTest, EscAndCloseBoxCloseIt) {
+    whileOpen([&] { swallows(*window, WXK_ESCAPE); });
+    whileOpen([&] { window->Close(); });
+    window->Show();
+    window->Close();
+    EXPECT_FALSE(window->IsShown());
+}
+
+TEST_P(frmVersTest, F1IsSwallowed) {
+    window->Show();
+    EXPECT_TRUE(swallows(*window, WXK_F1));
+    EXPECT_TRUE(window->IsShown());
+}
+
+TEST_P(frmVersTest, OpensInTheLanguageNowInForce) {
+    ASSERT_TRUE(bool(LanguageFiles(VANTREL_DATA_FOLDER).readInto("System", messages)));
+    whileOpen([&] {
+        EXPECT_EQ(labelOf(*window, "Label1"), messages.getMessage(25));
+        click(*window, "Command1");
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(In, frmVersTest, bothLanguages, languageName);
+
+} // namespace
+} // namespace vantrel::tests

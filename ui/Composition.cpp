@@ -1,0 +1,211 @@
+#include "ui/Composition.h"
+
+#include "app/MainWindowStart.h"
+#include "base/PathRules.h"
+#include "lang/MessageNumbers.h"
+#include "platform/Environment.h"
+#include "ui/dialogs/LanguageDraft.h"
+#include "ui/dialogs/VersionText.h"
+#include "ui/dialogs/frmLanguage.h"
+#include "ui/frmZuroVant.h"
+
+#include <wx/app.h>
+
+namespace vantrel {
+
+Composition::Composition(std::string executable, std::span<const std::string> arguments)
+    : executable_(std::move(executable)), programFolder_(PathRules().parent(executable_)),
+      commandLine_(readCommandLine(arguments)), languages_(programFolder_), boxes_(messages_),
+      questions_(messages_, state_), dialog_(progress_, questions_, boxes_),
+      languageChoice_(state_, messages_, languages_, boxes_, localeLanguageName()),
+      settings_(programFolder_, settingsFileName(executable_)),
+      registry_(state_, messages_, boxes_, programFolder_),
+      library_(programFolder_, [this](const LibraryProblem& problem) { reportLibrary(problem); }) {
+    // Until the start is over, what the operator does to the windows being built is refused.
+    guard_.lock();
+}
+
+Composition::~Composition() = default;
+
+Composition::Commands::Commands(Composition& owner, frmZuroVant& window)
+    : panes(owner.state_, *owner.session_, owner.table_, owner.messages_, window),
+      transfers(TransferServices{owner.state_, *owner.session_, panes, window, owner.table_,
+                                 owner.messages_, owner.progress_, owner.dialog_}),
+      services{owner.state_,    *owner.session_, panes,  transfers,
+               owner.messages_, owner.dialog_,   window, window},
+      main(services),
+      robots({owner.state_, *owner.session_, panes, owner.messages_, owner.boxes_, owner}),
+      shutdown({owner.state_, owner.settings_, owner.registry_, *owner.session_, owner.messages_,
+                owner.boxes_, owner}) {}
+
+StartResult Composition::start() {
+    const auto result = StartRoutine({state_, table_, languageChoice_, messages_, boxes_, settings_,
+                                      registry_, *this, commandLine_, executable_, programFolder_})
+                            .Main();
+    guard_.unlock();
+    return result;
+}
+
+void Composition::setHelpFile(const std::string& path) {
+    helpFile_ = path;
+}
+
+Snappy& Composition::createSession() {
+    progressWindow_.reset(new frmMsgStat(progress_, messages_, state_, [this] { guard_.yield(); }));
+    session_ = std::make_unique<Snappy>(SessionServices{
+        .library = library_,
+        .TransMode = state_.TransMode,
+        .messages = messages_,
+        .languages = languages_,
+        .progress = progress_,
+        .dialog = dialog_,
+        .programFolder = programFolder_,
+        .dummyWindow =
+            [this] {
+                if (!dummyWindow_)
+                    dummyWindow_.reset(new frmDumy);
+                return dummyWindow_->handle();
+            },
+        .unloadWindows = [this] { dummyWindow_.unload(); },
+        .modeChanged =
+            [this] {
+                if (commands_)
+                    commands_->main.modeWasChanged();
+            },
+    });
+    return *session_;
+}
+
+void Composition::showLanguageDialog() {
+    LanguageDraft draft({state_, messages_, languages_, languageChoice_, boxes_, programFolder_,
+                         settings_.path(), localeLanguageName(), editTextFile});
+    frmLanguage dialog(window_.get(), draft, messages_, state_);
+    dialog.ShowModal();
+}
+
+void Composition::showStartMessage() {
+    startMessage_.reset(new FrmMessage("", messages_, state_));
+    startMessage_->showPainted([this] { guard_.yield(); });
+}
+
+void Composition::unloadStartMessage() {
+    startMessage_.unload();
+}
+
+void Composition::loadVersionWindow() {
+    versionWindow_.reset(new frmVers(nullptr, versionText(programVersion()), messages_, state_));
+}
+
+void Composition::showVersionWindow() {
+    if (versionWindow_)
+        versionWindow_->Show();
+}
+
+void Composition::buildMainWindow() {
+    window_.reset(new frmZuroVant(state_, messages_, guard_));
+    wxTheApp->SetTopWindow(window_.get());
+    commands_ = std::make_unique<Commands>(*this, *window_);
+    window_->connect(commands_->main);
+    window_->onClose = [this] { return commands_->shutdown.close(); };
+    window_->onRobotChosen = [this](int index) { commands_->robots.choose(index); };
+    window_->onOtherEntry = [this](MenuItem item) { otherEntry(item); };
+    commands_->panes.fillFilterChoices();
+}
+
+void Composition::showMainWindow() {
+    // Placed and captioned before the operator sees it; the start routine completes it before the
+    // first paint, which comes with the event loop.
+    window_->Show();
+}
+
+void Composition::focusPCList() {
+    window_->list(ActiveSide::PC).focus();
+}
+
+void Composition::startMainWindow() {
+    vantrel::startMainWindow(commands_->services, commands_->main);
+    // The library is looked at when everything stands, not while the operator waits for the window.
+    window_->CallAfter([this] { showSimulationNotice(); });
+}
+
+RobotBox& Composition::robotBox() {
+    return *window_;
+}
+
+Panes& Composition::panes() {
+    return commands_->panes;
+}
+
+bool Composition::isLocked() const {
+    return guard_.isLocked();
+}
+
+void Composition::unloadOtherWindows() {
+    startMessage_.unload();
+    versionWindow_.unload();
+}
+
+WindowPlacement Composition::placement() const {
+    return window_->placement();
+}
+
+void Composition::selectRobot(int index) {
+    window_->select(index);
+}
+
+void Composition::showAddress(const std::string& address) {
+    window_->showAddress(address);
+}
+
+void Composition::showFolder(const std::string& folder) {
+    window_->showFolder(folder);
+}
+
+void Composition::refreshStates() {
+    commands_->main.updateStates();
+}
+
+void Composition::refreshActivePane() {
+    commands_->main.mnuRefresh();
+}
+
+void Composition::otherEntry(MenuItem item) {
+    constexpr int language = 7;
+    if (item.menu == Menu::mnuVer)
+        openVersionWindow();
+    else if (item == MenuItem{Menu::mnuOpt, language})
+        changeLanguage();
+}
+
+void Composition::openVersionWindow() {
+    if (!versionWindow_)
+        versionWindow_.reset(
+            new frmVers(window_.get(), versionText(programVersion()), messages_, state_));
+    versionWindow_->openModal();
+}
+
+void Composition::changeLanguage() {
+    showLanguageDialog();
+    window_->applyCaptions();
+    window_->applyFont();
+    if (progressWindow_)
+        progressWindow_->applyCaptions();
+    commands_->main.recaption();
+    showSimulationNotice();
+}
+
+void Composition::showSimulationNotice() {
+    if (library_.simulation())
+        window_->showNotice(messages_.getMessage(message::simulationNotice));
+}
+
+void Composition::reportLibrary(const LibraryProblem& problem) {
+    std::string text = messages_.getMessage(message::libraryUnusable) + problem.path;
+    if (!problem.reason.empty())
+        text += "\n" + problem.reason;
+    for (const auto& name : problem.missing)
+        text += "\n" + name;
+    dialog_.tell(text, BoxIcon::Exclamation);
+}
+
+} // namespace vantrel

@@ -1,0 +1,112 @@
+#include "ui/MainWindowControls.h"
+
+#include "ui/FileListControl.h"
+#include "ui/IconSet.h"
+#include "ui/KeyedToolBar.h"
+#include "ui/PathDisplay.h"
+
+#include <wx/choice.h>
+#include <wx/frame.h>
+#include <wx/panel.h>
+#include <wx/statbmp.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+#include <wx/statusbr.h>
+
+namespace vantrel {
+
+namespace {
+
+using Kind = KeyedToolBar::Kind;
+
+const wxSize smallIcon{16, 16};
+const wxSize arrowIcon{32, 32};
+
+PaneFrame makeFrame(wxWindow* parent, const wxString& name) {
+    PaneFrame frame;
+    frame.panel =
+        new wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, name);
+    frame.box = new wxStaticBox(frame.panel, wxID_ANY, wxString());
+    return frame;
+}
+
+wxStaticText* makeLabel(wxWindow* parent, const wxString& name, long style = 0) {
+    return new wxStaticText(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+                            style | wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END, name);
+}
+
+wxChoice* makeChoice(wxWindow* parent, const wxString& name) {
+    auto* choice = new wxChoice(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
+                                wxDefaultValidator, name);
+    return choice;
+}
+
+} // namespace
+
+MainWindowControls::MainWindowControls(wxFrame& window) : surface(new wxPanel(&window)) {
+    makeToolBar();
+    makeConnectionBlock();
+    makePCPane();
+    pctDirectArrow = new wxStaticBitmap(surface, wxID_ANY, icon("arrowToController", arrowIcon));
+    makeControllerPane();
+    makeHighlights();
+    constexpr int panels = 3;
+    stsFileInf = window.CreateStatusBar(panels, wxSTB_DEFAULT_STYLE, wxID_ANY, "stsFileInf");
+}
+
+void MainWindowControls::makeToolBar() {
+    tlbMain = new KeyedToolBar(surface, "tlbMain",
+                               {{"FileCopy"},
+                                {"FileMove"},
+                                {"FileDelete"},
+                                {"AllSelect"},
+                                {"Refresh"},
+                                {"", Kind::Separator},
+                                {"modeHiSpeed", Kind::Check},
+                                {"modeBsc", Kind::Check},
+                                {"", Kind::Separator},
+                                {"DispBig", Kind::Check},
+                                {"DispSmall", Kind::Check},
+                                {"DispList", Kind::Check},
+                                {"DispDetail", Kind::Check}});
+}
+
+void MainWindowControls::makeConnectionBlock() {
+    lblSerial = makeLabel(surface, "lblDisp3");
+    lbl232CParam = makeLabel(surface, "lbl232CParam");
+    lblRbtName = makeLabel(surface, "lblRbtName");
+    cmbRbtName = makeChoice(surface, "cmbRbtName");
+    lblIPaddr = makeLabel(surface, "lblIPaddr");
+    lblIPAddr2 = makeLabel(surface, "lblIPAddr2");
+}
+
+void MainWindowControls::makePCPane() {
+    fraPC = makeFrame(surface, "fraPC");
+    auto* pane = fraPC.panel;
+    tlbPCButton = new KeyedToolBar(pane, "tlbPCButton", {{"PCButton", Kind::Check}});
+    Picture1 = new wxStaticBitmap(pane, wxID_ANY, icon("folder", smallIcon));
+    lblFolder = makeLabel(pane, "lblDisp2");
+    trvFolderName = new PathDisplay(pane, "trvFolderName");
+    tlbPC = new KeyedToolBar(pane, "tlbPC", {{"UpFolder"}});
+    lsvPC = new FileListControl(pane, "lsvPC");
+    lblPCFileType = makeLabel(pane, "lblDisp0");
+    cmbPCFileType = makeChoice(pane, "cmbPCFileType");
+}
+
+void MainWindowControls::makeControllerPane() {
+    fraCtrl = makeFrame(surface, "fraCtrl");
+    auto* pane = fraCtrl.panel;
+    tlbCtrlButton = new KeyedToolBar(pane, "tlbCtrlButton", {{"CTRLButton", Kind::Check}});
+    tlbFile = new KeyedToolBar(pane, "tlbFile",
+                               {{"FileCopy"}, {"FileMove"}, {"FileDelete"}, {"AllSelect"}});
+    lsvCtrl = new FileListControl(pane, "lsvCtrl");
+    lblCtrlFileType = makeLabel(pane, "lblDisp1");
+    cmbCtrlFileType = makeChoice(pane, "cmbCtrlFileType");
+}
+
+void MainWindowControls::makeHighlights() {
+    pcHighlight = new wxPanel(surface, wxID_ANY);
+    controllerHighlight = new wxPanel(surface, wxID_ANY);
+}
+
+} // namespace vantrel

@@ -1,0 +1,88 @@
+#include "ui/MainWindowPlaces.h"
+
+#include "app/Twips.h"
+#include "app/WindowLayout.h"
+#include "ui/FileListControl.h"
+#include "ui/KeyedToolBar.h"
+#include "ui/MainWindowControls.h"
+#include "ui/PathDisplay.h"
+
+#include <wx/choice.h>
+#include <wx/statbmp.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+
+namespace vantrel {
+
+namespace {
+
+class Placer {
+  public:
+    explicit Placer(int dpi) : dpi_(dpi) {}
+
+    /// Both edges are rounded, not the width, so that neighbours meet.
+    wxRect pixels(const Rectangle& place) const {
+        const int left = pixelsFromTwips(place.left, dpi_);
+        const int top = pixelsFromTwips(place.top, dpi_);
+        return {left, top, pixelsFromTwips(place.right(), dpi_) - left,
+                pixelsFromTwips(place.top + place.height, dpi_) - top};
+    }
+
+    void exactly(wxWindow* control, const Rectangle& place) const {
+        control->SetSize(pixels(place));
+    }
+
+    /// For a control whose height is the system's: centred in its row.
+    void inRow(wxWindow* control, const Rectangle& place) const {
+        auto row = pixels(place);
+        const int height = control->GetBestSize().GetHeight();
+        row.y += (row.height - height) / 2;
+        row.height = height;
+        control->SetSize(row);
+    }
+
+    void frame(const PaneFrame& frame, const Rectangle& place) const {
+        exactly(frame.panel, place);
+        frame.box->SetSize(frame.panel->GetClientSize());
+    }
+
+  private:
+    int dpi_;
+};
+
+} // namespace
+
+void placeControls(const MainWindowControls& controls, const WindowLayout& layout, int dpi) {
+    const Placer place(dpi);
+    place.inRow(controls.tlbMain, layout.tlbMain);
+    place.inRow(controls.lblSerial, layout.lblDisp[serialLabelIndex]);
+    place.exactly(controls.lbl232CParam, layout.lbl232CParam);
+    place.inRow(controls.lblRbtName, layout.lblRbtName);
+    place.inRow(controls.cmbRbtName, layout.cmbRbtName);
+    place.inRow(controls.lblIPaddr, layout.lblIPaddr);
+    place.inRow(controls.lblIPAddr2, layout.lblIPAddr2);
+
+    place.frame(controls.fraPC, layout.fraPC);
+    place.inRow(controls.tlbPCButton, layout.tlbPCButton);
+    place.exactly(controls.Picture1, layout.Picture1);
+    place.inRow(controls.lblFolder, layout.lblDisp[folderLabel]);
+    place.inRow(controls.trvFolderName, layout.trvFolderName);
+    place.inRow(controls.tlbPC, layout.tlbPC);
+    place.exactly(controls.lsvPC, layout.lsvPC);
+    place.inRow(controls.lblPCFileType, layout.lblDisp[pcTypeLabel]);
+    place.inRow(controls.cmbPCFileType, layout.cmbPCFileType);
+
+    place.exactly(controls.pctDirectArrow, layout.pctDirectArrow);
+
+    place.frame(controls.fraCtrl, layout.fraCtrl);
+    place.inRow(controls.tlbCtrlButton, layout.tlbCtrlButton);
+    place.inRow(controls.tlbFile, layout.tlbFile);
+    place.exactly(controls.lsvCtrl, layout.lsvCtrl);
+    place.inRow(controls.lblCtrlFileType, layout.lblDisp[controllerTypeLabel]);
+    place.inRow(controls.cmbCtrlFileType, layout.cmbCtrlFileType);
+
+    place.exactly(controls.pcHighlight, layout.shapePC);
+    place.exactly(controls.controllerHighlight, layout.shapeCtrl);
+}
+
+} // namespace vantrel

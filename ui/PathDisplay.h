@@ -1,0 +1,19 @@
+#pragma once
+
+#include <wx/treectrl.h>
+
+#include <string_view>
+
+namespace vantrel {
+
+/// `trvFolderName`: a tree with a single node that names the current folder.
+class PathDisplay : public wxTreeCtrl {
+  public:
+    PathDisplay(wxWindow* parent, const wxString& name);
+
+    /// `image` is "drive" or "open"; the full path becomes the tool tip.
+    void showFolder(const wxString& nodeText, std::string_view image, const wxString& fullPath);
+    wxString nodeText() const;
+};
+
+} // namespace vantrel

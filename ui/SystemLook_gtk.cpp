@@ -1,0 +1,29 @@
+#include "ui/SystemLook.h"
+
+#include <gtk/gtk.h>
+
+namespace vantrel {
+
+namespace {
+
+// The default theme gives a 16-pixel tool button 36 pixels and a one-line choice 34.
+constexpr const char* denseControls = R"css(
+toolbar { padding: 0; }
+toolbar button { padding: 3px; min-height: 16px; min-width: 16px; }
+toolbar separator { margin: 3px 2px; }
+combobox button.combo { padding: 1px 6px; min-height: 20px; }
+button.text-button { padding: 3px 10px; min-height: 20px; }
+)css";
+
+} // namespace
+
+void applySystemLook() {
+    auto* provider = gtk_css_provider_new();
+    gtk_css_provider_load_from_data(provider, denseControls, -1, nullptr);
+    gtk_style_context_add_provider_for_screen(gdk_screen_get_default(),
+                                              GTK_STYLE_PROVIDER(provider),
+                                              GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+    g_object_unref(provider);
+}
+
+} // namespace vantrel

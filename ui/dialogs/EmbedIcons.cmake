@@ -1,0 +1,28 @@
+# Writes OUTPUT, a C++ source with one raw string literal per drawing of the folder ICONS, sorted by
+# key; see ui/dialogs/IconDrawings.h.
+file(GLOB drawings "${ICONS}/*.svg")
+list(SORT drawings)
+
+set(rows "")
+foreach(drawing IN LISTS drawings)
+    get_filename_component(key "${drawing}" NAME_WE)
+    file(READ "${drawing}" svg)
+    string(APPEND rows "    {\"${key}\", R\"svg(${svg})svg\"},\n")
+endforeach()
+
+file(WRITE "${OUTPUT}" "#include \"ui/dialogs/IconDrawings.h\"
+
+namespace vantrel {
+namespace {
+
+constexpr IconDrawing drawings[] = {
+${rows}};
+
+} // namespace
+
+std::span<const IconDrawing> iconDrawings() {
+    return drawings;
+}
+
+} // namespace vantrel
+")

@@ -1,0 +1,33 @@
+#include "ui/dialogs/FirstPaint.h"
+
+#include <chrono>
+
+#include <wx/event.h>
+#include <wx/toplevel.h>
+#include <wx/utils.h>
+#include <wx/weakref.h>
+
+namespace vantrel {
+
+FirstPaint::FirstPaint(wxTopLevelWindow& window) {
+    window.Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
+        painted_ = true;
+        event.Skip();
+    });
+}
+
+void FirstPaint::await(wxTopLevelWindow& window, const FirstPaint& paint,
+                       const std::function<void()>& yield) {
+    using Clock = std::chrono::steady_clock;
+    constexpr std::chrono::milliseconds longest{250};
+    // Any event may take the window away, and what belongs to it.
+    const wxWeakRef<wxTopLevelWindow> there(&window);
+    const auto deadline = Clock::now() + longest;
+    yield();
+    while (there && there->IsShown() && !paint.painted() && Clock::now() < deadline) {
+        wxMilliSleep(1);
+        yield();
+    }
+}
+
+} // namespace vantrel

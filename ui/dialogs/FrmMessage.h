@@ -1,0 +1,32 @@
+#pragma once
+
+#include "ui/dialogs/FirstPaint.h"
+
+#include <functional>
+#include <string>
+
+#include <wx/dialog.h>
+
+namespace vantrel {
+
+struct ApplicationState;
+class MessageTable;
+
+/// The message shown while the program starts. It is modeless and destroys itself when the operator
+/// goes elsewhere, so hold it by a WindowHolder.
+class FrmMessage : public wxDialog {
+  public:
+    /// `body` stands under the heading; an empty one leaves no room for itself.
+    FrmMessage(const std::string& body, const MessageTable& messages,
+               const ApplicationState& state);
+
+    /// Shows the window and lets events run until it is painted; `yield` runs pending events once.
+    void showPainted(const std::function<void()>& yield);
+
+  private:
+    void buildControls(const std::string& body, const MessageTable& messages);
+
+    FirstPaint paint_{*this};
+};
+
+} // namespace vantrel

@@ -1,0 +1,116 @@
+#include "ui/dialogs/ListFileDraft.h"
+
+#include "base/ApplicationState.h"
+#include "base/PathRules.h"
+#include "base/Text.h"
+#include "lang/MessageBoxes.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/Snappy.h"
+#include "platform/Files.h"
+
+namespace vantrel {
+namespace {
+
+/// Characters of the folder's text.
+constexpr std::size_t shownFolderLength = 48;
+
+bool holdsWildcard(std::string_view name) {
+    return name.find_first_of("*?") != std::string_view::npos;
+}
+
+} // namespace
+
+ListFileDraft::ListFileDraft(ApplicationState& state, Snappy& session, MessageBoxes& boxes,
+                             const MessageTable& messages, std::string_view mode)
+    : state_(state), session_(session), boxes_(boxes), messages_(messages), mode_(mode) {
+    const auto& last = isForVariables() ? state_.VarListFile : state_.JobListFile;
+    if (!holdsWildcard(last))
+        name_ = last;
+}
+
+bool ListFileDraft::isForVariables() const {
+    return mode_ == list_file_mark::saveVariables || mode_ == list_file_mark::loadVariables;
+}
+
+std::string ListFileDraft::title() const {
+    if (isForVariables())
+        return messages_.getMessage(mode_ == list_file_mark::saveVariables
+                                        ? message::saveVariablesTitle
+                                        : message::loadVariablesTitle);
+    return messages_.getMessage(mode_ == list_file_mark::saveJobs ? message::saveJobsTitle
+                                                                  : message::loadJobsTitle);
+}
+
+std::string ListFileDraft::fieldLabel() const {
+    return messages_.getMessage(isForVariables() ? message::variableListField
+                                                 : message::jobListField);
+}
+
+std::string ListFileDraft::hint() const {
+    return messages_.getMessage(message::listFileHint);
+}
+
+std::string ListFileDraft::shownFolder() const {
+    return PathRules().shorten(state_.PCPath, shownFolderLength);
+}
+
+const std::string& ListFileDraft::folder() const {
+    return state_.PCPath;
+}
+
+std::string ListFileDraft::okCaption() const {
+    return messages_.getMessage(message::ok);
+}
+
+std::string ListFileDraft::cancelCaption() const {
+    return messages_.getMessage(message::cancel);
+}
+
+bool ListFileDraft::canConfirm() const {
+    return !trimmed(name_).empty() && !holdsWildcard(name_);
+}
+
+std::string ListFileDraft::completedName() const {
+    std::string name(trimmed(name_));
+    if (name.find('.') == std::string::npos)
+        name += ".lst";
+    return name;
+}
+
+void ListFileDraft::confirm() {
+    if (!canConfirm())
+        return;
+    const auto file = completedName();
+    session_.path = state_.PCPath;
+    const bool read = readList(file);
+    mark_ = read ? list_file_mark::listRead : list_file_mark::listNotRead;
+    if (read)
+        (isForVariables() ? state_.VarListFile : state_.JobListFile) = file;
+    else
+        tellWhyNotRead(file);
+}
+
+bool ListFileDraft::readList(const std::string& file) {
+    if (isForVariables()) {
+        session_.SetVarListFile(file);
+        return session_.ReadVarListFile();
+    }
+    // Jobs that are about to be fetched need not be on the PC yet.
+    return session_.SetJobListFile(file, mode_ == list_file_mark::saveJobs);
+}
+
+/// A file that can be read was left by the operator, who need not be told.
+void ListFileDraft::tellWhyNotRead(const std::string& file) const {
+    const auto content = readFile(PathRules().join(state_.PCPath, file));
+    if (!content)
+        boxes_.tell(messages_.getMessage(message::listFileNotRead) + '[' + file + "] " +
+                        content.reason(),
+                    BoxIcon::Exclamation);
+}
+
+void ListFileDraft::abandon() {
+    mark_ = list_file_mark::listNotRead;
+}
+
+} // namespace vantrel

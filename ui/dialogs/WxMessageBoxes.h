@@ -1,0 +1,28 @@
+#pragma once
+
+#include "lang/MessageBoxes.h"
+
+class wxMessageDialog;
+
+namespace vantrel {
+
+class MessageTable;
+
+/// The system's own message boxes, with the language's words on their buttons. They work before
+/// there is any other window and before any language is read.
+class WxMessageBoxes : public MessageBoxes {
+  public:
+    explicit WxMessageBoxes(const MessageTable& messages) : messages_(messages) {}
+
+    void tell(const std::string& text, BoxIcon icon) override;
+    bool askOkCancel(const std::string& text, BoxIcon icon) override;
+    bool askYesNo(const std::string& text, BoxIcon icon) override;
+
+  private:
+    int show(const std::string& text, long style) const;
+    void captionButtons(wxMessageDialog& box, long style) const;
+
+    const MessageTable& messages_;
+};
+
+} // namespace vantrel

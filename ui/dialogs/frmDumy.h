@@ -1,0 +1,17 @@
+#pragma once
+
+#include <wx/dialog.h>
+
+namespace vantrel {
+
+/// Never shown: the communication library wants the handle of a window for its notifications in the
+/// Ethernet mode. Loaded on first use.
+class frmDumy : public wxDialog {
+  public:
+    frmDumy();
+
+    /// The system's own handle of the window.
+    void* handle() const;
+};
+
+} // namespace vantrel

@@ -1,0 +1,109 @@
+#include "ui/dialogs/frmListFile.h"
+
+#include "ui/IconSet.h"
+#include "ui/dialogs/DialogKeys.h"
+#include "ui/dialogs/ListFileDraft.h"
+#include "ui/dialogs/WindowFont.h"
+#include "ui/dialogs/WxText.h"
+
+#include <wx/button.h>
+#include <wx/iconbndl.h>
+#include <wx/sizer.h>
+#include <wx/statbmp.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+namespace vantrel {
+namespace {
+
+/// Device-independent pixels.
+constexpr int contentWidth = 360;
+constexpr int folderIconSize = 16;
+
+} // namespace
+
+frmListFile::frmListFile(wxWindow* parent, ListFileDraft& draft, const ApplicationState& state)
+    : wxDialog(parent, wxID_ANY, toWx(draft.title()), wxDefaultPosition, wxDefaultSize,
+               wxCAPTION | wxCLOSE_BOX, "frmListFile"),
+      draft_(draft) {
+    SetIcons(programIcons());
+    const int gap = FromDIP(16);
+    auto* const column = new wxBoxSizer(wxVERTICAL);
+    column->Add(buildTexts(), wxSizerFlags(1).Expand().Border(wxALL, gap));
+    column->Add(buildButtons(), wxSizerFlags().Right().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
+    SetSizer(column);
+    bindEvents();
+    applyCaptionFont(*this, state);
+    Fit();
+    CentreOnParent();
+    txtFile_->SetFocus();
+    txtFile_->SelectAll();
+    refresh();
+}
+
+wxSizer* frmListFile::buildTexts() {
+    const auto label = [this](const std::string& text, const char* name) {
+        auto* const control =
+            new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0, name);
+        control->SetLabelText(toWx(text));
+        return control;
+    };
+    const wxSize iconSize(folderIconSize, folderIconSize);
+    auto* const folder = new wxBoxSizer(wxHORIZONTAL);
+    folder->Add(new wxStaticBitmap(this, wxID_ANY, icon("open", iconSize)),
+                wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(6)));
+    auto* const LblPath = label(draft_.shownFolder(), "LblPath");
+    LblPath->SetToolTip(toWx(draft_.folder()));
+    folder->Add(LblPath, wxSizerFlags(1).CentreVertical());
+
+    auto* const column = new wxBoxSizer(wxVERTICAL);
+    column->Add(folder, wxSizerFlags().Expand());
+    column->Add(label(draft_.fieldLabel(), "lblFile"), wxSizerFlags().Border(wxTOP, FromDIP(14)));
+    txtFile_ = new wxTextCtrl(this, wxID_ANY, toWx(draft_.name()), wxDefaultPosition,
+                              FromDIP(wxSize(contentWidth, -1)), wxTE_PROCESS_ENTER,
+                              wxDefaultValidator, "txtFile");
+    column->Add(txtFile_, wxSizerFlags().Expand().Border(wxTOP, FromDIP(4)));
+    column->Add(label(draft_.hint(), "lblMsg"), wxSizerFlags().Border(wxTOP, FromDIP(6)));
+    return column;
+}
+
+wxSizer* frmListFile::buildButtons() {
+    cmdOK_ = new wxButton(this, wxID_OK, toWx(draft_.okCaption()), wxDefaultPosition,
+                          wxDefaultSize, 0, wxDefaultValidator, "cmdOK");
+    auto* const cmdCancel =
+        new wxButton(this, wxID_CANCEL, toWx(draft_.cancelCaption()), wxDefaultPosition,
+                     wxDefaultSize, 0, wxDefaultValidator, "cmdCancel");
+    cmdOK_->SetDefault();
+    auto* const row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(cmdOK_);
+    row->Add(cmdCancel, wxSizerFlags().Border(wxLEFT, FromDIP(8)));
+    return row;
+}
+
+void frmListFile::bindEvents() {
+    txtFile_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) {
+        draft_.setName(fromWx(txtFile_->GetValue()));
+        refresh();
+    });
+    txtFile_->Bind(wxEVT_TEXT_ENTER, [this](wxCommandEvent&) { confirm(); });
+    cmdOK_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { confirm(); });
+    // The close box and Esc press this one too.
+    FindWindow("cmdCancel")->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+        draft_.abandon();
+        EndModal(wxID_CANCEL);
+    });
+    swallowF1(*this);
+}
+
+void frmListFile::confirm() {
+    if (!draft_.canConfirm())
+        return;
+    draft_.confirm();
+    EndModal(wxID_OK);
+}
+
+void frmListFile::refresh() {
+    cmdOK_->Enable(draft_.canConfirm());
+}
+
+} // namespace vantrel

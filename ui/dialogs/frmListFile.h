@@ -1,0 +1,30 @@
+#pragma once
+
+#include <wx/dialog.h>
+
+class wxButton;
+class wxTextCtrl;
+
+namespace vantrel {
+
+struct ApplicationState;
+class ListFileDraft;
+
+/// Asks for the name of a job or variable list file; what it means is in the draft.
+class frmListFile : public wxDialog {
+  public:
+    frmListFile(wxWindow* parent, ListFileDraft& draft, const ApplicationState& state);
+
+  private:
+    wxSizer* buildTexts();
+    wxSizer* buildButtons();
+    void bindEvents();
+    void confirm();
+    void refresh();
+
+    ListFileDraft& draft_;
+    wxTextCtrl* txtFile_ = nullptr;
+    wxButton* cmdOK_ = nullptr;
+};
+
+} // namespace vantrel

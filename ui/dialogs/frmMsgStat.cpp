@@ -1,0 +1,168 @@
+#include "ui/dialogs/frmMsgStat.h"
+
+#include "base/ApplicationState.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "ui/IconSet.h"
+#include "ui/dialogs/DialogKeys.h"
+#include "ui/dialogs/DialogParent.h"
+#include "ui/dialogs/WindowFont.h"
+#include "ui/dialogs/WxText.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <wx/button.h>
+#include <wx/gauge.h>
+#include <wx/iconbndl.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+namespace vantrel {
+namespace {
+
+/// Device-independent pixels; texts of any length are shortened to it, so the window never jumps.
+constexpr int contentWidth = 400;
+
+/// "&" in a file's name is shown, and an equal text is not painted again.
+void showText(wxStaticText& label, const std::string& text) {
+    const auto shown = toWx(text);
+    if (label.GetLabelText() != shown)
+        label.SetLabelText(shown);
+}
+
+} // namespace
+
+frmMsgStat::frmMsgStat(ProgressPanel& panel, const MessageTable& messages,
+                       const ApplicationState& state, std::function<void()> yield)
+    : wxDialog(nullptr, wxID_ANY, "Snappy", wxDefaultPosition, wxDefaultSize,
+               wxCAPTION | wxCLOSE_BOX | wxSTAY_ON_TOP | wxDIALOG_NO_PARENT, "frmMsgStat"),
+      panel_(&panel), messages_(messages), state_(state), yield_(std::move(yield)) {
+    SetExtraStyle(GetExtraStyle() | wxWS_EX_TRANSIENT);
+    SetIcons(programIcons());
+    buildControls();
+    bindEvents();
+    applyCaptions();
+    panel.attach(this);
+}
+
+frmMsgStat::~frmMsgStat() {
+    if (panel_)
+        panel_->attach(nullptr);
+}
+
+void frmMsgStat::buildControls() {
+    const long shortened = wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_MIDDLE;
+    const wxSize width = FromDIP(wxSize(contentWidth, -1));
+    lblMsg_ = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblMsg");
+    pgbInf_ = new wxGauge(this, wxID_ANY, 1, wxDefaultPosition, width,
+                          wxGA_HORIZONTAL | wxGA_SMOOTH, wxDefaultValidator, "pgbInf");
+    lblWaiting_ =
+        new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblWaiting");
+    cmdCancel_ = new wxButton(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0,
+                              wxDefaultValidator, "cmdCancel");
+
+    const int gap = FromDIP(8);
+    // A hidden bar or button keeps its place: the window's size does not change while it is shown.
+    const auto whole = wxSizerFlags().Expand().ReserveSpaceEvenIfHidden();
+    auto* const column = new wxBoxSizer(wxVERTICAL);
+    column->Add(lblMsg_, whole);
+    column->AddSpacer(gap);
+    column->Add(pgbInf_, whole);
+    column->AddSpacer(gap);
+    column->Add(lblWaiting_, whole);
+    column->AddSpacer(2 * gap);
+    column->Add(cmdCancel_, wxSizerFlags().CentreHorizontal().ReserveSpaceEvenIfHidden());
+    auto* const margins = new wxBoxSizer(wxVERTICAL);
+    margins->Add(column, wxSizerFlags(1).Expand().Border(wxALL, 2 * gap));
+    SetSizer(margins);
+}
+
+void frmMsgStat::bindEvents() {
+    // Neither Esc nor the close box may end the window: both are a press of Cancel, if that is on.
+    SetEscapeId(wxID_NONE);
+    Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
+        if (!event.CanVeto()) {
+            event.Skip();
+            return;
+        }
+        event.Veto();
+        pressCancel();
+    });
+    Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_ESCAPE)
+            pressCancel();
+        else
+            event.Skip();
+    });
+    cmdCancel_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { pressCancel(); });
+    swallowF1(*this);
+}
+
+void frmMsgStat::applyCaptions() {
+    cmdCancel_->SetLabel(toWx(messages_.resourceMessage(message::resource::cancel)));
+    applyCaptionFont(*this, state_);
+    Fit();
+}
+
+void frmMsgStat::pressCancel() {
+    if (!panel_ || !cmdCancel_->IsShown())
+        return;
+    panel_->pressCancel();
+    // The file under way is still finished; the dimmed button says that the press has arrived.
+    cmdCancel_->Disable();
+}
+
+void frmMsgStat::refresh(const ProgressPanel& panel) {
+    showTexts(panel);
+    showControls(panel);
+    showOrHide(panel.isVisible());
+    if (panel.isVisible())
+        Update();
+}
+
+void frmMsgStat::showTexts(const ProgressPanel& panel) {
+    if (!panel.title().empty() && GetTitle() != toWx(panel.title()))
+        SetTitle(toWx(panel.title()));
+    showText(*lblMsg_, panel.message());
+    showText(*lblWaiting_, panel.waitingFor());
+    const auto caption = toWx(panel.cancelCaption());
+    if (!caption.empty() && cmdCancel_->GetLabel() != caption)
+        cmdCancel_->SetLabel(caption);
+}
+
+void frmMsgStat::showControls(const ProgressPanel& panel) {
+    const int range = std::max(panel.count(), 1);
+    if (pgbInf_->GetRange() != range)
+        pgbInf_->SetRange(range);
+    pgbInf_->SetValue(std::clamp(panel.item(), 0, range));
+    pgbInf_->Show(panel.barShown());
+    cmdCancel_->Show(panel.cancelButtonShown());
+    cmdCancel_->Enable(!panel.isCancelled());
+}
+
+void frmMsgStat::showOrHide(bool visible) {
+    if (visible == IsShown())
+        return;
+    if (!visible) {
+        Hide();
+        return;
+    }
+    if (!std::exchange(placed_, true))
+        centreOverMainWindow(*this);
+    paint_.expect();
+    ShowWithoutActivating();
+}
+
+void frmMsgStat::yield() {
+    // An event may take the window away, and its members.
+    const auto yield = yield_;
+    FirstPaint::await(*this, paint_, yield);
+}
+
+void frmMsgStat::unload() {
+    panel_ = nullptr;
+    Destroy();
+}
+
+} // namespace vantrel

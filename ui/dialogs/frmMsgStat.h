@@ -1,0 +1,55 @@
+#pragma once
+
+#include "link/ProgressPanel.h"
+#include "ui/dialogs/FirstPaint.h"
+
+#include <functional>
+
+#include <wx/dialog.h>
+
+class wxButton;
+class wxGauge;
+class wxStaticText;
+
+namespace vantrel {
+
+struct ApplicationState;
+class MessageTable;
+
+/// The progress window: shows what the panel holds and hands it the press of Cancel. It stays on
+/// top of all windows and never takes the focus.
+class frmMsgStat : public wxDialog, public ProgressView {
+  public:
+    /// Loads the window hidden and attaches it to the panel. `yield` lets pending events run once.
+    frmMsgStat(ProgressPanel& panel, const MessageTable& messages, const ApplicationState& state,
+               std::function<void()> yield);
+    ~frmMsgStat() override;
+
+    void refresh(const ProgressPanel& panel) override;
+    void yield() override;
+    void unload() override;
+
+    /// After a change of language or font: the texts and the font of the application state.
+    void applyCaptions();
+
+  private:
+    void buildControls();
+    void bindEvents();
+    void showTexts(const ProgressPanel& panel);
+    void showControls(const ProgressPanel& panel);
+    void showOrHide(bool visible);
+    void pressCancel();
+
+    ProgressPanel* panel_;
+    const MessageTable& messages_;
+    const ApplicationState& state_;
+    std::function<void()> yield_;
+    wxStaticText* lblMsg_ = nullptr;
+    wxGauge* pgbInf_ = nullptr;
+    wxStaticText* lblWaiting_ = nullptr;
+    wxButton* cmdCancel_ = nullptr;
+    FirstPaint paint_{*this};
+    bool placed_ = false;
+};
+
+} // namespace vantrel

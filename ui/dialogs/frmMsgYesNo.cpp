@@ -1,0 +1,102 @@
+#include "ui/dialogs/frmMsgYesNo.h"
+
+#include "base/ApplicationState.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "ui/IconSet.h"
+#include "ui/dialogs/DialogKeys.h"
+#include "ui/dialogs/DialogParent.h"
+#include "ui/dialogs/WindowFont.h"
+#include "ui/dialogs/WrappedText.h"
+#include "ui/dialogs/WxText.h"
+
+#include <wx/artprov.h>
+#include <wx/button.h>
+#include <wx/iconbndl.h>
+#include <wx/sizer.h>
+#include <wx/statbmp.h>
+#include <wx/stattext.h>
+
+namespace vantrel {
+namespace {
+
+/// Device-independent pixels.
+constexpr int questionWidth = 380;
+
+constexpr std::size_t cancelIndex = std::size_t(Answer::Cancel);
+constexpr std::array captions{message::resource::yes, message::resource::no,
+                              message::resource::all, message::resource::cancel};
+
+} // namespace
+
+frmMsgYesNo::frmMsgYesNo(wxWindow* parent, const std::string& title, const std::string& question,
+                         const MessageTable& messages, const ApplicationState& state)
+    : wxDialog(parent, wxID_ANY, toWx(title), wxDefaultPosition, wxDefaultSize,
+               wxCAPTION | wxCLOSE_BOX, "frmMsgYesNo") {
+    SetIcons(programIcons());
+    auto* const column = new wxBoxSizer(wxVERTICAL);
+    column->Add(buildQuestion(question, state), wxSizerFlags(1).Expand().Border(wxALL, FromDIP(16)));
+    column->Add(buildButtons(messages), wxSizerFlags().CentreHorizontal().Border(
+                                            wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(16)));
+    SetSizer(column);
+    applyCaptionFont(*this, state);
+    Fit();
+    swallowF1(*this);
+    CentreOnScreen();
+}
+
+wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const ApplicationState& state) {
+    auto* const row = new wxBoxSizer(wxHORIZONTAL);
+    auto* const picture = new wxStaticBitmap(
+        this, wxID_ANY, wxArtProvider::GetBitmapBundle(wxART_QUESTION, wxART_MESSAGE_BOX));
+    row->Add(picture, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(16)));
+
+    const wxFont font = captionFont(state);
+    const auto widthOf = [this, &font](std::string_view text) {
+        int width = 0;
+        GetTextExtent(toWx(std::string(text)), &width, nullptr, nullptr, nullptr, &font);
+        return width;
+    };
+    auto* const lblMsg = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0,
+                                          "lblMsg");
+    lblMsg->SetFont(font);
+    lblMsg->SetLabelText(toWx(wrappedText(question, FromDIP(questionWidth), widthOf)));
+    row->Add(lblMsg, wxSizerFlags(1).CentreVertical());
+    return row;
+}
+
+wxSizer* frmMsgYesNo::buildButtons(const MessageTable& messages) {
+    auto* const row = new wxBoxSizer(wxHORIZONTAL);
+    for (std::size_t index = 0; index < cmdYesNo_.size(); ++index) {
+        const int id = index == cancelIndex ? wxID_CANCEL : wxID_ANY;
+        auto* const button =
+            new wxButton(this, id, toWx(messages.resourceMessage(captions[index])),
+                         wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
+                         "cmdYesNo" + std::to_string(index));
+        button->Bind(wxEVT_BUTTON, [this, index](wxCommandEvent&) { press(index); });
+        row->Add(button, wxSizerFlags().Border(wxLEFT, index == 0 ? 0 : FromDIP(8)));
+        cmdYesNo_[index] = button;
+    }
+    // Esc and the close box press this one too.
+    SetEscapeId(wxID_CANCEL);
+    cmdYesNo_[cancelIndex]->SetDefault();
+    cmdYesNo_[cancelIndex]->SetFocus();
+    return row;
+}
+
+void frmMsgYesNo::press(std::size_t index) {
+    answerMark_ = std::to_string(index);
+    if (IsModal())
+        EndModal(wxID_OK);
+    else
+        Hide();
+}
+
+Answer QuestionDialogs::ask(const std::string& title, const std::string& question) {
+    frmMsgYesNo dialog(dialogParent(), title, question, messages_, state_);
+    dialog.ShowModal();
+    const int number = dialog.answerMark().at(0) - '0';
+    return number >= 0 && number <= int(Answer::Cancel) ? Answer(number) : Answer::Cancel;
+}
+
+} // namespace vantrel

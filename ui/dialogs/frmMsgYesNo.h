@@ -1,0 +1,49 @@
+#pragma once
+
+#include "link/OperatorDialog.h"
+
+#include <array>
+#include <string>
+
+#include <wx/dialog.h>
+
+class wxButton;
+
+namespace vantrel {
+
+struct ApplicationState;
+class MessageTable;
+
+/// The question dialog with the answers Yes, No, All and Cancel.
+class frmMsgYesNo : public wxDialog {
+  public:
+    frmMsgYesNo(wxWindow* parent, const std::string& title, const std::string& question,
+                const MessageTable& messages, const ApplicationState& state);
+
+    /// The number of the button that was pressed, as text. It is Cancel's until a button is
+    /// pressed, so that any other end of the dialog is a Cancel.
+    const std::string& answerMark() const { return answerMark_; }
+
+  private:
+    wxSizer* buildQuestion(const std::string& question, const ApplicationState& state);
+    wxSizer* buildButtons(const MessageTable& messages);
+    void press(std::size_t index);
+
+    std::array<wxButton*, 4> cmdYesNo_{};
+    std::string answerMark_ = "3";
+};
+
+/// Asks through a dialog of its own for each question.
+class QuestionDialogs : public QuestionWindow {
+  public:
+    QuestionDialogs(const MessageTable& messages, const ApplicationState& state)
+        : messages_(messages), state_(state) {}
+
+    Answer ask(const std::string& title, const std::string& question) override;
+
+  private:
+    const MessageTable& messages_;
+    const ApplicationState& state_;
+};
+
+} // namespace vantrel

@@ -1,0 +1,371 @@
+#include "ui/frmZuroVant.h"
+
+#include "app/CommandStates.h"
+#include "app/MainCommands.h"
+#include "app/ModeCommands.h"
+#include "app/SettingsFile.h"
+#include "app/Twips.h"
+#include "app/WindowLayout.h"
+#include "files/FolderPath.h"
+#include "files/PaneRows.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "ui/FileListControl.h"
+#include "ui/IconSet.h"
+#include "ui/KeyedToolBar.h"
+#include "ui/MainWindowPlaces.h"
+#include "ui/OperationGuard.h"
+#include "ui/PathDisplay.h"
+#include "ui/dialogs/WindowFont.h"
+#include "ui/dialogs/WxText.h"
+
+#include <wx/choice.h>
+#include <wx/iconbndl.h>
+#include <wx/statbmp.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+#include <wx/statusbr.h>
+#include <wx/utils.h>
+#include <wx/wupdlock.h>
+
+namespace vantrel {
+
+namespace {
+
+constexpr int panelPC = 0;
+constexpr int panelController = 1;
+constexpr int panelNotice = 2;
+const wxSize arrowIcon{32, 32};
+
+wxColour colour(std::uint32_t redGreenBlue) {
+    return {static_cast<unsigned char>(redGreenBlue >> 16),
+            static_cast<unsigned char>(redGreenBlue >> 8),
+            static_cast<unsigned char>(redGreenBlue)};
+}
+
+} // namespace
+
+frmZuroVant::frmZuroVant(ApplicationState& state, const MessageTable& messages,
+                         OperationGuard& guard)
+    : wxFrame(nullptr, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+              wxDEFAULT_FRAME_STYLE, "frmZuroVant"),
+      state_(state), messages_(messages), guard_(guard), controls_(*this), menus_(*this) {
+    SetIcons(programIcons());
+    bindEvents();
+    guard_.guard(this);
+}
+
+frmZuroVant::~frmZuroVant() {
+    guard_.guard(nullptr);
+}
+
+void frmZuroVant::connect(MainCommands& commands) {
+    commands_ = &commands;
+}
+
+FileListControl& frmZuroVant::pane(ActiveSide side) const {
+    return *(side == ActiveSide::PC ? controls_.lsvPC : controls_.lsvCtrl);
+}
+
+wxChoice& frmZuroVant::filter(ActiveSide side) const {
+    return *(side == ActiveSide::PC ? controls_.cmbPCFileType : controls_.cmbCtrlFileType);
+}
+
+int frmZuroVant::dpi() const {
+    return GetDPI().GetWidth();
+}
+
+void frmZuroVant::bindEvents() {
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        lay();
+    });
+    Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
+        if (event.CanVeto() && onClose && !onClose())
+            event.Veto();
+        else
+            Destroy();
+    });
+    Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
+        event.Skip();
+        CallAfter(&frmZuroVant::lay);
+    });
+    bindPane(ActiveSide::PC);
+    bindPane(ActiveSide::Controller);
+    bindToolBars();
+    controls_.cmbRbtName->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
+        if (onRobotChosen)
+            onRobotChosen(event.GetSelection());
+    });
+    menus_.onChosen = [this](MenuItem item) { chosen(item); };
+}
+
+void frmZuroVant::bindPane(ActiveSide side) {
+    auto& list = pane(side);
+    list.onSelectionChanged = [this] {
+        if (commands_)
+            commands_->updateStates();
+    };
+    list.onActivated = [this, side] {
+        if (commands_)
+            commands_->activate(side);
+    };
+    list.onKey = [this, side](wxKeyEvent& event) { listKey(event, side); };
+    list.onMenuRequested = [this, side](wxPoint) { menus_.popUp(pane(side)); };
+    filter(side).Bind(wxEVT_CHOICE, [this, side](wxCommandEvent&) {
+        if (commands_)
+            commands_->chooseFilter(side);
+    });
+    auto* frame = side == ActiveSide::PC ? controls_.fraPC.panel : controls_.fraCtrl.panel;
+    frame->Bind(wxEVT_LEFT_DOWN, [this, side](wxMouseEvent& event) {
+        pane(side).focus();
+        event.Skip();
+    });
+}
+
+void frmZuroVant::bindToolBars() {
+    for (auto* bar : {controls_.tlbMain, controls_.tlbPC})
+        bar->onPressed = [this](const std::string& key) { toolPressed(key); };
+    controls_.tlbPCButton->onPressed = [this](const std::string&) { pane(ActiveSide::PC).focus(); };
+    controls_.tlbCtrlButton->onPressed = [this](const std::string&) {
+        pane(ActiveSide::Controller).focus();
+    };
+    controls_.tlbFile->onPressed = [this](const std::string& key) {
+        if (commands_)
+            commands_->activate(ActiveSide::Controller);
+        toolPressed(key);
+    };
+}
+
+void frmZuroVant::toolPressed(const std::string& key) {
+    if (commands_)
+        commands_->tool(key);
+}
+
+void frmZuroVant::chosen(MenuItem item) {
+    if (!commands_ || commands_->menu(item))
+        return;
+    if (onOtherEntry)
+        onOtherEntry(item);
+}
+
+void frmZuroVant::listKey(wxKeyEvent& event, ActiveSide side) {
+    if (!commands_ || !commands_->listKey(side, event.GetKeyCode(), event.ControlDown()))
+        event.Skip();
+}
+
+void frmZuroVant::lay() {
+    if (IsIconized())
+        return;
+    const int resolution = dpi();
+    const wxSize outer = GetSize();
+    placeControls(controls_,
+                  windowLayout({twipsFromPixels(outer.GetWidth(), resolution),
+                                twipsFromPixels(outer.GetHeight(), resolution)}),
+                  resolution);
+    controls_.surface->Refresh();
+}
+
+PaneList& frmZuroVant::list(ActiveSide side) {
+    return pane(side);
+}
+
+int frmZuroVant::filterIndex(ActiveSide side) const {
+    return filter(side).GetSelection();
+}
+
+void frmZuroVant::setFilterChoices(ActiveSide side, const std::vector<std::string>& choices) {
+    auto& box = filter(side);
+    box.Clear();
+    for (const auto& choice : choices)
+        box.Append(toWx(choice));
+    if (!choices.empty())
+        box.SetSelection(0);
+}
+
+void frmZuroVant::setStatus(ActiveSide side, const std::string& text) {
+    SetStatusText(toWx(text), side == ActiveSide::PC ? panelPC : panelController);
+}
+
+void frmZuroVant::showNotice(const std::string& text) {
+    SetStatusText(toWx(text), panelNotice);
+}
+
+void frmZuroVant::setBusyPointer(bool busy) {
+    if (busy)
+        wxBeginBusyCursor();
+    else
+        wxEndBusyCursor();
+}
+
+void frmZuroVant::setLocked(bool locked) {
+    if (locked)
+        guard_.lock();
+    else
+        guard_.unlock();
+    state_.Busy = guard_.isLocked();
+    if (commands_)
+        commands_->updateStates();
+}
+
+void frmZuroVant::yield() {
+    // Before the start is over a yield would paint a window that is not whole yet.
+    if (state_.StartupDone)
+        guard_.yield();
+}
+
+void frmZuroVant::applyFont() {
+    applyCaptionFont(*this, state_);
+}
+
+void frmZuroVant::applyCaptions() {
+    const wxWindowUpdateLocker frozen(this);
+    const auto& controls = controls_;
+    menus_.applyCaptions(messages_);
+    for (const auto& tip : toolTips())
+        for (auto* bar : {controls.tlbMain, controls.tlbPC, controls.tlbFile, controls.tlbPCButton,
+                          controls.tlbCtrlButton})
+            bar->setToolTip(tip.key, toWx(messages_.getMessage(tip.message)));
+    const std::tuple<wxWindow*, const char*, int> labels[] = {
+        {controls.fraPC.box, "fraPC", 0},
+        {controls.fraCtrl.box, "fraCtrl", 0},
+        {controls.lblPCFileType, "lblDisp", pcTypeLabel},
+        {controls.lblCtrlFileType, "lblDisp", controllerTypeLabel},
+        {controls.lblSerial, "lblDisp", serialLabelIndex},
+        {controls.lblFolder, "lblDisp", folderLabel},
+        {controls.lblRbtName, "lblRbtName", 0},
+        {controls.lblIPaddr, "lblIPaddr", 0}};
+    for (const auto& [control, name, index] : labels)
+        if (const auto message = controlMessage(name, index))
+            control->SetLabel(toWx(messages_.getMessage(*message)));
+    applyColumnTitles();
+    lay();
+}
+
+void frmZuroVant::applyColumnTitles() {
+    std::array<wxString, FileListControl::columnCount> titles;
+    std::size_t column = 0;
+    for (const auto message : columnMessages())
+        titles.at(column++) = toWx(messages_.getMessage(message));
+    pane(ActiveSide::PC).setColumnTitles(titles);
+    pane(ActiveSide::Controller).setColumnTitles(titles);
+}
+
+void frmZuroVant::place(const std::array<std::int32_t, 8>& positions) {
+    const int resolution = dpi();
+    const auto pixels = [&](std::size_t index) {
+        return pixelsFromTwips(positions[index], resolution);
+    };
+    const auto size = [&](WindowSize twips) {
+        return wxSize(pixelsFromTwips(twips.width, resolution),
+                      pixelsFromTwips(twips.height, resolution));
+    };
+    SetMinSize(size(minimumSize));
+    SetSize(wxRect(wxPoint(pixels(0), pixels(1)),
+                   size(atLeastMinimum({double(positions[2]), double(positions[3])}))));
+    pane(ActiveSide::PC).setColumnWidths({pixels(4), pixels(5), pixels(6)});
+    lay();
+}
+
+WindowPlacement frmZuroVant::placement() const {
+    const int resolution = dpi();
+    const auto twips = [&](int pixels, std::size_t index) {
+        return twipsUnlessUnchanged(pixels, resolution, state_.WindowPos.at(index));
+    };
+    const wxRect outer = GetRect();
+    const auto widths = pane(ActiveSide::PC).columnWidths();
+    return {.isNormal = !IsIconized() && !IsMaximized(),
+            .left = twips(outer.x, 0),
+            .top = twips(outer.y, 1),
+            .width = twips(outer.width, 2),
+            .height = twips(outer.height, 3),
+            .columnWidths = {twips(widths[0], 4), twips(widths[1], 5), twips(widths[2], 6)}};
+}
+
+void frmZuroVant::showStates(const CommandStates& states) {
+    menus_.applyStates(states);
+    const auto apply = [](KeyedToolBar& bar, std::string_view key, const CommandState& state) {
+        bar.setEnabled(key, state.enabled);
+        bar.setPressed(key, state.checked);
+    };
+    for (const auto& button : states.tlbMain)
+        apply(*controls_.tlbMain, button.key, button.state);
+    for (const auto& button : states.tlbPC)
+        apply(*controls_.tlbPC, button.key, button.state);
+    apply(*controls_.tlbPCButton, states.tlbPCButton.key, states.tlbPCButton.state);
+    apply(*controls_.tlbCtrlButton, states.tlbCtrlButton.key, states.tlbCtrlButton.state);
+    static constexpr std::array<std::string_view, 4> fileKeys{"FileCopy", "FileMove", "FileDelete",
+                                                              "AllSelect"};
+    for (std::size_t index = 0; index < fileKeys.size(); ++index)
+        apply(*controls_.tlbFile, fileKeys.at(index), states.tlbFile.at(index));
+    for (wxWindow* part :
+         {static_cast<wxWindow*>(controls_.tlbMain), static_cast<wxWindow*>(controls_.fraPC.panel),
+          static_cast<wxWindow*>(controls_.fraCtrl.panel),
+          static_cast<wxWindow*>(controls_.cmbRbtName)})
+        part->Enable(states.unlocked);
+}
+
+void frmZuroVant::showMode(const ModeLook& look) {
+    SetTitle(toWx(look.caption));
+    controls_.lblSerial->Show(look.showsSerialLine);
+    controls_.lbl232CParam->Show(look.showsSerialLine);
+    for (wxWindow* part :
+         {static_cast<wxWindow*>(controls_.lblRbtName),
+          static_cast<wxWindow*>(controls_.cmbRbtName), static_cast<wxWindow*>(controls_.lblIPaddr),
+          static_cast<wxWindow*>(controls_.lblIPAddr2)})
+        part->Show(look.showsRobot);
+    for (auto* shape : {controls_.pcHighlight, controls_.controllerHighlight}) {
+        shape->SetBackgroundColour(colour(look.shapeColour));
+        shape->Refresh();
+    }
+}
+
+void frmZuroVant::showActiveSide(ActiveSide side) {
+    const bool pc = side == ActiveSide::PC;
+    controls_.pctDirectArrow->SetBitmap(icon(pc ? "arrowToController" : "arrowToPC", arrowIcon));
+    controls_.pcHighlight->Show(pc);
+    controls_.controllerHighlight->Show(!pc);
+}
+
+void frmZuroVant::showSerialLine(const std::string& port, const std::string& format) {
+    controls_.lbl232CParam->SetLabel(toWx(port + "\n" + format));
+}
+
+void frmZuroVant::showAddress(const std::string& address) {
+    controls_.lblIPAddr2->SetLabelText(toWx(address));
+}
+
+void frmZuroVant::showFolder(const std::string& path) {
+    const auto node = folderNode(path);
+    controls_.trvFolderName->showFolder(toWx(node.text), node.image, toWx(path));
+}
+
+void frmZuroVant::showView(ActiveSide side, std::int16_t displayType) {
+    pane(side).setView(listView(displayType));
+}
+
+void frmZuroVant::selectAll(ActiveSide side) {
+    pane(side).selectAll();
+}
+
+std::optional<FileKind> frmZuroVant::focusedKind() const {
+    return pane(ActiveSide::PC).focusedKind();
+}
+
+void frmZuroVant::closeWindow() {
+    Close();
+}
+
+void frmZuroVant::clear() {
+    controls_.cmbRbtName->Clear();
+}
+
+void frmZuroVant::add(const std::string& name) {
+    controls_.cmbRbtName->Append(toWx(name));
+}
+
+void frmZuroVant::select(int index) {
+    controls_.cmbRbtName->SetSelection(index);
+}
+
+} // namespace vantrel

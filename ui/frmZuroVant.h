@@ -1,0 +1,89 @@
+#pragma once
+
+#include "app/MainWindowView.h"
+#include "app/RobotRegistry.h"
+#include "files/PaneWindow.h"
+#include "ui/MainMenus.h"
+#include "ui/MainWindowControls.h"
+
+#include <wx/frame.h>
+
+#include <functional>
+#include <string>
+
+namespace vantrel {
+
+class MainCommands;
+class MessageTable;
+class OperationGuard;
+struct WindowPlacement;
+
+/// The main window. It shows what it is told, and hands every event to one command.
+class frmZuroVant : public wxFrame, public PaneWindow, public MainWindowView, public RobotBox {
+  public:
+    frmZuroVant(ApplicationState& state, const MessageTable& messages, OperationGuard& guard);
+    ~frmZuroVant() override;
+
+    /// The commands that events are handed to; events before this call do nothing.
+    void connect(MainCommands& commands);
+    /// What runs for an entry of the option or help menu, by the entry.
+    std::function<void(MenuItem)> onOtherEntry;
+    /// Called with the robot that the operator chose, by its place in the box.
+    std::function<void(int index)> onRobotChosen;
+    /// Asks whether the window may close; it closes when the answer is true.
+    std::function<bool()> onClose;
+
+    WindowPlacement placement() const;
+    /// The notice in the third panel of the status bar; an empty text hides nothing else.
+    void showNotice(const std::string& text);
+    const MainWindowControls& controls() const { return controls_; }
+    const MainMenus& menus() const { return menus_; }
+
+    PaneList& list(ActiveSide side) override;
+    int filterIndex(ActiveSide side) const override;
+    void setFilterChoices(ActiveSide side, const std::vector<std::string>& choices) override;
+    void setStatus(ActiveSide side, const std::string& text) override;
+    void setBusyPointer(bool busy) override;
+    void setLocked(bool locked) override;
+    void yield() override;
+
+    void applyFont() override;
+    void applyCaptions() override;
+    void place(const std::array<std::int32_t, 8>& windowPositions) override;
+    void showStates(const CommandStates& states) override;
+    void showMode(const ModeLook& look) override;
+    void showActiveSide(ActiveSide side) override;
+    void showSerialLine(const std::string& port, const std::string& format) override;
+    void showAddress(const std::string& address) override;
+    void showFolder(const std::string& path) override;
+    void showView(ActiveSide side, std::int16_t displayType) override;
+    void selectAll(ActiveSide side) override;
+    std::optional<FileKind> focusedKind() const override;
+    void closeWindow() override;
+
+    void clear() override;
+    void add(const std::string& name) override;
+    void select(int index) override;
+
+  private:
+    FileListControl& pane(ActiveSide side) const;
+    wxChoice& filter(ActiveSide side) const;
+    int dpi() const;
+    void bindEvents();
+    void bindPane(ActiveSide side);
+    void bindToolBars();
+    void toolPressed(const std::string& key);
+    void chosen(MenuItem item);
+    void listKey(wxKeyEvent& event, ActiveSide side);
+    void lay();
+    void applyColumnTitles();
+
+    ApplicationState& state_;
+    const MessageTable& messages_;
+    OperationGuard& guard_;
+    MainWindowControls controls_;
+    MainMenus menus_;
+    MainCommands* commands_ = nullptr;
+};
+
+} // namespace vantrel
