@@ -3,7 +3,12 @@
 #include "app/MainCommands.h"
 #include "app/MainWindowView.h"
 #include "app/SerialLabel.h"
+#include "base/PathRules.h"
 #include "files/Panes.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/OperatorDialog.h"
+#include "platform/Files.h"
 
 namespace vantrel {
 
@@ -17,6 +22,18 @@ void showViews(const MainServices& with, MainCommands& commands) {
         commands.mnuSort(with.panes.listing(side).SortType);
     }
     with.view.showActiveSide(ActiveSide::PC);
+}
+
+/// A stored folder that is gone opens the nearest one above it, with one message.
+void openStoredFolder(const MainServices& with, MainCommands& commands) {
+    const std::string stored = with.state.PCPath;
+    std::string folder = stored;
+    while (!isFolder(folder) && !PathRules().isRoot(folder))
+        folder = PathRules().parent(folder);
+    if (folder != stored)
+        with.dialog.tell("[" + stored + "]" + with.messages.getMessage(message::folderGone),
+                         BoxIcon::Exclamation);
+    commands.openPCFolder(folder);
 }
 
 } // namespace
@@ -34,7 +51,7 @@ void startMainWindow(const MainServices& with, MainCommands& commands) {
     else
         commands.mnuModeBsc();
     with.view.showAddress(state.CurrentRobot.IPaddr);
-    commands.openPCFolder(state.PCPath);
+    openStoredFolder(with, commands);
     showViews(with, commands);
     commands.updateStates();
 }

@@ -15,7 +15,7 @@
 namespace vantrel {
 
 void RobotSelection::choose(int index) {
-    if (with_.window.isLocked()) {
+    if (with_.window.isLocked() || !with_.state.StartupDone) {
         with_.window.selectRobot(with_.state.CurrentRobotIndex);
         return;
     }
@@ -33,8 +33,7 @@ void RobotSelection::choose(int index) {
         followFolder();
     with_.window.showAddress(with_.state.CurrentRobot.IPaddr);
     with_.window.refreshStates();
-    if (with_.state.StartupDone)
-        refreshController();
+    refreshController();
 }
 
 void RobotSelection::machineMayHaveChanged(const Machine& before) {

@@ -45,8 +45,8 @@ class RobotSelection {
   public:
     explicit RobotSelection(const RobotSelectionServices& services) : with_(services) {}
 
-    /// A choice that the operator has committed, not one passed by with the arrow keys: after the
-    /// start it reads the robot's directory. While an operation runs it is taken back.
+    /// A choice that the operator has committed, not one passed by with the arrow keys: it reads
+    /// the robot's directory. During the start and while an operation runs it is taken back.
     void choose(int index);
 
     /// To be called when mode, port or address may have changed, with the machine that was in force

@@ -1,6 +1,8 @@
 #include "base/Text.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace vantrel {
 
@@ -33,6 +35,20 @@ std::size_t announcedLength(unsigned char lead) {
     if (lead >= 0xE0 && lead <= 0xEF)
         return 3;
     return lead >= 0xF0 && lead <= 0xF4 ? 4 : 0;
+}
+
+/// How many characters at the start are ASCII; eight at a time, since most texts are nothing else.
+std::size_t asciiLength(std::string_view text) {
+    constexpr std::uint64_t highBits = 0x8080808080808080u;
+    std::size_t length = 0;
+    for (std::uint64_t word = 0; text.size() - length >= sizeof word; length += sizeof word) {
+        std::memcpy(&word, text.data() + length, sizeof word);
+        if ((word & highBits) != 0)
+            break;
+    }
+    while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80)
+        ++length;
+    return length;
 }
 
 bool isScalar(char32_t codePoint) {
@@ -125,29 +141,37 @@ std::vector<std::string_view> split(std::string_view text, char separator) {
     return pieces;
 }
 
+std::string_view takeLine(std::string_view& rest) {
+    std::size_t end = 0;
+    while (end < rest.size() && rest[end] != '\r' && rest[end] != '\n')
+        ++end;
+    const auto line = rest.substr(0, end);
+    rest.remove_prefix(end);
+    rest.remove_prefix(rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, rest.size()));
+    return line;
+}
+
 std::vector<std::string_view> lines(std::string_view text) {
     std::vector<std::string_view> result;
-    while (!text.empty()) {
-        const auto end = std::min(text.find_first_of("\r\n"), text.size());
-        result.push_back(text.substr(0, end));
-        const auto rest = text.substr(end);
-        text = rest.substr(rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, rest.size()));
-    }
+    while (!text.empty())
+        result.push_back(takeLine(text));
     return result;
 }
 
 bool isAscii(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return asciiLength(text) == text.size();
 }
 
 bool isValidUtf8(std::string_view bytes) {
-    while (!bytes.empty()) {
+    while (true) {
+        bytes.remove_prefix(asciiLength(bytes));
+        if (bytes.empty())
+            return true;
         const Decoded decoded = decodeFirst(bytes);
         if (!decoded.isValid)
             return false;
         bytes.remove_prefix(decoded.length);
     }
-    return true;
 }
 
 std::u32string codePoints(std::string_view utf8) {

@@ -19,6 +19,10 @@ bool endsWith(std::string_view text, std::string_view end);
 /// All pieces between the separators; an empty text gives one empty piece.
 std::vector<std::string_view> split(std::string_view text, char separator);
 
+/// Takes the next line off a text that is not empty: returns it without its line end. For texts
+/// that may have millions of lines; otherwise `lines` is handier.
+std::string_view takeLine(std::string_view& rest);
+
 /// The lines of a text whose lines end in CR LF, LF or CR. A line end at the end of the text starts
 /// no further line. The views point into `text`.
 std::vector<std::string_view> lines(std::string_view text);

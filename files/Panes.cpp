@@ -1,17 +1,14 @@
 #include "files/Panes.h"
 
-#include "base/PathRules.h"
 #include "files/ControllerModels.h"
 #include "files/FileFilters.h"
+#include "files/FolderScan.h"
 #include "files/PaneWindow.h"
 #include "files/TransferTable.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/Snappy.h"
-#include "platform/Files.h"
 
-#include <algorithm>
-#include <limits>
 #include <unordered_set>
 
 namespace vantrel {
@@ -28,12 +25,6 @@ class BusyPointer {
   private:
     PaneWindow& window_;
 };
-
-std::int32_t listedSize(const FolderEntry& entry) {
-    constexpr std::uint64_t largest = std::numeric_limits<std::int32_t>::max();
-    return entry.isFolder ? FolderListing::folderSize
-                          : static_cast<std::int32_t>(std::min(entry.size, largest));
-}
 
 /// The entries of `from`; the sort state of `to` stays, since it belongs to the pane.
 void takeEntries(FolderListing& to, FolderListing&& from) {
@@ -65,15 +56,10 @@ Panes::Panes(ApplicationState& state, Snappy& session, const TransferTable& tabl
 
 bool Panes::scanPC(const std::string& folder) {
     const BusyPointer busy(window_);
-    FolderListing scanned;
-    scanned.Path = folder;
-    const Outcome outcome =
-        visitFolder(PathRules().withSeparator(folder), [&scanned](const FolderEntry& entry) {
-            scanned.append(std::string(entry.name), listedSize(entry), entry.changed);
-        });
-    if (!outcome)
+    Result<FolderListing> scanned = scanFolder(folder);
+    if (!scanned)
         return false;
-    takeEntries(state_.PCListing, std::move(scanned));
+    takeEntries(state_.PCListing, std::move(*scanned));
     pcRows_.clear();
     state_.PCPath = folder;
     return true;
@@ -103,8 +89,8 @@ void Panes::emptyController() {
 bool Panes::fill(ActiveSide side) {
     const BusyPointer busy(window_);
     const ControllerModel& model = modelOf(side, state_);
-    const bool isWhole =
-        rows(side).fill([&model, index = window_.filterIndex(side)](std::string_view upperName) {
+    const bool isWhole = changeableRows(side).fill(
+        [&model, index = window_.filterIndex(side)](std::string_view upperName) {
             return matchesFilter(upperName, index, model);
         });
     sort(side);
@@ -116,7 +102,7 @@ bool Panes::fill(ActiveSide side) {
 /// they are then.
 void Panes::sort(ActiveSide side) {
     constexpr std::int16_t columnSize = 1;
-    rows(side).sort();
+    changeableRows(side).sort();
     if (listing(side).SortType != columnSize)
         window_.yield();
     window_.list(side).show(rows(side));
@@ -137,7 +123,7 @@ FolderListing& Panes::listing(ActiveSide side) {
     return side == ActiveSide::PC ? state_.PCListing : state_.CtrlListing;
 }
 
-PaneRows& Panes::rows(ActiveSide side) {
+PaneRows& Panes::changeableRows(ActiveSide side) {
     return side == ActiveSide::PC ? pcRows_ : controllerRows_;
 }
 

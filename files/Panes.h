@@ -45,7 +45,7 @@ class Panes {
     void selectNames(ActiveSide side, const std::vector<std::string>& names);
 
   private:
-    PaneRows& rows(ActiveSide side);
+    PaneRows& changeableRows(ActiveSide side);
 
     ApplicationState& state_;
     Snappy& session_;

@@ -44,7 +44,8 @@ std::int16_t DirectoryReader::readEntries(std::int16_t handle, std::vector<std::
 // An entry that fills the buffer has no NUL at its end.
 std::string DirectoryReader::takeEntry() {
     const auto end = std::find(buffer_.begin(), buffer_.end(), '\0');
-    std::string name = fromCodePage({buffer_.data(), static_cast<std::size_t>(end - buffer_.begin())});
+    std::string name =
+        fromCodePage({buffer_.data(), static_cast<std::size_t>(end - buffer_.begin())});
     buffer_.fill('\0');
     return name;
 }

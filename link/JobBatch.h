@@ -41,8 +41,10 @@ class JobBatch {
     bool run(const std::vector<std::string>& entries);
 
   private:
+    /// `Done` at the end of the list, else what ended it early.
     TransferOutcome runThrough(const std::vector<std::string>& entries);
     TransferOutcome handle(const std::string& entry, std::int32_t index);
+    /// What a failure or a cancel adds to the error record: the entry's index.
     void record(TransferOutcome outcome, std::int32_t index);
     void tellSkipped() const;
 

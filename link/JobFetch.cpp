@@ -16,9 +16,8 @@ namespace vantrel {
 
 bool JobFetch::listFolder() {
     std::vector<std::string> names;
-    const auto listed = visitNames(tools_.properties.path, [&names](std::string_view name) {
-        names.emplace_back(name);
-    });
+    const auto listed = visitNames(tools_.properties.path,
+                                   [&names](std::string_view name) { names.emplace_back(name); });
     if (!listed) {
         // Without knowing what is there nothing may be fetched over it.
         tools_.error.set(session_code::fileNotReadable, "", 0);

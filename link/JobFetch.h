@@ -14,7 +14,8 @@ class JobFetch {
   public:
     explicit JobFetch(const TransferTools& tools) : tools_(tools) {}
 
-    /// Reads which names the PC folder has. False, with the reason recorded, when it cannot be read.
+    /// Reads which names the PC folder has. False, with the reason recorded, when it cannot be
+    /// read.
     bool listFolder();
     /// `index` is the file's place among several, for the error record.
     TransferOutcome fetch(const std::string& name, std::int32_t index, bool overwriteAll);

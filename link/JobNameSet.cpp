@@ -6,6 +6,7 @@
 namespace vantrel {
 namespace {
 
+/// Data files keep their extension: it is a part of what they are.
 std::string_view baseName(std::string_view fileName) {
     return isJobFileName(fileName) ? fileName.substr(0, fileName.rfind('.')) : fileName;
 }

@@ -39,7 +39,8 @@ std::optional<std::string> JobSend::readNameInside(const std::string& file, std:
     return {};
 }
 
-// Every question comes before the first deletion, so that a refusal leaves the controller as it was.
+// Every question comes before the first deletion, so that a refusal leaves the controller as it
+// was.
 TransferOutcome JobSend::prepare(const std::string& file, const std::string& nameInside,
                                  bool overwriteAll) {
     if (!isJobFileName(file))

@@ -52,6 +52,7 @@ class LinkConnection {
     bool configure(std::int16_t handle);
     bool configureSerial(std::int16_t handle);
     bool configureEthernet(std::int16_t handle);
+    /// A step's success is 1; any other result is recorded with index 0.
     bool accept(std::int16_t result, const char* function);
 
     const SessionServices& services_;

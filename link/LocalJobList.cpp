@@ -37,6 +37,7 @@ void LocalJobList::read(const std::string& folder) {
             add(entry);
 }
 
+// Plain names, the usual case, are looked up; only patterns are tried one by one.
 void LocalJobList::add(std::string_view entry) {
     entries_.emplace_back(entry);
     std::string form = comparedForm(entry);

@@ -21,7 +21,7 @@ class LocalJobList {
   private:
     void add(std::string_view entry);
 
-    std::vector<std::string> entries_; ///< trimmed, in file order
+    std::vector<std::string> entries_;      ///< trimmed, in file order
     std::unordered_set<std::string> names_; ///< the entries without a wildcard, normalised
     std::vector<std::string> patterns_;     ///< the others, normalised
 };

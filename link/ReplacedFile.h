@@ -8,6 +8,7 @@ namespace vantrel {
 /// `keep` is called the old file is put back and whatever arrived of the new one is removed.
 class ReplacedFile {
   public:
+    /// Sets a regular file aside; a folder of that name stays where it is.
     ReplacedFile(const std::string& folder, const std::string& name);
     ~ReplacedFile();
     ReplacedFile(const ReplacedFile&) = delete;

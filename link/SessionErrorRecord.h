@@ -13,12 +13,13 @@ inline constexpr std::int16_t cancelled = 3;
 inline constexpr std::int16_t overwriteRefused = 4;
 inline constexpr std::int16_t overwriteAll = 5;
 inline constexpr std::int16_t listFileNotOpened = 6;
-inline constexpr std::int16_t nameNotExpressible = 20; ///< the library's code page lacks a character
-inline constexpr std::int16_t fileNotReadable = 21;    ///< the PC file cannot be read
-inline constexpr std::int16_t entryRejected = 22;      ///< a line that is no variable entry
-inline constexpr std::int16_t nameRefused = 23;        ///< not one plain file name
-inline constexpr std::int16_t directoryEndless = 24;   ///< 1,000,000 entries and no end
-inline constexpr std::int16_t fileDidNotArrive = 25;   ///< reported as done, but it is not there
+inline constexpr std::int16_t nameNotExpressible =
+    20;                                              ///< the library's code page lacks a character
+inline constexpr std::int16_t fileNotReadable = 21;  ///< the PC file cannot be read
+inline constexpr std::int16_t entryRejected = 22;    ///< a line that is no variable entry
+inline constexpr std::int16_t nameRefused = 23;      ///< not one plain file name
+inline constexpr std::int16_t directoryEndless = 24; ///< 1,000,000 entries and no end
+inline constexpr std::int16_t fileDidNotArrive = 25; ///< reported as done, but it is not there
 inline constexpr std::int16_t fileNotReplaceable = 26; ///< the old PC file cannot be set aside
 inline constexpr std::int16_t libraryUnusable = -10;   ///< missing, wrong or incomplete library
 } // namespace session_code
@@ -26,7 +27,8 @@ inline constexpr std::int16_t libraryUnusable = -10;   ///< missing, wrong or in
 /// The reason of the last failure.
 struct SessionErrorRecord {
     std::int16_t ErrorCode = 0;
-    std::string ErrorFunction; ///< the library function that failed; empty when the operator decided
+    std::string
+        ErrorFunction; ///< the library function that failed; empty when the operator decided
     std::int32_t ErrorIndex = 0;
 
     /// Without an index the previous one stays.

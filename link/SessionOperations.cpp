@@ -52,6 +52,7 @@ void giveBack(Arguments& arguments, std::size_t at, const Type& value) {
     }
 }
 
+/// Converts the arguments one by one, calls the operation, and gives its out arguments back.
 template <typename Returned, typename... Declared, std::size_t... At, typename Method>
 Result<SessionValue> invoke(Snappy& session, Method method, Arguments& arguments,
                             std::index_sequence<At...>) {
@@ -82,11 +83,13 @@ Result<SessionValue> dispatch(Snappy& session, Returned (Snappy::*method)(Declar
                                          std::index_sequence_for<Declared...>());
 }
 
+/// A row of the table of operations.
 struct Operation {
     std::string_view name;
     Result<SessionValue> (*call)(Snappy&, Arguments&);
 };
 
+/// A row of the table of properties; `set` is false when the value does not convert.
 struct Property {
     std::string_view name;
     SessionValue (*get)(const Snappy&);
@@ -113,31 +116,31 @@ bool setProperty(Snappy& session, const SessionValue& value) {
 }
 
 #define VANTREL_PROPERTY(name)                                                                     \
-    { #name, getProperty<&Snappy::name>, setProperty<&Snappy::name> }
+    { #name, getProperty < &Snappy::name>, setProperty < &Snappy::name> }
 #define VANTREL_OPERATION(name)                                                                    \
-    { #name, callOperation<&Snappy::name> }
+    { #name, callOperation < &Snappy::name> }
 
 constexpr Property properties[] = {
-    VANTREL_PROPERTY(port),      VANTREL_PROPERTY(Baudrate),       VANTREL_PROPERTY(parity),
-    VANTREL_PROPERTY(DataLen),   VANTREL_PROPERTY(StopBit),        VANTREL_PROPERTY(path),
+    VANTREL_PROPERTY(port),           VANTREL_PROPERTY(Baudrate),     VANTREL_PROPERTY(parity),
+    VANTREL_PROPERTY(DataLen),        VANTREL_PROPERTY(StopBit),      VANTREL_PROPERTY(path),
     VANTREL_PROPERTY(DisplayMonitor), VANTREL_PROPERTY(MonitorTitle), VANTREL_PROPERTY(IPaddress),
 };
 
 constexpr Operation operations[] = {
-    VANTREL_OPERATION(JobListCount),    VANTREL_OPERATION(VarListCount),
-    VANTREL_OPERATION(ErrorCode),       VANTREL_OPERATION(ErrorFunction),
-    VANTREL_OPERATION(ErrorIndex),      VANTREL_OPERATION(GetCTRLError),
-    VANTREL_OPERATION(JobList),         VANTREL_OPERATION(VarList),
-    VANTREL_OPERATION(ReadDirectory),   VANTREL_OPERATION(JobDownLoad),
-    VANTREL_OPERATION(JobDelete),       VANTREL_OPERATION(JobUpLoad),
-    VANTREL_OPERATION(JobListDownLoad), VANTREL_OPERATION(JobListUpLoad),
-    VANTREL_OPERATION(AddJobList),      VANTREL_OPERATION(JobListClear),
-    VANTREL_OPERATION(RemoveJobList),   VANTREL_OPERATION(SetJobListFile),
-    VANTREL_OPERATION(SetVarListFile),  VANTREL_OPERATION(ReadVarListFile),
-    VANTREL_OPERATION(VarListClear),    VANTREL_OPERATION(AddVarList),
-    VANTREL_OPERATION(RemoveVarList),   VANTREL_OPERATION(SetLangageMode),
-    VANTREL_OPERATION(VarDownLoad),     VANTREL_OPERATION(VarUpLoad),
-    VANTREL_OPERATION(VarListDownLoad), VANTREL_OPERATION(VarListUpLoad),
+    VANTREL_OPERATION(JobListCount),     VANTREL_OPERATION(VarListCount),
+    VANTREL_OPERATION(ErrorCode),        VANTREL_OPERATION(ErrorFunction),
+    VANTREL_OPERATION(ErrorIndex),       VANTREL_OPERATION(GetCTRLError),
+    VANTREL_OPERATION(JobList),          VANTREL_OPERATION(VarList),
+    VANTREL_OPERATION(ReadDirectory),    VANTREL_OPERATION(JobDownLoad),
+    VANTREL_OPERATION(JobDelete),        VANTREL_OPERATION(JobUpLoad),
+    VANTREL_OPERATION(JobListDownLoad),  VANTREL_OPERATION(JobListUpLoad),
+    VANTREL_OPERATION(AddJobList),       VANTREL_OPERATION(JobListClear),
+    VANTREL_OPERATION(RemoveJobList),    VANTREL_OPERATION(SetJobListFile),
+    VANTREL_OPERATION(SetVarListFile),   VANTREL_OPERATION(ReadVarListFile),
+    VANTREL_OPERATION(VarListClear),     VANTREL_OPERATION(AddVarList),
+    VANTREL_OPERATION(RemoveVarList),    VANTREL_OPERATION(SetLangageMode),
+    VANTREL_OPERATION(VarDownLoad),      VANTREL_OPERATION(VarUpLoad),
+    VANTREL_OPERATION(VarListDownLoad),  VANTREL_OPERATION(VarListUpLoad),
     VANTREL_OPERATION(WriteVarListFile), VANTREL_OPERATION(Quit),
     VANTREL_OPERATION(SetTansMode),
 };

@@ -19,12 +19,17 @@ void SessionProgress::begin() {
     pressed_ = !silent() && panel_.isVisible() && panel_.isCancelled();
 }
 
+void SessionProgress::prepare(const std::string& message) {
+    if (!silent())
+        panel_.step(message, 0, 1, messages_.getMessage(message::waitingForController));
+}
+
 void SessionProgress::open(const std::string& message, bool cancelButton, bool bar) {
     if (silent())
         return;
     panel_.showCancelButton(cancelButton);
     panel_.showBar(bar);
-    panel_.step(message, 0, 1, messages_.getMessage(message::waitingForController));
+    prepare(message);
     show(message);
 }
 

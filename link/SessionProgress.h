@@ -12,8 +12,8 @@ struct SessionProperties;
 /// The progress dialog as the session shows it: nothing at all while `DisplayMonitor` is off, when
 /// the dialog belongs to the command that called the session.
 ///
-/// A press of Cancel can arrive whenever the event loop runs, and showing a message clears its mark;
-/// so the presses of one operation are kept here, where no later message loses them.
+/// A press of Cancel can arrive whenever the event loop runs, and showing a message clears its
+/// mark; so the presses of one operation are kept here, where no later message loses them.
 class SessionProgress {
   public:
     SessionProgress(const SessionProperties& properties, const MessageTable& messages,
@@ -23,6 +23,8 @@ class SessionProgress {
     /// visible counts, for it is meant for the command that this operation is a part of.
     void begin();
 
+    /// Text, bar and second label for work on a single thing, shown with the next message.
+    void prepare(const std::string& message);
     void open(const std::string& message, bool cancelButton, bool bar);
     void show(const std::string& message);
     /// Text, bar and second label for entry `item` (counted from 0) of `count`; nothing yields.

@@ -21,8 +21,8 @@ struct SessionServices {
     const LanguageFiles& languages;
     ProgressPanel& progress;
     OperatorDialog& dialog;
-    std::string programFolder;            ///< absolute; made current by every connect
-    std::function<void*()> dummyWindow;   ///< the handle of `frmDumy`, loaded on first use
+    std::string programFolder;                ///< absolute; made current by every connect
+    std::function<void*()> dummyWindow;       ///< the handle of `frmDumy`, loaded on first use
     std::function<void()> unloadWindows = {}; ///< unloads `frmDumy`; called once, by `Quit`
     std::function<void()> modeChanged = {};   ///< `SetTansMode` has written `TransMode`
 };

@@ -29,14 +29,18 @@ struct Snappy::Parts {
         : services(given), link(services, properties, error),
           progress(properties, services.messages, services.progress),
           question(properties, services.messages, services.dialog), reader(link, error),
-          deletion(link, progress),
-          tools{properties, link, progress, error, question, directoryNames},
+          deletion(link, progress), tools{properties, link,     progress,
+                                          error,      question, directoryNames},
           sending(tools, deletion), fetching(tools),
           jobs({properties, error, services.messages, services.dialog}), variable(link, error),
           variables(properties, error) {}
 
+    /// The controller's names, for the questions of a send. Hides the progress, as every reading of
+    /// the directory does.
     bool readDirectory();
+    /// Works through the job list; `transfer` does one entry.
     bool transferList(const SessionProperties& properties, JobBatch::Transfer transfer);
+    /// Hides the progress and turns the outcome of a single transfer into record and result.
     bool concludeSingle(TransferOutcome outcome);
 
     SessionServices services;
@@ -77,8 +81,7 @@ class Operation {
 
 } // namespace
 
-Snappy::Snappy(const SessionServices& services)
-    : parts_(std::make_unique<Parts>(services, *this)) {
+Snappy::Snappy(const SessionServices& services) : parts_(std::make_unique<Parts>(services, *this)) {
     path = currentFolder();
 }
 
@@ -173,6 +176,7 @@ bool Snappy::JobDownLoad(const std::string& file, bool overwriteAll) {
 
 bool Snappy::JobDelete(const std::string& name) {
     const Operation operation(parts_->link, parts_->progress);
+    parts_->progress.prepare(parts_->progress.deleting(name));
     return parts_->deletion.remove(name);
 }
 

@@ -11,17 +11,12 @@ namespace {
 
 struct Kind {
     std::string_view letters;
-    std::size_t lettersRead;   ///< characters before the number, whatever the second one is
+    std::size_t lettersRead; ///< characters before the number, whatever the second one is
     std::size_t valuesWritten;
 };
 
-constexpr std::array<Kind, 7> kinds{{{"B", 1, 1},
-                                     {"I", 1, 1},
-                                     {"D", 1, 1},
-                                     {"R", 1, 1},
-                                     {"P", 1, 9},
-                                     {"BP", 2, 9},
-                                     {"EX", 2, 9}}};
+constexpr std::array<Kind, 7> kinds{
+    {{"B", 1, 1}, {"I", 1, 1}, {"D", 1, 1}, {"R", 1, 1}, {"P", 1, 9}, {"BP", 2, 9}, {"EX", 2, 9}}};
 
 constexpr std::int16_t kindB = 0;
 constexpr std::int16_t kindBP = 5;
@@ -49,7 +44,9 @@ std::optional<std::int16_t> kindOf(std::string_view line) {
 
 /// The text behind the first `count` characters, however many bytes these have.
 std::string_view behind(std::string_view text, std::size_t count) {
-    const auto continues = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; };
+    const auto continues = [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+    };
     std::size_t at = 0;
     for (; count > 0 && at < text.size(); --count)
         do

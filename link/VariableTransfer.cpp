@@ -16,8 +16,8 @@ bool VariableTransfer::write(const std::string& entry) {
     const std::int16_t handle = link_.connect();
     if (handle < 0)
         return false;
-    const std::int16_t put = link_.library().BscPutVarData(
-        handle, variable->kind, variable->number, variable->values.data());
+    const std::int16_t put = link_.library().BscPutVarData(handle, variable->kind, variable->number,
+                                                           variable->values.data());
     return link_.finish(handle, put, "BscPutVarData");
 }
 

@@ -20,6 +20,7 @@ class VariableTransfer {
     bool read(std::string& entry);
 
   private:
+    /// Records a line that is no entry; without an index, which is the list's business.
     void reject();
 
     LinkConnection& link_;

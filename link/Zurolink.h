@@ -16,7 +16,7 @@ class Zurolink {
                                    std::int16_t parity, std::int16_t dataLen,
                                    std::int16_t stopBit) = 0; ///< 1 on success
     virtual std::int16_t BscSetEther(std::int16_t handle, const char* ip, std::int16_t mode,
-                                     void* window) = 0;       ///< 1 on success
+                                     void* window) = 0;          ///< 1 on success
     virtual std::int16_t BscConnect(std::int16_t handle) = 0;    ///< 1 on success
     virtual std::int16_t BscDisConnect(std::int16_t handle) = 0; ///< 1 on success
     virtual std::int16_t BscClose(std::int16_t handle) = 0;      ///< 0 on success

@@ -12,8 +12,8 @@ namespace vantrel {
 
 /// Why the communication library cannot be used.
 struct LibraryProblem {
-    std::string path;   ///< where it was looked for
-    std::string reason; ///< in the system's words; empty when functions are missing
+    std::string path;                 ///< where it was looked for
+    std::string reason;               ///< in the system's words; empty when functions are missing
     std::vector<std::string> missing; ///< every function that the library lacks
 };
 
@@ -55,7 +55,9 @@ class ZurolinkBinding final : public Zurolink {
   private:
     struct Functions;
 
+    /// Binds the library or notes the problem; only the first call does anything.
     void load();
+    /// For an operation: all functions, or null with the problem reported.
     const Functions* functions();
     template <typename Function, typename... Arguments>
     std::int16_t call(Function Functions::*function, Arguments... arguments);

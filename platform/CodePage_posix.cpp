@@ -26,25 +26,33 @@ class Converter {
 
     bool isOpen() const { return state_ != reinterpret_cast<iconv_t>(-1); }
 
-    /// Converts as far as the input is valid; what is left begins with the offending byte.
-    std::string convert(std::string_view& input) const {
-        std::string output;
-        std::array<char, 8192> buffer;
-        char* in = const_cast<char*>(input.data()); // iconv reads through it only
-        std::size_t inLeft = input.size();
-        std::size_t result = 0;
-        do {
-            char* out = buffer.data();
-            std::size_t outLeft = buffer.size();
-            result = ::iconv(state_, &in, &inLeft, &out, &outLeft);
-            output.append(buffer.data(), buffer.size() - outLeft);
-        } while (result == static_cast<std::size_t>(-1) && errno == E2BIG);
-        input.remove_prefix(input.size() - inLeft);
-        return output;
+    /// Appends what is valid; what is left of the input begins with the offending byte. The input
+    /// goes in pieces, since a checking build looks through the whole of each call's input.
+    void convert(std::string_view& input, std::string& output) {
+        bool isValid = true;
+        while (isValid && !input.empty()) {
+            const auto piece = input.substr(0, buffer_.size());
+            const std::size_t used = convertPiece(piece, output);
+            // A character cut in two by the end of the piece is whole in the next one.
+            isValid = used == piece.size() || (used > 0 && errno != EILSEQ);
+            input.remove_prefix(used);
+        }
     }
 
   private:
+    /// How many bytes were used; the reason why not all is in `errno`.
+    std::size_t convertPiece(std::string_view piece, std::string& output) {
+        char* in = const_cast<char*>(piece.data()); // iconv reads through it only
+        std::size_t inLeft = piece.size();
+        char* out = buffer_.data();
+        std::size_t outLeft = buffer_.size();
+        ::iconv(state_, &in, &inLeft, &out, &outLeft);
+        output.append(buffer_.data(), buffer_.size() - outLeft);
+        return piece.size() - inLeft;
+    }
+
     iconv_t state_;
+    std::array<char, 4096> buffer_{};
 };
 
 } // namespace
@@ -52,11 +60,12 @@ class Converter {
 std::optional<std::string> codePageBytes(std::string_view utf8) {
     if (isAscii(utf8))
         return std::string(utf8);
-    const Converter converter(codePage, "UTF-8");
+    Converter converter(codePage, "UTF-8");
     if (!converter.isOpen())
         return std::nullopt;
     std::string_view rest = utf8;
-    std::string bytes = converter.convert(rest);
+    std::string bytes;
+    converter.convert(rest, bytes);
     // The converter takes a few look-alikes (a yen sign for the backslash) without a word.
     if (!rest.empty() || fromCodePage(bytes) != utf8)
         return std::nullopt;
@@ -66,11 +75,11 @@ std::optional<std::string> codePageBytes(std::string_view utf8) {
 std::string fromCodePage(std::string_view bytes) {
     if (isAscii(bytes))
         return std::string(bytes);
-    const Converter converter("UTF-8", codePage);
+    Converter converter("UTF-8", codePage);
     std::string text;
     while (!bytes.empty()) {
         if (converter.isOpen())
-            text += converter.convert(bytes);
+            converter.convert(bytes, text);
         if (!bytes.empty()) {
             text += replacement;
             bytes.remove_prefix(1);

@@ -15,15 +15,6 @@ constexpr std::string_view blanks = " \t";
 constexpr std::string_view wideMark = "\xFF\xFE";
 constexpr std::string_view lineEnd = "\r\n";
 
-/// Takes the next line off `rest`: its content without the line end.
-std::string_view takeLine(std::string_view& rest) {
-    const auto end = std::min(rest.find_first_of("\r\n"), rest.size());
-    const auto line = rest.substr(0, end);
-    const auto behind = rest.substr(end);
-    rest = behind.substr(behind.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, behind.size()));
-    return line;
-}
-
 bool sameName(std::string_view left, std::string_view right) {
     if (isAscii(left) && isAscii(right))
         return equalsIgnoringAsciiCase(left, right);

@@ -67,7 +67,8 @@ std::int16_t Controller::store(const ControllerFileName& name, std::string_view 
 }
 
 CodeOr<std::string> Controller::deliver(std::string_view fileName) const {
-    const auto name = controllerFileName(fileName);
+    const bool isBareJob = fileName.find('.') == std::string_view::npos;
+    const auto name = controllerFileName(std::string(fileName) + (isBareJob ? ".JBI" : ""));
     if (!name)
         return name.code();
     return folder_.read(*name);
@@ -75,8 +76,7 @@ CodeOr<std::string> Controller::deliver(std::string_view fileName) const {
 
 CodeOr<std::string> Controller::findJob(std::string_view job) const {
     const bool hasExtension = endsWith(asciiUpper(job), ".JBI");
-    const auto name =
-        controllerFileName(hasExtension ? std::string(job) : std::string(job) + ".JBI");
+    const auto name = controllerFileName(std::string(job) + (hasExtension ? "" : ".JBI"));
     if (!name)
         return name.code();
     if (!folder_.has(*name))

@@ -38,7 +38,7 @@ class Controller {
     /// it, since nothing could be deleted under the set's name.
     std::int16_t receive(std::string_view fileName, std::string_view content,
                          TransferLimit limit = {}) const;
-    /// The bytes of a file; a job is handed out as ".JBI" and as ".JBR".
+    /// The bytes of a file; a job is handed out as ".JBI", as ".JBR" and under its bare name.
     CodeOr<std::string> deliver(std::string_view fileName) const;
 
     /// The job's name in the controller's form, for a name with or without ".JBI".

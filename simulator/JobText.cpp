@@ -7,7 +7,6 @@
 #include "simulator/ResultCodes.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace vantrel::simulator {
 
@@ -15,20 +14,24 @@ namespace {
 
 constexpr std::string_view marker = "//NAME";
 
-bool isNameLine(std::string_view line) {
-    return startsWith(line, marker) && line.size() > marker.size() &&
-           (line[marker.size()] == ' ' || line[marker.size()] == '\t');
+/// What stands after the marker, or an empty text when the line is another one.
+std::string_view nameOnLine(std::string_view line) {
+    if (!startsWith(line, marker))
+        return {};
+    const auto rest = line.substr(marker.size());
+    const bool markerEnds = startsWith(rest, " ") || startsWith(rest, "\t");
+    return markerEnds ? trimmed(rest) : std::string_view();
 }
 
-std::optional<std::string_view> nameLineIn(std::string_view text) {
+std::string_view nameInText(std::string_view text) {
     for (std::size_t start = 0; start < text.size();) {
         const auto end = std::min(text.find_first_of("\r\n", start), text.size());
-        const auto line = text.substr(start, end - start);
-        if (isNameLine(line))
-            return trimmed(line.substr(marker.size()));
+        const auto name = nameOnLine(text.substr(start, end - start));
+        if (!name.empty())
+            return name;
         start = end + 1;
     }
-    return std::nullopt;
+    return {};
 }
 
 } // namespace
@@ -38,10 +41,10 @@ CodeOr<std::string> jobNameIn(std::string_view bytes) {
     const auto decoded = decodeText(bytes);
     if (bytes.empty() || decoded.encoding == TextEncoding::Utf16LittleEndian)
         return code::formatError;
-    const auto found = nameLineIn(decoded.text);
-    if (!found)
+    const auto found = nameInText(decoded.text);
+    if (found.empty())
         return code::headerMissing;
-    auto name = normalisedJobName(*found);
+    auto name = normalisedJobName(found);
     const auto asFile = controllerFileName(name + ".JBI");
     if (!asFile)
         return asFile.code();

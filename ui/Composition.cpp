@@ -113,8 +113,9 @@ void Composition::buildMainWindow() {
 }
 
 void Composition::showMainWindow() {
-    // Placed and captioned before the operator sees it; the start routine completes it before the
-    // first paint, which comes with the event loop.
+    // Placed before it is shown as well: a window manager that is told a size and then another one
+    // may answer the first.
+    window_->place(state_.WindowPos);
     window_->Show();
 }
 

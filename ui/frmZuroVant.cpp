@@ -90,6 +90,9 @@ void frmZuroVant::bindEvents() {
         event.Skip();
         CallAfter(&frmZuroVant::lay);
     });
+    settleTimer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
+        settled_ = Settled{ClientToScreen(wxPoint(0, 0)), GetSize()};
+    });
     bindPane(ActiveSide::PC);
     bindPane(ActiveSide::Controller);
     bindToolBars();
@@ -155,7 +158,7 @@ void frmZuroVant::listKey(wxKeyEvent& event, ActiveSide side) {
 }
 
 void frmZuroVant::lay() {
-    if (IsIconized())
+    if (!placed_ || IsIconized())
         return;
     const int resolution = dpi();
     const wxSize outer = GetSize();
@@ -261,10 +264,21 @@ void frmZuroVant::place(const std::array<std::int32_t, 8>& positions) {
                       pixelsFromTwips(twips.height, resolution));
     };
     SetMinSize(size(minimumSize));
-    SetSize(wxRect(wxPoint(pixels(0), pixels(1)),
-                   size(atLeastMinimum({double(positions[2]), double(positions[3])}))));
+    moveTo(wxRect(wxPoint(pixels(0), pixels(1)),
+                  size(atLeastMinimum({double(positions[2]), double(positions[3])}))));
     pane(ActiveSide::PC).setColumnWidths({pixels(4), pixels(5), pixels(6)});
+    placed_ = true;
     lay();
+    constexpr int settleTime = 1000; // milliseconds
+    settleTimer_.StartOnce(settleTime);
+}
+
+void frmZuroVant::moveTo(const wxRect& outer) {
+    // A window that believes to be there already does not say so to the window manager, which then
+    // chooses a place itself.
+    if (GetPosition() == outer.GetPosition() && !IsShown())
+        Move(outer.GetPosition() + wxPoint(1, 1));
+    SetSize(outer);
 }
 
 WindowPlacement frmZuroVant::placement() const {
@@ -272,13 +286,22 @@ WindowPlacement frmZuroVant::placement() const {
     const auto twips = [&](int pixels, std::size_t index) {
         return twipsUnlessUnchanged(pixels, resolution, state_.WindowPos.at(index));
     };
+    // What only the window manager has adjusted is nobody's wish: the stored numbers stay, or the
+    // window would drift with every start.
+    const auto wished = [&](int change, int now, std::size_t index) {
+        if (!settled_)
+            return twips(now, index);
+        return state_.WindowPos.at(index) + twipsFromPixels(change, resolution);
+    };
     const wxRect outer = GetRect();
+    const Settled settled = settled_.value_or(Settled{});
+    const wxPoint moved = ClientToScreen(wxPoint(0, 0)) - settled.clientOrigin;
     const auto widths = pane(ActiveSide::PC).columnWidths();
     return {.isNormal = !IsIconized() && !IsMaximized(),
-            .left = twips(outer.x, 0),
-            .top = twips(outer.y, 1),
-            .width = twips(outer.width, 2),
-            .height = twips(outer.height, 3),
+            .left = wished(moved.x, outer.x, 0),
+            .top = wished(moved.y, outer.y, 1),
+            .width = wished(outer.width - settled.size.x, outer.width, 2),
+            .height = wished(outer.height - settled.size.y, outer.height, 3),
             .columnWidths = {twips(widths[0], 4), twips(widths[1], 5), twips(widths[2], 6)}};
 }
 

@@ -7,8 +7,10 @@
 #include "ui/MainWindowControls.h"
 
 #include <wx/frame.h>
+#include <wx/timer.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace vantrel {
@@ -66,6 +68,13 @@ class frmZuroVant : public wxFrame, public PaneWindow, public MainWindowView, pu
     void select(int index) override;
 
   private:
+    /// Where the window stands once the window manager has had its say, in pixels. The client
+    /// area's place is what all managers agree on.
+    struct Settled {
+        wxPoint clientOrigin;
+        wxSize size;
+    };
+
     FileListControl& pane(ActiveSide side) const;
     wxChoice& filter(ActiveSide side) const;
     int dpi() const;
@@ -76,6 +85,7 @@ class frmZuroVant : public wxFrame, public PaneWindow, public MainWindowView, pu
     void chosen(MenuItem item);
     void listKey(wxKeyEvent& event, ActiveSide side);
     void lay();
+    void moveTo(const wxRect& outer);
     void applyColumnTitles();
 
     ApplicationState& state_;
@@ -84,6 +94,9 @@ class frmZuroVant : public wxFrame, public PaneWindow, public MainWindowView, pu
     MainWindowControls controls_;
     MainMenus menus_;
     MainCommands* commands_ = nullptr;
+    bool placed_ = false;
+    std::optional<Settled> settled_;
+    wxTimer settleTimer_;
 };
 
 } // namespace vantrel

@@ -198,6 +198,15 @@ TEST_F(RobotRegistryTest, AnUnreadFileIsKeptAsABackupWhenTheOperatorEdited) {
     EXPECT_FALSE(folder_.has("robot.ini.bak3"));
 }
 
+TEST_F(RobotRegistryTest, AFileThatIsReadWholeAtLastIsRewritten) {
+    makeUnreadable();
+    registry_.read(box_);
+    std::filesystem::remove_all(folder_.path("robot.ini"));
+    read("[Robot]\r\nName=A\r\n");
+    EXPECT_TRUE(registry_.write());
+    EXPECT_EQ(file(), boot("A") + blockOf("A", "", folder_.path()));
+}
+
 TEST_F(RobotRegistryTest, TheBoxCanBeFilledAgain) {
     read("[Robot]\r\nName=A\r\n[Robot]\r\nName=B\r\n");
     state_.RobotList[0].Name = "renamed";

@@ -102,6 +102,9 @@ TEST_F(RobotSelectionTest, TheSameRobotInAnotherFolderIsANewChoice) {
 TEST_F(RobotSelectionTest, ASeparatorAtTheEndMakesNoOtherFolder) {
     desk_.state.PCPath += PathRules().separator();
     selection_.choose(0);
+    desk_.state.PCPath = desk_.folder.path("R0");
+    desk_.state.RobotList[0].Path += PathRules().separator();
+    selection_.choose(0);
     EXPECT_TRUE(desk_.log.empty());
 }
 
@@ -124,12 +127,20 @@ TEST_F(RobotSelectionTest, AFolderThatCannotBeListedIsNamedAndTheOldOneStays) {
     EXPECT_EQ(desk_.log.back(), "refresh Ctrl of 10.0.0.1");
 }
 
-TEST_F(RobotSelectionTest, DuringTheStartNothingIsReadNorEmptied) {
+TEST_F(RobotSelectionTest, DuringTheStartTheChoiceIsTakenBack) {
     desk_.state.StartupDone = false;
     selection_.choose(1);
-    EXPECT_EQ(desk_.log.back(), "states");
+    EXPECT_EQ(desk_.log, (tests::Log{"select 0"}));
+    EXPECT_EQ(desk_.state.CurrentRobot.Name, "R0");
+}
+
+TEST_F(RobotSelectionTest, DuringTheStartAnotherMachineEmptiesNothing) {
+    const Machine before = machineInForce(desk_.state);
+    desk_.state.StartupDone = false;
+    desk_.state.TransMode = TransferMode::Bsc;
+    selection_.machineMayHaveChanged(before);
     EXPECT_EQ(desk_.state.CtrlListing.Count, 1);
-    EXPECT_EQ(desk_.state.CurrentRobot.Name, "R1");
+    EXPECT_TRUE(desk_.log.empty());
 }
 
 TEST_F(RobotSelectionTest, WhileLockedTheChoiceIsTakenBack) {

@@ -27,7 +27,8 @@ class RecordingStartWindows final : public StartWindows {
     }
     void showLanguageDialog() override {
         add("language dialog");
-        desk_.state.LangCancelled = cancelsLanguage;
+        if (cancelsLanguage)
+            desk_.state.LangCancelled = true;
     }
     void showStartMessage() override { add("show message"); }
     void unloadStartMessage() override { add("unload message"); }

@@ -27,8 +27,11 @@ TEST(Result, HandsOverAValueThatCannotBeCopied) {
 }
 
 TEST(Result, OutcomeIsDoneOrFailed) {
-    EXPECT_TRUE(Outcome(Done{}));
-    EXPECT_FALSE(Outcome(Failure{"disk full"}));
+    const auto write = [](bool fits) -> Outcome {
+        return fits ? Outcome(Done{}) : Outcome(Failure{"disk full"});
+    };
+    EXPECT_TRUE(write(true));
+    EXPECT_EQ(write(false).reason(), "disk full");
 }
 
 } // namespace

@@ -75,6 +75,13 @@ TEST_P(Lines, AreTakenApart) {
 
 INSTANTIATE_TEST_SUITE_P(Rows, Lines, testing::ValuesIn(linesRows), rowName);
 
+TEST(TakeLine, LeavesTheRest) {
+    std::string_view rest = "a\r\nb";
+    EXPECT_EQ(takeLine(rest), "a");
+    EXPECT_EQ(takeLine(rest), "b");
+    EXPECT_TRUE(rest.empty());
+}
+
 struct Utf8Row : NamedRow {
     std::string bytes;
     std::u32string expected;
@@ -137,6 +144,12 @@ TEST(Utf8Encoding, IsTheSameForEveryCharacterThereAndBack) {
 }
 
 TEST(Ascii, IsSevenBitsWide) {
+    for (std::size_t length = 0; length < 20; ++length) {
+        EXPECT_TRUE(isAscii(std::string(length, 'a')));
+        EXPECT_FALSE(isAscii(std::string(length, 'a') + "\x80"));
+        EXPECT_FALSE(isValidUtf8(std::string(length, 'a') + "\x80"
+                                                            "abcdefghij"));
+    }
     EXPECT_TRUE(isAscii({"a\0~\x7F", 4}));
     EXPECT_FALSE(isAscii("a\x80"));
     EXPECT_TRUE(isAscii(""));

@@ -117,7 +117,7 @@ class CommandFixture : public testing::Test {
         EXPECT_EQ(window.busyDepth, 0);
         EXPECT_FALSE(progress.isVisible());
         EXPECT_TRUE(session.DisplayMonitor);
-        EXPECT_EQ(library.openLinks(), 0);
+        EXPECT_EQ(library.openLinks(), linksLeftOpen);
         EXPECT_FALSE(window.pc.focusedWhileLocked);
         EXPECT_FALSE(window.controller.focusedWhileLocked);
     }
@@ -130,6 +130,7 @@ class CommandFixture : public testing::Test {
         };
     }
 
+    int linksLeftOpen = 0;
     TemporaryFolder program;
     TemporaryFolder pc;
     ApplicationState state;

@@ -127,14 +127,16 @@ TEST_F(CopyCommandTest, AFixedNameIsReceivedToo) {
     showPanes();
     window.controllerFilter = 1;
     panes.fill(ActiveSide::Controller);
-    window.controller.click({"FIXED.DAT"});
+    window.controller.select({0});
     EXPECT_TRUE(commands.receiveCopy());
     EXPECT_EQ(pc.read("FIXED.DAT"), "values");
 }
 
 TEST_F(CopyCommandTest, WithoutASelectionNothingHappens) {
     pcJob("A");
+    robot();
     selectOnPC({});
+    window.controller.select({});
     EXPECT_TRUE(commands.sendCopy());
     EXPECT_TRUE(commands.receiveCopy());
     EXPECT_EQ(library.callCount(), 0);
@@ -176,21 +178,19 @@ TEST_F(CopyCommandTest, TheProgressStepsAsideForEveryMessage) {
     EXPECT_THAT(visible, ElementsAre(true, false, true, false));
 }
 
-TEST_F(CopyCommandTest, ReceivingIsTestedAgainstTheOtherMask) {
-    state.Controler = 1;
+TEST_F(CopyCommandTest, ReceivingIsTestedByTheModelsUploadFlag) {
     robot().put("A.DAT", "x");
     showPanes();
     window.controllerFilter = 1;
     panes.fill(ActiveSide::Controller);
     window.controller.click({"A.DAT"});
-    EXPECT_TRUE(commands.receiveCopy());
-    EXPECT_THAT(boxes.texts(), IsEmpty());
-    EXPECT_TRUE(pc.has("A.DAT"));
-    state.Controler = 0;
-    panes.fill(ActiveSide::Controller);
-    window.controller.click({"A.DAT"});
+    state.Controler = 1;
     EXPECT_TRUE(commands.receiveCopy());
     EXPECT_THAT(boxes.texts(), ElementsAre("[A.DAT] refused"));
+    EXPECT_FALSE(pc.has("A.DAT"));
+    state.Controler = cygna;
+    EXPECT_TRUE(commands.receiveCopy());
+    EXPECT_TRUE(pc.has("A.DAT"));
 }
 
 TEST_F(CopyCommandTest, AFolderIsNamedAndPassedOver) {

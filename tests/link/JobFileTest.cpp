@@ -1,4 +1,5 @@
 #include "link/JobFile.h"
+
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -30,8 +31,7 @@ INSTANTIATE_TEST_SUITE_P(
                     NameRow{"EmptyThenFilled", "//NAME \n//NAME B\n", "B"},
                     NameRow{"Longer", "//NAMES WELD\n", ""},
                     NameRow{"NotAtTheStart", " //NAME WELD\n", ""},
-                    NameRow{"None", "/JOB\nNOP\n", ""},
-                    NameRow{"Empty", "", ""},
+                    NameRow{"None", "/JOB\nNOP\n", ""}, NameRow{"Empty", "", ""},
                     NameRow{"CodePage", "//NAME \x83\x5C\r\n", "\xE3\x82\xBD"},
                     NameRow{"Utf8", "//NAME \xE3\x82\xBD\r\n", "\xE3\x82\xBD"},
                     NameRow{"WithMark", "\xEF\xBB\xBF//NAME WELD\n", "WELD"}),
@@ -39,7 +39,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(JobFileTest, IsReadWholeFromTheDisk) {
     const tests::TemporaryFolder folder;
-    const auto path = folder.write("A.JBI", "/JOB\r\n//NAME WELD\r\n" + std::string(5'000'000, 'x'));
+    const auto path =
+        folder.write("A.JBI", "/JOB\r\n//NAME WELD\r\n" + std::string(5'000'000, 'x'));
     const auto file = JobFile::read(path);
     ASSERT_TRUE(file);
     EXPECT_EQ(file->name(), "WELD");

@@ -1,4 +1,5 @@
 #include "link/JobNameSet.h"
+
 #include "platform/TextCase.h"
 
 #include <gtest/gtest.h>

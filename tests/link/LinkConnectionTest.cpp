@@ -1,4 +1,5 @@
 #include "link/LinkConnection.h"
+
 #include "SessionWorld.h"
 #include "link/SessionErrorRecord.h"
 #include "platform/Files.h"
@@ -39,9 +40,9 @@ TEST_F(LinkConnectionTest, SerialLinkIsOpenedSetUpAndConnected) {
     properties.DataLen = 7;
     properties.StopBit = 2;
     EXPECT_EQ(link.connect(), 1);
-    EXPECT_THAT(world.library.trace(), ElementsAre("BscOpen(" + world.pc.path() + ", 1)",
-                                                   "BscSetCom(1, 1, 19200, 1, 7, 2)",
-                                                   "BscConnect(1)"));
+    EXPECT_THAT(world.library.trace(),
+                ElementsAre("BscOpen(" + world.pc.path() + ", 1)",
+                            "BscSetCom(1, 1, 19200, 1, 7, 2)", "BscConnect(1)"));
     EXPECT_EQ(world.dummyWindowsAsked, 0);
 }
 
@@ -88,8 +89,8 @@ struct RefusedStep {
     bool ethernet;
 };
 
-class RefusedStepTest : public LinkConnectionTest, public testing::WithParamInterface<RefusedStep> {
-};
+class RefusedStepTest : public LinkConnectionTest,
+                        public testing::WithParamInterface<RefusedStep> {};
 
 TEST_P(RefusedStepTest, ClosesTheHandleAndRecordsTheStepWithIndexZero) {
     if (GetParam().ethernet)
@@ -107,15 +108,13 @@ TEST_P(RefusedStepTest, ClosesTheHandleAndRecordsTheStepWithIndexZero) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Steps, RefusedStepTest,
-                         testing::Values(RefusedStep{"BscSetCom", false},
-                                         RefusedStep{"BscSetEther", true},
-                                         RefusedStep{"BscConnect", false},
-                                         RefusedStep{"BscConnect", true}),
-                         [](const auto& row) {
-                             return std::string(row.param.function) +
-                                    (row.param.ethernet ? "Ethernet" : "Serial");
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Steps, RefusedStepTest,
+    testing::Values(RefusedStep{"BscSetCom", false}, RefusedStep{"BscSetEther", true},
+                    RefusedStep{"BscConnect", false}, RefusedStep{"BscConnect", true}),
+    [](const auto& row) {
+        return std::string(row.param.function) + (row.param.ethernet ? "Ethernet" : "Serial");
+    });
 
 TEST_F(LinkConnectionTest, UnsetAddressClosesTellsAndLeavesTheRecordAlone) {
     useEthernet("0.0.0.0");

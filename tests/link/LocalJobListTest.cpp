@@ -1,4 +1,5 @@
 #include "link/LocalJobList.h"
+
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>

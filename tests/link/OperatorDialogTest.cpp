@@ -1,4 +1,5 @@
 #include "link/OperatorDialog.h"
+
 #include "link/ProgressPanel.h"
 #include "support/FakeMessageBoxes.h"
 #include "support/RecordingProgressView.h"

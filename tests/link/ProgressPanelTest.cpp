@@ -1,4 +1,5 @@
 #include "link/ProgressPanel.h"
+
 #include "support/RecordingProgressView.h"
 
 #include <gtest/gtest.h>

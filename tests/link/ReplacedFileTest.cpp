@@ -1,4 +1,5 @@
 #include "link/ReplacedFile.h"
+
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

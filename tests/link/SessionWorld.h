@@ -108,8 +108,8 @@ class SessionWorld {
 /// The calls that every operation on COM1 begins with.
 inline std::vector<std::string> opening(const SessionWorld& world, int handle) {
     const std::string number = std::to_string(handle);
-    return {"BscOpen(" + world.pc.path() + ", 1)",
-            "BscSetCom(" + number + ", 1, 9600, 2, 8, 0)", "BscConnect(" + number + ")"};
+    return {"BscOpen(" + world.pc.path() + ", 1)", "BscSetCom(" + number + ", 1, 9600, 2, 8, 0)",
+            "BscConnect(" + number + ")"};
 }
 
 /// One operation's link on COM1 with these calls in it, handle included.

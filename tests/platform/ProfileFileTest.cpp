@@ -3,6 +3,7 @@
 #include "platform/ProfileCases.h"
 #include "support/TemporaryFolder.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <unistd.h>
 

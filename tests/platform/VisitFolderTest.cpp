@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <map>
 #include <set>
 #include <sys/stat.h>

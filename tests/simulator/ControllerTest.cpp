@@ -77,6 +77,7 @@ TEST_F(ControllerTest, HandsOutByteForByteWhatItWasSent) {
 
     EXPECT_EQ(*controller().deliver("BYTES.JBI"), bytes);
     EXPECT_EQ(*controller().deliver("bytes.jbr"), bytes);
+    EXPECT_EQ(*controller().deliver("BYTES"), bytes);
     EXPECT_EQ(controller().deliver("OTHER.JBI").code(), code::notFound);
 }
 

@@ -23,36 +23,41 @@ class SimulatorScript : public SimulatorFixture {
     }
 };
 
-/// How one function is called on a connected link, and what it says when it did its work.
+/// What the functions write into.
+struct Buffers {
+    std::array<char, 255> entry{};
+    std::array<double, 10> numbers{};
+};
+
+/// How one function is called, and what it says when it did its work.
 struct FunctionCase {
     const char* name;
     std::int16_t success;
-    std::function<std::int16_t(Simulator&, std::int16_t)> call;
+    std::function<std::int16_t(Simulator&, std::int16_t, Buffers&)> call;
 };
 
 void PrintTo(const FunctionCase& each, std::ostream* out) {
     *out << each.name;
 }
 
-std::array<char, 255> entry{};
-std::array<double, 10> numbers{};
-
 const FunctionCase functionCases[] = {
-    {"BscSetCom", 1, [](auto& it, auto h) { return it.BscSetCom(h, 1, 9600, 2, 8, 0); }},
-    {"BscSetEther", 1, [](auto& it, auto h) { return it.BscSetEther(h, "10.0.0.1", 0); }},
-    {"BscConnect", 1, [](auto& it, auto h) { return it.BscConnect(h); }},
-    {"BscDisConnect", 1, [](auto& it, auto h) { return it.BscDisConnect(h); }},
-    {"BscClose", 0, [](auto& it, auto h) { return it.BscClose(h); }},
-    {"BscFindFirst", 0, [](auto& it, auto h) { return it.BscFindFirst(h, entry.data(), 255); }},
-    {"BscFindNext", 0, [](auto& it, auto h) { return it.BscFindNext(h, entry.data(), 255); }},
-    {"BscDownLoad", 0, [](auto& it, auto h) { return it.BscDownLoad(h, "WELD1.JBI"); }},
-    {"BscUpLoad", 0, [](auto& it, auto h) { return it.BscUpLoad(h, "A.JBI"); }},
-    {"BscSelectJob", 0, [](auto& it, auto h) { return it.BscSelectJob(h, "A"); }},
-    {"BscDeleteJob", 0, [](auto& it, auto h) { return it.BscDeleteJob(h); }},
+    {"BscSetCom", 1, [](auto& it, auto h, auto&) { return it.BscSetCom(h, 1, 9600, 2, 8, 0); }},
+    {"BscSetEther", 1, [](auto& it, auto h, auto&) { return it.BscSetEther(h, "10.0.0.1", 0); }},
+    {"BscConnect", 1, [](auto& it, auto h, auto&) { return it.BscConnect(h); }},
+    {"BscDisConnect", 1, [](auto& it, auto h, auto&) { return it.BscDisConnect(h); }},
+    {"BscClose", 0, [](auto& it, auto h, auto&) { return it.BscClose(h); }},
+    {"BscFindFirst", 0,
+     [](auto& it, auto h, auto& to) { return it.BscFindFirst(h, to.entry.data(), 255); }},
+    {"BscFindNext", 0,
+     [](auto& it, auto h, auto& to) { return it.BscFindNext(h, to.entry.data(), 255); }},
+    {"BscDownLoad", 0, [](auto& it, auto h, auto&) { return it.BscDownLoad(h, "WELD1.JBI"); }},
+    {"BscUpLoad", 0, [](auto& it, auto h, auto&) { return it.BscUpLoad(h, "A.JBI"); }},
+    {"BscSelectJob", 0, [](auto& it, auto h, auto&) { return it.BscSelectJob(h, "A"); }},
+    {"BscDeleteJob", 0, [](auto& it, auto h, auto&) { return it.BscDeleteJob(h); }},
     {"BscGetVarData", 0,
-     [](auto& it, auto h) { return it.BscGetVarData(h, 0, 1, numbers.data()); }},
+     [](auto& it, auto h, auto& to) { return it.BscGetVarData(h, 0, 1, to.numbers.data()); }},
     {"BscPutVarData", 0,
-     [](auto& it, auto h) { return it.BscPutVarData(h, 0, 1, numbers.data()); }},
+     [](auto& it, auto h, auto& to) { return it.BscPutVarData(h, 0, 1, to.numbers.data()); }},
 };
 
 /// Every function can be disturbed, by its own name and on its own count.
@@ -61,19 +66,22 @@ class DisturbedFunction : public SimulatorFixture,
 
 TEST_P(DisturbedFunction, FailsAtTheNamedCall) {
     script("1=" + std::string(GetParam().name) + " 1 fail 1234\r\n");
-    EXPECT_EQ(GetParam().call(library, open()), 1234);
-    EXPECT_NE(GetParam().call(library, open()), 1234);
+    Buffers buffers;
+    EXPECT_EQ(GetParam().call(library, open(), buffers), 1234);
+    EXPECT_NE(GetParam().call(library, open(), buffers), 1234);
 }
 
 TEST_P(DisturbedFunction, ReportsSuccessWithoutDoingAnything) {
     script("1=" + std::string(GetParam().name) + " 1+ nothing\r\n");
     open();
-    entry.fill('#');
-    numbers.fill(77);
-    EXPECT_EQ(GetParam().call(library, 0), GetParam().success) << "not even the handle counts";
+    Buffers buffers;
+    buffers.entry.fill('#');
+    buffers.numbers.fill(77);
+    EXPECT_EQ(GetParam().call(library, 0, buffers), GetParam().success)
+        << "not even the handle counts";
 
-    EXPECT_THAT(entry, Each('#'));
-    EXPECT_THAT(numbers, Each(77));
+    EXPECT_THAT(buffers.entry, Each('#'));
+    EXPECT_THAT(buffers.numbers, Each(77));
     EXPECT_TRUE(std::filesystem::is_empty(folder.path("robot")));
 }
 

@@ -20,6 +20,7 @@ namespace {
 constexpr std::int16_t accepted = 1;
 constexpr std::int16_t done = 0;
 constexpr std::int16_t endOfDirectory = -1;
+constexpr int mostEmptyEntries = 8;
 constexpr std::int16_t wrongUse = 1110;
 constexpr std::int16_t noSuchLine = 2040;
 
@@ -101,6 +102,7 @@ const std::string* FakeController::nameAfter(std::int64_t& place) const {
 
 void FakeZurolink::disturb(const Disturbance& disturbance) {
     disturbance_ = disturbance;
+    callsBefore_ = disturbance.function.empty() ? total_ : callCount(disturbance.function);
     strict_ = false;
 }
 
@@ -108,6 +110,7 @@ void FakeZurolink::forgetCalls() {
     calls_.clear();
     counts_.clear();
     total_ = 0;
+    callsBefore_ = 0;
 }
 
 std::vector<std::string> FakeZurolink::trace() const {
@@ -132,12 +135,17 @@ std::optional<std::int16_t> FakeZurolink::disturbed(const char* function,
                                                     std::int16_t success) const {
     if (!disturbance_ || (!disturbance_->function.empty() && disturbance_->function != function))
         return {};
-    const int count = disturbance_->function.empty() ? total_ : callCount(function);
-    const bool hit = count == disturbance_->call ||
-                     (disturbance_->fromThereOn && count > disturbance_->call);
+    const int count =
+        (disturbance_->function.empty() ? total_ : callCount(function)) - callsBefore_;
+    const bool hit =
+        count == disturbance_->call || (disturbance_->fromThereOn && count > disturbance_->call);
     if (!hit)
         return {};
-    return disturbance_->doNothing ? success : disturbance_->code;
+    if (!disturbance_->doNothing)
+        return disturbance_->code;
+    // A directory that is told without being read has to end some time.
+    const bool ends = count >= disturbance_->call + mostEmptyEntries;
+    return ends && startsWith(function, "BscFind") ? endOfDirectory : success;
 }
 
 std::int16_t FakeZurolink::perform(const char* function, const std::string& arguments,
@@ -150,14 +158,14 @@ std::int16_t FakeZurolink::perform(const char* function, const std::string& argu
     const auto instead = disturbed(function, success);
     const std::int16_t result = instead ? *instead : work();
     if (records_)
-        calls_.push_back({function, function + ("(" + arguments + ")"), result, instead.has_value()});
+        calls_.push_back(
+            {function, function + ("(" + arguments + ")"), result, instead.has_value()});
     return result;
 }
 
 std::int16_t FakeZurolink::onLink(const char* function, std::int16_t handle,
                                   const std::string& arguments, std::int16_t success,
-                                  bool connected,
-                                  const std::function<std::int16_t(Link&)>& work) {
+                                  bool connected, const std::function<std::int16_t(Link&)>& work) {
     const std::string all = arguments.empty() ? text(handle) : joined({text(handle), arguments});
     return perform(function, all, success, [&]() -> std::int16_t {
         const auto link = links_.find(handle);
@@ -242,6 +250,9 @@ std::int16_t FakeZurolink::BscFindFirst(std::int16_t handle, char* buffer, std::
 }
 
 std::int16_t FakeZurolink::BscFindNext(std::int16_t handle, char* buffer, std::int16_t length) {
+    const auto link = links_.find(handle);
+    if (!records_ && link != links_.end() && link->second.connected)
+        return writeEntry(link->second, buffer, length);
     return onLink("BscFindNext", handle, text(length), done, true,
                   [&](Link& link) { return writeEntry(link, buffer, length); });
 }

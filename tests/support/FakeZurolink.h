@@ -48,10 +48,10 @@ class FakeController {
 
 /// How calls are to go wrong.
 struct Disturbance {
-    std::string function;      ///< empty: calls are counted over all functions
-    int call = 1;              ///< the first call to be disturbed, counted from 1
-    bool fromThereOn = false;  ///< every later call too
-    bool doNothing = false;    ///< report success and do nothing, instead of failing with `code`
+    std::string function;     ///< empty: calls are counted over all functions
+    int call = 1;             ///< the first call to be disturbed, counted from 1 from now on
+    bool fromThereOn = false; ///< every later call too
+    bool doNothing = false;   ///< report success and do nothing, instead of failing with `code`
     std::int16_t code = -7;
 };
 
@@ -134,6 +134,7 @@ class FakeZurolink : public Zurolink {
     std::map<std::int16_t, Link> links_;
     std::int16_t lastHandle_ = 0;
     std::optional<Disturbance> disturbance_;
+    int callsBefore_ = 0; ///< the disturbance was ordered
     bool strict_ = true;
     bool records_ = true;
     std::vector<Call> calls_;

@@ -55,7 +55,7 @@ TEST_P(IconTest, CanBeSeenOnLightAndDarkToolBars) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Keys, IconTest, testing::ValuesIn(requiredKeys),
-                         [](const auto& info) { return std::string(info.param); });
+                         [](const auto& each) { return std::string(each.param); });
 
 TEST(IconSet, AnUnknownKeyGivesNoPicture) {
     EXPECT_FALSE(icon("unknown", wxSize(16, 16)).IsOk());
@@ -88,9 +88,9 @@ TEST(IconSet, FitTogetherOnOneSheet) {
             dc.DrawRectangle(side * half, 0, half, rows * rowHeight);
             for (int row = 0; row < rows; ++row)
                 for (int x = side * half + 8; const int size : sizes) {
-                    dc.DrawBitmap(icon(requiredKeys[row], wxSize(16, 16))
-                                      .GetBitmap(wxSize(size, size)),
-                                  x, row * rowHeight + 4, true);
+                    const wxSize square(size, size);
+                    dc.DrawBitmap(icon(requiredKeys[row], square).GetBitmap(square), x,
+                                  row * rowHeight + 4, true);
                     x += size + 10;
                 }
         }

@@ -1,6 +1,7 @@
 #include "ui/dialogs/ListFileDraft.h"
 
 #include "base/ApplicationState.h"
+#include "base/PathRules.h"
 #include "link/SessionWorld.h"
 #include "support/NamedRow.h"
 
@@ -18,8 +19,8 @@ class ListFileDraftTest : public testing::Test {
         state.PCPath = world.pc.path();
         world.session->path = "/elsewhere";
         std::vector<MessageEntry> entries;
-        for (const std::int16_t number : {19, 20, 21, 22, 23, 24, 45, 53, 325, 326})
-            entries.push_back({number, "", "text " + std::to_string(number)});
+        for (const int number : {19, 20, 21, 22, 23, 24, 45, 53, 325, 326})
+            entries.push_back({std::int16_t(number), "", "text " + std::to_string(number)});
         messages.replace(entries);
     }
 
@@ -124,7 +125,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(ListFileDraftTest, ShowsALongFolderShortenedAndKnowsTheWholeOne) {
     state.PCPath = "/" + std::string(60, 'a') + "/robot jobs";
-    EXPECT_EQ(draft(mark::saveJobs).shownFolder(), "robot jobs");
+    EXPECT_EQ(draft(mark::saveJobs).shownFolder(), PathRules().shorten(state.PCPath, 48));
+    EXPECT_LT(draft(mark::saveJobs).shownFolder().size(), 30U);
     EXPECT_EQ(draft(mark::saveJobs).folder(), state.PCPath);
 }
 

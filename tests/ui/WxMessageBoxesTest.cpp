@@ -8,9 +8,16 @@
 
 #include <wx/frame.h>
 #include <wx/msgdlg.h>
+#include <wx/timer.h>
 
 namespace vantrel::tests {
 namespace {
+
+/// Each system writes a caption's key in its own way.
+std::string withoutKey(std::string caption) {
+    std::erase_if(caption, [](char each) { return each == '&' || each == '_'; });
+    return caption;
+}
 
 class WxMessageBoxesTest : public DialogInLanguage {
   public:
@@ -51,8 +58,8 @@ TEST_P(WxMessageBoxesTest, AsksYesOrNoWithNoAsTheDefault) {
     EXPECT_TRUE(boxes.askYesNo("?", BoxIcon::Question));
     EXPECT_TRUE(style & wxNO_DEFAULT);
     EXPECT_TRUE(style & wxICON_QUESTION);
-    EXPECT_EQ(yes, messages.resourceMessage(30));
-    EXPECT_EQ(no, messages.resourceMessage(31));
+    EXPECT_EQ(withoutKey(yes), withoutKey(messages.resourceMessage(30)));
+    EXPECT_EQ(withoutKey(no), withoutKey(messages.resourceMessage(31)));
 }
 
 TEST_P(WxMessageBoxesTest, OnlyYesIsYesAndOnlyOKIsOK) {
@@ -100,17 +107,21 @@ TEST_P(WxMessageBoxesTest, NeverBelongsToAWindowThatComesAndGoes) {
     EXPECT_EQ(parent, nullptr);
 }
 
-TEST_P(WxMessageBoxesTest, IsClosedByItsRealKeys) {
-    for (const auto& [key, answer] : {std::pair(WXK_RETURN, false), std::pair(WXK_ESCAPE, false)}) {
-        bool seen = false;
-        script.act([&, pressed = key](wxDialog&) {
-            const auto active = [] { return wxGetActiveWindow() != nullptr; };
-            seen = true;
-            waitFor(active);
-            pressKey(pressed);
-        });
-        EXPECT_EQ(boxes.askYesNo(messages.getMessage(1) + " A&B 100%", BoxIcon::Question), answer);
-        EXPECT_TRUE(seen);
+/// Presses a key again and again until the box that takes it is gone.
+class PatientKey : public wxTimer {
+  public:
+    explicit PatientKey(int key) : key_(key) { Start(50); }
+    void Notify() override { pressKey(key_); }
+
+  private:
+    int key_;
+};
+
+TEST_P(WxMessageBoxesTest, EnterAndEscAreNo) {
+    for (const int key : {int(WXK_RETURN), int(WXK_ESCAPE)}) {
+        script.act([](wxDialog&) {});
+        const PatientKey pressed(key);
+        EXPECT_FALSE(boxes.askYesNo(messages.getMessage(1) + " A&B 100%", BoxIcon::Question));
     }
 }
 

@@ -23,6 +23,9 @@ class FrmMessage : public wxDialog {
     /// Shows the window and lets events run until it is painted; `yield` runs pending events once.
     void showPainted(const std::function<void()>& yield);
 
+    /// The program ends with its main window, not with this one.
+    bool ShouldPreventAppExit() const override { return false; }
+
   private:
     void buildControls(const std::string& body, const MessageTable& messages);
 

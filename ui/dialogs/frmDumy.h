@@ -12,6 +12,8 @@ class frmDumy : public wxDialog {
 
     /// The system's own handle of the window.
     void* handle() const;
+    /// The program ends with its main window, not with this one.
+    bool ShouldPreventAppExit() const override { return false; }
 };
 
 } // namespace vantrel

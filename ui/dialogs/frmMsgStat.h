@@ -32,6 +32,9 @@ class frmMsgStat : public wxDialog, public ProgressView {
     /// After a change of language or font: the texts and the font of the application state.
     void applyCaptions();
 
+    /// The program ends with its main window, not with this one.
+    bool ShouldPreventAppExit() const override { return false; }
+
   private:
     void buildControls();
     void bindEvents();

@@ -21,6 +21,9 @@ class frmVers : public wxDialog {
     /// Opens the window modally, also when it is visible already, in the language now in force.
     void openModal();
 
+    /// The program ends with its main window, not with this one.
+    bool ShouldPreventAppExit() const override { return false; }
+
   private:
     wxSizer* buildLabels(const std::string& version);
     void buildControls(const std::string& version);

@@ -1,0 +1,351 @@
+#include "app/MainCommands.h"
+
+#include "app/CommandStates.h"
+#include "app/MainWindowStart.h"
+#include "app/MainWindowView.h"
+#include "app/ModeCommands.h"
+#include "files/CommandFixture.h"
+
+#include <gmock/gmock.h>
+
+namespace vantrel::tests {
+namespace {
+
+using testing::ElementsAre;
+
+/// The main window without pixels: keeps what it was last told, and the order.
+class RecordingView : public MainWindowView {
+  public:
+    void applyFont() override { log.push_back("font"); }
+    void applyCaptions() override { log.push_back("captions"); }
+    void place(const std::array<std::int32_t, 8>& positions) override {
+        log.push_back("place " + std::to_string(positions[2]));
+    }
+    void showStates(const CommandStates& shown) override { states = shown; }
+    void showMode(const ModeLook& look) override {
+        mode = look;
+        log.push_back("mode " + look.caption);
+    }
+    void showActiveSide(ActiveSide side) override { active = side; }
+    void showSerialLine(const std::string& port, const std::string& format) override {
+        log.push_back("serial " + port + " " + format);
+    }
+    void showAddress(const std::string& shown) override { address = shown; }
+    void showFolder(const std::string& path) override { folder = path; }
+    void showView(ActiveSide side, std::int16_t type) override {
+        (side == ActiveSide::PC ? pcView : controllerView) = type;
+    }
+    void selectAll(ActiveSide side) override { selectedAll.push_back(side); }
+    std::optional<FileKind> focusedKind() const override { return kind; }
+    void closeWindow() override { ++closes; }
+
+    std::vector<std::string> log;
+    CommandStates states;
+    ModeLook mode;
+    ActiveSide active = ActiveSide::PC;
+    std::string address;
+    std::string folder;
+    int pcView = -1;
+    int controllerView = -1;
+    std::vector<ActiveSide> selectedAll;
+    std::optional<FileKind> kind = FileKind::JobFile;
+    int closes = 0;
+};
+
+class MainCommandsTest : public CommandFixture {
+  protected:
+    MainCommandsTest() {
+        state.StartupDone = true;
+        robot(); // the controller is there, with an empty directory
+    }
+
+    RecordingView view;
+    MainServices services{state, session, panes, commands, messages, dialog, window, view};
+    MainCommands main{services};
+};
+
+TEST_F(MainCommandsTest, CopyFollowsTheActivePane) {
+    pcJob("NEW");
+    robotJob("OLD");
+    showPanes();
+    window.pc.click({"NEW.JBI"});
+    main.menu({Menu::mnuFile, fileCopy});
+    EXPECT_EQ(robot().bytes("NEW.JBI"), job("NEW"));
+
+    main.activate(ActiveSide::Controller);
+    window.controller.click({"OLD.JBI"});
+    main.menu({Menu::mnuRightFile, fileCopy});
+    EXPECT_EQ(pc.read("OLD.JBI"), job("OLD"));
+}
+
+TEST_F(MainCommandsTest, ToolButtonsForwardByTheirKeys) {
+    showPanes();
+    main.tool("AllSelect");
+    EXPECT_THAT(view.selectedAll, ElementsAre(ActiveSide::PC));
+    main.tool("DispDetail");
+    EXPECT_EQ(view.pcView, 3);
+    main.tool("modeHiSpeed");
+    EXPECT_EQ(state.TransMode, TransferMode::HispeedLink);
+    main.tool("modeBsc");
+    EXPECT_EQ(state.TransMode, TransferMode::Bsc);
+}
+
+TEST_F(MainCommandsTest, AnotherKeyDoesNothing) {
+    const auto before = view.log;
+    main.tool("Nonsense");
+    EXPECT_EQ(view.log, before);
+    EXPECT_TRUE(library.calls().empty());
+}
+
+TEST_F(MainCommandsTest, ViewBelongsToTheActivePane) {
+    main.menu({Menu::mnuDisp, 3});
+    EXPECT_EQ(state.PCDispType, 3);
+    EXPECT_EQ(view.controllerView, -1);
+    main.activate(ActiveSide::Controller);
+    main.menu({Menu::mnuFileDisp, 2});
+    EXPECT_EQ(state.CtrlDispType, 2);
+    EXPECT_EQ(state.PCDispType, 3);
+    EXPECT_TRUE(view.states.mnuDisp[2].checked);
+    EXPECT_TRUE(view.states.mnuFileDisp[2].checked);
+}
+
+TEST_F(MainCommandsTest, SortOfOnePaneLeavesTheOther) {
+    state.PCListing.SortType = 0;
+    main.activate(ActiveSide::Controller);
+    main.menu({Menu::mnuSort, 2});
+    EXPECT_EQ(state.CtrlListing.SortType, 2);
+    EXPECT_EQ(state.PCListing.SortType, 0);
+}
+
+TEST_F(MainCommandsTest, SortKeepsTheSelectedNames) {
+    pc.write("A.JBI", std::string(9, 'x'));
+    pc.write("B.JBI", "x");
+    showPanes();
+    window.pc.click({"A.JBI"});
+    main.menu({Menu::mnuSort, 1});
+    EXPECT_THAT(window.pc.names, ElementsAre("B.JBI", "A.JBI"));
+    EXPECT_THAT(window.pc.selectedNames(), ElementsAre("A.JBI"));
+}
+
+TEST_F(MainCommandsTest, SwitchingTheModeEmptiesTheControllerPaneWithoutAConnection) {
+    robotJob("OLD");
+    showPanes();
+    main.menu({Menu::mnuModeHiSpeed, 0});
+    EXPECT_TRUE(window.controller.names.empty());
+    EXPECT_EQ(window.controllerStatus, "Controller: 0 items");
+    EXPECT_TRUE(library.calls().empty());
+    EXPECT_TRUE(view.states.mnuModeHiSpeed.checked);
+    EXPECT_FALSE(view.states.mnuModeBsc.checked);
+}
+
+TEST_F(MainCommandsTest, ChoosingTheModeThatIsOnKeepsTheList) {
+    robotJob("OLD");
+    showPanes();
+    main.menu({Menu::mnuModeBsc, 0});
+    EXPECT_THAT(window.controller.names, testing::Contains("OLD.JBI"));
+}
+
+TEST_F(MainCommandsTest, AModeThatWasSetByNameIsShownAndEmptiesTheList) {
+    robotJob("OLD");
+    main.mnuModeBsc();
+    showPanes();
+    session.SetTansMode(1);
+    main.modeWasChanged();
+    EXPECT_TRUE(view.mode.showsRobot);
+    EXPECT_TRUE(window.controller.names.empty());
+}
+
+TEST_F(MainCommandsTest, AModelWithoutTheLinkLeavesTheMode) {
+    state.Controler = 1;
+    state.TransMode = TransferMode::HispeedLink;
+    main.applyHispeedAvailability();
+    EXPECT_EQ(state.TransMode, TransferMode::Bsc);
+    EXPECT_TRUE(view.mode.showsSerialLine);
+    EXPECT_FALSE(view.states.mnuModeHiSpeed.enabled);
+    EXPECT_FALSE(view.states.button("modeHiSpeed").enabled);
+}
+
+TEST_F(MainCommandsTest, RefreshReadsTheControllerAndKeepsTheSelection) {
+    robotJob("A");
+    robotJob("B");
+    showPanes();
+    main.activate(ActiveSide::Controller);
+    window.controller.click({"B.JBI"});
+    robotJob("AA");
+    main.menu({Menu::mnuRefresh, 0});
+    EXPECT_THAT(window.controller.names, testing::IsSupersetOf({"A.JBI", "AA.JBI", "B.JBI"}));
+    EXPECT_THAT(window.controller.selectedNames(), ElementsAre("B.JBI"));
+    expectLeftInOrder();
+}
+
+TEST_F(MainCommandsTest, AFailedRefreshSaysSoAndKeepsTheOldList) {
+    robotJob("A");
+    showPanes();
+    main.activate(ActiveSide::Controller);
+    library.disturb({"BscConnect", 1, false, false, 2000});
+    main.menu({Menu::mnuRefresh, 0});
+    EXPECT_THAT(boxes.texts(), ElementsAre("not read"));
+    EXPECT_THAT(window.controller.names, testing::Contains("A.JBI"));
+    EXPECT_EQ(state.CtrlListing.Names.front(), "A.JBI");
+    expectLeftInOrder();
+}
+
+TEST_F(MainCommandsTest, AnUnsetAddressIsToldOnce) {
+    state.TransMode = TransferMode::HispeedLink;
+    session.IPaddress = "0.0.0.0";
+    main.activate(ActiveSide::Controller);
+    main.menu({Menu::mnuRefresh, 0});
+    EXPECT_THAT(boxes.texts(), ElementsAre("address unset"));
+    expectLeftInOrder();
+}
+
+TEST_F(MainCommandsTest, RefreshOfThePCShowsNewFilesAndKeepsTheSelection) {
+    pcJob("A");
+    pcJob("B");
+    showPanes();
+    window.pc.click({"B.JBI"});
+    pcJob("AA");
+    main.menu({Menu::mnuRightRefresh, 0});
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI", "AA.JBI", "B.JBI"));
+    EXPECT_THAT(window.pc.selectedNames(), ElementsAre("B.JBI"));
+    EXPECT_TRUE(library.calls().empty());
+}
+
+TEST_F(MainCommandsTest, AFolderThatIsGoneIsToldAndNothingChanges) {
+    pcJob("A");
+    showPanes();
+    main.openPCFolder(pc.path("missing"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("File Get Error!!"));
+    EXPECT_EQ(state.PCPath, pc.path());
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+}
+
+TEST_F(MainCommandsTest, UpOpensTheFolderAbove) {
+    state.PCPath = pc.makeFolder("inner");
+    main.tool("UpFolder");
+    EXPECT_EQ(state.PCPath, pc.path());
+    EXPECT_EQ(view.folder, pc.path());
+    EXPECT_THAT(window.pc.names, ElementsAre("inner"));
+}
+
+TEST_F(MainCommandsTest, UpStaysAtTheRoot) {
+    state.PCPath = "/";
+    main.tool("UpFolder");
+    EXPECT_EQ(state.PCPath, "/");
+    EXPECT_EQ(window.pc.shows, 0);
+}
+
+TEST_F(MainCommandsTest, KeysOfTheLists) {
+    pcJob("A");
+    state.PCPath = pc.makeFolder("inner");
+    EXPECT_TRUE(main.listKey(ActiveSide::PC, 'A', true));
+    EXPECT_THAT(view.selectedAll, ElementsAre(ActiveSide::PC));
+    EXPECT_FALSE(main.listKey(ActiveSide::PC, 'A', false));
+    constexpr int backspace = 8;
+    EXPECT_FALSE(main.listKey(ActiveSide::Controller, backspace, false));
+    EXPECT_TRUE(main.listKey(ActiveSide::PC, backspace, false));
+    EXPECT_EQ(state.PCPath, pc.path());
+}
+
+TEST_F(MainCommandsTest, DeleteKeyDeletesOnlyWhereTheCommandIsOffered) {
+    constexpr int deleteKey = 127;
+    robotJob("OLD");
+    showPanes();
+    main.activate(ActiveSide::Controller);
+    window.controller.click({"OLD.JBI"});
+    window.controllerFilter = 1;
+    EXPECT_FALSE(main.listKey(ActiveSide::Controller, deleteKey, false));
+    EXPECT_TRUE(robot().has("OLD.JBI"));
+    window.controllerFilter = 0;
+    question.answers = {Answer::Yes};
+    EXPECT_TRUE(main.listKey(ActiveSide::Controller, deleteKey, false));
+    EXPECT_FALSE(robot().has("OLD.JBI"));
+}
+
+TEST_F(MainCommandsTest, AnotherFilterRefillsItsPaneOnly) {
+    pcJob("A");
+    pc.write("B.DAT", "x");
+    robotJob("OLD");
+    showPanes();
+    const int controllerShows = window.controller.shows;
+    window.pcFilter = 0;
+    main.chooseFilter(ActiveSide::PC);
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+    EXPECT_EQ(window.pcStatus, "PC: 1 items");
+    EXPECT_EQ(window.controller.shows, controllerShows);
+}
+
+TEST_F(MainCommandsTest, EndAsksTheWindowToClose) {
+    EXPECT_TRUE(main.menu({Menu::mnuEnd, 0}));
+    EXPECT_EQ(view.closes, 1);
+}
+
+TEST_F(MainCommandsTest, EntriesOfOtherDialogsAreNotItsOwn) {
+    EXPECT_FALSE(main.menu({Menu::mnuOpt, 7}));
+    EXPECT_FALSE(main.menu({Menu::mnuVer, 0}));
+}
+
+class MainWindowStartTest : public MainCommandsTest {
+  protected:
+    MainWindowStartTest() {
+        state.StartupDone = false;
+        state.WindowPos[2] = 9720;
+        panes.fillFilterChoices();
+    }
+    void start() { startMainWindow(services, main); }
+};
+
+TEST_F(MainWindowStartTest, DressesAndPlacesTheWindowBeforeItShowsAnything) {
+    start();
+    EXPECT_THAT(view.log,
+                ElementsAre("font", "serial COM1: 9600bps DataLength:8  Parity:EVEN  StopBit:1",
+                            "captions", "place 9720", "mode Vantrel  --  --"));
+}
+
+TEST_F(MainWindowStartTest, ListsTheStoredFolderWithItsCount) {
+    pcJob("A");
+    start();
+    EXPECT_EQ(view.folder, pc.path());
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+    EXPECT_EQ(window.pcStatus, "PC: 1 items");
+}
+
+TEST_F(MainWindowStartTest, AppliesBothViewsAndLeavesThePCPaneActive) {
+    state.PCDispType = 3;
+    state.CtrlDispType = 2;
+    start();
+    EXPECT_EQ(view.pcView, 3);
+    EXPECT_EQ(view.controllerView, 2);
+    EXPECT_EQ(state.Active, ActiveSide::PC);
+    EXPECT_EQ(view.active, ActiveSide::PC);
+    EXPECT_TRUE(view.states.button("DispDetail").checked);
+}
+
+TEST_F(MainWindowStartTest, AStoredHighSpeedModeIsRestored) {
+    state.TransMode = TransferMode::HispeedLink;
+    state.CurrentRobot.IPaddr = "10.0.0.1";
+    start();
+    EXPECT_TRUE(view.mode.showsRobot);
+    EXPECT_EQ(view.address, "10.0.0.1");
+    EXPECT_EQ(state.TransMode, TransferMode::HispeedLink);
+}
+
+TEST_F(MainWindowStartTest, AFolderThatIsGoneOpensTheNearestOneAboveAndSaysSo) {
+    pcJob("A");
+    state.PCPath = pc.path("gone/deeper");
+    start();
+    EXPECT_EQ(state.PCPath, pc.path());
+    EXPECT_EQ(boxes.texts().size(), 1u);
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+}
+
+TEST_F(MainWindowStartTest, AListThatWasReadBeforeStays) {
+    robotJob("OLD");
+    ASSERT_TRUE(panes.readController());
+    panes.fill(ActiveSide::Controller);
+    start();
+    EXPECT_THAT(window.controller.names, testing::Contains("OLD.JBI"));
+}
+
+} // namespace
+} // namespace vantrel::tests

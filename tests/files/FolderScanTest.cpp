@@ -1,0 +1,69 @@
+#include "files/FolderScan.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <limits>
+
+namespace vantrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+TEST(FolderScan, ListsFilesAndFoldersButNotTheFolderItselfAndItsParent) {
+    const tests::TemporaryFolder folder;
+    folder.write("A.JBI", "123");
+    folder.write(".hidden", "");
+    folder.makeFolder("SUB");
+    const auto listing = scanFolder(folder.path());
+    ASSERT_TRUE(listing);
+    EXPECT_EQ(listing->Count, 3);
+    EXPECT_EQ(listing->Path, folder.path());
+    EXPECT_THAT(listing->Names, UnorderedElementsAre("A.JBI", ".hidden", "SUB"));
+}
+
+TEST(FolderScan, AFileBeyondTheSizesRangeShowsTheLargestSize) {
+    const tests::TemporaryFolder folder;
+    const std::string file = folder.write("BIG.DAT", "");
+    std::filesystem::resize_file(file, 5'000'000'000); // sparse: takes no room
+    const auto listing = scanFolder(folder.path());
+    ASSERT_TRUE(listing);
+    EXPECT_THAT(listing->Sizes, ElementsAre(std::numeric_limits<std::int32_t>::max()));
+}
+
+TEST(FolderScan, ADanglingLinkDoesNotStopTheScan) {
+    const tests::TemporaryFolder folder;
+    folder.write("A.JBI", "");
+    std::error_code refused;
+    std::filesystem::create_symlink(folder.path("MISSING"), folder.path("LINK.JBI"), refused);
+    if (refused)
+        GTEST_SKIP() << "this system lets no one make links";
+    const auto listing = scanFolder(folder.path());
+    ASSERT_TRUE(listing);
+    EXPECT_THAT(listing->Names, UnorderedElementsAre("A.JBI", "LINK.JBI"));
+}
+
+TEST(FolderScan, AnEmptyFolderGivesAnEmptyListing) {
+    const tests::TemporaryFolder folder;
+    const auto listing = scanFolder(folder.path());
+    ASSERT_TRUE(listing);
+    EXPECT_EQ(listing->Count, 0);
+    EXPECT_THAT(listing->Names, IsEmpty());
+}
+
+TEST(FolderScan, AFolderThatCannotBeOpenedGivesTheSystemsReason) {
+    const tests::TemporaryFolder folder;
+    const auto missing = scanFolder(folder.path("MISSING"));
+    ASSERT_FALSE(missing);
+    EXPECT_FALSE(missing.reason().empty());
+    EXPECT_FALSE(scanFolder(folder.write("A.JBI", "")));
+    EXPECT_FALSE(scanFolder(""));
+}
+
+} // namespace
+} // namespace vantrel

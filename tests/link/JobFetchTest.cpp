@@ -1,0 +1,174 @@
+#include "link/JobFetch.h"
+
+#include "SessionWorld.h"
+
+#include <filesystem>
+
+namespace vantrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using tests::SessionWorld;
+
+struct JobFetchTest : testing::Test {
+    SessionWorld world;
+    const std::string weld = SessionWorld::job("WELD");
+
+    JobFetchTest() { world.controller().put("WELD.JBI", weld); }
+
+    bool fetch(const std::string& name, bool overwriteAll = false) {
+        return world.session->JobUpLoad(name, overwriteAll);
+    }
+
+    std::size_t fileCount() const {
+        const std::filesystem::directory_iterator files(world.pc.path());
+        return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+    }
+};
+
+TEST_F(JobFetchTest, AJobArrivesByteForByteWithoutReadingTheDirectory) {
+    EXPECT_TRUE(fetch("WELD.JBI"));
+    EXPECT_EQ(world.pc.read("WELD.JBI"), weld);
+    EXPECT_EQ(world.library.trace(), tests::wholeLink(world, 1, {"BscUpLoad(1, WELD.JBI)"}));
+    EXPECT_THAT(world.question.questions, IsEmpty());
+}
+
+TEST_F(JobFetchTest, AnExistingFileIsAskedForAndReplaced) {
+    world.pc.write("WELD.JBI", "old");
+    world.question.answers = {Answer::Yes};
+    EXPECT_TRUE(fetch("WELD.JBI"));
+    EXPECT_THAT(world.question.questions, ElementsAre("WELD.JBI already exists. Overwrite it?"));
+    EXPECT_EQ(world.pc.read("WELD.JBI"), weld);
+    EXPECT_EQ(fileCount(), 1u);
+    EXPECT_EQ(world.error(), " 0 0");
+}
+
+struct AnswerRow {
+    const char* label;
+    Answer answer;
+    bool result;
+    const char* error;
+    bool replaced;
+};
+
+class FetchAnswerTest : public JobFetchTest, public testing::WithParamInterface<AnswerRow> {};
+
+TEST_P(FetchAnswerTest, DecidesAboutTheExistingFile) {
+    world.pc.write("WELD.JBI", "old");
+    world.question.answers = {GetParam().answer};
+    EXPECT_EQ(fetch("WELD.JBI"), GetParam().result);
+    EXPECT_EQ(world.error(), GetParam().error);
+    EXPECT_EQ(world.pc.read("WELD.JBI"), GetParam().replaced ? weld : "old");
+    EXPECT_EQ(world.library.callCount(), GetParam().replaced ? 6 : 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, FetchAnswerTest,
+                         testing::Values(AnswerRow{"Yes", Answer::Yes, true, " 0 0", true},
+                                         AnswerRow{"No", Answer::No, false, " 4 0", false},
+                                         AnswerRow{"All", Answer::All, true, " 5 0", true},
+                                         AnswerRow{"Cancel", Answer::Cancel, false, " 3 0", false}),
+                         [](const auto& row) { return row.param.label; });
+
+TEST_F(JobFetchTest, OverwriteAllReplacesWithoutAsking) {
+    world.pc.write("WELD.JBI", "old");
+    EXPECT_TRUE(fetch("WELD.JBI", true));
+    EXPECT_THAT(world.question.questions, IsEmpty());
+    EXPECT_EQ(world.pc.read("WELD.JBI"), weld);
+}
+
+TEST_F(JobFetchTest, WithTheMonitorOffAnExistingFileIsKept) {
+    world.pc.write("WELD.JBI", "old");
+    world.session->DisplayMonitor = false;
+    EXPECT_FALSE(fetch("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 3 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+}
+
+TEST_F(JobFetchTest, ExistingFilesAreFoundByNormalisedName) {
+    world.pc.write("weld.jbi", "old");
+    world.question.answers = {Answer::No};
+    EXPECT_FALSE(fetch("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 4 0");
+}
+
+TEST_F(JobFetchTest, AnotherExtensionIsAnotherFile) {
+    world.pc.write("WELD.JBI", "old");
+    EXPECT_TRUE(fetch("WELD.JBR"));
+    EXPECT_THAT(world.question.questions, IsEmpty());
+    EXPECT_EQ(world.pc.read("WELD.JBR"), weld);
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+}
+
+TEST_F(JobFetchTest, AFailedFetchLeavesTheOldFileThere) {
+    world.pc.write("WELD.JBI", "old");
+    world.library.disturb({.function = "BscUpLoad", .code = 2020});
+    EXPECT_FALSE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.error(), "BscUpLoad 2020 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+    EXPECT_EQ(fileCount(), 1u);
+}
+
+TEST_F(JobFetchTest, APartialFileIsRemoved) {
+    world.library.disturb({.function = "BscUpLoad", .code = 2020});
+    world.library.onCall = [this](const std::string& function) {
+        if (function == "BscUpLoad")
+            world.pc.write("WELD.JBI", "par");
+    };
+    EXPECT_FALSE(fetch("WELD.JBI"));
+    EXPECT_EQ(fileCount(), 0u);
+}
+
+TEST_F(JobFetchTest, AFetchThatBringsNothingIsAFailure) {
+    world.pc.write("WELD.JBI", "old");
+    world.library.disturb({.function = "BscUpLoad", .doNothing = true});
+    EXPECT_FALSE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.error(), "BscUpLoad 25 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+}
+
+TEST_F(JobFetchTest, ALinkThatWillNotCloseCountsAsAFailedFetch) {
+    world.pc.write("WELD.JBI", "old");
+    world.library.disturb({.function = "BscDisConnect", .code = -3});
+    EXPECT_FALSE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.error(), "BscDisConnect -3 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+}
+
+TEST_F(JobFetchTest, AFileThatCannotBeSetAsideIsNotRisked) {
+    const std::string name = std::string(250, 'A') + ".JBI";
+    world.pc.write(name, "old");
+    EXPECT_FALSE(fetch(name, true));
+    EXPECT_EQ(world.error(), " 26 0");
+    EXPECT_EQ(world.library.callCount("BscUpLoad"), 0);
+    EXPECT_EQ(world.library.openLinks(), 0);
+}
+
+TEST_F(JobFetchTest, NothingIsFetchedIntoAFolderThatCannotBeListed) {
+    world.session->path = world.pc.path("nowhere");
+    EXPECT_FALSE(fetch("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 21 0");
+    EXPECT_EQ(world.library.callCount(), 0);
+}
+
+TEST_F(JobFetchTest, NamesThatAreNotPlainOpenNoLinkAndTouchNoFile) {
+    for (const char* name : {"../WELD.JBI", "a\\b.JBI", "A:B.JBI", "NUL"}) {
+        EXPECT_FALSE(fetch(name, true));
+        EXPECT_EQ(world.error(), " 23 0");
+    }
+    EXPECT_FALSE(fetch("\xED\x95\x9C.JBI"));
+    EXPECT_EQ(world.error(), "BscUpLoad 20 0");
+    EXPECT_EQ(world.library.callCount(), 0);
+    EXPECT_EQ(fileCount(), 0u);
+}
+
+TEST_F(JobFetchTest, ProgressShowsTheNameWithoutCancel) {
+    EXPECT_TRUE(fetch("WELD.JBI"));
+    EXPECT_THAT(world.view.messages(), ElementsAre("Transferring WELD.JBI"));
+    EXPECT_FALSE(world.panel.cancelButtonShown());
+    EXPECT_TRUE(world.panel.barShown());
+    EXPECT_FALSE(world.panel.isVisible());
+}
+
+} // namespace
+} // namespace vantrel

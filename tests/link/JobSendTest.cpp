@@ -1,0 +1,263 @@
+#include "link/JobSend.h"
+
+#include "SessionWorld.h"
+
+namespace vantrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using tests::SessionWorld;
+
+struct JobSendTest : testing::Test {
+    SessionWorld world;
+    const std::string weld = SessionWorld::job("WELD");
+    const std::string older = SessionWorld::job("WELD", "OLD");
+
+    JobSendTest() { world.pc.write("WELD.JBI", weld); }
+
+    bool send(const std::string& file, bool overwriteAll = false) {
+        return world.session->JobDownLoad(file, overwriteAll);
+    }
+
+    /// The directory's link with that many entries, as number `handle`.
+    std::vector<std::string> directory(int handle, int entries) const {
+        const std::string arguments = "(" + std::to_string(handle) + ", 255)";
+        std::vector<std::string> calls{"BscFindFirst" + arguments};
+        for (int i = 0; i < entries; ++i)
+            calls.push_back("BscFindNext" + arguments);
+        return tests::wholeLink(world, handle, calls);
+    }
+};
+
+TEST_F(JobSendTest, ANewJobArrivesByteForByte) {
+    EXPECT_TRUE(send("WELD.JBI"));
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
+    EXPECT_EQ(world.library.trace(),
+              tests::inOrder(
+                  {directory(1, 0), tests::wholeLink(world, 2, {"BscDownLoad(2, WELD.JBI)"})}));
+    EXPECT_THAT(world.question.questions, IsEmpty());
+    EXPECT_EQ(world.error(), " 0 0");
+}
+
+TEST_F(JobSendTest, AnExistingJobIsAskedForDeletedAndSent) {
+    world.controller().put("WELD.JBI", older);
+    world.question.answers = {Answer::Yes};
+    EXPECT_TRUE(send("WELD.JBI"));
+    EXPECT_THAT(world.question.questions, ElementsAre("WELD.JBI already exists. Overwrite it?"));
+    EXPECT_THAT(world.question.titles, ElementsAre("Snappy"));
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
+    EXPECT_EQ(world.library.trace(),
+              tests::inOrder(
+                  {directory(1, 1),
+                   tests::wholeLink(world, 2, {"BscSelectJob(2, WELD.JBI)", "BscDeleteJob(2)"}),
+                   tests::wholeLink(world, 3, {"BscDownLoad(3, WELD.JBI)"})}));
+}
+
+TEST_F(JobSendTest, RefusedOverwriteKeepsTheControllersJob) {
+    world.controller().put("WELD.JBI", older);
+    world.question.answers = {Answer::No};
+    EXPECT_FALSE(send("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 4 0");
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), older);
+    EXPECT_EQ(world.library.trace(), directory(1, 1));
+}
+
+TEST_F(JobSendTest, CancelledOverwriteKeepsTheControllersJob) {
+    world.controller().put("WELD.JBI", older);
+    world.question.answers = {Answer::Cancel};
+    EXPECT_FALSE(send("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 3 0");
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), older);
+}
+
+TEST_F(JobSendTest, TheAnswerAllSendsAndTellsTheCaller) {
+    world.controller().put("WELD.JBI", older);
+    world.question.answers = {Answer::All};
+    EXPECT_TRUE(send("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 5 0");
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
+}
+
+TEST_F(JobSendTest, OverwriteAllDeletesWithoutAsking) {
+    world.controller().put("WELD.JBI", older);
+    EXPECT_TRUE(send("WELD.JBI", true));
+    EXPECT_THAT(world.question.questions, IsEmpty());
+    EXPECT_EQ(world.library.callCount("BscDeleteJob"), 1);
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
+    EXPECT_EQ(world.error(), " 0 0");
+}
+
+TEST_F(JobSendTest, WithTheMonitorOffTheQuestionAnswersCancelAndShowsNothing) {
+    world.controller().put("WELD.JBI", older);
+    world.session->DisplayMonitor = false;
+    EXPECT_FALSE(send("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 3 0");
+    EXPECT_THAT(world.question.questions, IsEmpty());
+    EXPECT_THAT(world.view.pictures, IsEmpty());
+    EXPECT_EQ(world.view.yields, 0);
+}
+
+TEST_F(JobSendTest, ACommandsCancelMarkIsNotTheSessionsWhileTheMonitorIsOff) {
+    world.session->DisplayMonitor = false;
+    world.panel.show("command");
+    world.panel.pressCancel();
+    EXPECT_TRUE(send("WELD.JBI"));
+    EXPECT_TRUE(world.panel.isCancelled());
+    EXPECT_TRUE(world.panel.isVisible());
+}
+
+TEST_F(JobSendTest, JobsAreFoundByNormalisedName) {
+    world.controller().put("WELD.JBI", older);
+    world.pc.write("weld.jbi", weld);
+    world.question.answers = {Answer::No};
+    EXPECT_FALSE(send("weld.jbi"));
+    EXPECT_THAT(world.question.questions, ElementsAre("weld.jbi already exists. Overwrite it?"));
+}
+
+TEST_F(JobSendTest, ARelatedJobFileAsksForTheJobButDeletesNothing) {
+    world.controller().put("WELD.JBI", older);
+    world.pc.write("WELD.JBR", weld);
+    world.question.answers = {Answer::Yes};
+    EXPECT_TRUE(send("WELD.JBR"));
+    EXPECT_THAT(world.question.questions, ElementsAre("WELD.JBR already exists. Overwrite it?"));
+    EXPECT_EQ(world.library.callCount("BscSelectJob"), 0);
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
+}
+
+TEST_F(JobSendTest, DataFilesAreSentWithoutAQuestion) {
+    world.controller().put("TOOL.CND", "old");
+    world.pc.write("TOOL.CND", "new");
+    EXPECT_TRUE(send("TOOL.CND"));
+    EXPECT_THAT(world.question.questions, IsEmpty());
+    EXPECT_EQ(world.controller().bytes("TOOL.CND"), "new");
+}
+
+TEST_F(JobSendTest, ADataFileOfTheSameBaseNameIsNotInTheWay) {
+    world.controller().put("WELD.CND", "x");
+    EXPECT_TRUE(send("WELD.JBI"));
+    EXPECT_THAT(world.question.questions, IsEmpty());
+}
+
+TEST_F(JobSendTest, AJobNamedInsideTheFileIsAskedForToo) {
+    world.controller().put("WELD.JBI", older);
+    world.pc.write("COPY.JBI", weld);
+    world.question.answers = {Answer::Yes};
+    EXPECT_TRUE(send("COPY.JBI"));
+    EXPECT_THAT(world.question.questions, ElementsAre("WELD.JBI already exists. Overwrite it?"));
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
+}
+
+TEST_F(JobSendTest, BothNamesAreAskedForBeforeAnythingIsDeleted) {
+    world.controller().put("WELD.JBI", older);
+    world.controller().put("COPY.JBI", SessionWorld::job("COPY"));
+    world.pc.write("COPY.JBI", weld);
+    world.question.answers = {Answer::Yes, Answer::No};
+    EXPECT_FALSE(send("COPY.JBI"));
+    EXPECT_EQ(world.question.questions.size(), 2u);
+    EXPECT_EQ(world.library.callCount("BscDeleteJob"), 0);
+    EXPECT_EQ(world.error(), " 4 0");
+}
+
+TEST_F(JobSendTest, TheAnswerAllCoversTheJobNamedInsideToo) {
+    world.controller().put("WELD.JBI", older);
+    world.controller().put("COPY.JBI", SessionWorld::job("COPY"));
+    world.pc.write("COPY.JBI", weld);
+    world.question.answers = {Answer::All};
+    EXPECT_TRUE(send("COPY.JBI"));
+    EXPECT_EQ(world.question.questions.size(), 1u);
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
+    EXPECT_EQ(world.error(), " 5 0");
+}
+
+TEST_F(JobSendTest, AnUnreadableFileIsFoundBeforeTheOldJobIsDeletedOrAskedFor) {
+    world.controller().put("GONE.JBI", older);
+    EXPECT_FALSE(send("GONE.JBI", true));
+    EXPECT_EQ(world.error(), " 21 0");
+    EXPECT_TRUE(world.controller().has("GONE.JBI"));
+    EXPECT_EQ(world.library.callCount("BscSelectJob"), 0);
+}
+
+TEST_F(JobSendTest, TheFileIsReadFromTheSessionsFolderAndNotFromTheCurrentOne) {
+    world.program.write("OTHER.JBI", weld);
+    EXPECT_FALSE(send("OTHER.JBI"));
+    EXPECT_EQ(world.error(), " 21 0");
+}
+
+TEST_F(JobSendTest, AFailedDeletionEndsTheSend) {
+    world.controller().put("WELD.JBI", older);
+    world.library.disturb({.function = "BscDeleteJob", .code = 1210});
+    EXPECT_FALSE(send("WELD.JBI", true));
+    EXPECT_EQ(world.error(), "BscDeleteJob 1210 0");
+    EXPECT_EQ(world.library.callCount("BscDownLoad"), 0);
+}
+
+TEST_F(JobSendTest, AFailedTransferIsRecordedAndTheLinkClosed) {
+    world.library.disturb({.function = "BscDownLoad", .code = 1400});
+    EXPECT_FALSE(send("WELD.JBI"));
+    EXPECT_EQ(world.error(), "BscDownLoad 1400 0");
+    EXPECT_EQ(world.library.openLinks(), 0);
+    EXPECT_FALSE(world.panel.isVisible());
+}
+
+TEST_F(JobSendTest, ALinkThatWillNotCloseCountsAsAFailedSend) {
+    world.library.disturb({.function = "BscDisConnect", .call = 2, .code = -3});
+    EXPECT_FALSE(send("WELD.JBI"));
+    EXPECT_EQ(world.error(), "BscDisConnect -3 0");
+}
+
+TEST_F(JobSendTest, AFailedDirectorySendsNothing) {
+    world.library.disturb({.function = "BscFindFirst", .code = 2020});
+    EXPECT_FALSE(send("WELD.JBI"));
+    EXPECT_EQ(world.error(), "BscFind 2020 0");
+    EXPECT_EQ(world.library.callCount("BscDownLoad"), 0);
+}
+
+TEST_F(JobSendTest, NamesThatAreNotPlainOpenNoLink) {
+    world.pc.write("sub/A.JBI", weld);
+    for (const char* name : {"sub/A.JBI", "..\\A.JBI", "A?.JBI", "CON.JBI"}) {
+        EXPECT_FALSE(send(name));
+        EXPECT_EQ(world.error(), " 23 0");
+    }
+    EXPECT_FALSE(send("\xED\x95\x9C.JBI"));
+    EXPECT_EQ(world.error(), "BscDownLoad 20 0");
+    EXPECT_EQ(world.library.callCount(), 0);
+}
+
+TEST_F(JobSendTest, NamesReachTheLibraryInItsCodePage) {
+    world.pc.write("\xE3\x82\xBD.JBI", SessionWorld::job("\xE3\x82\xBD"));
+    EXPECT_TRUE(send("\xE3\x82\xBD.JBI"));
+    EXPECT_TRUE(world.controller().has("\xE3\x82\xBD.JBI"));
+}
+
+TEST_F(JobSendTest, ProgressShowsTheNameWithBarAndWithoutCancel) {
+    world.controller().put("WELD.JBI", older);
+    EXPECT_TRUE(send("WELD.JBI", true));
+    EXPECT_THAT(world.view.messages(),
+                ElementsAre("Transferring WELD.JBI", "Deleting WELD.JBI", "Transferring WELD.JBI"));
+    for (const auto& picture : world.view.pictures)
+        if (picture.visible) {
+            EXPECT_TRUE(picture.bar);
+            EXPECT_FALSE(picture.cancelButton);
+            EXPECT_EQ(picture.waitingFor, "waiting");
+        }
+    EXPECT_FALSE(world.panel.isVisible());
+}
+
+TEST_F(JobSendTest, ProgressStaysOpenFromTheNestedDeletionToTheSend) {
+    world.controller().put("WELD.JBI", older);
+    bool visibleAtSend = false;
+    world.library.onCall = [&](const std::string& function) {
+        if (function == "BscDownLoad")
+            visibleAtSend = world.panel.isVisible();
+    };
+    int hidden = 0;
+    EXPECT_TRUE(send("WELD.JBI", true));
+    for (const auto& picture : world.view.pictures)
+        hidden += picture.visible ? 0 : 1;
+    EXPECT_TRUE(visibleAtSend);
+    EXPECT_EQ(hidden, 1);
+}
+
+} // namespace
+} // namespace vantrel

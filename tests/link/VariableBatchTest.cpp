@@ -1,0 +1,111 @@
+#include "link/VariableBatch.h"
+
+#include "SessionWorld.h"
+
+namespace vantrel {
+namespace {
+
+using testing::ElementsAre;
+
+struct VariableBatchTest : testing::Test {
+    tests::SessionWorld world;
+
+    void add(const std::vector<std::string>& entries) {
+        for (const std::string& entry : entries)
+            world.session->AddVarList(entry);
+    }
+    std::vector<std::string> list() const {
+        std::vector<std::string> all;
+        for (std::int32_t i = 0; i < world.session->VarListCount(); ++i)
+            all.push_back(world.session->VarList(i));
+        return all;
+    }
+    void pressCancelAtYield(int yield) {
+        world.view.onYield = [this, yield](int at) {
+            if (at == yield)
+                world.panel.pressCancel();
+        };
+    }
+};
+
+TEST_F(VariableBatchTest, EveryEntryIsWritten) {
+    add({"B1=5", "I2=-6"});
+    EXPECT_TRUE(world.session->VarListDownLoad());
+    EXPECT_EQ((world.controller().variables[{0, 1}][0]), 5);
+    EXPECT_EQ((world.controller().variables[{1, 2}][0]), -6);
+    EXPECT_EQ(world.library.callCount("BscOpen"), 2);
+    EXPECT_THAT(list(), ElementsAre("B1=5", "I2=-6"));
+}
+
+TEST_F(VariableBatchTest, EveryEntryIsReplacedByItsRefreshedText) {
+    world.controller().variables[{0, 1}] = {7};
+    add({"b1=0", "", "  ", "D3=1"});
+    EXPECT_TRUE(world.session->VarListUpLoad());
+    EXPECT_THAT(list(), ElementsAre("B001=7", "", "  ", "D003=0"));
+    EXPECT_EQ(world.library.callCount("BscOpen"), 2);
+}
+
+TEST_F(VariableBatchTest, ALineThatIsNoEntryEndsTheListThere) {
+    add({"B1=5", "what?", "B2=6"});
+    EXPECT_FALSE(world.session->VarListDownLoad());
+    EXPECT_EQ(world.error(), " 22 1");
+    EXPECT_EQ(world.session->VarList(world.session->ErrorIndex()), "what?");
+    EXPECT_EQ(world.library.callCount("BscOpen"), 1);
+    EXPECT_FALSE(world.panel.isVisible());
+}
+
+TEST_F(VariableBatchTest, ALibraryFailureEndsTheListWithItsIndex) {
+    add({"B1=5", "", "B2=6"});
+    world.library.disturb({.function = "BscPutVarData", .call = 2, .code = 1510});
+    EXPECT_FALSE(world.session->VarListDownLoad());
+    EXPECT_EQ(world.error(), "BscPutVarData 1510 2");
+}
+
+TEST_F(VariableBatchTest, APressEndsTheListAfterTheEntry) {
+    add({"B1=5", "B2=6"});
+    pressCancelAtYield(2);
+    EXPECT_FALSE(world.session->VarListDownLoad());
+    EXPECT_EQ(world.error(), " 3 0");
+    EXPECT_EQ(world.library.callCount("BscOpen"), 1);
+    EXPECT_FALSE(world.panel.isVisible());
+}
+
+TEST_F(VariableBatchTest, ACancelledReadKeepsWhatWasNotReached) {
+    world.controller().variables[{0, 1}] = {7};
+    world.controller().variables[{0, 2}] = {8};
+    add({"B1=0", "B2=0"});
+    pressCancelAtYield(2);
+    EXPECT_FALSE(world.session->VarListUpLoad());
+    EXPECT_THAT(list(), ElementsAre("B001=7", "B2=0"));
+}
+
+TEST_F(VariableBatchTest, WithTheMonitorOffNothingIsShownOrConsulted) {
+    add({"B1=5"});
+    world.session->DisplayMonitor = false;
+    world.panel.pressCancel();
+    EXPECT_TRUE(world.session->VarListDownLoad());
+    EXPECT_TRUE(world.view.pictures.empty());
+    EXPECT_EQ(world.view.yields, 0);
+}
+
+TEST_F(VariableBatchTest, ProgressShowsEachItemWithCancelAndBar) {
+    add({"B1=5", "B2=6"});
+    EXPECT_TRUE(world.session->VarListDownLoad());
+    EXPECT_THAT(world.view.messages(),
+                ElementsAre("Transferring ", "Transferring B1=5", "Transferring B2=6"));
+    const auto& last = world.view.pictures[world.view.pictures.size() - 2];
+    EXPECT_EQ(last.waitingFor, "item 2 of 2  waiting");
+    EXPECT_TRUE(last.cancelButton && last.bar);
+}
+
+TEST_F(VariableBatchTest, AnUnsetAddressLeavesTheRecordAlone) {
+    add({"", "B1=5"});
+    world.mode = TransferMode::HispeedLink;
+    world.session->IPaddress = "0.0.0.0";
+    EXPECT_FALSE(world.session->VarListDownLoad());
+    EXPECT_EQ(world.error(), " 0 0");
+    EXPECT_TRUE(world.session->endedByUnsetAddress());
+}
+
+} // namespace
+} // namespace vantrel
