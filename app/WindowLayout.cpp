@@ -38,8 +38,8 @@ void layConnection(WindowLayout& layout) {
     layout.lbl232CParam = {left + 930, 60, right - left - 930, 450};
     layout.lblRbtName = {left, 180, 690, 225};
     layout.cmbRbtName = {left + 720, 105, right - left - 2310, 315};
-    layout.lblIPaddr = {right - 1500, 60, 1500, 210};
-    layout.lblIPAddr2 = {right - 1500, 285, 1500, 210};
+    layout.lblIPaddr = {right - 1500, 15, 1500, 270};
+    layout.lblIPAddr2 = {right - 1500, 285, 1500, 270};
 }
 
 void layPCPane(WindowLayout& layout, Growth growth) {

@@ -18,7 +18,7 @@ enum class ActiveSide : std::int16_t { PC = 0, Controller = 1 };
 /// file, handed down by reference. The main window and the session are not in it; they stand above
 /// it and are handed out by the composition root.
 struct ApplicationState {
-    std::string LanguageName; ///< the current language file's name without ".lng"
+    std::string LanguageName;    ///< the current language file's name without ".lng"
     std::int16_t LangSelect = 1; ///< 1 = offer the language dialog at every start, 0 = don't
     std::string FontName;
     bool FontBold = false;
@@ -26,9 +26,9 @@ struct ApplicationState {
     std::int16_t FontSize = 0; ///< points
     bool LangCancelled = false;
 
-    std::string PCPath; ///< the current folder of the PC pane, absolute
-    std::int16_t PCDispType = 1;  ///< 0 large icons, 1 small icons, 2 list, 3 details
-    FolderListing PCListing;      ///< its SortType and SortDir are the pane's sort state
+    std::string PCPath;          ///< the current folder of the PC pane, absolute
+    std::int16_t PCDispType = 1; ///< 0 large icons, 1 small icons, 2 list, 3 details
+    FolderListing PCListing;     ///< its SortType and SortDir are the pane's sort state
     std::int16_t CtrlDispType = 1;
     FolderListing CtrlListing;
     ActiveSide Active = ActiveSide::PC;
@@ -37,10 +37,10 @@ struct ApplicationState {
     std::int32_t Baudrate = 9600; ///< bit/s
     std::int16_t Parity = 2;      ///< 0 none, 1 odd, 2 even
     std::int16_t DataLen = 8;
-    std::int16_t StopBit = 0;     ///< 0 = 1, 1 = 1.5, 2 = 2 stop bits
-    std::int16_t Controler = 4;   ///< row of the controller model table
-    bool JBR = false;             ///< receive ".JBI" jobs as ".JBR" files
-    bool Headder = false;         ///< show and print job headers
+    std::int16_t StopBit = 0;   ///< 0 = 1, 1 = 1.5, 2 = 2 stop bits
+    std::int16_t Controler = 4; ///< row of the controller model table
+    bool JBR = false;           ///< receive ".JBI" jobs as ".JBR" files
+    bool Headder = false;       ///< show and print job headers
     TransferMode TransMode = TransferMode::Bsc;
     std::int16_t SyncroRobotDir = 1; ///< 1 = choosing a robot also shows its PC folder
 

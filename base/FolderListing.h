@@ -13,11 +13,12 @@ namespace vantrel {
 struct FolderListing {
     std::string Path; ///< the folder listed; empty for a controller
     std::int32_t Count = 0;
-    std::vector<std::string> Names;   ///< UTF-8, as found
-    std::vector<std::int32_t> Sizes;  ///< bytes (at most 2^31 - 1 is shown), `folderSize` for a folder
-    std::vector<DateText> Dates;      ///< local time of the last change; empty when unknown
-    std::int16_t SortType = 0;        ///< column: 0 name, 1 size, 2 date
-    std::int16_t SortDir = 0;         ///< 1 descending, anything else ascending
+    std::vector<std::string> Names; ///< UTF-8, as found
+    std::vector<std::int32_t>
+        Sizes;                   ///< bytes (at most 2^31 - 1 is shown), `folderSize` for a folder
+    std::vector<DateText> Dates; ///< local time of the last change; empty when unknown
+    std::int16_t SortType = 0;   ///< column: 0 name, 1 size, 2 date
+    std::int16_t SortDir = 0;    ///< 1 descending, anything else ascending
 
     static constexpr std::int32_t folderSize = -1;
 

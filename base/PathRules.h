@@ -24,7 +24,8 @@ class PathRules {
     char separator() const;
     bool isSeparator(char character) const;
 
-    /// The folder with exactly one separator at its end.
+    /// The folder with exactly one separator at its end. No folder stays none here and in `join`:
+    /// a separator alone would be the root.
     std::string withSeparator(std::string_view folder) const;
     /// `folder`, a separator unless it ends in one, and `name`.
     std::string join(std::string_view folder, std::string_view name) const;
@@ -42,8 +43,9 @@ class PathRules {
     /// "C:" of a drive path, "\\server\share" of a network path, "/" on POSIX; else empty.
     std::string drive(std::string_view path) const;
 
-    /// A long path for display: unchanged up to `maximumLength` characters, else drive, "\...\" and
-    /// the last name, or the last name alone when there is no drive. The result may still be longer.
+    /// A long path for display: unchanged up to `maximumLength` characters, else its first two
+    /// characters, "\...\" and the last name when it holds a ":" (POSIX: "/.../" and the last name
+    /// when it is absolute), or the last name alone. The result may still be longer.
     std::string shorten(std::string_view path, std::size_t maximumLength) const;
 
     /// Whether a name that came from outside is one plain component that both systems can hold:

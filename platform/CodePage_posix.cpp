@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cerrno>
+
 #include <iconv.h>
 
 namespace vantrel {
@@ -31,24 +32,28 @@ class Converter {
     void convert(std::string_view& input, std::string& output) {
         bool isValid = true;
         while (isValid && !input.empty()) {
-            const auto piece = input.substr(0, buffer_.size());
-            const std::size_t used = convertPiece(piece, output);
+            const Step step = convertPiece(input.substr(0, buffer_.size()), output);
             // A character cut in two by the end of the piece is whole in the next one.
-            isValid = used == piece.size() || (used > 0 && errno != EILSEQ);
-            input.remove_prefix(used);
+            isValid = step.used > 0 && !step.isStopped;
+            input.remove_prefix(step.used);
         }
     }
 
   private:
-    /// How many bytes were used; the reason why not all is in `errno`.
-    std::size_t convertPiece(std::string_view piece, std::string& output) {
+    struct Step {
+        std::size_t used; ///< bytes
+        bool isStopped;   ///< by bytes that mean nothing
+    };
+
+    Step convertPiece(std::string_view piece, std::string& output) {
         char* in = const_cast<char*>(piece.data()); // iconv reads through it only
         std::size_t inLeft = piece.size();
         char* out = buffer_.data();
         std::size_t outLeft = buffer_.size();
-        ::iconv(state_, &in, &inLeft, &out, &outLeft);
+        const auto result = ::iconv(state_, &in, &inLeft, &out, &outLeft);
+        const bool isStopped = result == static_cast<std::size_t>(-1) && errno == EILSEQ;
         output.append(buffer_.data(), buffer_.size() - outLeft);
-        return piece.size() - inLeft;
+        return {piece.size() - inLeft, isStopped};
     }
 
     iconv_t state_;

@@ -5,9 +5,10 @@
 #include <cerrno>
 #include <string>
 #include <string_view>
+#include <utility>
+
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 
 namespace vantrel {
 

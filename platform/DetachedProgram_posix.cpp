@@ -7,6 +7,7 @@
 #include <array>
 #include <csignal>
 #include <cstdlib>
+
 #include <fcntl.h>
 #include <sys/wait.h>
 

@@ -3,10 +3,11 @@
 
 #include <array>
 #include <cstring>
+#include <optional>
+
 #include <dlfcn.h>
 #include <elf.h>
 #include <fcntl.h>
-#include <optional>
 
 namespace vantrel {
 

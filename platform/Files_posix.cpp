@@ -5,10 +5,11 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <fcntl.h>
 #include <memory>
 #include <new>
 #include <stdexcept>
+
+#include <fcntl.h>
 
 namespace vantrel {
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
+
 #include <fcntl.h>
 
 namespace vantrel {

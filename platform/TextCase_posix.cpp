@@ -1,8 +1,9 @@
 #include "base/Text.h"
 #include "platform/TextCase.h"
 
-#include <locale.h>
 #include <optional>
+
+#include <locale.h>
 #include <wctype.h>
 
 namespace vantrel {

@@ -3,8 +3,9 @@
 #include "platform/Files.h"
 #include "platform/LocalDates_posix.h"
 
-#include <dirent.h>
 #include <memory>
+
+#include <dirent.h>
 
 namespace vantrel {
 

@@ -33,32 +33,36 @@ int KeyedToolBar::idOf(std::string_view key) const {
 }
 
 void KeyedToolBar::setPressed(std::string_view key, bool pressed) {
+    if (!has(key))
+        return;
     shouldBePressed_[idOf(key)] = pressed;
     if (GetToolState(idOf(key)) != pressed)
         ToggleTool(idOf(key), pressed);
 }
 
 bool KeyedToolBar::isPressed(std::string_view key) const {
-    return GetToolState(idOf(key));
+    return has(key) && GetToolState(idOf(key));
 }
 
 void KeyedToolBar::setEnabled(std::string_view key, bool enabled) {
-    if (GetToolEnabled(idOf(key)) != enabled)
+    if (has(key) && GetToolEnabled(idOf(key)) != enabled)
         EnableTool(idOf(key), enabled);
 }
 
 bool KeyedToolBar::isEnabled(std::string_view key) const {
-    return IsEnabled() && GetToolEnabled(idOf(key));
+    return has(key) && IsEnabled() && GetToolEnabled(idOf(key));
 }
 
 void KeyedToolBar::setToolTip(std::string_view key, const wxString& text) {
+    if (!has(key))
+        return;
     SetToolShortHelp(idOf(key), text);
     if (auto* tool = FindById(idOf(key)))
         tool->SetLabel(text);
 }
 
 wxString KeyedToolBar::toolTip(std::string_view key) const {
-    return GetToolShortHelp(idOf(key));
+    return has(key) ? GetToolShortHelp(idOf(key)) : wxString();
 }
 
 std::vector<std::string> KeyedToolBar::keys() const {

@@ -35,6 +35,7 @@ class KeyedToolBar : public wxToolBar {
     std::function<void(const std::string& key)> onPressed;
 
   private:
+    bool has(std::string_view key) const { return ids_.find(key) != ids_.end(); }
     int idOf(std::string_view key) const;
     void pressed(wxCommandEvent& event);
 

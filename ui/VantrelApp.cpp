@@ -17,6 +17,8 @@ class VantrelApp : public wxApp {
   public:
     bool OnInit() override {
         // The start routine reads the command line itself; unknown arguments are no error.
+        // What the toolkit finds wrong with itself is for us, not for the operator.
+        wxDISABLE_ASSERTS_IN_RELEASE_BUILD();
         SetAppName("Vantrel");
         applySystemLook();
         std::vector<std::string> arguments;

@@ -110,8 +110,8 @@ TEST(WindowLayoutTest, ConnectionBlockAtTheDesignSize) {
     EXPECT_EQ(layout.lbl232CParam, (Rectangle{6102, 60, 3642, 450}));
     EXPECT_EQ(layout.lblRbtName, (Rectangle{5172, 180, 690, 225}));
     EXPECT_EQ(layout.cmbRbtName, (Rectangle{5892, 105, 2262, 315}));
-    EXPECT_EQ(layout.lblIPaddr, (Rectangle{8244, 60, 1500, 210}));
-    EXPECT_EQ(layout.lblIPAddr2, (Rectangle{8244, 285, 1500, 210}));
+    EXPECT_EQ(layout.lblIPaddr, (Rectangle{8244, 15, 1500, 270}));
+    EXPECT_EQ(layout.lblIPAddr2, (Rectangle{8244, 285, 1500, 270}));
 }
 
 TEST(WindowLayoutTest, ConnectionBlockNeverCoversTheToolBar) {

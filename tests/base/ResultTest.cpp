@@ -1,8 +1,8 @@
 #include "base/Result.h"
 
-#include <gtest/gtest.h>
-
 #include <memory>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

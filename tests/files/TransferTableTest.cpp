@@ -146,6 +146,8 @@ INSTANTIATE_TEST_SUITE_P(
         PermissionCase{"UnknownWithoutPoint", "OTHER", download, asterBit, false},
         PermissionCase{"PointAtTheEnd", "OTHER.", download, asterBit, false},
         PermissionCase{"PatternWithPointStarNeverHits", "OLD.TXT", download, asterBit, false},
+        PermissionCase{"NorANameThatEqualsIt", "OLD.*", download, asterBit, false},
+        PermissionCase{"NorAnExtensionThatEqualsIt", "A.*", download, asterBit, false},
         PermissionCase{"NoRow", "A.TXT", download, asterBit, false},
         PermissionCase{"Empty", "", download, asterBit, false},
         PermissionCase{"ModelWithoutBit", "A.JBI", download, 0, false}),

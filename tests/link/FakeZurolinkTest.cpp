@@ -26,7 +26,7 @@ class FakeContractWorld : public ContractWorld {
 INSTANTIATE_TEST_SUITE_P(Libraries, ZurolinkContract,
                          testing::Values(ContractWorldKind{
                              "Fake", [] { return std::make_unique<FakeContractWorld>(); }}),
-                         [](const auto& row) { return row.param.name; });
+                         rowName);
 
 } // namespace
 } // namespace vantrel::tests

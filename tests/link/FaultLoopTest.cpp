@@ -1,4 +1,5 @@
 #include "SessionWorld.h"
+#include "support/NamedRow.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -11,8 +12,7 @@ using tests::SessionWorld;
 
 /// One public operation in a world where it has all kinds of work: jobs to be replaced, local jobs,
 /// a partly known list.
-struct Scenario {
-    const char* label;
+struct Scenario : tests::NamedRow {
     bool (*run)(SessionWorld&);
     bool isList;           ///< a failure records the entry's index
     bool disconnectCounts; ///< a link that will not close makes the operation fail
@@ -65,8 +65,7 @@ const Scenario scenarios[] = {
      true, true},
 };
 
-struct Fault {
-    const char* label;
+struct Fault : tests::NamedRow {
     bool fromThereOn;
     bool doNothing;
     std::int16_t code;
@@ -233,8 +232,8 @@ TEST_P(FaultLoopTest, EveryCallFailsOnceAndNothingIsLostOrLeftOpen) {
 INSTANTIATE_TEST_SUITE_P(Operations, FaultLoopTest,
                          testing::Combine(testing::ValuesIn(scenarios), testing::ValuesIn(faults)),
                          [](const auto& row) {
-                             return std::string(std::get<0>(row.param).label) + "_" +
-                                    std::get<1>(row.param).label;
+                             return std::string(std::get<0>(row.param).name) + "_" +
+                                    std::get<1>(row.param).name;
                          });
 
 } // namespace

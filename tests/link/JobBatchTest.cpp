@@ -69,12 +69,12 @@ TEST_F(JobBatchTest, ARefusedEntryIsLeftOutAndTheListGoesOn) {
 }
 
 TEST_F(JobBatchTest, TheAnswerAllEndsTheQuestions) {
-    addFiles({"A", "B", "C"});
-    addOlder({"A", "B", "C"});
+    addFiles({"A", "B", "C", "D"});
+    addOlder({"A", "B", "C", "D"});
     world.question.answers = {Answer::Yes, Answer::All};
     EXPECT_TRUE(world.session->JobListDownLoad());
     EXPECT_EQ(world.question.questions.size(), 2u);
-    EXPECT_TRUE(isNew("A") && isNew("B") && isNew("C"));
+    EXPECT_TRUE(isNew("A") && isNew("B") && isNew("C") && isNew("D"));
 }
 
 TEST_F(JobBatchTest, EveryListStartsWithQuestionsAgain) {

@@ -1,6 +1,7 @@
 #include "link/JobFetch.h"
 
 #include "SessionWorld.h"
+#include "support/NamedRow.h"
 
 #include <filesystem>
 
@@ -44,8 +45,7 @@ TEST_F(JobFetchTest, AnExistingFileIsAskedForAndReplaced) {
     EXPECT_EQ(world.error(), " 0 0");
 }
 
-struct AnswerRow {
-    const char* label;
+struct AnswerRow : tests::NamedRow {
     Answer answer;
     bool result;
     const char* error;
@@ -68,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, FetchAnswerTest,
                                          AnswerRow{"No", Answer::No, false, " 4 0", false},
                                          AnswerRow{"All", Answer::All, true, " 5 0", true},
                                          AnswerRow{"Cancel", Answer::Cancel, false, " 3 0", false}),
-                         [](const auto& row) { return row.param.label; });
+                         tests::rowName);
 
 TEST_F(JobFetchTest, OverwriteAllReplacesWithoutAsking) {
     world.pc.write("WELD.JBI", "old");

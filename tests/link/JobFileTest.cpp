@@ -1,5 +1,6 @@
 #include "link/JobFile.h"
 
+#include "support/NamedRow.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -7,16 +8,15 @@
 namespace vantrel {
 namespace {
 
-struct NameRow {
-    const char* label;
+struct NameRow : tests::NamedRow {
     std::string bytes;
-    std::string name;
+    std::string inside;
 };
 
 class JobNameInsideTest : public testing::TestWithParam<NameRow> {};
 
 TEST_P(JobNameInsideTest, IsTakenFromItsLine) {
-    EXPECT_EQ(jobNameInside(GetParam().bytes), GetParam().name);
+    EXPECT_EQ(jobNameInside(GetParam().bytes), GetParam().inside);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -35,7 +35,7 @@ INSTANTIATE_TEST_SUITE_P(
                     NameRow{"CodePage", "//NAME \x83\x5C\r\n", "\xE3\x82\xBD"},
                     NameRow{"Utf8", "//NAME \xE3\x82\xBD\r\n", "\xE3\x82\xBD"},
                     NameRow{"WithMark", "\xEF\xBB\xBF//NAME WELD\n", "WELD"}),
-    [](const auto& row) { return row.param.label; });
+    tests::rowName);
 
 TEST(JobFileTest, IsReadWholeFromTheDisk) {
     const tests::TemporaryFolder folder;

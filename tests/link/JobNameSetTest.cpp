@@ -1,6 +1,7 @@
 #include "link/JobNameSet.h"
 
 #include "platform/TextCase.h"
+#include "support/NamedRow.h"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +32,9 @@ TEST(JobNameSetTest, JobsAreFoundWhateverTheirExtension) {
 }
 
 TEST(JobNameSetTest, DataFilesStandInNoJobsWay) {
-    EXPECT_EQ(setOf({"WELD.CND"}).jobEntry("WELD.JBI"), "");
+    const auto set = setOf({"WELD.CND"});
+    EXPECT_EQ(set.jobEntry("WELD.JBI"), "");
+    EXPECT_EQ(set.jobEntry("WELD.CND"), "");
 }
 
 TEST(JobNameSetTest, LowerCaseGreekLettersAreLettersOfTheirOwn) {
@@ -54,9 +57,8 @@ TEST(JobNameSetTest, AssigningForgetsTheOldNames) {
     EXPECT_EQ(set.jobEntry("PICK"), "PICK.JBI");
 }
 
-struct NameRow {
-    const char* label;
-    const char* name;
+struct NameRow : tests::NamedRow {
+    const char* fileName;
     const char* extension;
     bool isJob;
 };
@@ -64,8 +66,8 @@ struct NameRow {
 class JobFileNameTest : public testing::TestWithParam<NameRow> {};
 
 TEST_P(JobFileNameTest, IsToldByItsExtension) {
-    EXPECT_EQ(jobExtension(GetParam().name), GetParam().extension);
-    EXPECT_EQ(isJobFileName(GetParam().name), GetParam().isJob);
+    EXPECT_EQ(jobExtension(GetParam().fileName), GetParam().extension);
+    EXPECT_EQ(isJobFileName(GetParam().fileName), GetParam().isJob);
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, JobFileNameTest,
@@ -76,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(Names, JobFileNameTest,
                                          NameRow{"TwoPoints", "A.JBI.BAK", ".BAK", false},
                                          NameRow{"None", "A", "", false},
                                          NameRow{"Empty", "", "", false}),
-                         [](const auto& row) { return row.param.label; });
+                         tests::rowName);
 
 std::size_t normalisations = 0;
 

@@ -3,6 +3,7 @@
 #include "SessionWorld.h"
 #include "link/SessionErrorRecord.h"
 #include "platform/Files.h"
+#include "support/NamedRow.h"
 
 namespace vantrel {
 namespace {
@@ -84,7 +85,7 @@ TEST_F(LinkConnectionTest, RefusedOpenIsRecordedAndNothingIsClosed) {
     EXPECT_EQ(world.library.callCount(), 1);
 }
 
-struct RefusedStep {
+struct RefusedStep : tests::NamedRow {
     const char* function;
     bool ethernet;
 };
@@ -108,13 +109,12 @@ TEST_P(RefusedStepTest, ClosesTheHandleAndRecordsTheStepWithIndexZero) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Steps, RefusedStepTest,
-    testing::Values(RefusedStep{"BscSetCom", false}, RefusedStep{"BscSetEther", true},
-                    RefusedStep{"BscConnect", false}, RefusedStep{"BscConnect", true}),
-    [](const auto& row) {
-        return std::string(row.param.function) + (row.param.ethernet ? "Ethernet" : "Serial");
-    });
+INSTANTIATE_TEST_SUITE_P(Steps, RefusedStepTest,
+                         testing::Values(RefusedStep{"SerialSetup", "BscSetCom", false},
+                                         RefusedStep{"EthernetSetup", "BscSetEther", true},
+                                         RefusedStep{"SerialConnect", "BscConnect", false},
+                                         RefusedStep{"EthernetConnect", "BscConnect", true}),
+                         tests::rowName);
 
 TEST_F(LinkConnectionTest, UnsetAddressClosesTellsAndLeavesTheRecordAlone) {
     useEthernet("0.0.0.0");

@@ -1,5 +1,6 @@
 #include "link/LocalJobList.h"
 
+#include "support/NamedRow.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -60,8 +61,7 @@ TEST_F(LocalJobListTest, AnEmptyListContainsNothing) {
     EXPECT_FALSE(list.contains("WELD.JBI"));
 }
 
-struct MatchRow {
-    const char* label;
+struct MatchRow : tests::NamedRow {
     const char* line;
     const char* entry;
     bool local;
@@ -98,7 +98,7 @@ INSTANTIATE_TEST_SUITE_P(
                     MatchRow{"GreekStays", "\xCE\xB1", "\xCE\x91.JBI", false},
                     MatchRow{"GreekItself", "\xCE\xB1", "\xCE\xB1.JBI", true},
                     MatchRow{"CodePage", "\x83\x5C.JBI", "\xE3\x82\xBD.JBI", true}),
-    [](const auto& row) { return row.param.label; });
+    tests::rowName);
 
 TEST_F(LocalJobListTest, GarbageIsTakenWithoutHarm) {
     read(std::string("\0\xFF\xFE[[[***\n", 11) + std::string(1'000'000, '*') + "\nWELD");

@@ -1,5 +1,7 @@
 #include "link/SessionValues.h"
 
+#include "support/NamedRow.h"
+
 #include <gtest/gtest.h>
 
 namespace vantrel {
@@ -7,8 +9,7 @@ namespace {
 
 using Text = std::string;
 
-struct NumberRow {
-    const char* label;
+struct NumberRow : tests::NamedRow {
     SessionValue value;
     std::optional<std::int32_t> integer32;
     std::optional<std::int16_t> integer16;
@@ -32,7 +33,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, SessionNumberTest,
                                          NumberRow{"Beyond16", 40000.0, 40000, {}},
                                          NumberRow{"Below16", -32769.0, -32769, {}},
                                          NumberRow{"Beyond32", 3e9, {}, {}}),
-                         [](const auto& row) { return row.param.label; });
+                         tests::rowName);
 
 TEST(SessionValuesTest, TruthValues) {
     EXPECT_EQ(flagFrom(0.0), false);

@@ -23,7 +23,7 @@ INSTANTIATE_TEST_SUITE_P(Libraries, ZurolinkContract,
                          testing::Values(ContractWorldKind{
                              "Simulator",
                              [] { return std::make_unique<SimulatorContractWorld>(); }}),
-                         [](const auto& row) { return row.param.name; });
+                         rowName);
 
 } // namespace
 } // namespace vantrel::tests

@@ -2,6 +2,7 @@
 
 #include "SessionWorld.h"
 #include "platform/Files.h"
+#include "support/NamedRow.h"
 
 namespace vantrel {
 namespace {
@@ -33,8 +34,7 @@ TEST_F(SnappyTest, StartsWithItsDefaultsAndHiddenProgress) {
     EXPECT_EQ(world.library.callCount(), 0);
 }
 
-struct ModeRow {
-    const char* label;
+struct ModeRow : tests::NamedRow {
     std::int16_t mode;
     bool result;
     TransferMode set;
@@ -55,7 +55,7 @@ INSTANTIATE_TEST_SUITE_P(Modes, TransferModeTest,
                                          ModeRow{"Two", 2, false, TransferMode::Bsc},
                                          ModeRow{"Sixteen", 16, false, TransferMode::Bsc},
                                          ModeRow{"Negative", -1, false, TransferMode::Bsc}),
-                         [](const auto& row) { return row.param.label; });
+                         tests::rowName);
 
 TEST_F(SnappyTest, ControllerErrorTextsHaveTheirRange) {
     EXPECT_EQ(world.session->GetCTRLError(999), "");

@@ -1,5 +1,7 @@
 #include "link/VariableEntry.h"
 
+#include "support/NamedRow.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -7,8 +9,7 @@
 namespace vantrel {
 namespace {
 
-struct ParseRow {
-    const char* label;
+struct ParseRow : tests::NamedRow {
     const char* line;
     std::int16_t kind;
     std::int16_t number;
@@ -50,10 +51,9 @@ INSTANTIATE_TEST_SUITE_P(
         ParseRow{"MoreValuesThanWritten", "B1=1,2,3", 0, 1, "B001=1"},
         ParseRow{"Exponent", "R1=1e3", 3, 1, "R001=1000"},
         ParseRow{"Fraction", "R1=-1399.75", 3, 1, "R001=-1399.75"}),
-    [](const auto& row) { return row.param.label; });
+    tests::rowName);
 
-struct RejectRow {
-    const char* label;
+struct RejectRow : tests::NamedRow {
     std::string line;
 };
 
@@ -78,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(
                     RejectRow{"BeyondDouble", "R1=1e999"},
                     RejectRow{"Nul", std::string("B1=\0", 4)},
                     RejectRow{"TenMegabytes", std::string(10'000'000, 'B')}),
-    [](const auto& row) { return row.param.label; });
+    tests::rowName);
 
 TEST(VariableEntryTest, ValuesReadBackToTheSameNumber) {
     for (const double value : {0.1, 1.0 / 3, -123456.789, 1e-7, 3.0e20, 255.0}) {

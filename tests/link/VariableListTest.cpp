@@ -1,6 +1,7 @@
 #include "link/VariableList.h"
 
 #include "SessionWorld.h"
+#include "support/NamedRow.h"
 
 namespace vantrel {
 namespace {
@@ -55,8 +56,7 @@ TEST_F(VariableListTest, WithoutAFileNameNothingIsRead) {
     EXPECT_EQ(world.error(), " 6 0");
 }
 
-struct RoundTripRow {
-    const char* label;
+struct RoundTripRow : tests::NamedRow {
     std::string bytes;
 };
 
@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(Files, VariableListRoundTripTest,
                                                                            "B\0\r\0\n\0",
                                                                            8)},
                                          RoundTripRow{"Empty", ""}),
-                         [](const auto& row) { return row.param.label; });
+                         tests::rowName);
 
 TEST_F(VariableListTest, AListThatWasNeverReadIsWrittenWithWindowsLineEnds) {
     world.session->AddVarList("B001=1");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "link/Zurolink.h"
+#include "support/NamedRow.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -30,8 +31,7 @@ class ContractWorld {
 };
 
 /// Makes a world; with a name for the tests.
-struct ContractWorldKind {
-    const char* name;
+struct ContractWorldKind : NamedRow {
     std::function<std::unique_ptr<ContractWorld>()> make;
 };
 

@@ -1,13 +1,14 @@
 #include "platform/DetachedProgram_posix.h"
 #include "platform/Environment.h"
+#include "support/CurrentFolderKept.h"
 #include "support/EnvironmentVariable.h"
 #include "support/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <cerrno>
+
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -68,6 +69,24 @@ TEST_F(DetachedProgram, RunsInASessionOfItsOwn) {
     const std::string session = told();
     EXPECT_NE(session, "nothing");
     EXPECT_NE(session, std::to_string(::getsid(0)));
+}
+
+TEST_F(DetachedProgram, IsNotWaitedFor) {
+    ASSERT_EQ(::mkfifo(folder_.path("go").c_str(), 0600), 0);
+    install("waiting", "printf started > '" + folder_.path("pipe") + "'; read -r line < '" +
+                           folder_.path("go") + "'; printf ended > '" + folder_.path("pipe") + "'");
+    ASSERT_TRUE(startDetached("waiting", "x"));
+    EXPECT_EQ(told(), "started");
+    folder_.write("go", "on\n");
+    EXPECT_EQ(told(), "ended");
+}
+
+TEST_F(DetachedProgram, IsNotTakenFromAPlaceThatDependsOnTheCurrentFolder) {
+    std::filesystem::create_directory(folder_.path("relative"));
+    install("relative/planted", "exit");
+    const CurrentFolderKept kept;
+    std::filesystem::current_path(folder_.path());
+    EXPECT_FALSE(startDetached("planted", "x"));
 }
 
 TEST_F(DetachedProgram, FailsWhenThereIsNone) {

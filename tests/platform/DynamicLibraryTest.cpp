@@ -4,9 +4,8 @@
 #include "platform/Files.h"
 #include "support/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <elf.h>
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

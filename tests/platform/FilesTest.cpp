@@ -1,14 +1,15 @@
 #include "platform/Files.h"
 
+#include "support/CurrentFolderKept.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
-
 #include <sys/stat.h>
 
 namespace vantrel {
 namespace {
 
+using tests::CurrentFolderKept;
 using tests::TemporaryFolder;
 
 TEST(ReadFile, GivesAllBytes) {
@@ -134,15 +135,6 @@ TEST(FindIgnoringCase, NeverLeavesTheFolder) {
     EXPECT_EQ(findIgnoringCase(folder.path(), "sub/file"), "");
     EXPECT_EQ(findIgnoringCase(folder.path("sub"), std::string("file\0x", 6)), "");
 }
-
-/// Goes back to the folder that was current before.
-class CurrentFolderKept {
-  public:
-    ~CurrentFolderKept() { std::filesystem::current_path(path_); }
-
-  private:
-    std::filesystem::path path_ = std::filesystem::current_path();
-};
 
 TEST(CurrentFolder, IsChangedAndTold) {
     const TemporaryFolder folder;

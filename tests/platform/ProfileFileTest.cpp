@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <filesystem>
+
 #include <unistd.h>
 
 namespace vantrel {
@@ -112,6 +113,19 @@ TEST(ProfileFile, LeavesAFileThatItCannotReadAsItIs) {
     ASSERT_TRUE(file.set("S", "k", "v"));
     EXPECT_FALSE(file.save());
     EXPECT_TRUE(std::filesystem::is_directory(folder.path("test.ini")));
+}
+
+TEST(ProfileFile, LeavesAFileThatCouldNotBeReadAtTheStartAsItIs) {
+    const TemporaryFolder folder;
+    folder.makeFolder("test.ini");
+    ProfileFile file(folder.path("test.ini"));
+    std::filesystem::remove(folder.path("test.ini"));
+    folder.write("test.ini", "[S]\r\nk=precious\r\n");
+    ASSERT_TRUE(file.set("S", "k", "v"));
+    const auto outcome = file.save();
+    ASSERT_FALSE(outcome);
+    EXPECT_EQ(outcome.reason(), "Is a directory");
+    EXPECT_EQ(folder.read("test.ini"), "[S]\r\nk=precious\r\n");
 }
 
 TEST(ProfileFile, LeavesAFileWithoutReadPermissionAsItIs) {

@@ -2,11 +2,11 @@
 #include "support/EnvironmentVariable.h"
 #include "support/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
-
-#include <fcntl.h>
 #include <map>
 #include <set>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 namespace vantrel {

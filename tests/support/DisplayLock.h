@@ -1,10 +1,9 @@
 #pragma once
 
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <string>
-
-#include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
 

@@ -237,7 +237,7 @@ std::int16_t FakeZurolink::writeEntry(Link& link, char* buffer, std::int16_t len
     const std::string bytes = toCodePage(*name).value_or(*name);
     const auto room = static_cast<std::size_t>(length);
     std::memcpy(buffer, bytes.data(), std::min(bytes.size(), room));
-    if (bytes.size() < room)
+    if (bytes.size() < room && controller.terminatesNames)
         buffer[bytes.size()] = '\0';
     return done;
 }
@@ -250,9 +250,9 @@ std::int16_t FakeZurolink::BscFindFirst(std::int16_t handle, char* buffer, std::
 }
 
 std::int16_t FakeZurolink::BscFindNext(std::int16_t handle, char* buffer, std::int16_t length) {
-    const auto link = links_.find(handle);
-    if (!records_ && link != links_.end() && link->second.connected)
-        return writeEntry(link->second, buffer, length);
+    const auto open = links_.find(handle);
+    if (!records_ && open != links_.end() && open->second.connected)
+        return writeEntry(open->second, buffer, length);
     return onLink("BscFindNext", handle, text(length), done, true,
                   [&](Link& link) { return writeEntry(link, buffer, length); });
 }

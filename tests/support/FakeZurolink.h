@@ -32,7 +32,8 @@ class FakeController {
     const std::string* nameAfter(std::int64_t& place) const;
 
     std::map<Variable, std::array<double, 10>> variables;
-    bool endless = false; ///< the directory never ends
+    bool endless = false;        ///< the directory never ends
+    bool terminatesNames = true; ///< a NUL follows each directory entry
 
   private:
     struct File {

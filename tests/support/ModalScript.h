@@ -1,12 +1,12 @@
 #pragma once
 
-#include <deque>
-#include <functional>
-
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/dialog.h>
 #include <wx/modalhook.h>
+
+#include <deque>
+#include <functional>
 
 namespace vantrel::tests {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <ostream>
 #include <string>
+
+#include <gtest/gtest.h>
 
 namespace vantrel::tests {
 

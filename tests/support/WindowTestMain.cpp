@@ -1,13 +1,14 @@
 #include "support/DisplayLock.h"
-
-#include <cstdio>
-#include <memory>
+#include "ui/SystemLook.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/evtloop.h>
 #include <wx/init.h>
+
+#include <cstdio>
+#include <memory>
 
 // The main program of tests that open real windows.
 
@@ -16,11 +17,19 @@ namespace {
 class WindowTestApp : public wxApp {
   public:
     bool OnInit() override {
+        vantrel::applySystemLook();
         // Tests destroy their last window many times over.
         SetExitOnFrameDelete(false);
         return true;
     }
     bool OnExceptionInMainLoop() override { throw; }
+    /// A box would wait for an operator who is not there.
+    void OnAssertFailure(const wxChar* file, int line, const wxChar* function,
+                         const wxChar* condition, const wxChar* message) override {
+        ADD_FAILURE() << "assertion of the toolkit: " << wxString(condition) << ' '
+                      << wxString(message) << " in " << wxString(function) << ", " << wxString(file)
+                      << ':' << line;
+    }
 };
 
 int runWithWindows(int argc, char** argv) {

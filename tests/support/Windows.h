@@ -1,11 +1,5 @@
 #pragma once
 
-#include <chrono>
-#include <cstdlib>
-#include <functional>
-#include <stdexcept>
-#include <string>
-
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/button.h>
@@ -16,6 +10,12 @@
 #include <wx/textctrl.h>
 #include <wx/toplevel.h>
 #include <wx/uiaction.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <functional>
+#include <stdexcept>
+#include <string>
 
 // What a test does with real windows. Nothing here waits for a fixed time: events are run until
 // what is waited for has happened, and a test fails when it has not after some seconds.
@@ -107,23 +107,29 @@ inline int whileModal(wxDialog& dialog, const std::function<void()>& action) {
     return dialog.ShowModal();
 }
 
-/// No control of the window shows less than its whole caption.
-inline void expectNothingCutOff(wxWindow& window) {
+/// What of the window's captions is not wholly visible, one line per control.
+inline std::string cutOffCaptions(wxWindow& window) {
+    std::string complaints;
+    const wxRect inside(window.GetClientSize());
     for (wxWindow* const child : window.GetChildren()) {
         if (!child->IsShown() || child->IsTopLevel())
             continue;
         const bool shortensItself = child->HasFlag(wxST_ELLIPSIZE_MIDDLE | wxST_ELLIPSIZE_END);
         const bool hasCaption = dynamic_cast<wxStaticText*>(child) ||
                                 dynamic_cast<wxButton*>(child) || dynamic_cast<wxCheckBox*>(child);
-        if (hasCaption && !shortensItself) {
-            const auto best = child->GetBestSize(), size = child->GetSize();
-            EXPECT_LE(best.x, size.x) << child->GetName() << ": " << child->GetLabel();
-            EXPECT_LE(best.y, size.y) << child->GetName() << ": " << child->GetLabel();
-            const wxRect inside(window.GetClientSize());
-            EXPECT_TRUE(inside.Contains(child->GetRect())) << child->GetName();
-        }
-        expectNothingCutOff(*child);
+        const auto best = child->GetBestSize(), size = child->GetSize();
+        const bool tooSmall = best.x > size.x || best.y > size.y;
+        if ((hasCaption && !shortensItself && tooSmall) || !inside.Contains(child->GetRect()))
+            complaints += (child->GetName() + ": " + child->GetLabel() + '\n').utf8_string();
+        complaints += cutOffCaptions(*child);
     }
+    return complaints;
+}
+
+/// No control of the window shows less than its whole caption, once the window is laid out.
+inline void expectNothingCutOff(wxWindow& window) {
+    waitFor([&] { return cutOffCaptions(window).empty(); });
+    EXPECT_EQ(cutOffCaptions(window), "");
 }
 
 /// Saves a picture of a shown window to the folder that VANTREL_SCREENSHOTS names, if it is set.

@@ -5,9 +5,9 @@
 #include "lang/MessageTable.h"
 #include "support/Windows.h"
 
-#include <string>
-
 #include <gtest/gtest.h>
+
+#include <string>
 
 namespace vantrel::tests {
 

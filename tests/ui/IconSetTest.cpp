@@ -10,12 +10,33 @@
 namespace vantrel::tests {
 namespace {
 
-constexpr const char* requiredKeys[] = {
-    "FileCopy",  "FileMove",  "FileDelete", "AllSelect",  "Refresh",           "modeHiSpeed",
-    "modeBsc",   "DispBig",   "DispSmall",  "DispList",   "DispDetail",        "FileDisp",
-    "UpFolder",  "Print",     "PCButton",   "CTRLButton", "folder",            "file",
-    "filejob",   "drive",     "open",       "vantrel",    "arrowToController", "arrowToPC",
-    "languageEnglish", "languageJapanese", "languageSystem"};
+constexpr const char* requiredKeys[] = {"FileCopy",
+                                        "FileMove",
+                                        "FileDelete",
+                                        "AllSelect",
+                                        "Refresh",
+                                        "modeHiSpeed",
+                                        "modeBsc",
+                                        "DispBig",
+                                        "DispSmall",
+                                        "DispList",
+                                        "DispDetail",
+                                        "FileDisp",
+                                        "UpFolder",
+                                        "Print",
+                                        "PCButton",
+                                        "CTRLButton",
+                                        "folder",
+                                        "file",
+                                        "filejob",
+                                        "drive",
+                                        "open",
+                                        "vantrel",
+                                        "arrowToController",
+                                        "arrowToPC",
+                                        "languageEnglish",
+                                        "languageJapanese",
+                                        "languageSystem"};
 
 /// How many pixels of an icon differ clearly from a tool bar of this grey.
 int visiblePixels(const wxBitmap& bitmap, unsigned char grey) {

@@ -25,8 +25,15 @@ class LanguageWorld {
     }
 
     LanguageServices services() {
-        return {state,          messages,           files,      choice, boxes,
-                program.path(), settings.path(ini), "Japanese", [this](const std::string& path) {
+        return {state,
+                messages,
+                files,
+                choice,
+                boxes,
+                program.path(),
+                settings.path(ini),
+                "Japanese",
+                [this](const std::string& path) {
                     edited.push_back(path);
                     return editorFailure ? Outcome(*editorFailure) : Outcome(Done{});
                 }};

@@ -52,8 +52,8 @@ struct CaptionRow : NamedRow {
     const char* field;
 };
 
-class ListFileCaptions : public ListFileDraftTest, public testing::WithParamInterface<CaptionRow> {
-};
+class ListFileCaptions : public ListFileDraftTest,
+                         public testing::WithParamInterface<CaptionRow> {};
 
 TEST_P(ListFileCaptions, FollowTheMode) {
     const auto captioned = draft(GetParam().mode);
@@ -117,8 +117,8 @@ TEST_P(ListFilePreset, IsTheLastListFileUnlessAPattern) {
 INSTANTIATE_TEST_SUITE_P(
     Modes, ListFilePreset,
     testing::Values(PresetRow{{"Jobs"}, mark::saveJobs, "jobs.lst", "vars.lst", "jobs.lst"},
-                    PresetRow{{"Variables"}, mark::loadVariables, "jobs.lst", "vars.lst",
-                              "vars.lst"},
+                    PresetRow{
+                        {"Variables"}, mark::loadVariables, "jobs.lst", "vars.lst", "vars.lst"},
                     PresetRow{{"JobPattern"}, mark::loadJobs, "*.LST", "vars.lst", ""},
                     PresetRow{{"VariablePattern"}, mark::saveVariables, "jobs.lst", "v?.lst", ""}),
     rowName);

@@ -24,14 +24,15 @@ TEST_P(WrappedText, BreaksWhereTheScriptAllowsIt) {
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, WrappedText,
-    testing::Values(Row{{"Empty"}, "", ""}, Row{{"Short"}, "short text", "short text"},
-                    Row{{"AtABlank"}, "FOO.JBI already there", "FOO.JBI\nalready\nthere"},
-                    Row{{"NameLongerThanALine"}, "ABCDEFGHIJKLMNOPQRSTUVWXYZ",
-                        "ABCDEFGHIJ\nKLMNOPQRST\nUVWXYZ"},
-                    Row{{"AfterAKana"}, "FOOは既に存在します。上書き",
-                        "FOOは既に存在しま\nす。上書き"},
-                    Row{{"OwnLineEndsStay"}, "one\ntwo", "one\ntwo"},
-                    Row{{"EmptyLineStays"}, "one\n\ntwo", "one\n\ntwo"}),
+    testing::Values(
+        Row{{"Empty"}, "", ""}, Row{{"Short"}, "short text", "short text"},
+        Row{{"AtABlank"}, "FOO.JBI already there", "FOO.JBI\nalready\nthere"},
+        Row{{"NameLongerThanALine"},
+            "ABCDEFGHIJKLMNOPQRSTUVWXYZ",
+            "ABCDEFGHIJ\nKLMNOPQRST\nUVWXYZ"},
+        Row{{"AfterAKana"}, "FOOは既に存在します。上書き", "FOOは既に存在しま\nす。上書き"},
+        Row{{"OwnLineEndsStay"}, "one\ntwo", "one\ntwo"},
+        Row{{"EmptyLineStays"}, "one\n\ntwo", "one\n\ntwo"}),
     rowName);
 
 TEST(WrappedTextWithoutRoom, StillEnds) {

@@ -6,14 +6,30 @@
 
 #include <gmock/gmock.h>
 #include <wx/fontdlg.h>
-#include <wx/image.h>
 #include <wx/listbox.h>
 #include <wx/statbmp.h>
 
 namespace vantrel::tests {
 namespace {
 
-/// The dialog in each language: `texts` has the captions, the world's own table is what OK fills.
+/// An icon file of 2 by 2 opaque pixels.
+std::string smallIcon() {
+    const auto number = [](std::uint32_t value, int bytes) {
+        std::string text;
+        for (; bytes > 0; --bytes, value >>= 8)
+            text += char(value & 0xFF);
+        return text;
+    };
+    constexpr std::uint32_t pixels = 4 * 4, mask = 2 * 4, header = 40;
+    return number(0, 2) + number(1, 2) + number(1, 2) +                        // one icon
+           number(2, 1) + number(2, 1) + number(0, 2) + number(1, 2) +         // 2 by 2
+           number(32, 2) + number(header + pixels + mask, 4) + number(22, 4) + // where it is
+           number(header, 4) + number(2, 4) + number(4, 4) + number(1, 2) + number(32, 2) +
+           number(0, 4) + number(pixels, 4) + std::string(16, '\0') + // no more of the header
+           std::string(pixels, '\xFF') + std::string(mask, '\0');
+}
+
+/// The dialog in each language; the world's own message table is what OK fills.
 class frmLanguageTest : public DialogInLanguage {
   public:
     frmLanguageTest() { world.state.LanguageName = language(); }
@@ -27,13 +43,6 @@ class frmLanguageTest : public DialogInLanguage {
         event.SetEventObject(&list());
         list().HandleWindowEvent(event);
     }
-    void writeIcon(const std::string& name) {
-        wxImage::AddHandler(new wxICOHandler);
-        wxImage image(32, 32);
-        ASSERT_TRUE(image.SaveFile(wxString::FromUTF8(world.program.path(name)),
-                                   wxBITMAP_TYPE_ICO));
-    }
-
     LanguageWorld world;
     LanguageDraft draft = [this] {
         world.state.LanguageName = language();
@@ -117,7 +126,7 @@ TEST_P(frmLanguageTest, ALanguageWithoutAnIconShowsAnEmptyPicture) {
 }
 
 TEST_P(frmLanguageTest, AnIconFileBesideTheLanguageIsItsPicture) {
-    writeIcon("Klingon.ico");
+    world.program.write("Klingon.ico", smallIcon());
     choose(2);
     EXPECT_TRUE(hasPicture());
 }

@@ -11,13 +11,14 @@ namespace mark = list_file_mark;
 
 class frmListFileTest : public DialogInLanguage {
   public:
-    frmListFileTest() {
-        state.PCPath = world.pc.path();
+    ListFileDraft newDraft() {
         world.pc.write("jobs.lst", "A.JBI\n");
+        state.PCPath = world.pc.path();
+        return {state, *world.session, world.boxes, messages, mark::saveJobs};
     }
 
     SessionWorld world;
-    ListFileDraft draft{state, *world.session, world.boxes, messages, mark::saveJobs};
+    ListFileDraft draft = newDraft();
     frmListFile dialog{nullptr, draft, state};
 };
 

@@ -20,7 +20,9 @@ class frmMsgStatTest : public DialogInLanguage {
         ++yields;
         runEvents();
     }
-    std::string message() { return control<wxStaticText>(*window, "lblMsg").GetLabelText().utf8_string(); }
+    std::string message() {
+        return control<wxStaticText>(*window, "lblMsg").GetLabelText().utf8_string();
+    }
 
     int yields = 0;
     ProgressPanel panel;
@@ -154,6 +156,20 @@ TEST_P(frmMsgStatTest, DoesNotTakeTheMainWindowsFocus) {
     panel.show("text");
     runEvents();
     EXPECT_TRUE(text->HasFocus());
+}
+
+TEST_P(frmMsgStatTest, StandsOverTheMainWindow) {
+    auto* const main = new wxFrame(nullptr, wxID_ANY, "main", wxPoint(60, 300), wxSize(900, 600));
+    const WindowHolder<wxFrame> holder(main);
+    wxTheApp->SetTopWindow(main);
+    main->Show();
+    ASSERT_TRUE(waitFor([&] { return main->IsActive(); }));
+    panel.show("text");
+    const auto middle = [](const wxRect& at) { return wxPoint(at.x, at.y) + at.GetSize() / 2; };
+    const auto off = middle(window->GetRect()) - middle(main->GetRect());
+    EXPECT_LT(std::abs(off.x), 30);
+    EXPECT_LT(std::abs(off.y), 30);
+    wxTheApp->SetTopWindow(nullptr);
 }
 
 TEST_P(frmMsgStatTest, UnloadingDetachesItFromThePanel) {

@@ -12,7 +12,8 @@ int centred(int ownerStart, int ownerLength, int length, int screenStart, int sc
 
 } // namespace
 
-PixelPosition centredPosition(const PixelRectangle& owner, const PixelExtent& dialog, const PixelRectangle& screen) {
+PixelPosition centredPosition(const PixelRectangle& owner, const PixelExtent& dialog,
+                              const PixelRectangle& screen) {
     return {centred(owner.left, owner.width, dialog.width, screen.left, screen.width),
             centred(owner.top, owner.height, dialog.height, screen.top, screen.height)};
 }

@@ -17,6 +17,7 @@ struct PixelPosition {
 
 /// Where a dialog stands centred over its owner. A place past an edge of the screen is pulled back;
 /// of a dialog larger than the screen the upper left corner stays visible.
-PixelPosition centredPosition(const PixelRectangle& owner, const PixelExtent& dialog, const PixelRectangle& screen);
+PixelPosition centredPosition(const PixelRectangle& owner, const PixelExtent& dialog,
+                              const PixelRectangle& screen);
 
 } // namespace vantrel

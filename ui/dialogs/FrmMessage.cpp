@@ -4,6 +4,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "ui/IconSet.h"
+#include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
 
@@ -32,7 +33,7 @@ FrmMessage::FrmMessage(const std::string& body, const MessageTable& messages,
         SetTitle(toWx(title));
     buildControls(body, messages);
     applyCaptionFont(*this, state);
-    Fit();
+    fitToContents(*this);
     CentreOnScreen();
     Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
         event.Skip();
@@ -42,13 +43,12 @@ FrmMessage::FrmMessage(const std::string& body, const MessageTable& messages,
 }
 
 void FrmMessage::buildControls(const std::string& body, const MessageTable& messages) {
-    auto* const lblMsg = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0,
-                                          "lblMsg");
+    auto* const lblMsg =
+        new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0, "lblMsg");
     lblMsg->SetLabelText(toWx(messages.getMessage(message::startingUp)));
-    auto* const TxtMessage =
-        new wxTextCtrl(this, wxID_ANY, toWx(body), wxDefaultPosition,
-                       FromDIP(wxSize(messageWidth, -1)), wxTE_READONLY | wxBORDER_NONE,
-                       wxDefaultValidator, "TxtMessage");
+    auto* const TxtMessage = new wxTextCtrl(
+        this, wxID_ANY, toWx(body), wxDefaultPosition, FromDIP(wxSize(messageWidth, -1)),
+        wxTE_READONLY | wxBORDER_NONE, wxDefaultValidator, "TxtMessage");
     TxtMessage->SetBackgroundColour(GetBackgroundColour());
     TxtMessage->SetCanFocus(false);
     TxtMessage->Show(!body.empty());

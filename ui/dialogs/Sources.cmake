@@ -4,6 +4,7 @@ set(DIALOG_SOURCES
     dialogs/CentredPosition.cpp
     dialogs/DialogKeys.cpp
     dialogs/DialogParent.cpp
+    dialogs/DialogSize.cpp
     dialogs/FirstPaint.cpp
     dialogs/FrmMessage.cpp
     dialogs/IconSet.cpp

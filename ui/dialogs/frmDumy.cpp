@@ -3,9 +3,9 @@
 namespace vantrel {
 
 frmDumy::frmDumy()
-    : wxDialog(nullptr, wxID_ANY,
-               wxString::FromUTF8("SetEther()用ダミーウィンドウです。"), wxDefaultPosition,
-               wxDefaultSize, wxDEFAULT_DIALOG_STYLE | wxDIALOG_NO_PARENT, "frmDumy") {
+    : wxDialog(nullptr, wxID_ANY, wxString::FromUTF8("SetEther()用ダミーウィンドウです。"),
+               wxDefaultPosition, wxDefaultSize, wxDEFAULT_DIALOG_STYLE | wxDIALOG_NO_PARENT,
+               "frmDumy") {
     SetExtraStyle(GetExtraStyle() | wxWS_EX_TRANSIENT);
 }
 

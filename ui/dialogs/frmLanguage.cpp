@@ -5,21 +5,24 @@
 #include "lang/MessageTable.h"
 #include "ui/IconSet.h"
 #include "ui/dialogs/DialogKeys.h"
+#include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/LanguageDraft.h"
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
-
-#include <array>
-#include <utility>
 
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/fontdlg.h>
 #include <wx/iconbndl.h>
+#include <wx/imagbmp.h>
+#include <wx/image.h>
 #include <wx/listbox.h>
 #include <wx/log.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
+
+#include <array>
+#include <utility>
 
 namespace vantrel {
 namespace {
@@ -30,6 +33,8 @@ constexpr int listHeight = 150;
 constexpr int pictureSize = 48;
 
 wxBitmapBundle bitmapOf(const std::string& iconPath) {
+    if (!wxImage::FindHandler(wxBITMAP_TYPE_ICO))
+        wxImage::AddHandler(new wxICOHandler);
     // A damaged icon is no picture; it is nothing to stop the operator for.
     const wxLogNull noComplaints;
     wxIconBundle icons(toWx(iconPath), wxBITMAP_TYPE_ICO);
@@ -75,9 +80,9 @@ wxSizer* frmLanguage::buildChoice() {
     wxArrayString names;
     for (const auto& language : draft_.languages())
         names.Add(toWx(language));
-    List1_ = new wxListBox(this, wxID_ANY, wxDefaultPosition,
-                           FromDIP(wxSize(listWidth, listHeight)), names,
-                           wxLB_SINGLE | wxLB_NEEDED_SB, wxDefaultValidator, "List1");
+    List1_ =
+        new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(listWidth, listHeight)),
+                      names, wxLB_SINGLE | wxLB_NEEDED_SB, wxDefaultValidator, "List1");
     if (const auto index = draft_.selected())
         List1_->SetSelection(int(*index));
     auto* const column = new wxBoxSizer(wxVERTICAL);
@@ -110,7 +115,8 @@ wxSizer* frmLanguage::buildButtons(const MessageTable& messages) {
 
 void frmLanguage::bindEvents() {
     const auto onClick = [this](const char* name, void (frmLanguage::*method)()) {
-        FindWindow(name)->Bind(wxEVT_BUTTON, [this, method](wxCommandEvent&) { (this->*method)(); });
+        FindWindow(name)->Bind(wxEVT_BUTTON,
+                               [this, method](wxCommandEvent&) { (this->*method)(); });
     };
     onClick("Command1", &frmLanguage::confirm);
     onClick("Command2", &frmLanguage::abandon);
@@ -133,9 +139,7 @@ void frmLanguage::refresh() {
     FindWindow("Command3")->Enable(draft_.selected().has_value());
     refreshIcon();
     applyCaptionFont(*this, state_);
-    SetMinSize(wxSize());
-    Fit();
-    SetMinSize(GetSize());
+    fitToContents(*this);
 }
 
 void frmLanguage::refreshIcon() {
@@ -155,8 +159,7 @@ void frmLanguage::chooseFont() {
         return;
     const wxFont chosen = CMDialog1.GetFontData().GetChosenFont();
     draft_.setFont({fromWx(chosen.GetFaceName()), chosen.GetNumericWeight() >= wxFONTWEIGHT_BOLD,
-                    chosen.GetStyle() != wxFONTSTYLE_NORMAL,
-                    std::int16_t(chosen.GetPointSize())});
+                    chosen.GetStyle() != wxFONTSTYLE_NORMAL, std::int16_t(chosen.GetPointSize())});
     refresh();
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/IconSet.h"
 #include "ui/dialogs/DialogKeys.h"
+#include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/ListFileDraft.h"
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
@@ -34,7 +35,7 @@ frmListFile::frmListFile(wxWindow* parent, ListFileDraft& draft, const Applicati
     SetSizer(column);
     bindEvents();
     applyCaptionFont(*this, state);
-    Fit();
+    fitToContents(*this);
     CentreOnParent();
     txtFile_->SetFocus();
     txtFile_->SelectAll();
@@ -68,8 +69,8 @@ wxSizer* frmListFile::buildTexts() {
 }
 
 wxSizer* frmListFile::buildButtons() {
-    cmdOK_ = new wxButton(this, wxID_OK, toWx(draft_.okCaption()), wxDefaultPosition,
-                          wxDefaultSize, 0, wxDefaultValidator, "cmdOK");
+    cmdOK_ = new wxButton(this, wxID_OK, toWx(draft_.okCaption()), wxDefaultPosition, wxDefaultSize,
+                          0, wxDefaultValidator, "cmdOK");
     auto* const cmdCancel =
         new wxButton(this, wxID_CANCEL, toWx(draft_.cancelCaption()), wxDefaultPosition,
                      wxDefaultSize, 0, wxDefaultValidator, "cmdCancel");

@@ -6,17 +6,18 @@
 #include "ui/IconSet.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogParent.h"
+#include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
-
-#include <algorithm>
-#include <utility>
 
 #include <wx/button.h>
 #include <wx/gauge.h>
 #include <wx/iconbndl.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
+
+#include <algorithm>
+#include <utility>
 
 namespace vantrel {
 namespace {
@@ -47,8 +48,17 @@ frmMsgStat::frmMsgStat(ProgressPanel& panel, const MessageTable& messages,
 }
 
 frmMsgStat::~frmMsgStat() {
-    if (panel_)
-        panel_->attach(nullptr);
+    detach();
+}
+
+void frmMsgStat::detach() {
+    if (ProgressPanel* const panel = std::exchange(panel_, nullptr))
+        panel->attach(nullptr);
+}
+
+bool frmMsgStat::Destroy() {
+    detach();
+    return wxDialog::Destroy();
 }
 
 void frmMsgStat::buildControls() {
@@ -102,7 +112,7 @@ void frmMsgStat::bindEvents() {
 void frmMsgStat::applyCaptions() {
     cmdCancel_->SetLabel(toWx(messages_.resourceMessage(message::resource::cancel)));
     applyCaptionFont(*this, state_);
-    Fit();
+    fitToContents(*this);
 }
 
 void frmMsgStat::pressCancel() {
@@ -161,7 +171,6 @@ void frmMsgStat::yield() {
 }
 
 void frmMsgStat::unload() {
-    panel_ = nullptr;
     Destroy();
 }
 

@@ -3,9 +3,9 @@
 #include "link/ProgressPanel.h"
 #include "ui/dialogs/FirstPaint.h"
 
-#include <functional>
-
 #include <wx/dialog.h>
+
+#include <functional>
 
 class wxButton;
 class wxGauge;
@@ -29,6 +29,9 @@ class frmMsgStat : public wxDialog, public ProgressView {
     void yield() override;
     void unload() override;
 
+    /// The window itself may go later, when the panel is no longer there.
+    bool Destroy() override;
+
     /// After a change of language or font: the texts and the font of the application state.
     void applyCaptions();
 
@@ -36,6 +39,7 @@ class frmMsgStat : public wxDialog, public ProgressView {
     bool ShouldPreventAppExit() const override { return false; }
 
   private:
+    void detach();
     void buildControls();
     void bindEvents();
     void showTexts(const ProgressPanel& panel);

@@ -6,6 +6,7 @@
 #include "ui/IconSet.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogParent.h"
+#include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WrappedText.h"
 #include "ui/dialogs/WxText.h"
@@ -24,8 +25,8 @@ namespace {
 constexpr int questionWidth = 380;
 
 constexpr std::size_t cancelIndex = std::size_t(Answer::Cancel);
-constexpr std::array captions{message::resource::yes, message::resource::no,
-                              message::resource::all, message::resource::cancel};
+constexpr std::array captions{message::resource::yes, message::resource::no, message::resource::all,
+                              message::resource::cancel};
 
 } // namespace
 
@@ -35,12 +36,13 @@ frmMsgYesNo::frmMsgYesNo(wxWindow* parent, const std::string& title, const std::
                wxCAPTION | wxCLOSE_BOX, "frmMsgYesNo") {
     SetIcons(programIcons());
     auto* const column = new wxBoxSizer(wxVERTICAL);
-    column->Add(buildQuestion(question, state), wxSizerFlags(1).Expand().Border(wxALL, FromDIP(16)));
-    column->Add(buildButtons(messages), wxSizerFlags().CentreHorizontal().Border(
-                                            wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(16)));
+    column->Add(buildQuestion(question, state),
+                wxSizerFlags(1).Expand().Border(wxALL, FromDIP(16)));
+    column->Add(buildButtons(messages),
+                wxSizerFlags().CentreHorizontal().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(16)));
     SetSizer(column);
     applyCaptionFont(*this, state);
-    Fit();
+    fitToContents(*this);
     swallowF1(*this);
     CentreOnScreen();
 }
@@ -57,8 +59,8 @@ wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const Applicati
         GetTextExtent(toWx(std::string(text)), &width, nullptr, nullptr, nullptr, &font);
         return width;
     };
-    auto* const lblMsg = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0,
-                                          "lblMsg");
+    auto* const lblMsg =
+        new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0, "lblMsg");
     lblMsg->SetFont(font);
     lblMsg->SetLabelText(toWx(wrappedText(question, FromDIP(questionWidth), widthOf)));
     row->Add(lblMsg, wxSizerFlags(1).CentreVertical());
@@ -69,10 +71,9 @@ wxSizer* frmMsgYesNo::buildButtons(const MessageTable& messages) {
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     for (std::size_t index = 0; index < cmdYesNo_.size(); ++index) {
         const int id = index == cancelIndex ? wxID_CANCEL : wxID_ANY;
-        auto* const button =
-            new wxButton(this, id, toWx(messages.resourceMessage(captions[index])),
-                         wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
-                         "cmdYesNo" + std::to_string(index));
+        auto* const button = new wxButton(this, id, toWx(messages.resourceMessage(captions[index])),
+                                          wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
+                                          "cmdYesNo" + std::to_string(index));
         button->Bind(wxEVT_BUTTON, [this, index](wxCommandEvent&) { press(index); });
         row->Add(button, wxSizerFlags().Border(wxLEFT, index == 0 ? 0 : FromDIP(8)));
         cmdYesNo_[index] = button;

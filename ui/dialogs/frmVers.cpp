@@ -4,8 +4,9 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "ui/IconSet.h"
-#include "ui/dialogs/PlainCaption.h"
 #include "ui/dialogs/DialogKeys.h"
+#include "ui/dialogs/DialogSize.h"
+#include "ui/dialogs/PlainCaption.h"
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
 
@@ -80,7 +81,7 @@ void frmVers::applyCaptions() {
     FindWindow("Command1")->SetLabel(toWx(messages_.getMessage(message::ok)));
     applyCaptionFont(*this, state_);
     FindWindow("lblProduct")->SetFont(captionFont(state_).Scaled(productNameScale).Bold());
-    Fit();
+    fitToContents(*this);
 }
 
 void frmVers::openModal() {
