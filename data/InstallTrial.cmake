@@ -49,6 +49,8 @@ function(write_settings)
     endif()
     file(WRITE "${folder}/Vantrel.ini"
         "[Vantrel]\r\n${path_line}TransMode=16\r\n"
+        "Window=600,600,12600,8400,1650,800,2400\r\n"
+        "[PCType]\r\nDispType=3\r\n[CtrlType]\r\nDispType=2\r\n"
         "[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n")
 endfunction()
 

@@ -92,7 +92,7 @@ status=0
 wait "$program" || status=$?
 trap - EXIT
 [ "$status" -eq 0 ] || { cat "$work/program.log"; give_up "the program ended with $status"; }
-grep -q '^Window=0,0,9720,7000,1399.75,700.158,1500.09' "$trial/Vantrel.ini" ||
+grep -q '^Window=600,600,12600,8400,1650,800,2400' "$trial/Vantrel.ini" ||
     give_up "a window that nobody moved was saved at another place: $(grep '^Window=' "$trial/Vantrel.ini")"
 grep -q 'TransMode=16' "$trial/Vantrel.ini" || give_up "the settings were not saved"
 

@@ -12,7 +12,7 @@ namespace {
 
 wxWindow* innermostModalWindow() {
     for (auto* node = wxTopLevelWindows.GetLast(); node; node = node->GetPrevious()) {
-        auto* const dialog = wxDynamicCast(node->GetData(), wxDialog);
+        auto* const dialog = dynamic_cast<wxDialog*>(node->GetData());
         if (dialog && dialog->IsModal() && dialog->IsShown() && !dialog->IsBeingDeleted())
             return dialog;
     }
@@ -20,7 +20,7 @@ wxWindow* innermostModalWindow() {
 }
 
 wxWindow* shownMainWindow() {
-    auto* const main = wxDynamicCast(wxTheApp->GetTopWindow(), wxFrame);
+    auto* const main = dynamic_cast<wxFrame*>(wxTheApp->GetTopWindow());
     return main && main->IsShown() && !main->IsBeingDeleted() ? main : nullptr;
 }
 

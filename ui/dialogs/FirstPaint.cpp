@@ -1,11 +1,11 @@
 #include "ui/dialogs/FirstPaint.h"
 
+#include <chrono>
+
 #include <wx/event.h>
 #include <wx/toplevel.h>
 #include <wx/utils.h>
 #include <wx/weakref.h>
-
-#include <chrono>
 
 namespace vantrel {
 

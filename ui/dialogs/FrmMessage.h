@@ -2,10 +2,10 @@
 
 #include "ui/dialogs/FirstPaint.h"
 
-#include <wx/dialog.h>
-
 #include <functional>
 #include <string>
+
+#include <wx/dialog.h>
 
 namespace vantrel {
 

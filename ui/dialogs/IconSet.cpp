@@ -2,10 +2,10 @@
 
 #include "ui/dialogs/IconDrawings.h"
 
+#include <algorithm>
+
 #include <wx/icon.h>
 #include <wx/iconbndl.h>
-
-#include <algorithm>
 
 namespace vantrel {
 

@@ -3,13 +3,13 @@
 #include "base/ApplicationState.h"
 #include "ui/dialogs/WxText.h"
 
+#include <algorithm>
+
 #include <wx/fontenum.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/toplevel.h>
 #include <wx/window.h>
-
-#include <algorithm>
 
 namespace vantrel {
 namespace {

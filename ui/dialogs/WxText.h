@@ -2,9 +2,9 @@
 
 #include "base/Text.h"
 
-#include <wx/string.h>
-
 #include <string>
+
+#include <wx/string.h>
 
 namespace vantrel {
 

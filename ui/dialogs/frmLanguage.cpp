@@ -10,6 +10,9 @@
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
 
+#include <array>
+#include <utility>
+
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/fontdlg.h>
@@ -20,9 +23,6 @@
 #include <wx/log.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
-
-#include <array>
-#include <utility>
 
 namespace vantrel {
 namespace {
@@ -109,7 +109,7 @@ wxSizer* frmLanguage::buildButtons(const MessageTable& messages) {
     column->AddStretchSpacer();
     column->Add(Picture1_, wxSizerFlags().CentreHorizontal());
     SetAffirmativeId(wxID_OK);
-    wxStaticCast(FindWindow("Command1"), wxButton)->SetDefault();
+    static_cast<wxButton*>(FindWindow("Command1"))->SetDefault();
     return column;
 }
 

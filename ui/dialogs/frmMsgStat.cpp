@@ -10,14 +10,14 @@
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <wx/button.h>
 #include <wx/gauge.h>
 #include <wx/iconbndl.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
-
-#include <algorithm>
-#include <utility>
 
 namespace vantrel {
 namespace {

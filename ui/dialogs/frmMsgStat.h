@@ -3,9 +3,9 @@
 #include "link/ProgressPanel.h"
 #include "ui/dialogs/FirstPaint.h"
 
-#include <wx/dialog.h>
-
 #include <functional>
+
+#include <wx/dialog.h>
 
 class wxButton;
 class wxGauge;

@@ -2,10 +2,10 @@
 
 #include "link/OperatorDialog.h"
 
-#include <wx/dialog.h>
-
 #include <array>
 #include <string>
+
+#include <wx/dialog.h>
 
 class wxButton;
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string>
+
 #include <wx/dialog.h>
 #include <wx/timer.h>
-
-#include <string>
 
 namespace vantrel {
 
