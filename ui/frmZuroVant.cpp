@@ -51,6 +51,8 @@ frmZuroVant::frmZuroVant(ApplicationState& state, const MessageTable& messages,
               wxDEFAULT_FRAME_STYLE, "frmZuroVant"),
       state_(state), messages_(messages), guard_(guard), controls_(*this), menus_(*this) {
     SetIcons(programIcons());
+    // No help for menu entries in the panel that shows the PC's count.
+    SetStatusBarPane(-1);
     bindEvents();
     guard_.guard(this);
 }

@@ -15,6 +15,7 @@
 #include <wx/menu.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
+#include <wx/statusbr.h>
 
 namespace vantrel::tests {
 namespace {
@@ -200,6 +201,16 @@ TEST_P(MainWindowTest, CloseIsRefusedSilentlyWhileLocked) {
     window.onClose = [&] { return ++asked, false; };
     EXPECT_FALSE(window.Close());
     EXPECT_EQ(asked, 1);
+}
+
+TEST_P(MainWindowTest, AnOpenMenuLeavesTheCountsInPlace) {
+    window.setStatus(ActiveSide::PC, "PC: 3 items");
+    wxMenuEvent open(wxEVT_MENU_OPEN, 0, window.GetMenuBar()->GetMenu(0));
+    window.HandleWindowEvent(open);
+    wxMenuEvent highlight(wxEVT_MENU_HIGHLIGHT, MainMenus::idOf({Menu::mnuFile, 0}),
+                          window.GetMenuBar()->GetMenu(0));
+    window.HandleWindowEvent(highlight);
+    EXPECT_EQ(window.GetStatusBar()->GetStatusText(0), "PC: 3 items");
 }
 
 TEST_P(MainWindowTest, LooksFinished) {

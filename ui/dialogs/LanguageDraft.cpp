@@ -1,6 +1,7 @@
 #include "ui/dialogs/LanguageDraft.h"
 
 #include "base/ApplicationState.h"
+#include "base/PathRules.h"
 #include "base/Text.h"
 #include "lang/LanguageChoice.h"
 #include "lang/LanguageFiles.h"
@@ -69,7 +70,7 @@ std::string LanguageDraft::iconPath() const {
     if (!index)
         return {};
     const auto name = findIgnoringCase(services_.programFolder, languages_[*index] + ".ico");
-    return name.empty() ? name : services_.programFolder + '/' + name;
+    return name.empty() ? name : PathRules().join(services_.programFolder, name);
 }
 
 CaptionFont LanguageDraft::font() const {
