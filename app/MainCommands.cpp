@@ -12,21 +12,11 @@
 #include "link/OperatorDialog.h"
 #include "link/Snappy.h"
 
+#include <utility>
+
 namespace vantrel {
 
 namespace {
-
-/// Refuses the operator's actions for as long as it lives.
-class WindowLock {
-  public:
-    explicit WindowLock(PaneWindow& window) : window_(window) { window_.setLocked(true); }
-    ~WindowLock() { window_.setLocked(false); }
-    WindowLock(const WindowLock&) = delete;
-    WindowLock& operator=(const WindowLock&) = delete;
-
-  private:
-    PaneWindow& window_;
-};
 
 /// The buttons that forward to a menu, by their keys.
 struct ToolCommand {
@@ -42,6 +32,12 @@ constexpr ToolCommand toolCommands[] = {
     {"DispSmall", {Menu::mnuDisp, 1}},           {"DispList", {Menu::mnuDisp, 2}},
     {"DispDetail", {Menu::mnuDisp, 3}},
 };
+
+/// A kind is told by the last three characters; the editor wants a point before them.
+bool hasExtension(const std::string& jobKindName) {
+    constexpr std::size_t withPoint = 4;
+    return jobKindName.size() >= withPoint && jobKindName[jobKindName.size() - withPoint] == '.';
+}
 
 constexpr int keyBackspace = 8;
 constexpr int keyDelete = 127;
@@ -83,6 +79,7 @@ void MainCommands::tool(std::string_view key) {
 }
 
 bool MainCommands::listKey(ActiveSide side, int key, bool control) {
+    activate(side);
     const auto states = currentStates();
     if (key == keyDelete && states.mnuFile[fileDelete].enabled)
         mnuFile(fileDelete);
@@ -133,8 +130,8 @@ void MainCommands::mnuModeHiSpeed() {
 }
 
 void MainCommands::switchTo(TransferMode mode) {
-    if (switchMode(with_.state, mode) && with_.state.StartupDone)
-        emptyControllerPane();
+    if (switchMode(with_.state, mode))
+        with_.panes.showEmptyController();
     showMode();
     updateStates();
 }
@@ -146,7 +143,7 @@ void MainCommands::showMode() {
 
 void MainCommands::applyHispeedAvailability() {
     if (leaveUnavailableMode(with_.state)) {
-        emptyControllerPane();
+        with_.panes.showEmptyController();
         showMode();
     }
     updateStates();
@@ -154,7 +151,7 @@ void MainCommands::applyHispeedAvailability() {
 
 void MainCommands::modeWasChanged() {
     if (shownMode_ != with_.state.TransMode)
-        emptyControllerPane();
+        with_.panes.showEmptyController();
     showMode();
     updateStates();
 }
@@ -166,41 +163,15 @@ void MainCommands::recaption() {
     updateStates();
 }
 
-/// The list of one machine never stands beside the name of another.
-void MainCommands::emptyControllerPane() {
-    with_.panes.emptyController();
-    with_.panes.fill(ActiveSide::Controller);
-}
-
 void MainCommands::mnuRefresh() {
-    {
-        const WindowLock lock(with_.window);
-        if (with_.state.Active == ActiveSide::Controller)
-            refreshController();
-        else
-            refreshPC();
-    }
+    refreshActivePane();
+    // A pane that was locked has lost the focus.
     with_.window.list(with_.state.Active).focus();
+}
+
+void MainCommands::refreshActivePane() {
+    with_.transfers.refresh(with_.state.Active);
     updateStates();
-}
-
-void MainCommands::refreshController() {
-    const auto selected = with_.panes.selectedNames(ActiveSide::Controller);
-    if (!with_.panes.readController()) {
-        // An unset address was reported by the session already.
-        if (!with_.session.endedByUnsetAddress())
-            with_.dialog.tell(with_.messages.getMessage(message::controllerNotRead),
-                              BoxIcon::Exclamation);
-        return;
-    }
-    with_.panes.fill(ActiveSide::Controller);
-    with_.panes.selectNames(ActiveSide::Controller, selected);
-}
-
-void MainCommands::refreshPC() {
-    const auto selected = with_.panes.selectedNames(ActiveSide::PC);
-    openPCFolder(with_.state.PCPath);
-    with_.panes.selectNames(ActiveSide::PC, selected);
 }
 
 void MainCommands::openPCFolder(const std::string& folder) {
@@ -211,6 +182,27 @@ void MainCommands::openPCFolder(const std::string& folder) {
     with_.view.showFolder(with_.state.PCPath);
     if (!with_.panes.fill(ActiveSide::PC))
         with_.dialog.tell("File Dispaly Error!!", BoxIcon::Exclamation);
+}
+
+void MainCommands::openItem(ActiveSide side, std::size_t row) {
+    const auto& rows = std::as_const(with_.panes).rows(side);
+    if (side != ActiveSide::PC || row >= rows.size())
+        return;
+    const auto path = PathRules().join(with_.state.PCPath, rows.name(row));
+    if (rows.kind(row) == FileKind::Folder) {
+        openPCFolder(path);
+        updateStates();
+    } else if (rows.kind(row) == FileKind::JobFile && hasExtension(rows.name(row))) {
+        edit(path);
+    }
+}
+
+void MainCommands::edit(const std::string& path) {
+    const auto started = with_.editTextFile(path);
+    if (!started)
+        with_.dialog.tell("[" + path + "]" + with_.messages.getMessage(message::editorNotStarted) +
+                              "\n" + started.reason(),
+                          BoxIcon::Exclamation);
 }
 
 void MainCommands::upFolder() {

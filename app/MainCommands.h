@@ -1,9 +1,12 @@
 #pragma once
 
 #include "base/ApplicationState.h"
+#include "base/Result.h"
 #include "lang/Captions.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -28,6 +31,7 @@ struct MainServices {
     OperatorDialog& dialog;
     PaneWindow& window;
     MainWindowView& view;
+    std::function<Outcome(const std::string& path)> editTextFile; ///< the system's text editor
 };
 
 /// The commands of the main window, by their names in its menus. Each acts on the active pane and
@@ -40,8 +44,8 @@ class MainCommands {
     bool menu(MenuItem item);
     /// Runs a tool button by its key; another key does nothing.
     void tool(std::string_view key);
-    /// A key pressed in a pane's list, by its character code; false when the list itself handles
-    /// it.
+    /// A key pressed in a pane's list, which becomes the active one, by its character code; false
+    /// when the list itself handles it.
     bool listKey(ActiveSide side, int key, bool control);
 
     /// 0 copy, 1 move, 2 delete, 3 select all.
@@ -53,6 +57,11 @@ class MainCommands {
     void mnuModeBsc();
     void mnuModeHiSpeed();
     void mnuRefresh();
+    /// The same, leaving the focus where it is.
+    void refreshActivePane();
+    /// An item that was double-clicked or opened with Enter: a folder of the PC pane is entered, a
+    /// job-kind file opened in the text editor. The controller pane opens nothing.
+    void openItem(ActiveSide side, std::size_t row);
     /// One folder up in the PC pane; a root stays.
     void upFolder();
     void mnuEnd();
@@ -73,13 +82,10 @@ class MainCommands {
     void updateStates();
 
   private:
+    void edit(const std::string& path);
     CommandStates currentStates() const;
     void switchTo(TransferMode mode);
     void showMode();
-    void refreshController();
-    void refreshPC();
-
-    void emptyControllerPane();
 
     MainServices with_;
     TransferMode shownMode_ = TransferMode::Bsc;

@@ -28,8 +28,9 @@ void showViews(const MainServices& with, MainCommands& commands) {
 void openStoredFolder(const MainServices& with, MainCommands& commands) {
     const std::string stored = with.state.PCPath;
     std::string folder = stored;
-    while (!isFolder(folder) && !PathRules().isRoot(folder))
-        folder = PathRules().parent(folder);
+    for (auto above = PathRules().parent(folder); !isFolder(folder) && above != folder;
+         above = PathRules().parent(folder))
+        folder = above;
     if (folder != stored)
         with.dialog.tell("[" + stored + "]" + with.messages.getMessage(message::folderGone),
                          BoxIcon::Exclamation);
@@ -51,6 +52,8 @@ void startMainWindow(const MainServices& with, MainCommands& commands) {
     else
         commands.mnuModeBsc();
     with.view.showAddress(state.CurrentRobot.IPaddr);
+    // The view first, so that no row is shown in another one before.
+    with.view.showView(ActiveSide::PC, state.PCDispType);
     openStoredFolder(with, commands);
     showViews(with, commands);
     commands.updateStates();

@@ -1,6 +1,7 @@
 #include "app/RobotFileReader.h"
 
-#include "app/RobotFileWriter.h"
+#include "app/RegistryTokens.h"
+#include "base/Text.h"
 #include "lang/MessageBoxes.h"
 
 #include <exception>
@@ -16,20 +17,9 @@ struct LineTokens {
     std::string_view second; ///< empty when there is none: a token is never empty
 };
 
-std::string_view takeToken(std::string_view& rest) {
-    const std::size_t start = rest.find_first_not_of(registryDelimiters);
-    if (start == std::string_view::npos)
-        return {};
-    rest.remove_prefix(start);
-    const std::size_t length = rest.find_first_of(registryDelimiters);
-    const std::string_view token = rest.substr(0, length);
-    rest.remove_prefix(token.size());
-    return token;
-}
-
 LineTokens tokens(std::string_view line) {
-    const std::string_view first = takeToken(line);
-    return {first, takeToken(line)};
+    const std::string_view first = takeRegistryToken(line);
+    return {first, takeRegistryToken(line)};
 }
 
 std::optional<std::string> blockName(std::string_view token) {
@@ -60,12 +50,7 @@ int errorNumber(const std::exception& error) {
 std::optional<std::string_view> TextLines::next() {
     if (rest_.empty())
         return {};
-    const std::string_view line = rest_.substr(0, rest_.find_first_of("\r\n"));
-    rest_.remove_prefix(line.size());
-    // The two characters of a line end make an empty line between them, which is ignored.
-    if (!rest_.empty())
-        rest_.remove_prefix(1);
-    return line;
+    return takeLine(rest_);
 }
 
 void setAddress(RobotRecord& record, std::string_view address) {

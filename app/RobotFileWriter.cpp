@@ -1,8 +1,10 @@
 #include "app/RobotFileWriter.h"
 
+#include "app/RegistryTokens.h"
 #include "app/RobotList.h"
 #include "app/RobotPaths.h"
 #include "base/Text.h"
+#include "platform/ProfileText.h"
 
 #include <initializer_list>
 
@@ -17,16 +19,17 @@ bool isReadable(std::string_view value) {
 // What a value would be read back as, were it written as it stands.
 std::string_view asToken(std::string_view value) {
     value = value.substr(0, value.find('\0'));
-    const std::size_t start = value.find_first_not_of(registryDelimiters);
-    if (start == std::string_view::npos)
-        return {};
-    value.remove_prefix(start);
-    return value.substr(0, value.find_first_of(registryDelimiters));
+    return takeRegistryToken(value);
 }
 
-bool isQuoted(std::string_view text) {
-    return text.size() > 1 && (text.front() == '"' || text.front() == '\'') &&
-           text.front() == text.back();
+// Without all its enclosing quotes, one layer of which every reading of the boot name takes away.
+std::string_view withoutAnyQuotes(std::string_view name) {
+    std::string_view inner = withoutQuotes(name);
+    while (inner.size() != name.size()) {
+        name = trimmed(inner);
+        inner = withoutQuotes(name);
+    }
+    return name;
 }
 
 void addLine(std::string& text, std::initializer_list<std::string_view> parts) {
@@ -46,9 +49,7 @@ void addRobot(std::string& text, const RobotRecord& robot, const RobotPaths& pat
 } // namespace
 
 std::string writableName(std::string_view name) {
-    std::string_view kept = trimmed(asToken(name));
-    while (isQuoted(kept))
-        kept = trimmed(kept.substr(1, kept.size() - 2));
+    const std::string_view kept = withoutAnyQuotes(trimmed(asToken(name)));
     return kept == endOfRobots ? std::string() : std::string(kept);
 }
 

@@ -10,9 +10,6 @@ namespace vantrel {
 
 class RobotPaths;
 
-/// The characters that part the tokens of a registry line.
-inline constexpr std::string_view registryDelimiters = "\t\n\r,=";
-
 /// A name in the form in which both readers of the file give it back unchanged: cut at the first
 /// delimiter, without outer blanks and enclosing quotes, which the profile functions strip from the
 /// boot name. Empty for a name that cannot be kept at all, such as the sentinel's.

@@ -1,7 +1,5 @@
 #include "app/RobotPaths.h"
 
-#include "base/Text.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -24,7 +22,7 @@ std::string RobotPaths::absolute(std::string_view path) const {
 
 std::string RobotPaths::relative(std::string_view path) const {
     const std::string start = rules_.withSeparator(baseFolder_);
-    return startsWith(path, start) ? std::string(path.substr(start.size())) : std::string();
+    return path.starts_with(start) ? std::string(path.substr(start.size())) : std::string();
 }
 
 } // namespace vantrel

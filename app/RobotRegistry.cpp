@@ -6,6 +6,7 @@
 #include "app/RobotPaths.h"
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
+#include "base/Text.h"
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -24,10 +25,6 @@ constexpr const char* fileName = "robot.ini";
 constexpr const char* defaultName = "DEFAULT";
 /// Longer than any name that a list can show, so that the boot name is never cut.
 constexpr std::size_t bootNameBuffer = 4096;
-
-bool isAscii(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
 
 // A file in another encoding is not rightly read by the profile functions.
 bool profileUnderstands(TextEncoding encoding, bool plain) {
@@ -62,7 +59,7 @@ bool makeFoldersAbsolute(std::vector<RobotRecord>& robots, const RobotPaths& pat
 }
 
 RobotRegistry::RobotRegistry(ApplicationState& state, const MessageTable& messages,
-                             MessageBoxes& boxes, std::string programFolder)
+                             MessageBoxes& boxes, const std::string& programFolder)
     : state_(state), messages_(messages), boxes_(boxes),
       programFolder_(PathRules().withoutTrailingSeparator(programFolder)),
       path_(PathRules().join(programFolder_, fileName)) {}
@@ -185,7 +182,7 @@ Outcome RobotRegistry::write() {
     if (!bytes)
         return notExpressible(state_.RobotList, encoding_);
     if (!readWhole_) {
-        if (const Outcome kept = keepUnreadFile(); !kept)
+        if (Outcome kept = keepUnreadFile(); !kept)
             return kept;
         readWhole_ = true;
     }

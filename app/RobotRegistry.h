@@ -28,7 +28,7 @@ class RobotBox {
 class RobotRegistry {
   public:
     RobotRegistry(ApplicationState& state, const MessageTable& messages, MessageBoxes& boxes,
-                  std::string programFolder);
+                  const std::string& programFolder);
 
     /// Fills the robot list, selects the boot robot and fills the box. A file that is missing is
     /// written first; one that cannot be read is told, and box and current robot stay as they were.

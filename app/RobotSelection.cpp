@@ -39,8 +39,7 @@ void RobotSelection::choose(int index) {
 void RobotSelection::machineMayHaveChanged(const Machine& before) {
     if (!with_.state.StartupDone || machineInForce(with_.state) == before)
         return;
-    with_.panes.emptyController();
-    with_.panes.fill(ActiveSide::Controller);
+    with_.panes.showEmptyController();
 }
 
 bool RobotSelection::isRobot(int index) const {
@@ -59,8 +58,9 @@ bool RobotSelection::isNewChoice(int index) const {
 void RobotSelection::followFolder() {
     const RobotRecord& robot = with_.state.CurrentRobot;
     if (!with_.panes.scanPC(robot.Path)) {
-        with_.boxes.tell(with_.messages.getMessage(message::folderNotOpened) + " [" + robot.Name +
-                             "] " + robot.Path,
+        with_.boxes.tell("[" + robot.Name + "]" +
+                             with_.messages.getMessage(message::robotFolderNotListed) + "\n" +
+                             robot.Path,
                          BoxIcon::Exclamation);
         return;
     }
@@ -72,6 +72,7 @@ void RobotSelection::refreshController() {
     const ActiveSide before = std::exchange(with_.state.Active, ActiveSide::Controller);
     with_.window.refreshActivePane();
     with_.state.Active = before;
+    with_.window.refreshStates();
 }
 
 } // namespace vantrel

@@ -7,8 +7,6 @@
 #include "base/Text.h"
 #include "platform/ProfileFile.h"
 
-#include <algorithm>
-#include <limits>
 #include <optional>
 #include <utility>
 
@@ -33,15 +31,11 @@ class SectionReader {
     std::int32_t integer(std::string_view key, std::int32_t defaultValue) const {
         return file_.integer(section_, key, defaultValue);
     }
-    std::int16_t shortInteger(std::string_view key, std::int32_t defaultValue) const {
-        using Limits = std::numeric_limits<std::int16_t>;
-        return static_cast<std::int16_t>(
-            std::clamp<std::int32_t>(integer(key, defaultValue), Limits::min(), Limits::max()));
+    std::int16_t shortInteger(std::string_view key, std::int16_t defaultValue) const {
+        return file_.shortInteger(section_, key, defaultValue);
     }
     bool boolean(std::string_view key) const {
-        const std::string value = text(key, "False");
-        return equalsIgnoringAsciiCase(trimmed(value), "True") ||
-               wholeNumber(value).value_or(0) != 0;
+        return truthValue(text(key, "False")).value_or(false);
     }
 
   private:
@@ -107,7 +101,7 @@ std::string settingsFileName(std::string_view executable) {
     return std::string(name) + ".ini";
 }
 
-SettingsFile::SettingsFile(std::string programFolder, std::string iniFileName)
+SettingsFile::SettingsFile(const std::string& programFolder, const std::string& iniFileName)
     : programFolder_(PathRules().withoutTrailingSeparator(programFolder)),
       path_(PathRules().join(programFolder_, iniFileName)) {}
 
@@ -149,7 +143,7 @@ Outcome SettingsFile::write(const ApplicationState& state, const WindowPlacement
     to.text("VarListFile", state.VarListFile);
     writePane({file, pcSection, refused}, state.PCDispType, state.PCListing);
     writePane({file, controllerSection, refused}, state.CtrlDispType, state.CtrlListing);
-    const Outcome saved = file.save();
+    Outcome saved = file.save();
     if (saved && refused)
         return *refused;
     return saved;

@@ -24,7 +24,7 @@ std::string settingsFileName(std::string_view executable);
 /// The settings file: the executable's base name and ".ini" in the program's folder.
 class SettingsFile {
   public:
-    SettingsFile(std::string programFolder, std::string iniFileName);
+    SettingsFile(const std::string& programFolder, const std::string& iniFileName);
 
     /// [Vantrel], [PCType] and [CtrlType] into the state; what is missing takes its default.
     /// Numbers stay as they are stored, in range or not; one beyond the field's bits becomes the

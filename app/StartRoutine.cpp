@@ -16,16 +16,19 @@
 #include "platform/Files.h"
 
 #include <exception>
+#include <utility>
 
 namespace vantrel {
 
-StartRoutine::StartRoutine(const StartServices& services) : with_(services) {}
+StartRoutine::StartRoutine(StartServices services) : with_(std::move(services)) {}
 
 StartResult StartRoutine::Main() {
     try {
         return run();
     } catch (const std::exception& error) {
         return trap(error.what());
+    } catch (...) {
+        return trap("?");
     }
 }
 
@@ -55,7 +58,7 @@ StartResult StartRoutine::run() {
 }
 
 Outcome StartRoutine::enterProgramFolder() {
-    const Outcome entered = changeCurrentFolder(with_.programFolder);
+    Outcome entered = changeCurrentFolder(with_.programFolder);
     if (entered)
         with_.state.PCPath = currentFolder();
     return entered;
@@ -83,6 +86,7 @@ void StartRoutine::loadSettings() {
     // The registry fills the robot box, so the window has to be there, still hidden.
     with_.windows.buildMainWindow();
     with_.settings.read(with_.state);
+    makeFolderAbsolute();
     with_.registry.read(with_.windows.robotBox());
     passSessionParameters(with_.state, *session_);
     session_->path = with_.state.PCPath;
@@ -91,6 +95,14 @@ void StartRoutine::loadSettings() {
     // controller's filters follow the model, which is known only now.
     normaliseMode(with_.state);
     with_.windows.panes().fillFilterChoices();
+}
+
+// Connecting changes the current directory, so a relative folder would not stay the same one.
+void StartRoutine::makeFolderAbsolute() {
+    if (PathRules().isAbsolute(with_.state.PCPath))
+        return;
+    with_.state.PCPath = PathRules().join(with_.programFolder, with_.state.PCPath);
+    with_.state.CurrentRobot.Path = with_.state.PCPath;
 }
 
 void StartRoutine::offerControllerDirectory() {
@@ -120,11 +132,12 @@ void StartRoutine::openMainWindow() {
     with_.state.StartupDone = true;
 }
 
-// The texts of a language may not be there yet, so this one is fixed like that of a missing
-// language file.
+// Before a language is read there is no text for it but this one.
 StartResult StartRoutine::trap(const std::string& reason) {
     with_.state.NoSave = true;
-    with_.boxes.tell("Start Error.(" + reason + ")", BoxIcon::Exclamation);
+    const std::string head = with_.messages.getMessage(message::startFailed);
+    with_.boxes.tell(head.empty() ? "Start Error.(" + reason + ")" : head + reason,
+                     BoxIcon::Exclamation);
     return StartResult::Trapped;
 }
 

@@ -73,7 +73,7 @@ struct StartServices {
 /// The start of the program, from the command line to the window that is ready to work with.
 class StartRoutine {
   public:
-    explicit StartRoutine(const StartServices& services);
+    explicit StartRoutine(StartServices services);
 
     StartResult Main();
 
@@ -83,6 +83,7 @@ class StartRoutine {
     void setHelpFile();
     bool chooseLanguage();
     void loadSettings();
+    void makeFolderAbsolute();
     void offerControllerDirectory();
     void openMainWindow();
     StartResult trap(const std::string& reason);

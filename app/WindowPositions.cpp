@@ -43,6 +43,7 @@ std::array<double, 7> currentNumbers(const std::array<std::int32_t, 8>& position
             columns[2]};
 }
 
+/// `isLast` is the field's place in the text to write, since that is how it will be read.
 double withStoredFraction(double number, std::string_view field, bool isLast) {
     const std::optional<std::int32_t> stored = fieldPosition(field, isLast);
     return stored && number == *stored ? *wholeNumber(field) : number;
@@ -68,7 +69,7 @@ std::string windowText(const std::array<std::int32_t, 8>& positions,
     for (std::size_t index = 0; index < numbers.size(); ++index) {
         double number = numbers[index];
         if (index < stored.size())
-            number = withStoredFraction(number, stored[index], index + 1 == stored.size());
+            number = withStoredFraction(number, stored[index], index + 1 == numbers.size());
         text += (index == 0 ? "" : ",") + generalText(number);
     }
     return text;

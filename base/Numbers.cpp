@@ -92,6 +92,17 @@ std::optional<double> wholeNumber(std::string_view text) {
     return scanned.value;
 }
 
+std::optional<bool> truthValue(std::string_view text) {
+    const auto word = trimmed(text);
+    if (equalsIgnoringAsciiCase(word, "True"))
+        return true;
+    if (equalsIgnoringAsciiCase(word, "False"))
+        return false;
+    if (const auto number = wholeNumber(word))
+        return *number != 0;
+    return std::nullopt;
+}
+
 std::optional<std::int32_t> rounded32(double value) {
     constexpr double lowest = std::numeric_limits<std::int32_t>::min();
     constexpr double highest = std::numeric_limits<std::int32_t>::max();

@@ -19,6 +19,10 @@ std::int32_t leadingInteger32(std::string_view text);
 /// The whole text (but for outer blanks) as a number, or nothing.
 std::optional<double> wholeNumber(std::string_view text);
 
+/// "True" and "False" in any letter case, or a number, of which only 0 is false; outer blanks do
+/// not count. Nothing for any other text.
+std::optional<bool> truthValue(std::string_view text);
+
 /// To the nearest whole number, a half to the even one, or nothing outside 32 bits.
 std::optional<std::int32_t> rounded32(double value);
 

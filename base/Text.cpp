@@ -121,14 +121,6 @@ bool equalsIgnoringAsciiCase(std::string_view left, std::string_view right) {
     return std::ranges::equal(left, right, {}, upper, upper);
 }
 
-bool startsWith(std::string_view text, std::string_view start) {
-    return text.starts_with(start);
-}
-
-bool endsWith(std::string_view text, std::string_view end) {
-    return text.ends_with(end);
-}
-
 std::vector<std::string_view> split(std::string_view text, char separator) {
     std::vector<std::string_view> pieces;
     std::size_t start = 0;

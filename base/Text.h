@@ -13,8 +13,6 @@ std::string_view trimmed(std::string_view text, std::string_view outer = " \t\r\
 std::string asciiUpper(std::string_view text);
 std::string asciiLower(std::string_view text);
 bool equalsIgnoringAsciiCase(std::string_view left, std::string_view right);
-bool startsWith(std::string_view text, std::string_view start);
-bool endsWith(std::string_view text, std::string_view end);
 
 /// All pieces between the separators; an empty text gives one empty piece.
 std::vector<std::string_view> split(std::string_view text, char separator);

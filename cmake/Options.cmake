@@ -17,3 +17,13 @@ if(VANTREL_SANITIZE)
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(vantrel_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(VANTREL_FUZZ)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        message(FATAL_ERROR "Fuzz targets need clang++: cmake --preset fuzz")
+    endif()
+    target_compile_options(vantrel_options INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+    target_link_options(vantrel_options INTERFACE -fsanitize=address,undefined)
+    # An index past a view's end is found even where the memory behind it is valid.
+    target_compile_definitions(vantrel_options INTERFACE _GLIBCXX_ASSERTIONS)
+endif()

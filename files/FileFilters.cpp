@@ -19,7 +19,7 @@ bool hasPoint(std::string_view name) {
 bool matchesExtension(std::string_view upperName, std::string_view extension) {
     if (extension == anyExtension)
         return hasPoint(upperName);
-    return endsWith(upperName, extension) && upperName.size() > extension.size() &&
+    return upperName.ends_with(extension) && upperName.size() > extension.size() &&
            upperName[upperName.size() - extension.size() - 1] == '.';
 }
 

@@ -5,8 +5,10 @@
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/JobFile.h"
 #include "link/LocalJobList.h"
 #include "link/OperatorDialog.h"
+#include "link/ShownText.h"
 #include "link/Snappy.h"
 #include "platform/Files.h"
 
@@ -55,22 +57,49 @@ bool MoveCommand::move(const std::string& name) {
 }
 
 MoveCommand::Arrival MoveCommand::transfer(const std::string& name) {
-    if (callSession(name, overwriteAll_))
-        return Arrival::Arrived;
-    if (overwriteAll_ || !existsAlready())
-        return failed();
-    switch (askOverwrite(name)) {
-    case Answer::No:
-        return Arrival::NotArrived;
-    case Answer::Cancel:
-        return Arrival::EndOfCommand;
-    case Answer::All:
-        overwriteAll_ = true;
-        break;
-    case Answer::Yes:
-        break;
+    const std::string arrives = arrivalName(name);
+    // All was not meant for what the command itself has brought: its source is gone already.
+    const bool replacesOwn = hasArrived(name) || hasArrived(arrives);
+    const bool overwrite = overwriteAll_ && !replacesOwn;
+    Arrival arrival = Arrival::Arrived;
+    if (!callSession(name, overwrite))
+        arrival = overwrite || !existsAlready() ? failed() : askAndTransfer(name);
+    if (arrival == Arrival::Arrived)
+        arrived_.insert(arrives);
+    return arrival;
+}
+
+MoveCommand::Arrival MoveCommand::askAndTransfer(const std::string& name) {
+    const std::vector<std::string> inTheWay = with_.session.jobsInTheWay();
+    for (const std::string& job : inTheWay) {
+        if (overwriteAll_ && !hasArrived(job))
+            continue;
+        switch (askOverwrite(job)) {
+        case Answer::No:
+            return Arrival::NotArrived;
+        case Answer::Cancel:
+            return Arrival::EndOfCommand;
+        case Answer::All:
+            overwriteAll_ = true;
+            break;
+        case Answer::Yes:
+            break;
+        }
     }
     return transferOver(name);
+}
+
+/// A controller keeps a job by the name of its "//NAME" line.
+std::string MoveCommand::arrivalName(const std::string& name) const {
+    if (direction_ == Direction::Receive || !isJobFileName(name))
+        return name;
+    const auto job = JobFile::read(PathRules().join(with_.state.PCPath, name));
+    return job && !job->name().empty() ? job->name() + ".JBI" : name;
+}
+
+bool MoveCommand::hasArrived(const std::string& name) const {
+    return direction_ == Direction::Send && isJobFileName(name) ? !arrived_.jobEntry(name).empty()
+                                                                : arrived_.hasFile(name);
 }
 
 /// With the operator's leave. "Exists already" is a failure now: asking again would not end.
@@ -98,8 +127,9 @@ bool MoveCommand::existsAlready() const {
 }
 
 Answer MoveCommand::askOverwrite(const std::string& name) const {
-    return with_.dialog.ask(
-        title_, name + " " + with_.messages.resourceMessage(message::resource::alreadyExists));
+    return with_.dialog.ask(title_,
+                            shownText(name) + " " +
+                                with_.messages.resourceMessage(message::resource::alreadyExists));
 }
 
 /// An unset address concerns every file: the session has told the operator, and the command ends

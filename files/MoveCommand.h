@@ -4,6 +4,7 @@
 #include "files/CommandScopes.h"
 #include "files/PermissionTests.h"
 #include "files/TransferServices.h"
+#include "link/JobNameSet.h"
 
 #include <string>
 #include <vector>
@@ -28,10 +29,16 @@ class MoveCommand {
     /// False when the command ends with this file.
     bool move(const std::string& name);
     Arrival transfer(const std::string& name);
+    /// Asks for whatever the session has found in the way, by its name.
+    Arrival askAndTransfer(const std::string& name);
     Arrival transferOver(const std::string& name);
     bool callSession(const std::string& name, bool overwrite);
     bool existsAlready() const;
     Answer askOverwrite(const std::string& name) const;
+    /// The name under which the file ends up at its destination.
+    std::string arrivalName(const std::string& name) const;
+    /// Whether this very command has brought something there that goes by this name.
+    bool hasArrived(const std::string& name) const;
     Arrival failed();
     void removeFromPC(const std::string& name);
     bool removeFromController(const std::string& name);
@@ -43,6 +50,7 @@ class MoveCommand {
     CommandProgress progress_;
     CommandOutcome outcome_;
     bool overwriteAll_ = false;
+    JobNameSet arrived_; ///< what this command has brought to the destination
 };
 
 } // namespace vantrel

@@ -86,6 +86,11 @@ void Panes::emptyController() {
     controllerRows_.clear();
 }
 
+void Panes::showEmptyController() {
+    emptyController();
+    fill(ActiveSide::Controller);
+}
+
 bool Panes::fill(ActiveSide side) {
     const BusyPointer busy(window_);
     const ControllerModel& model = modelOf(side, state_);

@@ -27,6 +27,8 @@ class Panes {
     bool readController();
     /// No entries, for a controller that was not read.
     void emptyController();
+    /// The same, shown: the list of one machine never stands beside the name of another.
+    void showEmptyController();
 
     /// Rebuilds a list control from its listing, with the pane's filter and order, and its count in
     /// the status bar. False, with an empty list, when the listing is not whole.

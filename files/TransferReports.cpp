@@ -3,6 +3,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/OperatorDialog.h"
+#include "link/ShownText.h"
 #include "link/Snappy.h"
 
 namespace vantrel {
@@ -14,7 +15,7 @@ namespace {
 constexpr const char* directoryStep = "BscFind";
 
 std::string bracketed(const std::string& name) {
-    return "[" + name + "]";
+    return "[" + shownText(name) + "]";
 }
 
 std::string inParentheses(const std::string& text) {

@@ -42,8 +42,9 @@ class Pieces {
     std::string_view rest_;
 };
 
-std::int16_t bitIfSet(std::string_view flag, int column) {
-    return leadingInteger16(flag) == 1 ? static_cast<std::int16_t>(1 << column) : std::int16_t{0};
+void addFlag(std::string_view flag, int column, std::int16_t& mask) {
+    if (leadingInteger16(flag) == 1)
+        mask = static_cast<std::int16_t>(mask | (1 << column));
 }
 
 bool readDownloadFlags(Pieces& pieces, int count, std::int16_t& mask) {
@@ -51,7 +52,7 @@ bool readDownloadFlags(Pieces& pieces, int count, std::int16_t& mask) {
         const auto flag = pieces.ended();
         if (!flag)
             return false;
-        mask |= bitIfSet(*flag, column);
+        addFlag(*flag, column, mask);
     }
     return true;
 }
@@ -61,7 +62,7 @@ bool readUploadFlags(Pieces& pieces, std::int16_t& mask) {
         const auto flag = column + 1 < uploadFlags ? pieces.ended() : pieces.last();
         if (!flag)
             return false;
-        mask |= bitIfSet(*flag, column);
+        addFlag(*flag, column, mask);
     }
     return true;
 }
@@ -81,7 +82,7 @@ std::int16_t furtherUploadMask(std::string_view rest) {
         return 0;
     std::int16_t mask = 0;
     for (int column = uploadFlags; const std::string_view flag : flags)
-        mask |= bitIfSet(flag, column++);
+        addFlag(flag, column++, mask);
     return mask;
 }
 
@@ -103,7 +104,8 @@ std::optional<TransferRow> parseTransferRow(std::string_view line, TransferTable
         !readUploadFlags(pieces, row.uploadMask))
         return std::nullopt;
     if (format == TransferTableFormat::Full)
-        row.uploadMask |= furtherUploadMask(pieces.rest());
+        row.uploadMask =
+            static_cast<std::int16_t>(row.uploadMask | furtherUploadMask(pieces.rest()));
     return row;
 }
 

@@ -2,10 +2,9 @@
 
 #include "base/ApplicationState.h"
 #include "base/Numbers.h"
-#include "base/Text.h"
 #include "platform/ProfileFile.h"
 
-#include <optional>
+#include <utility>
 
 namespace vantrel {
 
@@ -15,17 +14,6 @@ constexpr std::string_view section = "Font Info";
 constexpr std::size_t valueBuffer = 100;
 // Beyond this no window of ours would fit a screen; such a value can only be a damaged file.
 constexpr std::int16_t largestFontSize = 200; ///< points
-
-/// "True" and "False" in any letter case, or a number, of which only 0 is false.
-std::optional<bool> truthValue(std::string_view text) {
-    if (equalsIgnoringAsciiCase(text, "True"))
-        return true;
-    if (equalsIgnoringAsciiCase(text, "False"))
-        return false;
-    if (const auto number = wholeNumber(text))
-        return *number != 0;
-    return std::nullopt;
-}
 
 void readTruthValue(const ProfileFile& settings, std::string_view key, bool& field) {
     field = truthValue(settings.text(section, key, "", valueBuffer)).value_or(field);

@@ -8,8 +8,7 @@
 #include "lang/MessageTable.h"
 #include "platform/ProfileFile.h"
 
-#include <algorithm>
-#include <limits>
+#include <optional>
 #include <utility>
 
 namespace vantrel {
@@ -20,10 +19,13 @@ constexpr const char* lastResort = "System";
 constexpr const char* section = "Language Info";
 constexpr std::size_t nameBuffer = 101; ///< 100 characters and the end
 
-std::int16_t readLangSelect(const ProfileFile& settings) {
-    using Limits = std::numeric_limits<std::int16_t>;
-    const auto value = settings.integer(section, "LangSelect", 1);
-    return static_cast<std::int16_t>(std::clamp<std::int32_t>(value, Limits::min(), Limits::max()));
+/// The recorded language, empty where it is recorded as such; nothing when the key is missing.
+std::optional<std::string> recordedLanguage(const ProfileFile& settings) {
+    constexpr const char* missing = "\n"; // no value can hold a line end
+    auto name = settings.text(section, "Language", missing, nameBuffer);
+    if (name == missing)
+        return std::nullopt;
+    return name;
 }
 
 } // namespace
@@ -47,9 +49,9 @@ bool LanguageChoice::loadDefaultLanguage() {
 
 bool LanguageChoice::loadLanguagePreference(const std::string& settingsPath) {
     const ProfileFile settings(settingsPath);
-    if (auto recorded = settings.text(section, "Language", "", nameBuffer); !recorded.empty())
-        state_.LanguageName = std::move(recorded);
-    state_.LangSelect = readLangSelect(settings);
+    if (auto recorded = recordedLanguage(settings))
+        state_.LanguageName = std::move(*recorded);
+    state_.LangSelect = settings.shortInteger(section, "LangSelect", 1);
     if (state_.LanguageName.empty() || state_.LangSelect != 0)
         return false;
     if (files_.readInto(state_.LanguageName, table_))

@@ -61,7 +61,7 @@ std::vector<MessageEntry> parseLanguageFile(std::string_view bytes) {
     if (line == all.end())
         return entries;
     while (++line != all.end()) {
-        if (startsWith(*line, ";"))
+        if (line->starts_with(';'))
             continue;
         if (auto entry = parseEntry(*line))
             entries.push_back(std::move(*entry));

@@ -61,6 +61,7 @@ inline constexpr std::int32_t nothingToPrint = 57;
 inline constexpr std::int32_t printFailed = 58;
 inline constexpr std::int32_t editorNotStarted = 59;        ///< after [file name]
 inline constexpr std::int32_t libraryFunctionsMissing = 60; ///< then the names
+inline constexpr std::int32_t oldFileKept = 61;             ///< after [name], then [other name]
 
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;

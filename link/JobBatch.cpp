@@ -15,8 +15,8 @@ bool JobBatch::run(const std::vector<std::string>& entries) {
     tools_.progress.open(tools_.progress.transferring(), true, true);
     const TransferOutcome outcome = runThrough(entries);
     tools_.progress.hide();
-    // A failure is reported by the caller and needs the operator's whole attention.
-    if (outcome != TransferOutcome::Failed)
+    // Before the caller's report of a failure, which so is the last thing that the operator reads.
+    if (!tools_.link.endedByUnsetAddress())
         tellSkipped();
     return outcome == TransferOutcome::Done;
 }

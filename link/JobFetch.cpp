@@ -1,12 +1,17 @@
 #include "link/JobFetch.h"
 
+#include "base/PathRules.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
 #include "link/JobNameSet.h"
 #include "link/LinkConnection.h"
+#include "link/OperatorDialog.h"
 #include "link/OverwriteQuestion.h"
 #include "link/ReplacedFile.h"
 #include "link/SessionErrorRecord.h"
 #include "link/SessionProgress.h"
 #include "link/SessionProperties.h"
+#include "link/ShownText.h"
 #include "link/Zurolink.h"
 #include "platform/Files.h"
 
@@ -28,18 +33,29 @@ bool JobFetch::listFolder() {
 }
 
 TransferOutcome JobFetch::fetch(const std::string& name, std::int32_t index, bool overwriteAll) {
+    tools_.inTheWay.clear();
     const auto libraryName = tools_.link.libraryFileName(name, "BscUpLoad", index);
     if (!libraryName)
         return TransferOutcome::Failed;
+    putBackLeftover(tools_.properties.path, name);
     TransferOutcome outcome = TransferOutcome::Done;
-    if (!overwriteAll && tools_.directory.hasFile(name))
-        outcome = tools_.question.ask(name);
+    if (existsOnPC(name)) {
+        tools_.inTheWay = {name};
+        outcome = overwriteAll ? outcome : tools_.question.ask(name);
+    }
     if (!goesOn(outcome))
         return outcome;
     if (!receive(name, *libraryName, index))
         return TransferOutcome::Failed;
     tools_.directory.insert(name);
     return outcome;
+}
+
+// The listing knows every spelling of a name, but it is as old as the operation; a file that came
+// meanwhile is found by its own spelling.
+bool JobFetch::existsOnPC(const std::string& name) const {
+    return tools_.directory.hasFile(name) ||
+           anythingExists(PathRules().join(tools_.properties.path, name));
 }
 
 bool JobFetch::receive(const std::string& name, const std::string& libraryName,
@@ -56,6 +72,14 @@ bool JobFetch::receiveOver(std::int16_t handle, const std::string& name,
         tools_.error.set(session_code::fileNotReplaceable, "", index);
         return false;
     }
+    if (receiveInto(file, handle, libraryName, index))
+        return true;
+    putBack(file, name, index);
+    return false;
+}
+
+bool JobFetch::receiveInto(ReplacedFile& file, std::int16_t handle, const std::string& libraryName,
+                           std::int32_t index) {
     const std::int16_t received = tools_.link.library().BscUpLoad(handle, libraryName.c_str());
     if (!tools_.link.finish(handle, received, "BscUpLoad", index))
         return false;
@@ -65,6 +89,16 @@ bool JobFetch::receiveOver(std::int16_t handle, const std::string& name,
     }
     file.keep();
     return true;
+}
+
+void JobFetch::putBack(ReplacedFile& file, const std::string& name, std::int32_t index) {
+    if (file.putBack())
+        return;
+    tools_.error.set(session_code::oldFileKeptAside, "", index);
+    tools_.dialog.tell("[" + shownText(name) + "]" +
+                           tools_.messages.getMessage(message::oldFileKept) + "[" +
+                           file.asideName() + "]",
+                       BoxIcon::Exclamation);
 }
 
 } // namespace vantrel

@@ -8,6 +8,8 @@
 
 namespace vantrel {
 
+class ReplacedFile;
+
 /// Fetches one file from the controller into the PC folder. The folder ends up with the complete
 /// new file or as it was before.
 class JobFetch {
@@ -21,9 +23,15 @@ class JobFetch {
     TransferOutcome fetch(const std::string& name, std::int32_t index, bool overwriteAll);
 
   private:
+    bool existsOnPC(const std::string& name) const;
     bool receive(const std::string& name, const std::string& libraryName, std::int32_t index);
     bool receiveOver(std::int16_t handle, const std::string& name, const std::string& libraryName,
                      std::int32_t index);
+    bool receiveInto(ReplacedFile& file, std::int16_t handle, const std::string& libraryName,
+                     std::int32_t index);
+    /// Puts the old file back after a failed transfer; that it could not be is told whatever
+    /// `DisplayMonitor` says, for nobody would look for the file under its other name.
+    void putBack(ReplacedFile& file, const std::string& name, std::int32_t index);
 
     TransferTools tools_;
 };

@@ -13,10 +13,10 @@ constexpr std::string_view nameKey = "//NAME";
 
 /// What stands on the line after the key, or an empty text when the line is another one.
 std::string_view nameOnLine(std::string_view line) {
-    if (!startsWith(line, nameKey))
+    if (!line.starts_with(nameKey))
         return {};
     const std::string_view rest = line.substr(nameKey.size());
-    const bool keyEnds = startsWith(rest, " ") || startsWith(rest, "\t");
+    const bool keyEnds = rest.starts_with(' ') || rest.starts_with('\t');
     return keyEnds ? trimmed(rest) : std::string_view();
 }
 
@@ -24,7 +24,11 @@ std::string_view nameOnLine(std::string_view line) {
 
 // The whole file decides on its encoding: a short name alone may look like another one.
 std::string jobNameInside(std::string_view bytes) {
-    const std::string text = decodeText(bytes).text;
+    const DecodedText decoded = decodeText(bytes);
+    // No controller reads UTF-16, so it finds no name either.
+    if (decoded.encoding == TextEncoding::Utf16LittleEndian)
+        return {};
+    const std::string& text = decoded.text;
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t end = std::min(text.find_first_of("\r\n", at), text.size());
         const auto name = nameOnLine(std::string_view(text).substr(at, end - at));

@@ -22,7 +22,8 @@ class JobFile {
     std::string name_;
 };
 
-/// The name of the first "//NAME" line, without the blanks around it; UTF-8.
+/// The name of the first "//NAME" line, without the blanks around it; UTF-8. Empty when a
+/// controller would find none.
 std::string jobNameInside(std::string_view bytes);
 
 } // namespace vantrel

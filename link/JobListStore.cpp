@@ -7,12 +7,17 @@
 #include "link/OperatorDialog.h"
 #include "link/SessionErrorRecord.h"
 #include "link/SessionProperties.h"
+#include "link/ShownText.h"
 #include "platform/Files.h"
 #include "platform/TextEncoding.h"
 
 namespace vantrel {
 
 bool JobListStore::load(const std::string& file, bool unchecked) {
+    if (!PathRules::isPlainName(file)) {
+        tools_.error.set(session_code::nameRefused, "");
+        return false;
+    }
     const auto content = readFile(PathRules().join(tools_.properties.path, file));
     if (!content) {
         tools_.error.set(session_code::listFileNotOpened, "");
@@ -48,7 +53,8 @@ bool JobListStore::addExisting(const std::string& name) {
 bool JobListStore::askGoOnWithout(const std::string& name) {
     if (!tools_.properties.DisplayMonitor)
         return true;
-    const std::string text = tools_.messages.getMessage(message::jobFileHead) + "[" + name + "] " +
+    const std::string text = tools_.messages.getMessage(message::jobFileHead) + "[" +
+                             shownText(name) + "] " +
                              tools_.messages.getMessage(message::jobFileMissing);
     return tools_.dialog.askOkCancel(text, BoxIcon::Exclamation);
 }

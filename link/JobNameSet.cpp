@@ -22,25 +22,17 @@ JobNameSet::JobNameSet() : JobNameSet(normalisedJobName) {}
 
 void JobNameSet::assign(const std::vector<std::string>& names) {
     files_.clear();
-    jobs_.clear();
     files_.reserve(names.size());
-    jobs_.reserve(names.size());
     for (const std::string& name : names)
         insert(name);
 }
 
 void JobNameSet::insert(const std::string& name) {
-    std::string file = form_(name);
-    if (namesAJob(name))
-        jobs_.try_emplace(std::string(baseName(file)), name);
-    files_.insert(std::move(file));
+    files_.try_emplace(form_(name), name);
 }
 
 void JobNameSet::remove(std::string_view name) {
-    const std::string file = form_(name);
-    files_.erase(file);
-    if (namesAJob(name))
-        jobs_.erase(std::string(baseName(file)));
+    files_.erase(form_(name));
 }
 
 bool JobNameSet::hasFile(std::string_view name) const {
@@ -48,8 +40,13 @@ bool JobNameSet::hasFile(std::string_view name) const {
 }
 
 std::string JobNameSet::jobEntry(std::string_view name) const {
-    const auto found = jobs_.find(form_(baseName(name)));
-    return found == jobs_.end() ? std::string() : found->second;
+    const std::string job = form_(baseName(name));
+    for (const char* extension : {".JBI", ".JBR", ""}) {
+        const auto found = files_.find(job + extension);
+        if (found != files_.end() && namesAJob(found->second))
+            return found->second;
+    }
+    return {};
 }
 
 std::string jobExtension(std::string_view fileName) {

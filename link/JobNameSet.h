@@ -3,7 +3,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace vantrel {
@@ -25,13 +24,12 @@ class JobNameSet {
     /// Whether a file of this whole name is there.
     bool hasFile(std::string_view name) const;
     /// The directory's entry for the job with this name, or an empty text. Extensions don't count:
-    /// a job is found as ".JBI", as ".JBR" and without an extension.
+    /// a job is found as ".JBI", as ".JBR" and without an extension, in this order.
     std::string jobEntry(std::string_view name) const;
 
   private:
     Form form_;
-    std::unordered_set<std::string> files_;
-    std::unordered_map<std::string, std::string> jobs_; ///< normalised job name to entry
+    std::unordered_map<std::string, std::string> files_; ///< normalised name to entry
 };
 
 /// The upper-cased extension with its point (".JBI"), or an empty text.

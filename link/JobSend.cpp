@@ -10,17 +10,30 @@
 #include "link/SessionProgress.h"
 #include "link/SessionProperties.h"
 #include "link/Zurolink.h"
+#include "platform/TextEncoding.h"
+
+#include <algorithm>
 
 namespace vantrel {
+namespace {
+
+/// Whether a controller can keep a job under the name of its "//NAME" line.
+bool isUsableJobName(const std::string& name) {
+    return PathRules::isPlainName(name) && PathRules::isPlainName(name + ".JBI") &&
+           toCodePage(name);
+}
+
+} // namespace
 
 TransferOutcome JobSend::send(const std::string& file, std::int32_t index, bool overwriteAll) {
+    tools_.inTheWay.clear();
     const auto libraryName = tools_.link.libraryFileName(file, "BscDownLoad", index);
     if (!libraryName)
         return TransferOutcome::Failed;
     const auto inside = readNameInside(file, index);
     if (!inside)
         return TransferOutcome::Failed;
-    const TransferOutcome outcome = prepare(file, *inside, overwriteAll);
+    const TransferOutcome outcome = prepare(file, *inside, index, overwriteAll);
     if (!goesOn(outcome))
         return outcome;
     if (!transmit(file, *libraryName, index))
@@ -40,18 +53,27 @@ std::optional<std::string> JobSend::readNameInside(const std::string& file, std:
 }
 
 // Every question comes before the first deletion, so that a refusal leaves the controller as it
-// was.
+// was. A file that the controller could give no name to would cost it the old job for nothing; when
+// none is in the way, the judgement is the controller's.
 TransferOutcome JobSend::prepare(const std::string& file, const std::string& nameInside,
-                                 bool overwriteAll) {
+                                 std::int32_t index, bool overwriteAll) {
     if (!isJobFileName(file))
         return TransferOutcome::Done;
     const auto jobs = jobsInTheWay(file, nameInside);
-    const TransferOutcome outcome = overwriteAll ? TransferOutcome::Done : askAll(file, jobs);
+    if (!jobs.empty() && !isUsableJobName(nameInside)) {
+        tools_.error.set(session_code::jobNameUnusable, "", index);
+        return TransferOutcome::Failed;
+    }
+    tools_.inTheWay = shownNames(file, jobs);
+    const TransferOutcome outcome = overwriteAll ? TransferOutcome::Done : askAll(tools_.inTheWay);
     if (!goesOn(outcome) || jobExtension(file) != ".JBI")
         return outcome;
     return removeAll(jobs) ? outcome : TransferOutcome::Failed;
 }
 
+// A file FOO.JBI whose line names BAR concerns both jobs: the operator thinks of the file by FOO,
+// the controller will keep it as BAR. So where only FOO exists, FOO is asked for and goes all the
+// same: it would stay behind as an older version of what the operator has just sent.
 std::vector<std::string> JobSend::jobsInTheWay(const std::string& file,
                                                const std::string& nameInside) const {
     std::vector<std::string> jobs{tools_.directory.jobEntry(file)};
@@ -63,12 +85,17 @@ std::vector<std::string> JobSend::jobsInTheWay(const std::string& file,
     return jobs;
 }
 
-TransferOutcome JobSend::askAll(const std::string& file,
-                                const std::vector<std::string>& jobs) const {
-    const std::string own = tools_.directory.jobEntry(file);
+std::vector<std::string> JobSend::shownNames(const std::string& file,
+                                             const std::vector<std::string>& jobs) const {
+    std::vector<std::string> names = jobs;
+    std::replace(names.begin(), names.end(), tools_.directory.jobEntry(file), file);
+    return names;
+}
+
+TransferOutcome JobSend::askAll(const std::vector<std::string>& names) const {
     TransferOutcome outcome = TransferOutcome::Done;
-    for (const std::string& job : jobs) {
-        outcome = tools_.question.ask(job == own ? file : job);
+    for (const std::string& name : names) {
+        outcome = tools_.question.ask(name);
         if (outcome != TransferOutcome::Done)
             break;
     }

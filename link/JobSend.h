@@ -27,12 +27,15 @@ class JobSend {
     std::optional<std::string> readNameInside(const std::string& file, std::int32_t index);
     /// Asks and deletes whatever stands in the file's way.
     TransferOutcome prepare(const std::string& file, const std::string& nameInside,
-                            bool overwriteAll);
+                            std::int32_t index, bool overwriteAll);
     /// The jobs on the controller that the file would replace: the one of its own name, and the
     /// one that its "//NAME" line names.
     std::vector<std::string> jobsInTheWay(const std::string& file,
                                           const std::string& nameInside) const;
-    TransferOutcome askAll(const std::string& file, const std::vector<std::string>& jobs) const;
+    /// The jobs by the names that the operator is asked about: the file's own for its own job.
+    std::vector<std::string> shownNames(const std::string& file,
+                                        const std::vector<std::string>& jobs) const;
+    TransferOutcome askAll(const std::vector<std::string>& names) const;
     bool removeAll(const std::vector<std::string>& jobs);
     bool transmit(const std::string& file, const std::string& libraryName, std::int32_t index);
 

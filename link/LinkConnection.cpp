@@ -20,7 +20,20 @@ constexpr const char* unsetAddress = "0.0.0.0";
 
 } // namespace
 
+void LinkConnection::begin() {
+    begunWith_ = controller();
+    endedByUnsetAddress_ = false;
+}
+
+LinkConnection::Controller LinkConnection::controller() const {
+    return {services_.TransMode, properties_.port, properties_.IPaddress};
+}
+
 std::int16_t LinkConnection::connect() {
+    if (begunWith_ && *begunWith_ != controller()) {
+        error_.set(session_code::controllerChanged, "", 0);
+        return noHandle;
+    }
     // The library keeps files of its own beside the program; without that folder it may still work.
     static_cast<void>(changeCurrentFolder(services_.programFolder));
     const auto folder = libraryText(properties_.path, "BscOpen", 0);

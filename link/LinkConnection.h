@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/TransferMode.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -41,12 +43,22 @@ class LinkConnection {
 
     Zurolink& library() const;
 
-    /// To be called where an operation begins.
-    void forgetUnsetAddress() { endedByUnsetAddress_ = false; }
+    /// To be called where an operation begins. Its links all lead to the controller that is set
+    /// now: after a change in its middle the next `connect` fails.
+    void begin();
     /// The operator has been told that the robot's address is not set; nothing was recorded.
     bool endedByUnsetAddress() const { return endedByUnsetAddress_; }
 
   private:
+    /// What tells one controller from another.
+    struct Controller {
+        TransferMode mode;
+        std::int16_t port;
+        std::string address;
+        bool operator==(const Controller&) const = default;
+    };
+
+    Controller controller() const;
     bool addressUnset() const;
     std::int16_t refuseUnsetAddress(std::int16_t handle);
     bool configure(std::int16_t handle);
@@ -58,6 +70,7 @@ class LinkConnection {
     const SessionServices& services_;
     const SessionProperties& properties_;
     SessionErrorRecord& error_;
+    std::optional<Controller> begunWith_; ///< nothing outside an operation
     bool endedByUnsetAddress_ = false;
 };
 

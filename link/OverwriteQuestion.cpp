@@ -4,6 +4,7 @@
 #include "lang/MessageTable.h"
 #include "link/OperatorDialog.h"
 #include "link/SessionProperties.h"
+#include "link/ShownText.h"
 
 namespace vantrel {
 
@@ -11,7 +12,7 @@ TransferOutcome OverwriteQuestion::ask(const std::string& name) const {
     if (!properties_.DisplayMonitor)
         return TransferOutcome::Cancelled;
     const std::string question =
-        name + " " + messages_.resourceMessage(message::resource::alreadyExists);
+        shownText(name) + " " + messages_.resourceMessage(message::resource::alreadyExists);
     switch (dialog_.ask(properties_.MonitorTitle, question)) {
     case Answer::Yes:
         return TransferOutcome::Done;

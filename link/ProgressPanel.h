@@ -47,6 +47,12 @@ class ProgressPanel {
     void clearMark() { mark_.clear(); }
     bool isCancelled() const { return mark_ == cancelled; }
 
+    /// Whoever takes note of a press beyond its mark says so here until the work has ended, so that
+    /// the Cancel button does not look untouched again after the next message.
+    void keepPress(bool kept) { pressKept_ = kept; }
+    /// Whether a press is known to somebody; the Cancel button is off meanwhile.
+    bool isPressTaken() const { return pressKept_ || isCancelled(); }
+
     bool isVisible() const { return visible_; }
     const std::string& title() const { return title_; }
     const std::string& message() const { return message_; }
@@ -66,6 +72,7 @@ class ProgressPanel {
     std::string waitingFor_;
     std::string cancelCaption_;
     std::string mark_;
+    bool pressKept_ = false;
     bool visible_ = false;
     bool cancelButtonShown_ = true;
     bool barShown_ = true;

@@ -21,7 +21,12 @@ inline constexpr std::int16_t nameRefused = 23;      ///< not one plain file nam
 inline constexpr std::int16_t directoryEndless = 24; ///< 1,000,000 entries and no end
 inline constexpr std::int16_t fileDidNotArrive = 25; ///< reported as done, but it is not there
 inline constexpr std::int16_t fileNotReplaceable = 26; ///< the old PC file cannot be set aside
-inline constexpr std::int16_t libraryUnusable = -10;   ///< missing, wrong or incomplete library
+inline constexpr std::int16_t jobNameUnusable = 27;    ///< no "//NAME" line that a job could have
+inline constexpr std::int16_t oldFileKeptAside = 28;   ///< it could not be put back
+inline constexpr std::int16_t controllerChanged = 29;  ///< while the operation ran
+/// A variable's value is not finite. (30 to 33 stay unused: their texts would be the buttons'.)
+inline constexpr std::int16_t valueNotFinite = 34;
+inline constexpr std::int16_t libraryUnusable = -10; ///< missing, wrong or incomplete library
 } // namespace session_code
 
 /// The reason of the last failure.

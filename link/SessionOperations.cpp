@@ -1,5 +1,6 @@
 #include "link/SessionOperations.h"
 
+#include "base/Text.h"
 #include "link/SessionValues.h"
 #include "link/Snappy.h"
 
@@ -36,10 +37,22 @@ SessionValue outValue(const std::string& text) {
     return text;
 }
 
+/// A name that holds no line end, whatever a controller calls its files.
+std::string onOneLine(const std::string& name) {
+    std::u32string characters = codePoints(name);
+    std::replace_if(
+        characters.begin(), characters.end(),
+        [](char32_t character) {
+            return character < 0x20 || (character >= 0x7F && character < 0xA0);
+        },
+        char32_t{0xFFFD});
+    return utf8(characters);
+}
+
 SessionValue outValue(const std::vector<std::string>& names) {
     std::string text;
     for (const std::string& name : names)
-        text += name + "\n";
+        text += onOneLine(name) + "\n";
     return text;
 }
 
@@ -108,6 +121,8 @@ SessionValue getProperty(const Snappy& session) {
 
 template <auto Field>
 bool setProperty(Snappy& session, const SessionValue& value) {
+    if (std::holds_alternative<std::monostate>(value))
+        return false;
     using Type = std::remove_cvref_t<decltype(session.*Field)>;
     auto converted = parameter<Type>({value}, 0);
     if (converted)

@@ -23,9 +23,9 @@ class SessionOperations {
     explicit SessionOperations(Snappy& session) : session_(session) {}
 
     /// Calls an operation. Out arguments are written back: `ReadDirectory` gives the names, one per
-    /// line, and `VarUpLoad` the refreshed entry. A property's name alone reads it, with an
-    /// argument it sets it. Fails, without having called anything, on an unknown name and on
-    /// arguments that are missing or do not convert.
+    /// line and control characters replaced, and `VarUpLoad` the refreshed entry. A property's name
+    /// alone reads it, with an argument it sets it. Fails, without having called anything, on an
+    /// unknown name and on arguments that are missing or do not convert.
     Result<SessionValue> call(std::string_view name, std::vector<SessionValue>& arguments);
     Result<SessionValue> call(std::string_view name) {
         std::vector<SessionValue> none;

@@ -4,6 +4,7 @@
 #include "lang/MessageTable.h"
 #include "link/ProgressPanel.h"
 #include "link/SessionProperties.h"
+#include "link/ShownText.h"
 
 namespace vantrel {
 
@@ -16,7 +17,15 @@ SessionProgress::SessionProgress(const SessionProperties& properties, const Mess
 }
 
 void SessionProgress::begin() {
-    pressed_ = !silent() && panel_.isVisible() && panel_.isCancelled();
+    pressed_ = false;
+    panel_.keepPress(false);
+    if (panel_.isVisible())
+        isCancelled();
+}
+
+void SessionProgress::end() {
+    panel_.keepPress(false);
+    hide();
 }
 
 void SessionProgress::prepare(const std::string& message) {
@@ -55,6 +64,8 @@ void SessionProgress::hide() {
 
 bool SessionProgress::isCancelled() {
     pressed_ = pressed_ || (!silent() && panel_.isCancelled());
+    if (pressed_)
+        panel_.keepPress(true);
     return pressed_;
 }
 
@@ -65,11 +76,11 @@ bool SessionProgress::isCancelledAfterYield() {
 }
 
 std::string SessionProgress::transferring(const std::string& name) const {
-    return messages_.resourceMessage(message::resource::transferring) + name;
+    return messages_.resourceMessage(message::resource::transferring) + shownText(name);
 }
 
 std::string SessionProgress::deleting(const std::string& name) const {
-    return messages_.resourceMessage(message::resource::deleting) + name;
+    return messages_.resourceMessage(message::resource::deleting) + shownText(name);
 }
 
 bool SessionProgress::silent() const {

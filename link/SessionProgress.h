@@ -13,7 +13,8 @@ struct SessionProperties;
 /// the dialog belongs to the command that called the session.
 ///
 /// A press of Cancel can arrive whenever the event loop runs, and showing a message clears its
-/// mark; so the presses of one operation are kept here, where no later message loses them.
+/// mark; so the presses of one operation are kept here, where no later message loses them, and the
+/// panel is told to go on showing that a press was taken.
 class SessionProgress {
   public:
     SessionProgress(const SessionProperties& properties, const MessageTable& messages,
@@ -22,6 +23,8 @@ class SessionProgress {
     /// Where an operation begins: of an earlier press only one made in a window that is still
     /// visible counts, for it is meant for the command that this operation is a part of.
     void begin();
+    /// Where the operation ends: hides the dialog.
+    void end();
 
     /// Text, bar and second label for work on a single thing, shown with the next message.
     void prepare(const std::string& message);

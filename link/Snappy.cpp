@@ -25,12 +25,15 @@ namespace vantrel {
 
 /// The session's members, each with one responsibility, wired up.
 struct Snappy::Parts {
-    Parts(const SessionServices& given, const SessionProperties& properties)
-        : services(given), link(services, properties, error),
+    Parts(SessionServices given, const SessionProperties& properties)
+        : services(std::move(given)), link(services, properties, error),
           progress(properties, services.messages, services.progress),
           question(properties, services.messages, services.dialog), reader(link, error),
-          deletion(link, progress), tools{properties, link,     progress,
-                                          error,      question, directoryNames},
+          deletion(link, progress), tools{properties,     link,
+                                          progress,       error,
+                                          question,       directoryNames,
+                                          inTheWay,       services.messages,
+                                          services.dialog},
           sending(tools, deletion), fetching(tools),
           jobs({properties, error, services.messages, services.dialog}), variable(link, error),
           variables(properties, error) {}
@@ -51,6 +54,7 @@ struct Snappy::Parts {
     DirectoryReader reader;
     std::vector<std::string> directory; ///< the controller's, as last read for a transfer
     JobNameSet directoryNames;
+    std::vector<std::string> inTheWay; ///< of the file transferred last
     JobDeletion deletion;
     TransferTools tools;
     JobSend sending;
@@ -68,10 +72,10 @@ namespace {
 class Operation {
   public:
     Operation(LinkConnection& link, SessionProgress& progress) : progress_(progress) {
-        link.forgetUnsetAddress();
+        link.begin();
         progress_.begin();
     }
-    ~Operation() { progress_.hide(); }
+    ~Operation() { progress_.end(); }
     Operation(const Operation&) = delete;
     Operation& operator=(const Operation&) = delete;
 
@@ -123,6 +127,10 @@ bool Snappy::endedByUnsetAddress() const {
     return parts_->link.endedByUnsetAddress();
 }
 
+const std::vector<std::string>& Snappy::jobsInTheWay() const {
+    return parts_->inTheWay;
+}
+
 // Jobs.
 
 bool Snappy::Parts::readDirectory() {
@@ -167,6 +175,7 @@ bool Snappy::ReadDirectory(std::vector<std::string>& list) {
 
 bool Snappy::JobDownLoad(const std::string& file, bool overwriteAll) {
     const Operation operation(parts_->link, parts_->progress);
+    parts_->inTheWay.clear();
     // A name that will be refused opens no link, not even the directory's.
     if (!parts_->link.libraryFileName(file, "BscDownLoad", 0) || !parts_->readDirectory())
         return false;
@@ -182,6 +191,7 @@ bool Snappy::JobDelete(const std::string& name) {
 
 bool Snappy::JobUpLoad(const std::string& name, bool overwriteAll) {
     const Operation operation(parts_->link, parts_->progress);
+    parts_->inTheWay.clear();
     if (!parts_->link.libraryFileName(name, "BscUpLoad", 0) || !parts_->fetching.listFolder())
         return false;
     parts_->progress.open(parts_->progress.transferring(name), false, true);
@@ -223,6 +233,7 @@ void Snappy::RemoveJobList(std::int32_t index) {
 }
 
 bool Snappy::SetJobListFile(const std::string& file, bool unchecked) {
+    const Operation operation(parts_->link, parts_->progress);
     parts_->localJobs.read(path);
     return parts_->jobs.load(file, unchecked);
 }
@@ -234,6 +245,7 @@ void Snappy::SetVarListFile(const std::string& file) {
 }
 
 bool Snappy::ReadVarListFile() {
+    const Operation operation(parts_->link, parts_->progress);
     return parts_->variables.read();
 }
 
@@ -276,6 +288,7 @@ bool Snappy::VarListUpLoad() {
 }
 
 bool Snappy::WriteVarListFile(const std::string& file) {
+    const Operation operation(parts_->link, parts_->progress);
     return parts_->variables.write(file);
 }
 

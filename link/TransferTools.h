@@ -1,9 +1,14 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 namespace vantrel {
 
 class JobNameSet;
 class LinkConnection;
+class MessageTable;
+class OperatorDialog;
 class OverwriteQuestion;
 class SessionProgress;
 struct SessionErrorRecord;
@@ -16,7 +21,10 @@ struct TransferTools {
     SessionProgress& progress;
     SessionErrorRecord& error;
     const OverwriteQuestion& question;
-    JobNameSet& directory; ///< the names at the destination
+    JobNameSet& directory;              ///< the names at the destination
+    std::vector<std::string>& inTheWay; ///< what the transfer under way would replace
+    const MessageTable& messages;
+    OperatorDialog& dialog;
 };
 
 } // namespace vantrel

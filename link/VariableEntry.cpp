@@ -3,7 +3,9 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 
 namespace vantrel {
@@ -99,6 +101,13 @@ std::optional<VariableEntry> VariableEntry::parse(std::string_view line) {
     entry.kind = *kind;
     entry.number = *number;
     return entry;
+}
+
+bool VariableEntry::isFinite() const {
+    const auto written =
+        static_cast<std::ptrdiff_t>(kinds[static_cast<std::size_t>(kind)].valuesWritten);
+    return std::all_of(values.begin(), values.begin() + written,
+                       [](double value) { return std::isfinite(value); });
 }
 
 std::string VariableEntry::format() const {

@@ -24,6 +24,8 @@ struct VariableEntry {
 
     /// The number with at least three digits; kinds up to 3 with one value, the others with nine.
     std::string format() const;
+    /// Whether all values that `format` writes are finite, so that they can be read back.
+    bool isFinite() const;
 };
 
 } // namespace vantrel

@@ -12,18 +12,22 @@ namespace {
 /// The line end of a text's first line; a text of one line is given the usual one.
 std::string firstLineEnd(std::string_view text) {
     const std::size_t at = text.find_first_of("\r\n");
-    if (at == std::string_view::npos || startsWith(text.substr(at), "\r\n"))
+    if (at == std::string_view::npos || text.substr(at).starts_with("\r\n"))
         return "\r\n";
-    return std::string(1, text[at]);
+    return {text[at]};
 }
 
 } // namespace
 
 bool VariableList::read() {
     entries_.clear();
+    readingFailed_ = true;
+    if (!PathRules::isPlainName(file_))
+        return fail(session_code::nameRefused);
     const auto content = readFile(PathRules().join(properties_.path, file_));
     if (!content)
-        return fail();
+        return fail(session_code::listFileNotOpened);
+    readingFailed_ = false;
     const DecodedText decoded = decodeText(*content);
     encoding_ = decoded.encoding;
     lineEnd_ = firstLineEnd(decoded.text);
@@ -33,6 +37,10 @@ bool VariableList::read() {
 }
 
 bool VariableList::write(const std::string& file) {
+    if (!PathRules::isPlainName(file))
+        return fail(session_code::nameRefused);
+    if (readingFailed_ && entries_.count() == 0)
+        return fail(session_code::listFileNotOpened);
     std::string text;
     for (const std::string& entry : entries_.all())
         text += entry + lineEnd_;
@@ -40,12 +48,12 @@ bool VariableList::write(const std::string& file) {
     if (!bytes) // a line that came from elsewhere than the file
         bytes = encodeText(text, TextEncoding::Utf8);
     if (!bytes || !replaceFile(PathRules().join(properties_.path, file), *bytes))
-        return fail();
+        return fail(session_code::listFileNotOpened);
     return true;
 }
 
-bool VariableList::fail() {
-    error_.set(session_code::listFileNotOpened, "");
+bool VariableList::fail(std::int16_t code) {
+    error_.set(code, "");
     return false;
 }
 

@@ -3,6 +3,7 @@
 #include "link/EntryList.h"
 #include "platform/TextEncoding.h"
 
+#include <cstdint>
 #include <string>
 
 namespace vantrel {
@@ -19,17 +20,18 @@ class VariableList {
 
     void setFile(const std::string& file) { file_ = file; }
     /// Replaces the list by the lines of the file set before. The list is empty when it cannot be
-    /// opened.
+    /// opened. The names of list files are plain ones of the session's folder.
     bool read();
     /// Writes the list in the encoding and with the line ends that the last list read had. The old
-    /// file is replaced whole or not at all.
+    /// file is replaced whole or not at all. After a failed reading an empty list is refused: it
+    /// is not what the operator had in mind for the file.
     bool write(const std::string& file);
 
     EntryList& entries() { return entries_; }
     const EntryList& entries() const { return entries_; }
 
   private:
-    bool fail();
+    bool fail(std::int16_t code);
 
     const SessionProperties& properties_;
     SessionErrorRecord& error_;
@@ -37,6 +39,7 @@ class VariableList {
     EntryList entries_;
     TextEncoding encoding_ = TextEncoding::CodePage;
     std::string lineEnd_ = "\r\n";
+    bool readingFailed_ = false;
 };
 
 } // namespace vantrel

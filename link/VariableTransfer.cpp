@@ -36,6 +36,11 @@ bool VariableTransfer::read(std::string& entry) {
                                                            variable->values.data());
     if (!link_.finish(handle, got, "BscGetVarData"))
         return false;
+    // No number could be written for it that a later reading would understand.
+    if (!variable->isFinite()) {
+        error_.set(session_code::valueNotFinite, "BscGetVarData");
+        return false;
+    }
     entry = variable->format();
     return true;
 }

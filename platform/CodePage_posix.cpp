@@ -25,7 +25,10 @@ class Converter {
     Converter(const Converter&) = delete;
     Converter& operator=(const Converter&) = delete;
 
-    bool isOpen() const { return state_ != reinterpret_cast<iconv_t>(-1); }
+    bool isOpen() const {
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): how iconv_open says that it failed
+        return state_ != reinterpret_cast<iconv_t>(-1);
+    }
 
     /// Appends what is valid; what is left of the input begins with the offending byte. The input
     /// goes in pieces, since a checking build looks through the whole of each call's input.

@@ -27,6 +27,10 @@ class ProfileFile {
     std::int32_t integer(std::string_view section, std::string_view key,
                          std::int32_t defaultValue) const;
 
+    /// The same, held within 16 bits.
+    std::int16_t shortInteger(std::string_view section, std::string_view key,
+                              std::int16_t defaultValue) const;
+
     /// Remembers a value for `save`. Refused when the code page lacks one of its characters or when
     /// it could not be read back, such as one with a line end.
     Outcome set(std::string_view section, std::string_view key, std::string_view value);

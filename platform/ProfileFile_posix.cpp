@@ -3,6 +3,8 @@
 #include "platform/ProfileFile.h"
 #include "platform/ProfileText.h"
 
+#include <algorithm>
+#include <limits>
 #include <optional>
 
 namespace vantrel {
@@ -53,6 +55,13 @@ std::int32_t ProfileFile::integer(std::string_view section, std::string_view key
     return value ? profileInteger(*value) : defaultValue;
 }
 
+std::int16_t ProfileFile::shortInteger(std::string_view section, std::string_view key,
+                                       std::int16_t defaultValue) const {
+    using Limits = std::numeric_limits<std::int16_t>;
+    const auto value = integer(section, key, defaultValue);
+    return static_cast<std::int16_t>(std::clamp<std::int32_t>(value, Limits::min(), Limits::max()));
+}
+
 Outcome ProfileFile::set(std::string_view section, std::string_view key, std::string_view value) {
     return content_->text.set(section, key, value);
 }
@@ -62,7 +71,7 @@ Outcome ProfileFile::save() {
         return Done{};
     if (content_->unreadable)
         return *content_->unreadable;
-    const auto outcome = replaceFile(path_, content_->text.bytes());
+    auto outcome = replaceFile(path_, content_->text.bytes());
     if (outcome)
         content_->saved = content_->text.bytes();
     return outcome;

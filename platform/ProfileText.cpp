@@ -15,12 +15,29 @@ constexpr std::string_view blanks = " \t";
 constexpr std::string_view wideMark = "\xFF\xFE";
 constexpr std::string_view lineEnd = "\r\n";
 
-bool sameName(std::string_view left, std::string_view right) {
-    if (isAscii(left) && isAscii(right))
-        return equalsIgnoringAsciiCase(left, right);
-    // A name is at most four times as long in its other letter case; a longer line costs nothing.
-    return left.size() <= right.size() * 4 && upperCase(left) == upperCase(right);
-}
+/// A name that is looked for among many, whatever its letter case.
+class SoughtName {
+  public:
+    SoughtName(std::string_view name, UpperCaseMapping& mapping)
+        : name_(name), mapping_(mapping), isAscii_(isAscii(name)), upper_(mapping.of(name)) {}
+
+    /// An ASCII name is found by ASCII letters only: a dotless i (U+0131) or long s (U+017F),
+    /// though its capital is an ASCII letter, and the Kelvin sign (U+212A) make another name.
+    bool matches(std::string_view found) const {
+        if (isAscii(found) != isAscii_)
+            return false;
+        if (isAscii_)
+            return equalsIgnoringAsciiCase(found, name_);
+        // A name is at most four times as long in its other case; a longer line costs nothing.
+        return found.size() <= name_.size() * 4 && mapping_.of(found) == upper_;
+    }
+
+  private:
+    std::string_view name_;
+    UpperCaseMapping& mapping_;
+    bool isAscii_;
+    std::string upper_;
+};
 
 /// The name in a header line; nothing when the line is none. Without a "]" the header runs to the
 /// end of its line.
@@ -45,12 +62,6 @@ std::optional<Entry> entryOf(std::string_view line) {
                  trimmed(content.substr(equals + 1), blanks)};
 }
 
-std::string_view withoutQuotes(std::string_view value) {
-    const bool quoted = value.size() >= 2 && value.front() == value.back() &&
-                        (value.front() == '"' || value.front() == '\'');
-    return quoted ? value.substr(1, value.size() - 2) : value;
-}
-
 bool hasForbidden(std::string_view text, std::string_view forbidden) {
     return text.find_first_of(forbidden) != std::string_view::npos;
 }
@@ -66,11 +77,14 @@ std::optional<Failure> unreadable(std::string_view section, std::string_view key
     if (hasForbidden(section, "]") || hasForbidden(key, "=") || key.starts_with('[') ||
         key.starts_with(';'))
         return Failure{"the name of a section or key holds a reserved character"};
+    // A reader strips tabs in the file, but not those of the name that it looks for.
+    if (trimmed(section, blanks) != section || trimmed(key, blanks) != key)
+        return Failure{"the name of a section or key begins or ends with a tab"};
     return std::nullopt;
 }
 
-/// The lines of a file's bytes in one of its two encodings, by position. In both encodings the
-/// units for CR, LF and "=" are part of no other character.
+/// The lines of a file's bytes in one of its two encodings, or of its text, by position. In all of
+/// them the units for CR, LF and "=" are part of no other character.
 class RawLines {
   public:
     RawLines(const std::string& bytes, bool isWide)
@@ -119,6 +133,42 @@ class RawLines {
     std::size_t start_;
 };
 
+/// All that follows the "=" of the line is the value, so all of it is replaced.
+void changeValue(std::string& content, bool isWide, std::size_t line, std::string_view value) {
+    const RawLines raw(content, isWide);
+    const auto start = raw.lineStart(line);
+    const auto valueStart = raw.afterEquals(start);
+    content.replace(valueStart, raw.contentEnd(start) - valueStart, value);
+}
+
+/// Behind the line of this number, npos for the last one, which is closed first if need be.
+void insertAfter(std::string& content, bool isWide, std::size_t line, std::string_view added,
+                 std::string_view closing) {
+    const RawLines raw(content, isWide);
+    const bool atEnd = line == std::string::npos;
+    const auto start = atEnd ? content.size() : raw.lineStart(line);
+    const auto contentEnd = atEnd ? content.size() : raw.contentEnd(start);
+    const bool isOpen = atEnd ? raw.isLastLineOpen() : contentEnd == content.size();
+    const auto at = raw.afterLineEnd(contentEnd);
+    content.insert(at, added);
+    if (isOpen)
+        content.insert(at, closing);
+}
+
+/// Where a text is added or, as a value, replaced.
+struct Change {
+    bool replaces = false;
+    std::size_t line = 0;
+};
+
+void apply(const Change& change, std::string& content, bool isWide, std::string_view added,
+           std::string_view closing) {
+    if (change.replaces)
+        changeValue(content, isWide, change.line, added);
+    else
+        insertAfter(content, isWide, change.line, added, closing);
+}
+
 } // namespace
 
 /// Where a section and a key are, as line numbers.
@@ -126,7 +176,7 @@ struct ProfileText::Place {
     bool hasSection = false;
     std::optional<std::string_view> value; ///< as written, without outer blanks
     std::size_t keyLine = 0;
-    std::size_t lastLine = 0; ///< of the section's keys, or its header
+    std::size_t lastLine = std::string::npos; ///< of the section's keys, or its header; or none
 };
 
 ProfileText::ProfileText(std::string bytes) : bytes_(std::move(bytes)) {
@@ -134,7 +184,9 @@ ProfileText::ProfileText(std::string bytes) : bytes_(std::move(bytes)) {
 }
 
 void ProfileText::decode() {
-    text_ = isWide() ? decodeText(bytes_).text : fromCodePage(bytes_);
+    // The first byte of half a character at the end of a wide file counts for nothing.
+    const auto whole = std::string_view(bytes_).substr(0, bytes_.size() - bytes_.size() % 2);
+    text_ = isWide() ? decodeText(whole).text : fromCodePage(bytes_);
 }
 
 bool ProfileText::isWide() const {
@@ -143,6 +195,9 @@ bool ProfileText::isWide() const {
 
 /// Of equal sections and of equal keys the first counts.
 ProfileText::Place ProfileText::find(std::string_view section, std::string_view key) const {
+    UpperCaseMapping mapping;
+    const SoughtName soughtSection(section, mapping);
+    const SoughtName soughtKey(key, mapping);
     Place place;
     std::string_view rest = text_;
     for (std::size_t number = 0; !rest.empty(); ++number) {
@@ -150,15 +205,17 @@ ProfileText::Place ProfileText::find(std::string_view section, std::string_view 
         if (const auto header = headerName(line)) {
             if (place.hasSection)
                 break;
-            place.hasSection = sameName(*header, section);
-            place.lastLine = number;
+            if (soughtSection.matches(*header)) {
+                place.hasSection = true;
+                place.lastLine = number;
+            }
             continue;
         }
         const auto entry = place.hasSection ? entryOf(line) : std::nullopt;
         if (!entry)
             continue;
         place.lastLine = number;
-        if (sameName(entry->key, key)) {
+        if (soughtKey.matches(entry->key)) {
             place.keyLine = number;
             place.value = entry->value;
             break;
@@ -192,36 +249,28 @@ Outcome ProfileText::set(std::string_view section, std::string_view key, std::st
     const auto place = find(section, key);
     const std::string entry = std::string(key) + "=" + std::string(value) + std::string(lineEnd);
     const std::string header = "[" + std::string(section) + "]" + std::string(lineEnd);
-    const auto added = encoded(place.value ? value : place.hasSection ? entry : header + entry);
-    if (!added)
+    const Change change{place.value.has_value(), place.value ? place.keyLine : place.lastLine};
+    const std::string added(change.replaces ? value : place.hasSection ? entry : header + entry);
+    const auto addedBytes = encoded(added);
+    if (!addedBytes)
         return Failure{"the code page lacks a character of \"" + std::string(value) + "\""};
-    if (isWide() && bytes_.size() % 2 != 0)
-        bytes_.pop_back(); // half a character at the end would put all that follows out of step
-    if (place.value)
-        changeValue(place.keyLine, *added);
-    else
-        insertAfter(place.hasSection ? place.lastLine : std::string::npos, *added);
-    decode();
+    dropHalfACharacter();
+    // Both forms are changed alike, since decoding a long text anew takes longer than all the rest.
+    apply(change, bytes_, isWide(), *addedBytes, *encoded(lineEnd));
+    apply(change, text_, false, added, lineEnd);
     return Done{};
 }
 
-/// All that follows the "=" is the value, so all of it is replaced.
-void ProfileText::changeValue(std::size_t line, const std::string& value) {
-    const RawLines raw(bytes_, isWide());
-    const auto start = raw.lineStart(line);
-    const auto valueStart = raw.afterEquals(start);
-    bytes_.replace(valueStart, raw.contentEnd(start) - valueStart, value);
+/// Half a character at the end of a wide file would put all that follows out of step.
+void ProfileText::dropHalfACharacter() {
+    if (isWide() && bytes_.size() % 2 != 0)
+        bytes_.pop_back();
 }
 
-/// Behind the line of this number, npos for the last one, which is closed first if need be.
-void ProfileText::insertAfter(std::size_t line, const std::string& added) {
-    const RawLines raw(bytes_, isWide());
-    const bool atEnd = line == std::string::npos;
-    const auto start = atEnd ? bytes_.size() : raw.lineStart(line);
-    const auto contentEnd = atEnd ? bytes_.size() : raw.contentEnd(start);
-    const bool isOpen = atEnd ? raw.isLastLineOpen() : contentEnd == bytes_.size();
-    const auto at = raw.afterLineEnd(contentEnd);
-    bytes_.insert(at, isOpen ? *encoded(lineEnd) + added : added);
+std::string_view withoutQuotes(std::string_view value) {
+    const bool quoted = value.size() >= 2 && value.front() == value.back() &&
+                        (value.front() == '"' || value.front() == '\'');
+    return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
 std::int32_t profileInteger(std::string_view value) {

@@ -12,7 +12,8 @@ namespace vantrel {
 
 /// The content of a Windows-style INI file as the system's profile functions read and edit it,
 /// apart from any disk. Sections and keys are found whatever their letter case; what an edit does
-/// not concern stays byte for byte. Every operation is one pass over the text.
+/// not concern stays byte for byte. Every operation is one pass over the text, which is decoded
+/// once only.
 class ProfileText {
   public:
     /// `bytes` in the ANSI code page, or in UTF-16 when they start with the little-endian mark.
@@ -35,12 +36,14 @@ class ProfileText {
     Place find(std::string_view section, std::string_view key) const;
     bool isWide() const;
     std::optional<std::string> encoded(std::string_view text) const;
-    void changeValue(std::size_t line, const std::string& value);
-    void insertAfter(std::size_t line, const std::string& added);
+    void dropHalfACharacter();
 
     std::string bytes_;
     std::string text_; ///< the same in UTF-8; its lines are those of `bytes_`
 };
+
+/// A value without one layer of enclosing quotes, as it is read back.
+std::string_view withoutQuotes(std::string_view value);
 
 /// The whole number at the start of a value: a sign and digits, held in 32 bits by wrapping around;
 /// 0 when there is none.

@@ -3,8 +3,9 @@
 
 #include <optional>
 
-#include <locale.h>
-#include <wctype.h>
+// The calls with a locale of their own are POSIX; the C++ headers do not promise them.
+#include <locale.h> // NOLINT(modernize-deprecated-headers)
+#include <wctype.h> // NOLINT(modernize-deprecated-headers)
 
 namespace vantrel {
 
@@ -40,10 +41,10 @@ bool needsNoTables(char32_t character) {
 }
 
 /// `text` with its ASCII letters done, as it comes out with all the others done.
-std::string mapOthers(std::string text, CharacterTables::Mapping mapping) {
+std::string mapOthers(std::string text, CharacterTables::Mapping mapping,
+                      std::optional<CharacterTables>& tables) {
     if (isAscii(text))
         return text;
-    std::optional<CharacterTables> tables;
     std::u32string characters = codePoints(text);
     for (char32_t& character : characters) {
         if (needsNoTables(character))
@@ -57,12 +58,25 @@ std::string mapOthers(std::string text, CharacterTables::Mapping mapping) {
 
 } // namespace
 
+struct UpperCaseMapping::Opened {
+    std::optional<CharacterTables> tables;
+};
+
+UpperCaseMapping::UpperCaseMapping() : opened_(std::make_unique<Opened>()) {}
+UpperCaseMapping::~UpperCaseMapping() = default;
+
+std::string UpperCaseMapping::of(std::string_view text) {
+    return mapOthers(asciiUpper(text), ::towupper_l, opened_->tables);
+}
+
 std::string upperCase(std::string_view text) {
-    return mapOthers(asciiUpper(text), ::towupper_l);
+    std::optional<CharacterTables> tables;
+    return mapOthers(asciiUpper(text), ::towupper_l, tables);
 }
 
 std::string lowerCase(std::string_view text) {
-    return mapOthers(asciiLower(text), ::towlower_l);
+    std::optional<CharacterTables> tables;
+    return mapOthers(asciiLower(text), ::towlower_l, tables);
 }
 
 } // namespace vantrel

@@ -4,6 +4,7 @@
 build_packages=(g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev pkg-config librsvg2-common fonts-vlgothic)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils adwaita-icon-theme)
 test_packages=(libgtest-dev libgmock-dev)
+fuzz_packages=(clang cmake ninja-build ccache)
 
 is_debian_like() {
     command -v dpkg-query >/dev/null && command -v apt-get >/dev/null
@@ -28,7 +29,13 @@ ensure_packages() {
     [ ${#missing[@]} -gt 0 ] || return 0
     printf 'Installing: %s\n' "${missing[*]}"
     local -a as_root=()
-    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "Please install these as root; there is no sudo here." >&2
+            return 1
+        fi
+        as_root=(sudo)
+    fi
     "${as_root[@]}" apt-get update -q
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -q --no-install-recommends "${missing[@]}"

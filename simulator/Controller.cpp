@@ -21,7 +21,7 @@ ControllerFileName jobFile(const std::string& job) {
 } // namespace
 
 CodeOr<std::vector<std::string>> Controller::directory() const {
-    const auto all = folder_.list();
+    auto all = folder_.list();
     if (!all)
         return all;
     std::vector<std::string> told;
@@ -75,7 +75,7 @@ CodeOr<std::string> Controller::deliver(std::string_view fileName) const {
 }
 
 CodeOr<std::string> Controller::findJob(std::string_view job) const {
-    const bool hasExtension = endsWith(asciiUpper(job), ".JBI");
+    const bool hasExtension = asciiUpper(job).ends_with(".JBI");
     const auto name = controllerFileName(std::string(job) + (hasExtension ? "" : ".JBI"));
     if (!name)
         return name.code();

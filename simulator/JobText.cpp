@@ -16,10 +16,10 @@ constexpr std::string_view marker = "//NAME";
 
 /// What stands after the marker, or an empty text when the line is another one.
 std::string_view nameOnLine(std::string_view line) {
-    if (!startsWith(line, marker))
+    if (!line.starts_with(marker))
         return {};
     const auto rest = line.substr(marker.size());
-    const bool markerEnds = startsWith(rest, " ") || startsWith(rest, "\t");
+    const bool markerEnds = rest.starts_with(' ') || rest.starts_with('\t');
     return markerEnds ? trimmed(rest) : std::string_view();
 }
 

@@ -2,11 +2,10 @@
 
 #include <cstdint>
 
-namespace vantrel::simulator {
-
 /// What the library's functions return beside their own success values. The language files carry a
 /// text for each. `BscOpen` returns a failure as a negative number, since any other is a handle.
-namespace code {
+namespace vantrel::simulator::code {
+
 inline constexpr std::int16_t done = 0;
 inline constexpr std::int16_t accepted = 1; ///< success of the four functions that manage a link
 inline constexpr std::int16_t noMoreEntries = -1;
@@ -36,6 +35,5 @@ inline constexpr std::int16_t handleInvalid = 4010;
 inline constexpr std::int16_t notConnected = 4020;
 inline constexpr std::int16_t noJobSelected = 4030;
 inline constexpr std::int16_t internalError = 5200;
-} // namespace code
 
-} // namespace vantrel::simulator
+} // namespace vantrel::simulator::code

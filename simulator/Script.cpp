@@ -96,7 +96,7 @@ std::optional<Script::Row> Script::parse(std::string_view text) {
     if (parts.size() < 3)
         return std::nullopt;
     const auto function = functionNamed(parts[0]);
-    const bool andLater = endsWith(parts[1], "+");
+    const bool andLater = parts[1].ends_with('+');
     const auto call =
         number<std::uint32_t>(parts[1].substr(0, parts[1].size() - (andLater ? 1 : 0)));
     if (!function || !call || *call == 0)

@@ -35,7 +35,7 @@ std::set<std::string> nameSet(std::string_view text) {
 std::set<std::string> withoutExtension(const std::set<std::string>& jobs) {
     std::set<std::string> bases;
     for (const auto& job : jobs)
-        bases.insert(endsWith(job, ".JBI") ? job.substr(0, job.size() - 4) : job);
+        bases.insert(job.ends_with(".JBI") ? job.substr(0, job.size() - 4) : job);
     return bases;
 }
 
@@ -85,7 +85,7 @@ SimulatorSettings parseSettings(std::string_view bytes, const std::string& libra
     SimulatorSettings settings;
     const auto text = decodeText(bytes).text;
     for (const auto& section : parseIni(text)) {
-        if (startsWith(asciiLower(section.name), "controller") && !section.value("Folder").empty())
+        if (asciiLower(section.name).starts_with("controller") && !section.value("Folder").empty())
             settings.controllers.push_back(controller(section, libraryFolder));
         if (!equalsIgnoringAsciiCase(section.name, "Script"))
             continue;

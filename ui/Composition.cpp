@@ -31,8 +31,8 @@ Composition::Commands::Commands(Composition& owner, frmZuroVant& window)
     : panes(owner.state_, *owner.session_, owner.table_, owner.messages_, window),
       transfers(TransferServices{owner.state_, *owner.session_, panes, window, owner.table_,
                                  owner.messages_, owner.progress_, owner.dialog_}),
-      services{owner.state_,    *owner.session_, panes,  transfers,
-               owner.messages_, owner.dialog_,   window, window},
+      services{owner.state_,  *owner.session_, panes,  transfers,   owner.messages_,
+               owner.dialog_, window,          window, editTextFile},
       main(services),
       robots({owner.state_, *owner.session_, panes, owner.messages_, owner.boxes_, owner}),
       shutdown({owner.state_, owner.settings_, owner.registry_, *owner.session_, owner.messages_,
@@ -167,7 +167,7 @@ void Composition::refreshStates() {
 }
 
 void Composition::refreshActivePane() {
-    commands_->main.mnuRefresh();
+    commands_->main.refreshActivePane();
 }
 
 void Composition::otherEntry(MenuItem item) {
@@ -204,6 +204,8 @@ void Composition::reportLibrary(const LibraryProblem& problem) {
     std::string text = messages_.getMessage(message::libraryUnusable) + problem.path;
     if (!problem.reason.empty())
         text += "\n" + problem.reason;
+    if (!problem.missing.empty())
+        text += "\n" + messages_.getMessage(message::libraryFunctionsMissing);
     for (const auto& name : problem.missing)
         text += "\n" + name;
     dialog_.tell(text, BoxIcon::Exclamation);

@@ -92,9 +92,17 @@ FileListControl::FileListControl(wxWindow* parent, const wxString& name)
     createList();
 }
 
+/// The native list speaks of its end; that has to come while there is still somebody to hear it.
+FileListControl::~FileListControl() {
+    onSelectionChanged = nullptr;
+    onActivated = nullptr;
+    filling_ = true;
+    list_->Destroy();
+}
+
 void FileListControl::createList() {
-    list_ = new NativeList(this, viewStyle(view_) | wxLC_AUTOARRANGE | listBorder, listName_,
-                           rows_);
+    list_ =
+        new NativeList(this, viewStyle(view_) | wxLC_AUTOARRANGE | listBorder, listName_, rows_);
     list_->SetFont(GetFont());
     list_->SetNormalImages(kindIcons(largeIconSize));
     list_->SetSmallImages(kindIcons(smallIconSize));
@@ -210,8 +218,20 @@ void FileListControl::selectAll() {
     // Item by item: only some of the ports accept -1 for all of them.
     for (long item = 0; item < list_->GetItemCount(); ++item)
         list_->SetItemState(item, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
+    focusFirstFile();
     filling_ = false;
     changed();
+}
+
+/// The commands are offered by the focused item: with a folder focused none of them would be,
+/// although all files are selected.
+void FileListControl::focusFirstFile() {
+    for (std::size_t row = 0; rows_ && row < rows_->size(); ++row) {
+        if (rows_->kind(row) == FileKind::Folder)
+            continue;
+        list_->SetItemState(long(row), wxLIST_STATE_FOCUSED, wxLIST_STATE_FOCUSED);
+        return;
+    }
 }
 
 std::optional<FileKind> FileListControl::focusedKind() const {
@@ -246,6 +266,16 @@ void FileListControl::changed() {
     });
 }
 
+/// A press activates the pane also when its list has the focus already.
+void FileListControl::bindPresses(wxWindow& window) {
+    for (const auto& press : {wxEVT_LEFT_DOWN, wxEVT_RIGHT_DOWN})
+        window.Bind(press, [this](wxMouseEvent& event) {
+            if (onActivated)
+                onActivated();
+            event.Skip();
+        });
+}
+
 void FileListControl::bindEvents() {
     const auto selectionChanged = [this](wxListEvent& event) {
         changed();
@@ -277,6 +307,10 @@ void FileListControl::bindEvents() {
             onActivated();
         event.Skip();
     });
+    // The port that draws its lists itself does so in a child window, which gets the presses.
+    for (wxWindow* part : list_->GetChildren())
+        bindPresses(*part);
+    bindPresses(*list_);
     list_->Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) {
         if (onMenuRequested)
             onMenuRequested(event.GetPosition());

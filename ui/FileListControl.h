@@ -3,13 +3,13 @@
 #include "files/FileKinds.h"
 #include "files/PaneWindow.h"
 
-#include <wx/listctrl.h>
-#include <wx/panel.h>
-
 #include <array>
 #include <functional>
 #include <optional>
 #include <string>
+
+#include <wx/listctrl.h>
+#include <wx/panel.h>
 
 namespace vantrel {
 
@@ -28,6 +28,7 @@ class FileListControl : public wxPanel, public PaneList {
     static constexpr std::size_t columnCount = 3;
 
     FileListControl(wxWindow* parent, const wxString& name);
+    ~FileListControl() override;
 
     void setView(ListView view);
     ListView view() const { return view_; }
@@ -68,8 +69,10 @@ class FileListControl : public wxPanel, public PaneList {
   private:
     void createList();
     void bindEvents();
+    void bindPresses(wxWindow& window);
     void addColumns();
     void fillItems();
+    void focusFirstFile();
     void changed();
 
     const PaneRows* rows_ = nullptr;

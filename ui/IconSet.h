@@ -1,8 +1,8 @@
 #pragma once
 
-#include <wx/bmpbndl.h>
-
 #include <string_view>
+
+#include <wx/bmpbndl.h>
 
 class wxIconBundle;
 

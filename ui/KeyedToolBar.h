@@ -1,12 +1,12 @@
 #pragma once
 
-#include <wx/toolbar.h>
-
 #include <functional>
 #include <map>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <wx/toolbar.h>
 
 namespace vantrel {
 

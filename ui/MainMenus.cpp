@@ -4,10 +4,10 @@
 #include "lang/MessageTable.h"
 #include "ui/dialogs/WxText.h"
 
+#include <span>
+
 #include <wx/frame.h>
 #include <wx/menu.h>
-
-#include <span>
 
 namespace vantrel {
 

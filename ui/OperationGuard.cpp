@@ -48,6 +48,8 @@ void OperationGuard::yield() {
     if (yielding_)
         return;
     yielding_ = true;
+    // What happens in between has to find things as it left them: nothing is begun here.
+    const OperationLock lock(*this);
     wxTheApp->Yield(true);
     yielding_ = false;
 }
@@ -57,7 +59,7 @@ bool OperationGuard::concernsGuarded(const wxEvent& event) const {
         const auto* owner = dynamic_cast<const wxWindow*>(timer->GetTimer().GetOwner());
         return owner && wxGetTopLevelParent(const_cast<wxWindow*>(owner)) == guarded_;
     }
-    auto* window = wxDynamicCast(event.GetEventObject(), wxWindow);
+    auto* window = dynamic_cast<wxWindow*>(event.GetEventObject());
     if (!window) // a menu's events name the menu
         return event.GetEventType() == wxEVT_MENU;
     return wxGetTopLevelParent(window) == guarded_;

@@ -25,7 +25,7 @@ class OperationGuard : public wxEventFilter {
     void unlock();
     bool isLocked() const { return depth_ > 0; }
 
-    /// Lets pending events run once; does nothing when called from within itself.
+    /// Lets pending events run once, locked; does nothing when called from within itself.
     void yield();
 
   private:

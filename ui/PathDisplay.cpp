@@ -14,6 +14,7 @@ PathDisplay::PathDisplay(wxWindow* parent, const wxString& name)
     : wxTreeCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                  wxTR_NO_BUTTONS | wxTR_NO_LINES | wxTR_FULL_ROW_HIGHLIGHT | wxBORDER_THEME,
                  wxDefaultValidator, name) {
+    SetIndent(0);
     wxVector<wxBitmapBundle> images;
     images.push_back(icon("drive", wxSize(iconSize, iconSize)));
     images.push_back(icon("open", wxSize(iconSize, iconSize)));

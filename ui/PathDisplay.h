@@ -1,8 +1,8 @@
 #pragma once
 
-#include <wx/treectrl.h>
-
 #include <string_view>
+
+#include <wx/treectrl.h>
 
 namespace vantrel {
 

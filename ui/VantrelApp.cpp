@@ -4,11 +4,11 @@
 #include "ui/dialogs/WxText.h"
 #include "ui/frmZuroVant.h"
 
-#include <wx/app.h>
-
 #include <memory>
 #include <string>
 #include <vector>
+
+#include <wx/app.h>
 
 namespace vantrel {
 
@@ -25,7 +25,15 @@ class VantrelApp : public wxApp {
         for (int index = 1; index < argc; ++index)
             arguments.push_back(fromWx(argv[index]));
         root_ = std::make_unique<Composition>(executablePath(), arguments);
-        return root_->start() == StartResult::Running && root_->mainWindow();
+        result_ = root_->start();
+        return true;
+    }
+
+    int OnRun() override {
+        if (result_ == StartResult::Running)
+            return wxApp::OnRun();
+        const bool failed = result_ == StartResult::NoLanguage || result_ == StartResult::Trapped;
+        return failed ? 1 : 0;
     }
 
     int OnExit() override {
@@ -35,6 +43,7 @@ class VantrelApp : public wxApp {
 
   private:
     std::unique_ptr<Composition> root_;
+    StartResult result_ = StartResult::Trapped;
 };
 
 } // namespace vantrel

@@ -74,7 +74,9 @@ wxChoice& frmZuroVant::filter(ActiveSide side) const {
 }
 
 int frmZuroVant::dpi() const {
-    return GetDPI().GetWidth();
+    // Device-independent pixels are 96 to the inch; a scaled desktop counts in them already.
+    constexpr int designResolution = 96;
+    return FromDIP(designResolution);
 }
 
 void frmZuroVant::bindEvents() {
@@ -116,6 +118,10 @@ void frmZuroVant::bindPane(ActiveSide side) {
             commands_->activate(side);
     };
     list.onKey = [this, side](wxKeyEvent& event) { listKey(event, side); };
+    list.onOpen = [this, side](long row) {
+        if (commands_ && row >= 0)
+            commands_->openItem(side, std::size_t(row));
+    };
     list.onMenuRequested = [this, side](wxPoint) { menus_.popUp(pane(side)); };
     filter(side).Bind(wxEVT_CHOICE, [this, side](wxCommandEvent&) {
         if (commands_)
@@ -343,6 +349,7 @@ void frmZuroVant::showMode(const ModeLook& look) {
         shape->SetBackgroundColour(colour(look.shapeColour));
         shape->Refresh();
     }
+    lay(); // a control that was placed while hidden may not stand where it was told
 }
 
 void frmZuroVant::showActiveSide(ActiveSide side) {
@@ -350,14 +357,18 @@ void frmZuroVant::showActiveSide(ActiveSide side) {
     controls_.pctDirectArrow->SetBitmap(icon(pc ? "arrowToController" : "arrowToPC", arrowIcon));
     controls_.pcHighlight->Show(pc);
     controls_.controllerHighlight->Show(!pc);
+    lay();
 }
 
 void frmZuroVant::showSerialLine(const std::string& port, const std::string& format) {
-    controls_.lbl232CParam->SetLabel(toWx(port + "\n" + format));
+    const wxString text = toWx(port + "\n" + format);
+    controls_.lbl232CParam->SetLabelText(text);
+    controls_.lbl232CParam->SetToolTip(text);
 }
 
 void frmZuroVant::showAddress(const std::string& address) {
     controls_.lblIPAddr2->SetLabelText(toWx(address));
+    controls_.lblIPAddr2->SetToolTip(toWx(address));
 }
 
 void frmZuroVant::showFolder(const std::string& path) {

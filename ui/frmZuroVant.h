@@ -6,12 +6,12 @@
 #include "ui/MainMenus.h"
 #include "ui/MainWindowControls.h"
 
-#include <wx/frame.h>
-#include <wx/timer.h>
-
 #include <functional>
 #include <optional>
 #include <string>
+
+#include <wx/frame.h>
+#include <wx/timer.h>
 
 namespace vantrel {
 

@@ -1,8 +1,8 @@
 #include "app/CommandLine.h"
 
-#include <gtest/gtest.h>
-
 #include <vector>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

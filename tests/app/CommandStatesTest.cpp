@@ -1,9 +1,9 @@
 #include "app/CommandStates.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {
@@ -206,6 +206,16 @@ TEST(CommandStatesTest, ModesAreChecked) {
     states = commandStates(input);
     EXPECT_EQ(states.button("modeBsc"), (CommandState{true, false}));
     EXPECT_EQ(states.button("modeHiSpeed"), (CommandState{true, true}));
+}
+
+TEST(CommandStatesTest, AnyModeButTheHighSpeedLinkIsShownAsBsc) {
+    for (const int mode : {0, 2, 15, 17, -1, -32768, 32767}) {
+        CommandInput input;
+        input.mode = static_cast<TransferMode>(mode);
+        const CommandStates states = commandStates(input);
+        EXPECT_TRUE(states.mnuModeBsc.checked && states.button("modeBsc").checked) << mode;
+        EXPECT_FALSE(states.mnuModeHiSpeed.checked || states.button("modeHiSpeed").checked) << mode;
+    }
 }
 
 TEST(CommandStatesTest, HighSpeedIsOffForAModelWithoutIt) {

@@ -4,6 +4,7 @@
 #include "app/MainWindowStart.h"
 #include "app/MainWindowView.h"
 #include "app/ModeCommands.h"
+#include "app/RobotSelection.h"
 #include "files/CommandFixture.h"
 
 #include <gmock/gmock.h>
@@ -60,7 +61,20 @@ class MainCommandsTest : public CommandFixture {
     }
 
     RecordingView view;
-    MainServices services{state, session, panes, commands, messages, dialog, window, view};
+    MainServices services{state,
+                          session,
+                          panes,
+                          commands,
+                          messages,
+                          dialog,
+                          window,
+                          view,
+                          [this](const std::string& path) {
+                              edited.push_back(path);
+                              return editorAnswer;
+                          }};
+    std::vector<std::string> edited;
+    Outcome editorAnswer = Done{};
     MainCommands main{services};
 };
 
@@ -88,6 +102,71 @@ TEST_F(MainCommandsTest, ToolButtonsForwardByTheirKeys) {
     EXPECT_EQ(state.TransMode, TransferMode::HispeedLink);
     main.tool("modeBsc");
     EXPECT_EQ(state.TransMode, TransferMode::Bsc);
+}
+
+TEST_F(MainCommandsTest, MoveFollowsTheActivePane) {
+    pcJob("NEW");
+    robotJob("OLD");
+    showPanes();
+    window.pc.click({"NEW.JBI"});
+    main.tool("FileMove");
+    EXPECT_EQ(robot().bytes("NEW.JBI"), job("NEW"));
+    EXPECT_FALSE(pc.has("NEW.JBI"));
+
+    main.activate(ActiveSide::Controller);
+    window.controller.click({"OLD.JBI"});
+    main.menu({Menu::mnuFile, fileMove});
+    EXPECT_EQ(pc.read("OLD.JBI"), job("OLD"));
+    EXPECT_FALSE(robot().has("OLD.JBI"));
+}
+
+TEST_F(MainCommandsTest, DeleteFollowsTheActivePane) {
+    pcJob("SAME");
+    robotJob("SAME");
+    showPanes();
+    window.pc.click({"SAME.JBI"});
+    window.controller.click({"SAME.JBI"});
+    question.answers = {Answer::Yes, Answer::Yes};
+    main.tool("FileDelete");
+    EXPECT_FALSE(pc.has("SAME.JBI"));
+    EXPECT_TRUE(robot().has("SAME.JBI"));
+
+    main.activate(ActiveSide::Controller);
+    window.controller.click({"SAME.JBI"});
+    main.menu({Menu::mnuRightFile, fileDelete});
+    EXPECT_FALSE(robot().has("SAME.JBI"));
+}
+
+TEST_F(MainCommandsTest, TheRefreshButtonReadsAgainUnderALockAndGivesTheFocusBack) {
+    showPanes();
+    pcJob("NEW");
+    const int locks = window.locks;
+    const int focuses = window.pc.focuses;
+    main.tool("Refresh");
+    EXPECT_THAT(window.pc.names, ElementsAre("NEW.JBI"));
+    EXPECT_EQ(window.locks, locks + 1);
+    EXPECT_EQ(window.pc.focuses, focuses + 1);
+}
+
+TEST_F(MainCommandsTest, ActivatingAPaneShowsIt) {
+    main.activate(ActiveSide::Controller);
+    EXPECT_EQ(view.active, ActiveSide::Controller);
+    EXPECT_TRUE(view.states.tlbCtrlButton.state.checked);
+    main.activate(ActiveSide::PC);
+    EXPECT_EQ(view.active, ActiveSide::PC);
+}
+
+TEST_F(MainCommandsTest, AnotherLanguageReachesTitleAndCounts) {
+    pcJob("A");
+    showPanes();
+    messages.replace({text(0, "Titel"), text(14, "Rechner: "), text(15, "Steuerung: "),
+                      text(16, " St."), text(191, "BSC")});
+    const auto mode = state.TransMode;
+    main.recaption();
+    EXPECT_EQ(view.mode.caption, "Titel  -- BSC --");
+    EXPECT_EQ(window.pcStatus, "Rechner: 1 St.");
+    EXPECT_THAT(window.controllerStatus, testing::StartsWith("Steuerung: "));
+    EXPECT_EQ(state.TransMode, mode);
 }
 
 TEST_F(MainCommandsTest, AnotherKeyDoesNothing) {
@@ -158,7 +237,9 @@ TEST_F(MainCommandsTest, AModeThatWasSetByNameIsShownAndEmptiesTheList) {
 TEST_F(MainCommandsTest, AModelWithoutTheLinkLeavesTheMode) {
     state.Controler = 1;
     state.TransMode = TransferMode::HispeedLink;
+    state.CtrlListing.append("OLD.JBI", 0, DateText());
     main.applyHispeedAvailability();
+    EXPECT_EQ(state.CtrlListing.Count, 0);
     EXPECT_EQ(state.TransMode, TransferMode::Bsc);
     EXPECT_TRUE(view.mode.showsSerialLine);
     EXPECT_FALSE(view.states.mnuModeHiSpeed.enabled);
@@ -228,6 +309,45 @@ TEST_F(MainCommandsTest, UpOpensTheFolderAbove) {
     EXPECT_THAT(window.pc.names, ElementsAre("inner"));
 }
 
+TEST_F(MainCommandsTest, OpeningAFolderEntersIt) {
+    pc.write("inner/A.JBI", job("A"));
+    showPanes();
+    main.openItem(ActiveSide::PC, 0);
+    EXPECT_EQ(state.PCPath, pc.path("inner"));
+    EXPECT_EQ(view.folder, pc.path("inner"));
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+    EXPECT_EQ(window.pcStatus, "PC: 1 items");
+}
+
+TEST_F(MainCommandsTest, OpeningAJobKindFileStartsTheEditor) {
+    pcJob("A");
+    pc.write("B.TXT", "x");
+    pc.write("CJBI.x", "x");
+    pc.write("D.xJBI", "x");
+    showPanes();
+    for (std::size_t row = 0; row < 4; ++row)
+        main.openItem(ActiveSide::PC, row);
+    EXPECT_THAT(edited, ElementsAre(pc.path("A.JBI")));
+}
+
+TEST_F(MainCommandsTest, AnEditorThatDoesNotStartIsTold) {
+    pcJob("A");
+    showPanes();
+    editorAnswer = Failure{"no editor"};
+    main.openItem(ActiveSide::PC, 0);
+    ASSERT_EQ(boxes.texts().size(), 1u);
+    EXPECT_THAT(boxes.texts()[0], testing::HasSubstr("no editor"));
+}
+
+TEST_F(MainCommandsTest, TheControllerPaneOpensNothing) {
+    robotJob("A");
+    showPanes();
+    main.openItem(ActiveSide::Controller, 0);
+    main.openItem(ActiveSide::PC, 5);
+    EXPECT_TRUE(edited.empty());
+    EXPECT_EQ(state.PCPath, pc.path());
+}
+
 TEST_F(MainCommandsTest, UpStaysAtTheRoot) {
     state.PCPath = "/";
     main.tool("UpFolder");
@@ -260,6 +380,53 @@ TEST_F(MainCommandsTest, DeleteKeyDeletesOnlyWhereTheCommandIsOffered) {
     question.answers = {Answer::Yes};
     EXPECT_TRUE(main.listKey(ActiveSide::Controller, deleteKey, false));
     EXPECT_FALSE(robot().has("OLD.JBI"));
+}
+
+TEST_F(MainCommandsTest, AKeyWorksOnTheListItWasPressedIn) {
+    constexpr int deleteKey = 127;
+    pcJob("SAME");
+    robotJob("SAME");
+    showPanes();
+    window.pc.click({"SAME.JBI"});
+    window.controller.click({"SAME.JBI"});
+    question.answers = {Answer::Yes};
+    main.listKey(ActiveSide::Controller, deleteKey, false);
+    EXPECT_TRUE(pc.has("SAME.JBI"));
+    EXPECT_FALSE(robot().has("SAME.JBI"));
+}
+
+/// Choosing a robot as the main window does, with its real commands.
+class RobotChoiceTest : public MainCommandsTest, public RobotSelectionWindow {
+  protected:
+    bool isLocked() const override { return false; }
+    void selectRobot(int) override {}
+    void showAddress(const std::string&) override {}
+    void showFolder(const std::string&) override {}
+    void refreshStates() override { main.updateStates(); }
+    void refreshActivePane() override { main.refreshActivePane(); }
+
+    RobotSelection selection{{state, session, panes, messages, boxes, *this}};
+};
+
+TEST_F(RobotChoiceTest, LeavesThePaneThatWasActiveAsItWas) {
+    library.at("10.0.0.2").put("OTHER.JBI", job("OTHER"));
+    state.TransMode = TransferMode::HispeedLink;
+    state.SyncroRobotDir = 0;
+    RobotRecord chosen;
+    chosen.Name = "R2";
+    chosen.IPaddr = "10.0.0.2";
+    chosen.Path = pc.path();
+    state.RobotList = {RobotRecord{}, chosen, RobotRecord{}};
+    state.RobotList.back().Name = endOfRobots;
+    main.activate(ActiveSide::Controller);
+    main.activate(ActiveSide::PC);
+    const int focuses = window.controller.focuses;
+    selection.choose(1);
+    EXPECT_THAT(window.controller.names, testing::Contains("OTHER.JBI"));
+    EXPECT_EQ(state.Active, ActiveSide::PC);
+    EXPECT_TRUE(view.states.tlbPCButton.state.checked);
+    EXPECT_TRUE(view.states.button("DispDetail").enabled);
+    EXPECT_EQ(window.controller.focuses, focuses);
 }
 
 TEST_F(MainCommandsTest, AnotherFilterRefillsItsPaneOnly) {
@@ -337,6 +504,23 @@ TEST_F(MainWindowStartTest, AFolderThatIsGoneOpensTheNearestOneAboveAndSaysSo) {
     EXPECT_EQ(state.PCPath, pc.path());
     EXPECT_EQ(boxes.texts().size(), 1u);
     EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+}
+
+TEST_F(MainWindowStartTest, AModelWithoutTheLinkStartsWithTheSerialLine) {
+    state.Controler = 1;
+    state.TransMode = TransferMode::HispeedLink;
+    start();
+    EXPECT_EQ(state.TransMode, TransferMode::Bsc);
+    EXPECT_TRUE(view.mode.showsSerialLine);
+}
+
+TEST_F(MainWindowStartTest, AFolderOfAnotherSystemEndsTheSearchWithAMessage) {
+    for (const char* stored : {"C:\\JOBS", "gone", ""}) {
+        boxes.shown.clear();
+        state.PCPath = stored;
+        start();
+        EXPECT_FALSE(boxes.texts().empty()) << stored;
+    }
 }
 
 TEST_F(MainWindowStartTest, AListThatWasReadBeforeStays) {

@@ -2,11 +2,11 @@
 
 #include "support/FakeMessageBoxes.h"
 
-#include <gtest/gtest.h>
-
 #include <new>
 #include <stdexcept>
 #include <system_error>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

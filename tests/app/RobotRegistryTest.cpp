@@ -7,9 +7,9 @@
 #include "base/PathRules.h"
 #include "platform/TextEncoding.h"
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {
@@ -93,6 +93,14 @@ TEST_F(RobotRegistryTest, TheBaseFolderKeepsItsSpellingWhereTheLowerCaseOneDoesN
     if (isFolder(folder_.path("mixed")))
         GTEST_SKIP() << "letter case does not count here";
     EXPECT_EQ(robotBaseFolder(mixed), mixed);
+}
+
+TEST_F(RobotRegistryTest, ReadingTakesTheCurrentFolderInLowerCaseForTheBaseFolder) {
+    const std::string lower = folder_.makeFolder("mixed");
+    const tests::InFolder inMixed(folder_.makeFolder("Mixed"));
+    read("[Robot]\r\nName=A\r\nPath=jobs\r\n");
+    EXPECT_EQ(state_.BaseDir, lower);
+    EXPECT_EQ(state_.RobotList[0].Path, PathRules().join(lower, "jobs"));
 }
 
 TEST_F(RobotRegistryTest, ReadingLeavesTheCurrentFolder) {

@@ -70,13 +70,13 @@ TEST_F(RobotSelectionTest, ANewRobotBringsItsFolderItsAddressAndItsDirectory) {
     EXPECT_EQ(desk_.state.PCPath, desk_.folder.path("R1"));
     EXPECT_EQ(desk_.log, (tests::Log{"status Ctrl m150m16", "status PC m141m16",
                                      "folder " + desk_.folder.path("R1"), "address 10.0.0.1",
-                                     "states", "refresh Ctrl of 10.0.0.1"}));
+                                     "states", "refresh Ctrl of 10.0.0.1", "states"}));
     EXPECT_EQ(desk_.state.Active, ActiveSide::PC);
 }
 
 TEST_F(RobotSelectionTest, TheSessionHasTheAddressBeforeTheRefresh) {
     selection_.choose(1);
-    EXPECT_EQ(desk_.log.back(), "refresh Ctrl of 10.0.0.1");
+    EXPECT_EQ(desk_.log.at(desk_.log.size() - 2), "refresh Ctrl of 10.0.0.1");
 }
 
 TEST_F(RobotSelectionTest, TheOldMachinesListIsGoneAtOnce) {
@@ -95,7 +95,7 @@ TEST_F(RobotSelectionTest, TheSameRobotInAnotherFolderIsANewChoice) {
     desk_.state.PCPath = desk_.folder.path();
     selection_.choose(0);
     EXPECT_EQ(desk_.state.PCPath, desk_.folder.path("R0"));
-    EXPECT_EQ(desk_.log.back(), "refresh Ctrl of 10.0.0.0");
+    EXPECT_EQ(desk_.log.at(desk_.log.size() - 2), "refresh Ctrl of 10.0.0.0");
     EXPECT_EQ(desk_.state.CtrlListing.Count, 1) << "the machine is the same";
 }
 
@@ -114,7 +114,7 @@ TEST_F(RobotSelectionTest, WithoutSynchronisingTheFolderStays) {
     selection_.choose(1);
     EXPECT_EQ(desk_.state.PCPath, before);
     EXPECT_EQ(desk_.log, (tests::Log{"status Ctrl m150m16", "address 10.0.0.1", "states",
-                                     "refresh Ctrl of 10.0.0.1"}));
+                                     "refresh Ctrl of 10.0.0.1", "states"}));
 }
 
 TEST_F(RobotSelectionTest, AFolderThatCannotBeListedIsNamedAndTheOldOneStays) {
@@ -123,8 +123,8 @@ TEST_F(RobotSelectionTest, AFolderThatCannotBeListedIsNamedAndTheOldOneStays) {
     const std::string before = desk_.state.PCPath;
     selection_.choose(1);
     EXPECT_EQ(desk_.state.PCPath, before);
-    EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m12 [R1] " + missing}));
-    EXPECT_EQ(desk_.log.back(), "refresh Ctrl of 10.0.0.1");
+    EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"[R1]m48\n" + missing}));
+    EXPECT_EQ(desk_.log.at(desk_.log.size() - 2), "refresh Ctrl of 10.0.0.1");
 }
 
 TEST_F(RobotSelectionTest, DuringTheStartTheChoiceIsTakenBack) {

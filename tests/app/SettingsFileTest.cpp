@@ -3,10 +3,10 @@
 #include "base/ApplicationState.h"
 #include "support/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <clocale>
 #include <filesystem>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

@@ -2,9 +2,9 @@
 
 #include "AppFakes.h"
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

@@ -4,10 +4,10 @@
 #include "app/SettingsFile.h"
 #include "lang/LanguageChoice.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <stdexcept>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {
@@ -126,6 +126,14 @@ TEST_F(StartRoutineTest, StepsRunInTheirOrder) {
     EXPECT_EQ(desk_.state.IniFileName, "Vantrel.ini");
 }
 
+TEST_F(StartRoutineTest, ARelativeStoredFolderCountsFromTheProgramsFolder) {
+    const auto jobs = desk_.folder.makeFolder("jobs");
+    addSettings("[Vantrel]\r\nPath=jobs\r\n");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.state.PCPath, jobs);
+    EXPECT_EQ(desk_.session.path, jobs);
+}
+
 TEST_F(StartRoutineTest, TheFirstStartEverAsksForTheLanguage) {
     write("");
     EXPECT_EQ(start(), StartResult::Running);
@@ -169,7 +177,9 @@ TEST_F(StartRoutineTest, WithoutAnyLanguageFileNothingStarts) {
 }
 
 TEST_F(StartRoutineTest, AnAutomationStartShowsNoWindow) {
+    desk_.state.TransMode = TransferMode::HispeedLink;
     EXPECT_EQ(start({.startedForAutomation = true}), StartResult::Automation);
+    EXPECT_EQ(desk_.state.TransMode, TransferMode::Bsc);
     EXPECT_TRUE(desk_.log.empty());
     EXPECT_FALSE(desk_.state.StartupDone);
     EXPECT_EQ(desk_.state.LanguageName, "English");
@@ -301,7 +311,7 @@ TEST_F(StartRoutineTest, ARenamedExecutableHasItsOwnSettings) {
 TEST_F(StartRoutineTest, AnUnexpectedErrorIsToldAndNothingIsSaved) {
     windows_.whenBuilt = [] { throw std::runtime_error("no more windows"); };
     EXPECT_EQ(start(), StartResult::Trapped);
-    EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"Start Error.(no more windows)"}));
+    EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m43no more windows"}));
     EXPECT_EQ(desk_.boxes.shown[0].icon, BoxIcon::Exclamation);
     EXPECT_TRUE(desk_.state.NoSave);
     EXPECT_FALSE(desk_.state.StartupDone);
@@ -328,7 +338,7 @@ TEST_F(StartRoutineTest, AFolderThatCannotBeEnteredIsTold) {
                           .executable = gone + "/Vantrel",
                           .programFolder = gone});
     EXPECT_EQ(routine.Main(), StartResult::Trapped);
-    EXPECT_TRUE(desk_.boxes.texts()[0].starts_with("Start Error.(" + gone + ": "));
+    EXPECT_TRUE(desk_.boxes.texts()[0].starts_with("m43" + gone + ": "));
     EXPECT_TRUE(desk_.state.NoSave);
 }
 

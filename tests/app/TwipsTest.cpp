@@ -1,9 +1,9 @@
 #include "app/Twips.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdint>
 #include <limits>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

@@ -93,6 +93,17 @@ TEST(WindowTextTest, NumbersThatNobodyChangedAreWrittenBackAsTheyWereRead) {
     EXPECT_EQ(windowText(positions, untouched, defaultWindowText), defaultWindowText);
 }
 
+// Only the last number passes through single precision, and 75700700.158 is last here alone.
+TEST(WindowTextTest, AShortStoredTextKeepsItsNumberWhenOthersFollow) {
+    Positions positions{};
+    readWindowText("75700700.158", positions);
+    WindowPlacement unmoved = normalPlacement();
+    unmoved.left = positions[0];
+    Positions again{};
+    readWindowText(windowText(positions, unmoved, "75700700.158"), again);
+    EXPECT_EQ(again[0], positions[0]);
+}
+
 TEST(WindowTextTest, AnUnreadableStoredTextKeepsNoFraction) {
     EXPECT_EQ(windowText({}, normalPlacement(), "x,y,,nan,inf"), "15,30,12000,8000,1410,700,1500");
 }

@@ -6,6 +6,7 @@
 #include <clocale>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <random>
 
 namespace vantrel {
@@ -179,6 +180,36 @@ TEST_P(GeneralText, IsTheShortestThatReadsBack) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, GeneralText, testing::ValuesIn(generalRows), rowName);
+
+struct TruthRow : NamedRow {
+    std::string text;
+    std::optional<bool> expected;
+};
+
+const TruthRow truthRows[] = {
+    {"True", "True", true},
+    {"False", "False", false},
+    {"AnyLetterCase", "tRUE", true},
+    {"FalseInAnyLetterCase", "FALSE", false},
+    {"OuterBlanks", " True\t", true},
+    {"MinusOne", "-1", true},
+    {"Zero", "0", false},
+    {"ZeroWithAFraction", " 0.0 ", false},
+    {"Fraction", "0.5", true},
+    {"Empty", "", std::nullopt},
+    {"OtherWord", "yes", std::nullopt},
+    {"WordWithATail", "Truely", std::nullopt},
+    {"NumberWithATail", "1 x", std::nullopt},
+    {"Nul", std::string("True\0", 5), std::nullopt},
+};
+
+class TruthValue : public testing::TestWithParam<TruthRow> {};
+
+TEST_P(TruthValue, IsAWordOrANumber) {
+    EXPECT_EQ(truthValue(GetParam().text), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, TruthValue, testing::ValuesIn(truthRows), rowName);
 
 TEST(GeneralNumberText, ReadsBackForAnyValue) {
     std::mt19937_64 random(20261120);

@@ -32,14 +32,6 @@ TEST(AsciiCase, IsIgnoredInTheComparison) {
     EXPECT_TRUE(equalsIgnoringAsciiCase("", ""));
 }
 
-TEST(StartAndEnd, AreCompared) {
-    EXPECT_TRUE(startsWith("abc", "ab"));
-    EXPECT_FALSE(startsWith("ab", "abc"));
-    EXPECT_TRUE(endsWith("abc", "bc"));
-    EXPECT_FALSE(endsWith("bc", "abc"));
-    EXPECT_TRUE(startsWith("a", "") && endsWith("a", ""));
-}
-
 TEST(Split, GivesAllPieces) {
     EXPECT_EQ(split("a,b,c", ','), (Pieces{"a", "b", "c"}));
     EXPECT_EQ(split(",a,,", ','), (Pieces{"", "a", "", ""}));

@@ -1,9 +1,9 @@
 #include "CommandFixture.h"
 
-#include <gmock/gmock.h>
-
 #include <filesystem>
 #include <utility>
+
+#include <gmock/gmock.h>
 
 namespace vantrel {
 namespace {
@@ -254,6 +254,112 @@ TEST_F(MoveCommandTest, AReceiveThatReportsSuccessButBringsNothingKeepsBothSides
     EXPECT_EQ(library.callCount("BscDeleteJob"), 0);
 }
 
+/// "COPY.JBI" replaces two jobs: the one of its own name and "A", which its name line names.
+class MoveOverTwoJobs : public MoveCommandTest {
+  protected:
+    MoveOverTwoJobs() {
+        pc.write("COPY.JBI", job("A", "new"));
+        robotJob("A", "old");
+        robotJob("COPY", "old");
+    }
+    void expectNothingMoved() {
+        EXPECT_TRUE(pc.has("COPY.JBI"));
+        EXPECT_EQ(robot().bytes("A.JBI"), job("A", "old"));
+        EXPECT_EQ(robot().bytes("COPY.JBI"), job("COPY", "old"));
+        EXPECT_EQ(library.callCount("BscDeleteJob"), 0);
+        EXPECT_THAT(boxes.texts(), IsEmpty());
+    }
+};
+
+TEST_F(MoveOverTwoJobs, BothAreAskedFor) {
+    selectOnPC({"COPY.JBI"});
+    question.answers = {Answer::Yes, Answer::Yes};
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_THAT(question.questions, ElementsAre("COPY.JBI already exists. Overwrite it?",
+                                                "A.JBI already exists. Overwrite it?"));
+    EXPECT_THAT(robot().names(), ElementsAre("A.JBI"));
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "new"));
+    EXPECT_FALSE(pc.has("COPY.JBI"));
+}
+
+TEST_F(MoveOverTwoJobs, ANoToEitherSkipsTheFile) {
+    selectOnPC({"COPY.JBI"});
+    question.answers = {Answer::Yes, Answer::No};
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_EQ(question.questions.size(), 2u);
+    expectNothingMoved();
+}
+
+TEST_F(MoveOverTwoJobs, CancelEndsTheCommand) {
+    pcJob("D");
+    selectOnPC({"COPY.JBI", "D.JBI"});
+    question.answers = {Answer::Yes, Answer::Cancel};
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_TRUE(pc.has("D.JBI"));
+    expectNothingMoved();
+}
+
+TEST_F(MoveOverTwoJobs, AllCoversBoth) {
+    selectOnPC({"COPY.JBI"});
+    question.answers = {Answer::All};
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_EQ(question.questions.size(), 1u);
+    EXPECT_FALSE(pc.has("COPY.JBI"));
+}
+
+TEST_F(MoveCommandTest, OnlyTheJobNamedInsideIsAskedForByItsOwnName) {
+    pc.write("COPY.JBI", job("A", "new"));
+    robotJob("A", "old");
+    selectOnPC({"COPY.JBI"});
+    question.answers = {Answer::No};
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_THAT(question.questions, ElementsAre("A.JBI already exists. Overwrite it?"));
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "old"));
+    EXPECT_TRUE(pc.has("COPY.JBI"));
+}
+
+/// Three files with one name line: All must not let each one delete the one before it, whose PC
+/// file is gone by then.
+TEST_F(MoveCommandTest, AJobThatTheSameMoveHasSentIsAskedForInSpiteOfAll) {
+    for (const char* name : {"A1", "A2", "A3", "B"})
+        pc.write(std::string(name) + ".JBI", job(name[0] == 'B' ? "B" : "a", name));
+    robotJob("A", "old");
+    robotJob("B", "old");
+    selectOnPC({"A1.JBI", "A2.JBI", "A3.JBI", "B.JBI"});
+    question.answers = {Answer::All, Answer::No, Answer::Yes};
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_THAT(question.questions, ElementsAre("A.JBI already exists. Overwrite it?",
+                                                "A.JBI already exists. Overwrite it?",
+                                                "A.JBI already exists. Overwrite it?"));
+    EXPECT_FALSE(pc.has("A1.JBI"));
+    EXPECT_TRUE(pc.has("A2.JBI"));
+    EXPECT_FALSE(pc.has("A3.JBI"));
+    EXPECT_EQ(robot().bytes("A.JBI"), job("a", "A3"));
+    EXPECT_EQ(robot().bytes("B.JBI"), job("B", "B"));
+}
+
+TEST_F(MoveCommandTest, AFileThatTheSameMoveHasReceivedIsAskedForInSpiteOfAll) {
+    robotJob("A", "1");
+    robotJob("a", "2");
+    pcJob("A", "old");
+    selectOnController({"A.JBI", "a.JBI"});
+    question.answers = {Answer::All, Answer::No};
+    EXPECT_TRUE(commands.receiveMove());
+    EXPECT_EQ(question.questions.size(), 2u);
+    EXPECT_EQ(pc.read("A.JBI"), job("A", "1"));
+    EXPECT_TRUE(robot().has("a.JBI"));
+}
+
+TEST_F(MoveCommandTest, AQuestionAboutAVeryLongNameIsShortened) {
+    const std::string name(240, 'A');
+    pcJob(name, "new");
+    robotJob(name, "old");
+    selectOnPC({name + ".JBI"});
+    EXPECT_FALSE(commands.sendMove());
+    ASSERT_EQ(question.questions.size(), 1u);
+    EXPECT_LT(question.questions[0].size(), 240u);
+}
+
 TEST_F(MoveCommandTest, AReceivedJobThatCannotBeDeletedIsNamed) {
     robotJob("A");
     robotJob("B");
@@ -309,6 +415,15 @@ TEST_F(MoveCommandTest, RefusedKindsAndFoldersAreNamedAndStay) {
                 testing::UnorderedElementsAre("[A.TXT] refused", "[F.JBI] is a folder"));
     EXPECT_THAT(window.pc.names, ElementsAre("F.JBI", "A.TXT"));
     EXPECT_THAT(robot().names(), ElementsAre("B.JBI"));
+}
+
+TEST_F(MoveCommandTest, AReportAboutAVeryLongNameIsShortened) {
+    const std::string name = std::string(240, 'A') + ".TXT";
+    pc.write(name, "");
+    robot();
+    selectOnPC({name});
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_THAT(boxes.texts(), ElementsAre("[" + std::string(200, 'A') + "\u2026] refused"));
 }
 
 TEST_F(MoveCommandTest, RejectedFilesOnlyLeaveTheSessionAlone) {

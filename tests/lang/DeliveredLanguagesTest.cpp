@@ -5,14 +5,14 @@
 #include "platform/Files.h"
 #include "platform/TextEncoding.h"
 
-#include <gmock/gmock.h>
-
 #include <algorithm>
 #include <cctype>
 #include <map>
 #include <optional>
 #include <set>
 #include <string>
+
+#include <gmock/gmock.h>
 
 namespace vantrel {
 namespace {
@@ -21,13 +21,6 @@ using namespace std::string_literals;
 using testing::IsEmpty;
 
 constexpr const char* languages[] = {"Japanese", "English", "System"};
-
-// Numbers that no constant names because they are computed: a code of ours and 500, or the code
-// that a controller gives.
-constexpr std::int32_t computedNumbers[] = {
-    490,  499,  500,  501,  503,  506,  520,  521,  522,  523,  524,  525,  526,
-    1000, 1110, 1200, 1210, 1220, 1230, 1240, 1300, 1310, 1320, 1400, 1500, 1510,
-    1520, 2010, 2020, 2030, 2040, 3010, 3020, 3030, 4010, 4020, 4030, 5200};
 
 using Texts = std::map<std::int32_t, MessageEntry>;
 
@@ -61,27 +54,53 @@ std::set<std::int32_t> numbersOf(const std::string& language) {
     return numbers;
 }
 
+constexpr std::int32_t resourceOffset = 500;
+
+std::string header(const std::string& file) {
+    return contentOf(VANTREL_SOURCE_FOLDER "/" + file);
+}
+
+/// The values of the whole-number constants that a header defines.
+std::set<std::int32_t> constantsIn(std::string_view header) {
+    constexpr std::string_view start = "inline constexpr std::int";
+    std::set<std::int32_t> values;
+    for (auto at = header.find(start); at != header.npos; at = header.find(start, at + 1))
+        values.insert(leadingInteger32(header.substr(header.find('=', at) + 1)));
+    return values;
+}
+
 /// Every number that has a name in the program; the names are read from the header itself, so that
 /// a new constant without a text is found.
 std::set<std::int32_t> namedNumbers() {
+    const auto content = header("lang/MessageNumbers.h");
+    const auto resources = content.find("namespace resource {");
+    EXPECT_NE(resources, content.npos);
+    auto numbers = constantsIn(content.substr(0, resources));
+    for (const auto number : constantsIn(content.substr(resources)))
+        numbers.insert(number + resourceOffset);
+    return numbers;
+}
+
+/// The texts of the error codes, our own and those of the stand-in for the communication library.
+/// Nothing in the program names their numbers; they too are read from the headers.
+std::set<std::int32_t> codeNumbers() {
+    const auto ours = constantsIn(header("link/SessionErrorRecord.h"));
+    const auto theirs = constantsIn(header("simulator/ResultCodes.h"));
+    EXPECT_TRUE(ours.contains(3) && theirs.contains(1000));
     std::set<std::int32_t> numbers;
-    std::int32_t offset = 0;
-    const auto header = contentOf(VANTREL_LANG_FOLDER "/MessageNumbers.h");
-    for (const auto line : lines(header)) {
-        if (line == "namespace resource {")
-            offset = 500;
-        const auto equals = line.find(" =");
-        if (startsWith(line, "inline constexpr std::int32_t ") && equals != line.npos)
-            numbers.insert(leadingInteger32(line.substr(equals + 2)) + offset);
-    }
-    EXPECT_EQ(offset, 500);
+    for (const auto& codes : {ours, theirs})
+        for (const auto code : codes)
+            numbers.insert(code >= 1000 && code <= 5200 ? code : code + resourceOffset);
+    // The operator's answers to a question are never reported.
+    numbers.erase(resourceOffset + 4);
+    numbers.erase(resourceOffset + 5);
     return numbers;
 }
 
 /// A number and two texts in double quotes, one blank between, and nothing else.
 bool isCleanEntry(std::string_view line) {
     const auto pieces = split(line, '"');
-    return pieces.size() == 5 && endsWith(pieces[0], " ") && wholeNumber(pieces[0]) &&
+    return pieces.size() == 5 && pieces[0].ends_with(' ') && wholeNumber(pieces[0]) &&
            pieces[2] == " " && pieces[4].empty();
 }
 
@@ -148,14 +167,14 @@ TEST_P(DeliveredLanguage, HasNoLineThatWouldBePassedOver) {
     auto line = std::ranges::find(all, "Start:");
     ASSERT_NE(line, all.end());
     for (++line; line != all.end(); ++line)
-        EXPECT_TRUE(line->empty() || startsWith(*line, ";") || isCleanEntry(*line)) << *line;
+        EXPECT_TRUE(line->empty() || line->starts_with(';') || isCleanEntry(*line)) << *line;
 }
 
 TEST_P(DeliveredLanguage, HoldsEveryNumberThatTheProgramUses) {
     const auto numbers = numbersOf(GetParam());
     for (const auto number : namedNumbers())
         EXPECT_TRUE(numbers.contains(number)) << number;
-    for (const auto number : computedNumbers)
+    for (const auto number : codeNumbers())
         EXPECT_TRUE(numbers.contains(number)) << number;
 }
 
@@ -163,7 +182,7 @@ TEST_P(DeliveredLanguage, HoldsNoNumberThatNothingUses) {
     auto numbers = numbersOf(GetParam());
     for (const auto number : namedNumbers())
         numbers.erase(number);
-    for (const auto number : computedNumbers)
+    for (const auto number : codeNumbers())
         numbers.erase(number);
     EXPECT_THAT(numbers, IsEmpty());
     EXPECT_FALSE(namedNumbers().contains(127));
@@ -213,6 +232,12 @@ TEST_P(DeliveredLanguage, HasKeysInMenusAndDialogsOnly) {
     const auto withKeys = numbersWithMnemonic();
     for (const auto& [number, entry] : textsOf(GetParam()))
         EXPECT_EQ(entry.Text2.find('&') != std::string::npos, withKeys.contains(number)) << number;
+}
+
+TEST(DeliveredLanguages, ErrorCodesHaveTextsOfTheirOwn) {
+    const auto named = namedNumbers();
+    for (const auto number : codeNumbers())
+        EXPECT_FALSE(named.contains(number)) << number;
 }
 
 TEST(DeliveredLanguages, HaveTheSameNumbersAndReferenceTexts) {

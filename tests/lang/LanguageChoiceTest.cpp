@@ -110,6 +110,32 @@ TEST_F(ChoosingTheLanguage, WithoutARecordTheDefaultLanguageCounts) {
     EXPECT_EQ(state_.LanguageName, "Japanese");
 }
 
+struct EmptyRecord {
+    const char* name;
+    const char* line;
+};
+
+class AnEmptyRecordedLanguage : public ChoosingTheLanguage,
+                                public testing::WithParamInterface<EmptyRecord> {};
+
+TEST_P(AnEmptyRecordedLanguage, IsTakenOverAndLeavesTheChoiceToTheDialog) {
+    addLanguage("Japanese");
+    state_.LanguageName = "Japanese";
+    const auto line = std::string(GetParam().line) + "\n";
+    EXPECT_FALSE(
+        choice().loadLanguagePreference(settings("[Language Info]\n" + line + "LangSelect=0\n")));
+    EXPECT_EQ(state_.LanguageName, "");
+    EXPECT_EQ(state_.LangSelect, 0);
+    EXPECT_EQ(table_.getMessage(0), "") << "nothing is read";
+    EXPECT_THAT(boxes_.shown, IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Lines, AnEmptyRecordedLanguage,
+                         testing::Values(EmptyRecord{"Nothing", "Language="},
+                                         EmptyRecord{"Blanks", "Language=  "},
+                                         EmptyRecord{"Quotes", "Language=\"\""}),
+                         [](const auto& row) { return row.param.name; });
+
 TEST_F(ChoosingTheLanguage, WithoutAnyNameTheDialogIsDue) {
     EXPECT_FALSE(choice().loadLanguagePreference(settings("[Language Info]\nLangSelect=0\n")));
     EXPECT_THAT(boxes_.shown, IsEmpty());

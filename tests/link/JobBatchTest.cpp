@@ -207,6 +207,32 @@ TEST_F(JobBatchTest, LocalJobsAreNeverSentAndTheOperatorLearnsHowMany) {
     EXPECT_EQ(world.boxes.shown.front().icon, BoxIcon::None);
 }
 
+TEST_F(JobBatchTest, SkippedEntriesAreToldOnceWhenTheListFailsToo) {
+    addFiles({"LOCAL", "A"});
+    world.pc.write("LocalJob.lst", "LOCAL");
+    world.library.disturb({.function = "BscDownLoad", .code = 1400});
+    EXPECT_FALSE(world.session->JobListDownLoad());
+    EXPECT_EQ(world.error(), "BscDownLoad 1400 1");
+    EXPECT_THAT(world.boxes.texts(), ElementsAre("1 skipped"));
+}
+
+TEST_F(JobBatchTest, AnUnsetAddressIsTheOnlyThingTold) {
+    world.pc.write("LocalJob.lst", "LOCAL");
+    world.session->AddJobList("LOCAL.JBI");
+    world.session->AddJobList("A.JBI");
+    world.mode = TransferMode::HispeedLink;
+    world.session->IPaddress = "0.0.0.0";
+    EXPECT_FALSE(world.session->JobListUpLoad());
+    EXPECT_THAT(world.boxes.texts(), ElementsAre("address unset"));
+}
+
+TEST_F(JobBatchTest, VeryLongEntriesAreShownShortened) {
+    world.session->AddJobList(std::string(100'000, 'x'));
+    EXPECT_FALSE(world.session->JobListUpLoad());
+    for (const auto& picture : world.view.pictures)
+        EXPECT_LT(picture.message.size(), 250u);
+}
+
 TEST_F(JobBatchTest, LocalJobsAreNeverFetched) {
     addOlder({"A", "LOCAL"});
     world.session->AddJobList("A.JBI");
@@ -341,7 +367,10 @@ TEST_F(JobBatchTest, TenThousandEntriesAgainstTenThousandJobsAreLinear) {
     SessionProgress progress(*world.session, world.messages, world.panel);
     const OverwriteQuestion question(*world.session, world.messages, world.dialog);
     JobDeletion deletion(link, progress);
-    JobSend send({*world.session, link, progress, error, question, names}, deletion);
+    std::vector<std::string> inTheWay;
+    JobSend send({*world.session, link, progress, error, question, names, inTheWay, world.messages,
+                  world.dialog},
+                 deletion);
     const LocalJobList local;
     JobBatch batch({*world.session, link, progress, error, local, world.messages, world.dialog},
                    [&send](const std::string& entry, std::int32_t index, bool overwriteAll) {

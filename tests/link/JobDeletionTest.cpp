@@ -11,6 +11,16 @@ struct JobDeletionTest : testing::Test {
     tests::SessionWorld world;
 
     JobDeletionTest() { world.controller().put("WELD.JBI", "x"); }
+
+    /// A record whose index none of the deletion's own steps gives.
+    void recordIndexNine() {
+        for (int blank = 0; blank < 9; ++blank)
+            world.session->AddVarList("");
+        world.session->AddVarList("no entry");
+        EXPECT_FALSE(world.session->VarListDownLoad());
+        ASSERT_EQ(world.error(), " 22 9");
+        world.view.pictures.clear();
+    }
 };
 
 TEST_F(JobDeletionTest, SelectsTheJobByItsNormalisedNameAndDeletesIt) {
@@ -35,21 +45,25 @@ TEST_F(JobDeletionTest, ProgressNamesTheJobAndIsHiddenAtTheEnd) {
 }
 
 TEST_F(JobDeletionTest, AFailedSelectionLeavesTheIndexAlone) {
-    world.library.disturb({.function = "BscConnect", .code = 2010});
-    EXPECT_FALSE(world.session->JobDelete("WELD.JBI"));
-    EXPECT_EQ(world.error(), "BscConnect 2010 0");
-    world.library.disturb({.function = "none"});
-    world.session->AddVarList("x");
+    recordIndexNine();
     EXPECT_FALSE(world.session->JobDelete("OTHER.JBI"));
-    EXPECT_EQ(world.error(), "BscSelectJob 1200 0");
+    EXPECT_EQ(world.error(), "BscSelectJob 1200 9");
     EXPECT_EQ(world.library.callCount("BscDeleteJob"), 0);
     EXPECT_EQ(world.library.openLinks(), 0);
 }
 
+TEST_F(JobDeletionTest, AFailedConnectHasIndexZero) {
+    recordIndexNine();
+    world.library.disturb({.function = "BscConnect", .code = 2010});
+    EXPECT_FALSE(world.session->JobDelete("WELD.JBI"));
+    EXPECT_EQ(world.error(), "BscConnect 2010 0");
+}
+
 TEST_F(JobDeletionTest, AFailedDeletionIsRecordedAfterTheClosing) {
+    recordIndexNine();
     world.library.disturb({.function = "BscDeleteJob", .code = 1210});
     EXPECT_FALSE(world.session->JobDelete("WELD.JBI"));
-    EXPECT_EQ(world.error(), "BscDeleteJob 1210 0");
+    EXPECT_EQ(world.error(), "BscDeleteJob 1210 9");
     EXPECT_EQ(world.library.openLinks(), 0);
     EXPECT_FALSE(world.panel.isVisible());
 }

@@ -135,13 +135,114 @@ TEST_F(JobFetchTest, ALinkThatWillNotCloseCountsAsAFailedFetch) {
     EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
 }
 
-TEST_F(JobFetchTest, AFileThatCannotBeSetAsideIsNotRisked) {
-    const std::string name = std::string(250, 'A') + ".JBI";
-    world.pc.write(name, "old");
-    EXPECT_FALSE(fetch(name, true));
+TEST_F(JobFetchTest, AFileOfTheLongestNameIsReplacedToo) {
+    const std::string base(250, 'A');
+    world.controller().put(base + ".JBI", SessionWorld::job(base));
+    world.pc.write(base + ".JBI", "old");
+    EXPECT_TRUE(fetch(base + ".JBI", true));
+    EXPECT_EQ(world.pc.read(base + ".JBI"), SessionWorld::job(base));
+    EXPECT_EQ(fileCount(), 1u);
+}
+
+struct BlockedRow : tests::NamedRow {
+    void (*block)(const tests::TemporaryFolder&);
+    const char* bytes;
+};
+
+class BlockedFetchTest : public JobFetchTest, public testing::WithParamInterface<BlockedRow> {};
+
+TEST_P(BlockedFetchTest, TransfersNothingAndLeavesWhatIsThere) {
+    GetParam().block(world.pc);
+    const auto before = fileCount();
+    EXPECT_FALSE(fetch("WELD.JBI", true));
     EXPECT_EQ(world.error(), " 26 0");
     EXPECT_EQ(world.library.callCount("BscUpLoad"), 0);
     EXPECT_EQ(world.library.openLinks(), 0);
+    EXPECT_EQ(fileCount(), before);
+    if (!std::filesystem::is_directory(world.pc.path("WELD.JBI"))) {
+        EXPECT_EQ(world.pc.read("WELD.JBI"), GetParam().bytes);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Targets, BlockedFetchTest,
+    testing::Values(BlockedRow{{"WriteProtected"},
+                               [](const tests::TemporaryFolder& pc) {
+                                   std::filesystem::permissions(pc.write("WELD.JBI", "old"),
+                                                                std::filesystem::perms(0444));
+                               },
+                               "old"},
+                    BlockedRow{{"SymbolicLink"},
+                               [](const tests::TemporaryFolder& pc) {
+                                   pc.write("elsewhere", "linked");
+                                   std::filesystem::create_symlink("elsewhere",
+                                                                   pc.path("WELD.JBI"));
+                               },
+                               "linked"},
+                    BlockedRow{{"DanglingLink"},
+                               [](const tests::TemporaryFolder& pc) {
+                                   std::filesystem::create_symlink("nowhere", pc.path("WELD.JBI"));
+                               },
+                               ""},
+                    BlockedRow{{"Folder"},
+                               [](const tests::TemporaryFolder& pc) { pc.makeFolder("WELD.JBI"); },
+                               ""}),
+    tests::rowName);
+
+TEST_F(JobFetchTest, AFileThatAppearsDuringTheListIsAskedFor) {
+    world.controller().put("PICK.JBI", SessionWorld::job("PICK"));
+    world.session->AddJobList("WELD.JBI");
+    world.session->AddJobList("PICK.JBI");
+    world.view.onYield = [this](int) { world.pc.write("PICK.JBI", "mine"); };
+    world.question.answers = {Answer::No};
+    EXPECT_TRUE(world.session->JobListUpLoad());
+    EXPECT_THAT(world.question.questions, ElementsAre("PICK.JBI already exists. Overwrite it?"));
+    EXPECT_EQ(world.pc.read("PICK.JBI"), "mine");
+}
+
+TEST_F(JobFetchTest, AnEmptyFileHasNotArrived) {
+    world.pc.write("WELD.JBI", "old");
+    world.library.disturb({.function = "BscUpLoad", .code = 0, .cutTo = 0});
+    EXPECT_FALSE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.error(), "BscUpLoad 25 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+    EXPECT_EQ(fileCount(), 1u);
+}
+
+TEST_F(JobFetchTest, AFetchThatFailsInTheMiddleLeavesTheOldFile) {
+    world.pc.write("WELD.JBI", "old");
+    world.library.disturb({.function = "BscUpLoad", .code = 3010, .cutTo = 5});
+    EXPECT_FALSE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.error(), "BscUpLoad 3010 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+    EXPECT_EQ(fileCount(), 1u);
+}
+
+/// A folder takes the file's place during the transfer, so that the old file cannot come back.
+TEST_F(JobFetchTest, AnOldFileThatCannotBePutBackIsToldWithItsOtherNameEvenWithTheMonitorOff) {
+    world.pc.write("WELD.JBI", "old");
+    world.session->DisplayMonitor = false;
+    world.library.disturb({.function = "BscUpLoad", .code = 3010});
+    world.library.onCall = [this](const std::string& function) {
+        if (function == "BscUpLoad")
+            world.pc.makeFolder("WELD.JBI/inside");
+    };
+    EXPECT_FALSE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.error(), " 28 0");
+    using Box = tests::FakeMessageBoxes;
+    EXPECT_THAT(world.boxes.shown,
+                ElementsAre(Box::Box{Box::Kind::Tell, "[WELD.JBI] kept as [WELD.JBI.replaced-1]",
+                                     BoxIcon::Exclamation}));
+    EXPECT_EQ(world.pc.read("WELD.JBI.replaced-1"), "old");
+}
+
+TEST_F(JobFetchTest, WhatAKilledProgramLeftIsPutBackFirstAndAskedFor) {
+    world.pc.write("WELD.JBI.replaced-1", "old");
+    world.question.answers = {Answer::No};
+    EXPECT_FALSE(fetch("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 4 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+    EXPECT_EQ(fileCount(), 1u);
 }
 
 TEST_F(JobFetchTest, NothingIsFetchedIntoAFolderThatCannotBeListed) {

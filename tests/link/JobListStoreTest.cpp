@@ -89,7 +89,35 @@ TEST_F(JobListStoreTest, AListThatCannotBeOpenedKeepsTheOldOne) {
     EXPECT_FALSE(world.session->SetJobListFile("none.lst"));
     EXPECT_EQ(world.error(), " 6 0");
     EXPECT_THAT(list(), ElementsAre("OLD.JBI"));
-    EXPECT_FALSE(world.session->SetJobListFile(""));
+}
+
+TEST_F(JobListStoreTest, ListFilesWhoseNamesAreNotPlainAreNotRead) {
+    world.pc.write("sub/jobs.lst", "A.JBI\n");
+    const std::string absolute = world.pc.write("jobs.lst", "A.JBI\n");
+    world.pc.write("LocalJob.lst", "LOCAL\n");
+    for (const std::string& name :
+         {std::string(), std::string("sub/jobs.lst"), std::string("../jobs.lst"), absolute}) {
+        EXPECT_FALSE(world.session->SetJobListFile(name, true));
+        EXPECT_EQ(world.error(), " 23 0");
+        EXPECT_THAT(list(), IsEmpty());
+    }
+}
+
+TEST_F(JobListStoreTest, LoadingIsAnOperationThatHidesTheProgress) {
+    writeList("A.JBI\n");
+    for (const char* name : {"jobs.lst", "none.lst", "../jobs.lst"}) {
+        world.panel.show("command");
+        world.session->SetJobListFile(name);
+        EXPECT_FALSE(world.panel.isVisible()) << name;
+    }
+}
+
+TEST_F(JobListStoreTest, AVeryLongMissingNameIsNamedShortened) {
+    writeList(std::string(1'000'000, 'x') + "\n");
+    world.boxes.answers = {true};
+    EXPECT_TRUE(world.session->SetJobListFile("jobs.lst"));
+    ASSERT_EQ(world.boxes.shown.size(), 1u);
+    EXPECT_LT(world.boxes.shown[0].text.size(), 250u);
 }
 
 TEST_F(JobListStoreTest, TheFolderMayEndInASeparator) {

@@ -50,6 +50,19 @@ TEST(JobNameSetTest, RemovedNamesAreGone) {
     EXPECT_EQ(set.jobEntry("WELD"), "");
 }
 
+TEST(JobNameSetTest, AJobIsPreferredToItsRelatedFileWhateverTheirOrder) {
+    EXPECT_EQ(setOf({"WELD.JBR", "WELD.JBI"}).jobEntry("WELD.JBI"), "WELD.JBI");
+    EXPECT_EQ(setOf({"WELD.JBI", "WELD.JBR"}).jobEntry("WELD.JBR"), "WELD.JBI");
+}
+
+TEST(JobNameSetTest, RemovingOneEntryOfAJobLeavesTheOther) {
+    auto set = setOf({"WELD.JBR", "WELD.JBI"});
+    set.remove("WELD.JBI");
+    EXPECT_EQ(set.jobEntry("WELD.JBI"), "WELD.JBR");
+    set.remove("weld.jbr");
+    EXPECT_EQ(set.jobEntry("WELD.JBI"), "");
+}
+
 TEST(JobNameSetTest, AssigningForgetsTheOldNames) {
     auto set = setOf({"WELD.JBI"});
     set.assign({"PICK.JBI"});

@@ -1,6 +1,9 @@
 #include "link/JobSend.h"
 
 #include "SessionWorld.h"
+#include "support/NamedRow.h"
+
+#include <functional>
 
 namespace vantrel {
 namespace {
@@ -98,6 +101,34 @@ TEST_F(JobSendTest, WithTheMonitorOffTheQuestionAnswersCancelAndShowsNothing) {
     EXPECT_EQ(world.view.yields, 0);
 }
 
+TEST_F(JobSendTest, ASilentCallerLearnsWhatIsInTheWay) {
+    world.session->DisplayMonitor = false;
+    world.controller().put("WELD.JBI", older);
+    world.controller().put("COPY.JBI", SessionWorld::job("COPY"));
+    world.pc.write("copy.jbi", weld);
+    EXPECT_FALSE(send("copy.jbi"));
+    EXPECT_THAT(world.session->jobsInTheWay(), ElementsAre("copy.jbi", "WELD.JBI"));
+    EXPECT_FALSE(world.session->JobUpLoad("copy.jbi"));
+    EXPECT_THAT(world.session->jobsInTheWay(), ElementsAre("copy.jbi"));
+    world.pc.write("TOOL.CND", "x");
+    EXPECT_TRUE(send("TOOL.CND"));
+    EXPECT_THAT(world.session->jobsInTheWay(), IsEmpty());
+}
+
+TEST_F(JobSendTest, WhatIsInTheWayOfOneFileIsForgottenWhenTheNextOneFailsEarly) {
+    world.session->DisplayMonitor = false;
+    world.controller().put("WELD.JBI", older);
+    const auto failsEarly = [this](const std::function<void()>& operation) {
+        EXPECT_FALSE(send("WELD.JBI"));
+        ASSERT_THAT(world.session->jobsInTheWay(), ElementsAre("WELD.JBI"));
+        operation();
+        EXPECT_THAT(world.session->jobsInTheWay(), IsEmpty());
+    };
+    failsEarly([this] { send("../A.JBI"); });
+    failsEarly([this] { send("GONE.JBI"); });
+    failsEarly([this] { world.session->JobUpLoad("../A.JBI"); });
+}
+
 TEST_F(JobSendTest, ACommandsCancelMarkIsNotTheSessionsWhileTheMonitorIsOff) {
     world.session->DisplayMonitor = false;
     world.panel.show("command");
@@ -168,6 +199,66 @@ TEST_F(JobSendTest, TheAnswerAllCoversTheJobNamedInsideToo) {
     EXPECT_EQ(world.question.questions.size(), 1u);
     EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
     EXPECT_EQ(world.error(), " 5 0");
+}
+
+struct NamelessRow : tests::NamedRow {
+    const char* file;
+    std::string bytes;
+};
+
+class NamelessJobTest : public JobSendTest, public testing::WithParamInterface<NamelessRow> {};
+
+TEST_P(NamelessJobTest, IsRefusedBeforeTheOldJobIsAskedForOrDeleted) {
+    world.controller().put("WELD.JBI", older);
+    world.pc.write(GetParam().file, GetParam().bytes);
+    for (const bool overwriteAll : {false, true}) {
+        EXPECT_FALSE(send(GetParam().file, overwriteAll));
+        EXPECT_EQ(world.error(), " 27 0");
+    }
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), older);
+    EXPECT_THAT(world.question.questions, IsEmpty());
+    EXPECT_EQ(world.library.callCount("BscSelectJob"), 0);
+    EXPECT_EQ(world.library.callCount("BscDownLoad"), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, NamelessJobTest,
+    testing::Values(
+        NamelessRow{{"NoLine"}, "WELD.JBI", "/JOB\r\nNOP\r\n"},
+        NamelessRow{{"EmptyName"}, "WELD.JBI", "//NAME \r\n"},
+        NamelessRow{{"EmptyFile"}, "WELD.JBI", ""},
+        NamelessRow{{"NotPlain"}, "WELD.JBI", "//NAME A/B\r\n"},
+        NamelessRow{{"Wildcard"}, "WELD.JBI", "//NAME WELD*\r\n"},
+        NamelessRow{{"TrailingPoint"}, "WELD.JBI", "//NAME WELD.\r\n"},
+        NamelessRow{{"TooLong"}, "WELD.JBI", "//NAME " + std::string(252, 'A')},
+        NamelessRow{{"NotInTheCodePage"}, "WELD.JBI", "//NAME \xED\x95\x9C\xED\x95\x9C\r\n"},
+        NamelessRow{{"Utf16"}, "WELD.JBI", std::string("\xFF\xFE/\0/\0N\0A\0M\0E\0 \0A\0", 18)},
+        NamelessRow{{"Related"}, "WELD.JBR", "/JOB\r\nNOP\r\n"}),
+    tests::rowName);
+
+TEST_F(JobSendTest, ANamelessFileInNobodysWayIsTheControllersToJudge) {
+    world.pc.write("NEW.JBI", "/JOB\r\nNOP\r\n");
+    EXPECT_FALSE(send("NEW.JBI"));
+    EXPECT_EQ(world.error(), "BscDownLoad 1310 0");
+}
+
+TEST_F(JobSendTest, AFileWhoseLineNamesANewJobStillReplacesTheJobOfItsOwnName) {
+    world.controller().put("COPY.JBI", SessionWorld::job("COPY"));
+    world.pc.write("COPY.JBI", weld);
+    world.question.answers = {Answer::Yes};
+    EXPECT_TRUE(send("COPY.JBI"));
+    EXPECT_THAT(world.question.questions, ElementsAre("COPY.JBI already exists. Overwrite it?"));
+    EXPECT_THAT(world.controller().names(), ElementsAre("WELD.JBI"));
+}
+
+TEST_F(JobSendTest, QuestionsAboutVeryLongNamesAreShortened) {
+    const std::string longName(240, 'A');
+    world.controller().put(longName + ".JBI", older);
+    world.pc.write(longName + ".JBI", SessionWorld::job(longName));
+    EXPECT_FALSE(send(longName + ".JBI"));
+    ASSERT_EQ(world.question.questions.size(), 1u);
+    EXPECT_LT(world.question.questions[0].size(), 240u);
+    EXPECT_LT(world.view.messages().front().size(), 240u);
 }
 
 TEST_F(JobSendTest, AnUnreadableFileIsFoundBeforeTheOldJobIsDeletedOrAskedFor) {

@@ -127,7 +127,7 @@ TEST_F(LinkConnectionTest, UnsetAddressClosesTellsAndLeavesTheRecordAlone) {
                                                          "address unset", BoxIcon::Exclamation}));
     expectError(12, "BscConnect", 9);
     EXPECT_TRUE(link.endedByUnsetAddress());
-    link.forgetUnsetAddress();
+    link.begin();
     EXPECT_FALSE(link.endedByUnsetAddress());
 }
 

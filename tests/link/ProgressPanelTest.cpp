@@ -32,6 +32,18 @@ TEST_F(ProgressPanelTest, ShowingAMessageClearsTheMarkOfAnEarlierPress) {
     EXPECT_FALSE(panel.isCancelled());
 }
 
+TEST_F(ProgressPanelTest, AKeptPressOutlastsItsMark) {
+    EXPECT_FALSE(panel.isPressTaken());
+    panel.pressCancel();
+    EXPECT_TRUE(panel.isPressTaken());
+    panel.keepPress(true);
+    panel.show("working");
+    EXPECT_FALSE(panel.isCancelled());
+    EXPECT_TRUE(panel.isPressTaken());
+    panel.keepPress(false);
+    EXPECT_FALSE(panel.isPressTaken());
+}
+
 TEST_F(ProgressPanelTest, AMarkOfTheYieldThatAMessageBringsStays) {
     view.onYield = [this](int) { panel.pressCancel(); };
     panel.show("working");

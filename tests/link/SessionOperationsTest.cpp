@@ -65,6 +65,20 @@ TEST_F(SessionOperationsTest, ValuesThatDoNotConvertChangeNothing) {
     EXPECT_EQ(world.session->port, 1);
 }
 
+TEST_F(SessionOperationsTest, APropertyIsNotSetToNothing) {
+    EXPECT_FALSE(operations.set("DisplayMonitor", SessionValue()));
+    EXPECT_TRUE(fails("DisplayMonitor", {SessionValue()}));
+    EXPECT_TRUE(world.session->DisplayMonitor);
+}
+
+TEST_F(SessionOperationsTest, EachDirectoryEntryStaysOneLine) {
+    world.controller().put("A\nB\r.JBI", "x");
+    world.controller().put("C\x7F\t.JBI", "x");
+    EXPECT_EQ(call("ReadDirectory"), SessionValue(1.0));
+    EXPECT_THAT(arguments,
+                ElementsAre(SessionValue(Text("A\uFFFDB\uFFFD.JBI\nC\uFFFD\uFFFD.JBI\n"))));
+}
+
 TEST_F(SessionOperationsTest, UnknownNamesFail) {
     EXPECT_TRUE(fails("Nothing"));
     EXPECT_TRUE(fails("Nothing", {1.0}));

@@ -59,6 +59,20 @@ TEST_F(SessionProgressTest, APressIsRememberedAcrossMessages) {
     EXPECT_TRUE(progress.isCancelled());
 }
 
+TEST_F(SessionProgressTest, ThePressStaysToBeSeenUntilTheOperationEnds) {
+    progress.begin();
+    pressAtNextYield();
+    progress.open("first", true, true);
+    progress.show("second");
+    progress.hide();
+    progress.show("third");
+    EXPECT_FALSE(panel.isCancelled());
+    EXPECT_TRUE(panel.isPressTaken());
+    progress.end();
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_FALSE(panel.isPressTaken());
+}
+
 TEST_F(SessionProgressTest, APressOfTheYieldAfterAnItemIsSeen) {
     progress.begin();
     progress.open("first", true, true);

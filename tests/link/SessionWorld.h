@@ -12,15 +12,15 @@
 #include "support/ScriptedQuestionWindow.h"
 #include "support/TemporaryFolder.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <cstdint>
 #include <initializer_list>
 #include <memory>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace vantrel::tests {
 
@@ -38,6 +38,7 @@ inline MessageTable sessionMessages() {
     add(50, "waiting");
     add(51, "item ");
     add(52, " of ");
+    add(61, " kept as ");
     add(502, "already exists. Overwrite it?");
     add(504, "Transferring ");
     add(507, "Deleting ");

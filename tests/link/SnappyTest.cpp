@@ -4,6 +4,8 @@
 #include "platform/Files.h"
 #include "support/NamedRow.h"
 
+#include <functional>
+
 namespace vantrel {
 namespace {
 
@@ -115,6 +117,63 @@ TEST_F(SnappyTest, AnUnsetAddressIsToldOnceAndForgottenByTheNextOperation) {
     EXPECT_TRUE(world.session->ReadDirectory(list));
     EXPECT_FALSE(world.session->endedByUnsetAddress());
 }
+
+TEST_F(SnappyTest, AnUnsetAddressIsForgottenByTheListFilesToo) {
+    world.pc.write("list.lst", "B1=1\n");
+    world.session->SetVarListFile("list.lst");
+    const std::function<bool(Snappy&)> operations[] = {
+        [](Snappy& session) { return session.SetJobListFile("list.lst", true); },
+        [](Snappy& session) { return session.ReadVarListFile(); },
+        [](Snappy& session) { return session.WriteVarListFile("list.lst"); }};
+    for (const auto& operation : operations) {
+        std::vector<std::string> list;
+        world.mode = TransferMode::HispeedLink;
+        world.session->IPaddress = "0.0.0.0";
+        EXPECT_FALSE(world.session->ReadDirectory(list));
+        EXPECT_TRUE(operation(*world.session));
+        EXPECT_FALSE(world.session->endedByUnsetAddress());
+    }
+}
+
+struct OtherControllerRow : tests::NamedRow {
+    void (*change)(tests::SessionWorld&);
+};
+
+class ChangedControllerTest : public SnappyTest,
+                              public testing::WithParamInterface<OtherControllerRow> {};
+
+/// The operator, or a script, changes the robot while a list is under way.
+TEST_P(ChangedControllerTest, EndsTheOperationAtItsNextConnect) {
+    for (const char* line : {"COM2", "10.0.0.1", "10.0.0.2"})
+        world.library.at(line);
+    world.session->IPaddress = "10.0.0.1";
+    for (const char* name : {"A", "B"}) {
+        world.pc.write(std::string(name) + ".JBI", tests::SessionWorld::job(name));
+        world.session->AddJobList(std::string(name) + ".JBI");
+    }
+    world.library.onCall = [this](const std::string& function) {
+        if (function == "BscDownLoad")
+            GetParam().change(world);
+    };
+    EXPECT_FALSE(world.session->JobListDownLoad());
+    EXPECT_EQ(world.error(), " 29 1");
+    EXPECT_EQ(world.library.callCount("BscDownLoad"), 1);
+    EXPECT_EQ(world.library.callCount("BscOpen"), 2);
+    EXPECT_EQ(world.library.openLinks(), 0);
+    world.library.onCall = nullptr;
+    std::vector<std::string> list;
+    EXPECT_TRUE(world.session->ReadDirectory(list)) << "the next operation takes it as it is";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Parts, ChangedControllerTest,
+    testing::Values(
+        OtherControllerRow{
+            {"Address"}, [](tests::SessionWorld& world) { world.session->IPaddress = "10.0.0.2"; }},
+        OtherControllerRow{{"Port"}, [](tests::SessionWorld& world) { world.session->port = 2; }},
+        OtherControllerRow{{"Mode"},
+                           [](tests::SessionWorld& world) { world.session->SetTansMode(1); }}),
+    tests::rowName);
 
 /// After a change of the address every operation goes to that robot and to no other.
 TEST_F(SnappyTest, OfTwoRobotsOnlyTheOneOfTheAddressIsReached) {

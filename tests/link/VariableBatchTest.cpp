@@ -98,6 +98,14 @@ TEST_F(VariableBatchTest, ProgressShowsEachItemWithCancelAndBar) {
     EXPECT_TRUE(last.cancelButton && last.bar);
 }
 
+TEST_F(VariableBatchTest, VeryLongEntriesAreShownShortened) {
+    add({std::string(100'000, 'x')});
+    EXPECT_FALSE(world.session->VarListDownLoad());
+    EXPECT_FALSE(world.session->VarDownLoad(std::string(100'000, 'x')));
+    for (const auto& picture : world.view.pictures)
+        EXPECT_LT(picture.message.size(), 250u);
+}
+
 TEST_F(VariableBatchTest, AnUnsetAddressLeavesTheRecordAlone) {
     add({"", "B1=5"});
     world.mode = TransferMode::HispeedLink;

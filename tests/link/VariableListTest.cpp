@@ -51,9 +51,55 @@ TEST_F(VariableListTest, AListThatCannotBeOpenedIsEmptyAndRecorded) {
     EXPECT_THAT(list(), IsEmpty());
 }
 
-TEST_F(VariableListTest, WithoutAFileNameNothingIsRead) {
-    EXPECT_FALSE(world.session->ReadVarListFile());
+TEST_F(VariableListTest, NamesThatAreNotPlainAreNeitherReadNorWritten) {
+    world.pc.write("sub/vars.lst", "B1=1\n");
+    const std::string absolute = world.pc.write("vars.lst", "B1=1\n");
+    for (const std::string& name :
+         {std::string(), std::string("sub/vars.lst"), std::string("../vars.lst"), absolute}) {
+        world.session->VarListClear();
+        world.session->SetVarListFile(name);
+        EXPECT_FALSE(world.session->ReadVarListFile());
+        EXPECT_EQ(world.error(), " 23 0");
+        EXPECT_THAT(list(), IsEmpty());
+        world.session->AddVarList("B2=2");
+        EXPECT_FALSE(world.session->WriteVarListFile(name));
+        EXPECT_EQ(world.error(), " 23 0");
+    }
+    EXPECT_EQ(world.pc.read("sub/vars.lst"), "B1=1\n");
+    EXPECT_EQ(world.pc.read("vars.lst"), "B1=1\n");
+}
+
+TEST_F(VariableListTest, AListThatCouldNotBeReadIsNotWrittenOverAFile) {
+    world.pc.write("good.lst", "B1=1\r\n");
+    world.session->SetVarListFile("none.lst");
+    ASSERT_FALSE(world.session->ReadVarListFile());
+    EXPECT_FALSE(world.session->WriteVarListFile("good.lst"));
     EXPECT_EQ(world.error(), " 6 0");
+    EXPECT_EQ(world.pc.read("good.lst"), "B1=1\r\n");
+    world.session->AddVarList("B2=2");
+    EXPECT_TRUE(world.session->WriteVarListFile("good.lst"));
+    EXPECT_EQ(world.pc.read("good.lst"), "B2=2\r\n");
+}
+
+TEST_F(VariableListTest, AnEmptyListThatWasReadIsWritten) {
+    world.session->SetVarListFile("none.lst");
+    ASSERT_FALSE(world.session->ReadVarListFile());
+    ASSERT_TRUE(read(""));
+    EXPECT_TRUE(world.session->WriteVarListFile("copy.lst"));
+    EXPECT_TRUE(world.pc.has("copy.lst"));
+}
+
+TEST_F(VariableListTest, ReadingAndWritingAreOperationsThatHideTheProgress) {
+    world.pc.write("vars.lst", "B1=1\n");
+    for (const char* name : {"vars.lst", "none.lst", "../vars.lst"}) {
+        world.session->SetVarListFile(name);
+        world.panel.show("command");
+        world.session->ReadVarListFile();
+        EXPECT_FALSE(world.panel.isVisible()) << name;
+        world.panel.show("command");
+        world.session->WriteVarListFile(name);
+        EXPECT_FALSE(world.panel.isVisible()) << name;
+    }
 }
 
 struct RoundTripRow : tests::NamedRow {
@@ -99,7 +145,8 @@ TEST_F(VariableListTest, ALineThatTheCodePageLacksTurnsTheFileIntoUtf8) {
 }
 
 TEST_F(VariableListTest, AFileThatCannotBeWrittenIsRecorded) {
-    EXPECT_FALSE(world.session->WriteVarListFile("nowhere/vars.lst"));
+    world.pc.makeFolder("vars.lst");
+    EXPECT_FALSE(world.session->WriteVarListFile("vars.lst"));
     EXPECT_EQ(world.error(), " 6 0");
 }
 

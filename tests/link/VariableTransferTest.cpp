@@ -2,6 +2,8 @@
 
 #include "SessionWorld.h"
 
+#include <limits>
+
 namespace vantrel {
 namespace {
 
@@ -54,6 +56,20 @@ TEST_F(VariableTransferTest, FailuresAreRecordedWithTheirCode) {
     EXPECT_FALSE(world.session->VarDownLoad(entry));
     EXPECT_EQ(world.error(), "BscPutVarData 1510 0");
     EXPECT_EQ(world.library.openLinks(), 0);
+}
+
+TEST_F(VariableTransferTest, AValueThatIsNoNumberIsAFailureAndLeavesTheEntry) {
+    const double odd[] = {std::numeric_limits<double>::quiet_NaN(),
+                          std::numeric_limits<double>::infinity(),
+                          -std::numeric_limits<double>::infinity()};
+    for (const double value : odd) {
+        variable(4, 1) = {1, 2, value};
+        std::string entry = "P1=5";
+        EXPECT_FALSE(world.session->VarUpLoad(entry));
+        EXPECT_EQ(world.error(), "BscGetVarData 34 0");
+        EXPECT_EQ(entry, "P1=5");
+        EXPECT_EQ(world.library.openLinks(), 0);
+    }
 }
 
 TEST_F(VariableTransferTest, ALinkThatWillNotCloseCountsAsAFailure) {

@@ -78,6 +78,35 @@ TEST_P(ZurolinkContract, AnExistingJobHasToBeDeletedBeforeItIsSent) {
     EXPECT_EQ(world->bytes("WELD.JBI"), job("WELD"));
 }
 
+struct RefusedJob {
+    const char* text;
+    std::int16_t code;
+};
+
+TEST_P(ZurolinkContract, AJobWithoutAUsableNameLineIsRefusedAndChangesNothing) {
+    const RefusedJob refused[] = {{"", 1300},
+                                  {"/JOB\r\nNOP\r\n", 1310},
+                                  {"/JOB\r\n//NAME \r\nNOP\r\n", 1310},
+                                  {"/JOB\r\n//NAME A/B\r\n", 1230},
+                                  {"/JOB\r\n//NAME A*\r\n", 1230}};
+    for (const RefusedJob& job : refused)
+        for (const char* file : {"WELD.JBI", "WELD.JBR"}) {
+            world->pc.write(file, job.text);
+            const auto handle = connect();
+            EXPECT_EQ(library.BscDownLoad(handle, file), job.code) << job.text;
+            disconnect(handle);
+            EXPECT_FALSE(world->has("WELD.JBI"));
+        }
+}
+
+TEST_P(ZurolinkContract, AFileThatCannotBeWrittenOnThePCIsAnError) {
+    world->put("WELD.JBI", job("WELD"));
+    world->pc.makeFolder("WELD.JBI");
+    const auto handle = connect();
+    EXPECT_GT(library.BscUpLoad(handle, "WELD.JBI"), 0);
+    disconnect(handle);
+}
+
 TEST_P(ZurolinkContract, ARelatedJobFileReplacesTheJob) {
     world->put("WELD.JBI", job("WELD") + "OLD\r\n");
     world->pc.write("WELD.JBR", job("WELD"));

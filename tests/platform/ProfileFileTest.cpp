@@ -40,6 +40,31 @@ TEST_P(ProfileInteger, GivesTheNumber) {
 
 INSTANTIATE_TEST_SUITE_P(Rows, ProfileInteger, testing::ValuesIn(profileIntegerCases), rowName);
 
+struct ShortIntegerCase : NamedRow {
+    std::string file;
+    std::int16_t expected;
+};
+
+const ShortIntegerCase shortIntegerCases[] = {
+    {"Missing", "", 7},
+    {"Plain", "[S]\nk=-1\n", -1},
+    {"Highest", "[S]\nk=32767\n", 32767},
+    {"PastTheHighest", "[S]\nk=32768\n", 32767},
+    {"SixteenZeroBits", "[S]\nk=65536\n", 32767},
+    {"Lowest", "[S]\nk=-32768\n", -32768},
+    {"PastTheLowest", "[S]\nk=-32769\n", -32768},
+};
+
+class ProfileShortInteger : public testing::TestWithParam<ShortIntegerCase> {};
+
+TEST_P(ProfileShortInteger, StaysWithinSixteenBits) {
+    const TemporaryFolder folder;
+    const ProfileFile file = openProfile(folder, GetParam().file);
+    EXPECT_EQ(file.shortInteger("S", "k", 7), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ProfileShortInteger, testing::ValuesIn(shortIntegerCases), rowName);
+
 class ProfileWrite : public testing::TestWithParam<ProfileWriteCase> {};
 
 TEST_P(ProfileWrite, ChangesNothingElse) {

@@ -47,6 +47,13 @@ TEST_P(TextCase, IsMappedOneToOne) {
     EXPECT_EQ(lowerCase(GetParam().text), GetParam().lower);
 }
 
+TEST(UpperCaseMappingOfManyTexts, GivesWhatEachAloneWouldGive) {
+    UpperCaseMapping mapping;
+    for (int round = 0; round < 2; ++round)
+        for (const auto& row : rows)
+            EXPECT_EQ(mapping.of(row.text), row.upper) << row.name;
+}
+
 TEST_P(TextCase, IsNormalisedForJobNames) {
     EXPECT_EQ(normalisedJobName(GetParam().text), GetParam().jobName);
     EXPECT_EQ(normalisedJobName(GetParam().jobName), GetParam().jobName);

@@ -9,10 +9,10 @@
 #include "simulator/VariableKinds.h"
 #include "simulator/VariableStore.h"
 
-#include <gmock/gmock.h>
-
 #include <filesystem>
 #include <set>
+
+#include <gmock/gmock.h>
 
 namespace vantrel::simulator {
 namespace {
@@ -64,7 +64,7 @@ TEST(Samples, TextsAreInTheCodePageWithTheLineEndsOfAController) {
         const auto text = fromCodePage(bytes);
         EXPECT_EQ(text.find("\uFFFD"), std::string::npos) << file;
         EXPECT_EQ(toCodePage(text), bytes) << file;
-        EXPECT_TRUE(endsWith(bytes, "\r\n")) << file;
+        EXPECT_TRUE(bytes.ends_with("\r\n")) << file;
         const auto breaks = std::count(bytes.begin(), bytes.end(), '\n');
         EXPECT_EQ(breaks, static_cast<std::ptrdiff_t>(lines(bytes).size())) << file;
         EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\r'), breaks) << file;
@@ -76,9 +76,9 @@ TEST(Samples, JobsHaveAHeaderAndStepsAndJapaneseComments) {
         if (!isJob(file))
             continue;
         const auto bytes = content(file);
-        EXPECT_TRUE(startsWith(bytes, "/JOB\r\n//NAME ")) << file;
+        EXPECT_TRUE(bytes.starts_with("/JOB\r\n//NAME ")) << file;
         EXPECT_NE(bytes.find("\r\nbegin\r\n"), std::string::npos) << file;
-        EXPECT_TRUE(endsWith(bytes, "\r\nfinish\r\n")) << file;
+        EXPECT_TRUE(bytes.ends_with("\r\nfinish\r\n")) << file;
         EXPECT_EQ(decodeText(bytes).encoding, TextEncoding::CodePage) << file;
     }
 }
@@ -103,7 +103,7 @@ TEST(Samples, TheSetUpLeadsToEveryController) {
         const auto names = ControllerFolder(controller.folder).list();
         ASSERT_TRUE(names) << controller.folder;
         const auto jobs = std::count_if(names->begin(), names->end(),
-                                        [](const auto& name) { return endsWith(name, ".JBI"); });
+                                        [](const auto& name) { return name.ends_with(".JBI"); });
         EXPECT_THAT(jobs, testing::AllOf(Ge(12), Le(40))) << controller.folder;
         for (const auto& hidden : controller.hidden)
             EXPECT_THAT(*names, Contains(hidden)) << controller.folder;
@@ -123,11 +123,11 @@ TEST(Samples, EveryRegisteredRobotIsThere) {
     int robots = 0;
     const auto registry = content(data + "/samples/robot.ini");
     for (const auto line : lines(registry)) {
-        if (startsWith(line, "IPaddr=")) {
+        if (line.starts_with("IPaddr=")) {
             ++robots;
             EXPECT_NE(settings.find(EthernetLine{std::string(line.substr(7))}), nullptr) << line;
         }
-        if (startsWith(line, "Path=")) {
+        if (line.starts_with("Path=")) {
             EXPECT_TRUE(isFolder(data + "/samples/pc/" + std::string(line.substr(5)))) << line;
         }
     }

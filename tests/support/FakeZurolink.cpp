@@ -1,18 +1,19 @@
 #include "support/FakeZurolink.h"
 
+#include "base/PathRules.h"
 #include "base/Text.h"
-#include "link/JobFile.h"
-#include "link/JobNameSet.h"
 #include "platform/TextCase.h"
 #include "platform/TextEncoding.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sstream>
+#include <variant>
+
+#include <gtest/gtest.h>
 
 namespace vantrel::tests {
 namespace {
@@ -31,18 +32,44 @@ std::filesystem::path pcFile(const std::string& folder, const std::string& name)
     return native(folder) / native(name);
 }
 
-/// A job's name on the controller: by its "//NAME" line, else by its file's name.
-std::string controllerName(const std::string& fileName, const std::string& bytes) {
-    if (!isJobFileName(fileName))
+bool isJobOf(const std::string& fileName, const std::string& extension) {
+    return asciiUpper(fileName).ends_with(extension);
+}
+
+bool isJob(const std::string& fileName) {
+    return isJobOf(fileName, ".JBI") || isJobOf(fileName, ".JBR");
+}
+
+/// The first name that a "//NAME" line of the job gives, or an empty text.
+std::string nameLine(const std::string& bytes) {
+    std::istringstream text(decodeText(bytes).text);
+    std::string name;
+    for (std::string line; name.empty() && std::getline(text, line);)
+        if (line.starts_with("//NAME "))
+            name = trimmed(line.substr(7));
+    return name;
+}
+
+/// The file's name on the controller, where a job has the name of its "//NAME" line; or why the
+/// controller refuses it.
+std::variant<std::string, std::int16_t> controllerName(const std::string& fileName,
+                                                       const std::string& bytes) {
+    if (!isJob(fileName))
         return fileName;
-    const std::string inside = jobNameInside(bytes);
-    const std::string base = fileName.substr(0, fileName.rfind('.'));
-    return normalisedJobName(inside.empty() ? base : inside) + ".JBI";
+    if (bytes.empty())
+        return FakeZurolink::formatError;
+    const std::string inside = nameLine(bytes);
+    if (inside.empty())
+        return FakeZurolink::headerMissing;
+    const std::string stored = normalisedJobName(inside) + ".JBI";
+    if (!PathRules::isPlainName(stored) || !toCodePage(stored))
+        return FakeZurolink::nameInvalid;
+    return stored;
 }
 
 /// A job is asked for as "NAME.JBI", "NAME.JBR" and "NAME".
 std::string storedName(const std::string& asked) {
-    if (isJobFileName(asked))
+    if (isJob(asked))
         return asked.substr(0, asked.rfind('.')) + ".JBI";
     return asked.find('.') == std::string::npos ? asked + ".JBI" : asked;
 }
@@ -131,8 +158,8 @@ std::int16_t FakeZurolink::misuse(const std::string& what) const {
     return wrongUse;
 }
 
-std::optional<std::int16_t> FakeZurolink::disturbed(const char* function,
-                                                    std::int16_t success) const {
+std::optional<std::int16_t> FakeZurolink::disturbed(const char* function, std::int16_t success,
+                                                    const std::function<std::int16_t()>& work) {
     if (!disturbance_ || (!disturbance_->function.empty() && disturbance_->function != function))
         return {};
     const int count =
@@ -141,11 +168,16 @@ std::optional<std::int16_t> FakeZurolink::disturbed(const char* function,
         count == disturbance_->call || (disturbance_->fromThereOn && count > disturbance_->call);
     if (!hit)
         return {};
+    if (disturbance_->cutTo) {
+        cutTo_ = *disturbance_->cutTo;
+        work();
+        cutTo_ = std::string::npos;
+    }
     if (!disturbance_->doNothing)
         return disturbance_->code;
     // A directory that is told without being read has to end some time.
     const bool ends = count >= disturbance_->call + mostEmptyEntries;
-    return ends && startsWith(function, "BscFind") ? endOfDirectory : success;
+    return ends && std::string_view(function).starts_with("BscFind") ? endOfDirectory : success;
 }
 
 std::int16_t FakeZurolink::perform(const char* function, const std::string& arguments,
@@ -155,7 +187,7 @@ std::int16_t FakeZurolink::perform(const char* function, const std::string& argu
     ++counts_[function];
     if (onCall)
         onCall(function);
-    const auto instead = disturbed(function, success);
+    const auto instead = disturbed(function, success, work);
     const std::int16_t result = instead ? *instead : work();
     if (records_)
         calls_.push_back(
@@ -265,10 +297,12 @@ std::int16_t FakeZurolink::BscDownLoad(std::int16_t handle, const char* file) {
             return pcFileNotFound;
         const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
         FakeController& controller = controllers_[link.line];
-        const std::string stored = controllerName(name, bytes);
-        if (jobExtension(name) == ".JBI" && controller.has(stored))
+        const auto stored = controllerName(name, bytes);
+        if (const auto* refused = std::get_if<std::int16_t>(&stored))
+            return *refused;
+        if (isJobOf(name, ".JBI") && controller.has(std::get<std::string>(stored)))
             return jobExists;
-        controller.put(stored, bytes);
+        controller.put(std::get<std::string>(stored), transferred(bytes));
         return done;
     });
 }
@@ -279,9 +313,9 @@ std::int16_t FakeZurolink::BscUpLoad(std::int16_t handle, const char* file) {
         const FakeController& controller = controllers_[link.line];
         if (!controller.has(storedName(name)))
             return notFound;
-        std::ofstream(pcFile(link.folder, name), std::ios::binary)
-            << controller.bytes(storedName(name));
-        return done;
+        std::ofstream stream(pcFile(link.folder, name), std::ios::binary);
+        stream << transferred(controller.bytes(storedName(name))) << std::flush;
+        return stream ? done : pcFolderNotAccessible;
     });
 }
 

@@ -3,6 +3,7 @@
 #include "link/Zurolink.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -54,6 +55,8 @@ struct Disturbance {
     bool fromThereOn = false; ///< every later call too
     bool doNothing = false;   ///< report success and do nothing, instead of failing with `code`
     std::int16_t code = -7;
+    /// Transfer only that many bytes, then end with `code`, which may be that of success.
+    std::optional<std::size_t> cutTo = {};
 };
 
 /// The communication library with controllers in memory, reached by "COM1" or by an address. It
@@ -69,8 +72,12 @@ class FakeZurolink : public Zurolink {
     };
 
     static constexpr std::int16_t notFound = 1200;
+    static constexpr std::int16_t nameInvalid = 1230;
     static constexpr std::int16_t jobExists = 1240;
+    static constexpr std::int16_t formatError = 1300;
+    static constexpr std::int16_t headerMissing = 1310;
     static constexpr std::int16_t pcFileNotFound = 3020;
+    static constexpr std::int16_t pcFolderNotAccessible = 3030;
 
     FakeController& at(const std::string& line) { return controllers_[line]; }
 
@@ -127,7 +134,10 @@ class FakeZurolink : public Zurolink {
     std::int16_t onLink(const char* function, std::int16_t handle, const std::string& arguments,
                         std::int16_t success, bool connected,
                         const std::function<std::int16_t(Link&)>& work);
-    std::optional<std::int16_t> disturbed(const char* function, std::int16_t success) const;
+    std::optional<std::int16_t> disturbed(const char* function, std::int16_t success,
+                                          const std::function<std::int16_t()>& work);
+    /// The bytes that a transfer brings to the other side.
+    std::string transferred(const std::string& bytes) const { return bytes.substr(0, cutTo_); }
     std::int16_t misuse(const std::string& what) const;
     std::int16_t writeEntry(Link& link, char* buffer, std::int16_t length);
 
@@ -135,7 +145,8 @@ class FakeZurolink : public Zurolink {
     std::map<std::int16_t, Link> links_;
     std::int16_t lastHandle_ = 0;
     std::optional<Disturbance> disturbance_;
-    int callsBefore_ = 0; ///< the disturbance was ordered
+    int callsBefore_ = 0;                   ///< the disturbance was ordered
+    std::size_t cutTo_ = std::string::npos; ///< bytes that the present transfer brings
     bool strict_ = true;
     bool records_ = true;
     std::vector<Call> calls_;

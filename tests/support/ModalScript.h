@@ -1,12 +1,12 @@
 #pragma once
 
+#include <deque>
+#include <functional>
+
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/dialog.h>
 #include <wx/modalhook.h>
-
-#include <deque>
-#include <functional>
 
 namespace vantrel::tests {
 
@@ -32,6 +32,9 @@ class ModalScript : public wxModalDialogHook {
     };
 
     int Enter(wxDialog* dialog) override {
+        // Some dialogs announce themselves twice.
+        if (dialog == open_)
+            return wxID_NONE;
         if (steps_.empty()) {
             ADD_FAILURE() << "unexpected dialog: " << dialog->GetTitle();
             return wxID_CANCEL;
@@ -40,11 +43,18 @@ class ModalScript : public wxModalDialogHook {
         steps_.pop_front();
         if (step.look)
             return step.look(*dialog);
+        open_ = dialog;
         wxTheApp->CallAfter([action = step.action, dialog] { action(*dialog); });
         return wxID_NONE;
     }
 
+    void Exit(wxDialog* dialog) override {
+        if (dialog == open_)
+            open_ = nullptr;
+    }
+
     std::deque<Step> steps_;
+    const wxDialog* open_ = nullptr; ///< the innermost dialog that is being acted on
 };
 
 } // namespace vantrel::tests

@@ -69,6 +69,21 @@ TEST_P(FileListControlTest, SelectsTheseRowsAndNoOthers) {
 TEST_P(FileListControlTest, SelectsAll) {
     list.selectAll();
     EXPECT_THAT(list.selectedRows(), ElementsAre(0u, 1u, 2u, 3u));
+    EXPECT_EQ(list.focusedKind(), FileKind::JobFile) << "the commands would be off";
+}
+
+TEST_P(FileListControlTest, APressActivatesThePaneThatHasTheFocusAlready) {
+    int activated = 0;
+    list.onActivated = [&] { ++activated; };
+    auto* const part = list.native().GetChildren().IsEmpty()
+                           ? static_cast<wxWindow*>(&list.native())
+                           : list.native().GetChildren().GetFirst()->GetData();
+    for (const auto& press : {wxEVT_LEFT_DOWN, wxEVT_RIGHT_DOWN}) {
+        wxMouseEvent event(press);
+        event.SetEventObject(part);
+        part->HandleWindowEvent(event);
+    }
+    EXPECT_GE(activated, 2);
 }
 
 TEST_P(FileListControlTest, TellsOfManyChangesOnce) {

@@ -3,6 +3,8 @@
 #include "support/Windows.h"
 #include "ui/dialogs/IconDrawings.h"
 
+#include <set>
+
 #include <wx/dcmemory.h>
 #include <wx/iconbndl.h>
 #include <wx/image.h>
@@ -87,6 +89,17 @@ TEST(IconSet, NoDrawingIsSuperfluous) {
     for (const auto& drawing : iconDrawings())
         EXPECT_NE(std::ranges::find(requiredKeys, drawing.key), std::end(requiredKeys))
             << drawing.key;
+}
+
+TEST(IconSet, EveryKeyHasItsOwnPicture) {
+    std::set<std::string> pictures;
+    for (const char* const key : requiredKeys) {
+        const wxImage image = icon(key, wxSize(32, 32)).GetBitmap(wxSize(32, 32)).ConvertToImage();
+        const std::size_t pixels = 32 * 32;
+        pictures.insert(std::string(reinterpret_cast<const char*>(image.GetData()), 3 * pixels) +
+                        std::string(reinterpret_cast<const char*>(image.GetAlpha()), pixels));
+    }
+    EXPECT_EQ(pictures.size(), std::size(requiredKeys));
 }
 
 TEST(IconSet, TheProgramHasItsIconInAllUsualSizes) {

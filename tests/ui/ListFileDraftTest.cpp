@@ -90,13 +90,17 @@ TEST_P(ListFileName, IsCompletedAndJudged) {
 INSTANTIATE_TEST_SUITE_P(Names, ListFileName,
                          testing::Values(NameRow{{"WithoutAPoint"}, "jobs", true, "jobs.lst"},
                                          NameRow{{"WithAPoint"}, "jobs.txt", true, "jobs.txt"},
-                                         NameRow{{"PointAtTheEnd"}, "jobs.", true, "jobs."},
+                                         NameRow{{"PointAtTheEnd"}, "jobs.", false, ""},
                                          NameRow{{"OuterBlanks"}, " jobs ", true, "jobs.lst"},
                                          NameRow{{"Japanese"}, "一覧", true, "一覧.lst"},
                                          NameRow{{"Empty"}, "", false, ""},
                                          NameRow{{"BlanksOnly"}, "  ", false, ""},
                                          NameRow{{"Asterisk"}, "*.LST", false, ""},
-                                         NameRow{{"QuestionMark"}, "job?.lst", false, ""}),
+                                         NameRow{{"QuestionMark"}, "job?.lst", false, ""},
+                                         NameRow{{"FolderBelow"}, "sub/jobs.lst", false, ""},
+                                         NameRow{{"FolderAbove"}, "../jobs.lst", false, ""},
+                                         NameRow{{"WindowsPath"}, "C:\\jobs.lst", false, ""},
+                                         NameRow{{"DeviceName"}, "con.lst", false, ""}),
                          rowName);
 
 struct PresetRow : NamedRow {

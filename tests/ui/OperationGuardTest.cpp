@@ -98,6 +98,18 @@ TEST_F(OperationGuardTest, RefusesPopUpMenusToo) {
     EXPECT_EQ(reached, 0);
 }
 
+TEST_F(OperationGuardTest, NothingIsBegunDuringAYield) {
+    bool lockedInside = false;
+    window->CallAfter([&] {
+        lockedInside = guard.isLocked();
+        doEverything(*window, inside);
+    });
+    guard.yield();
+    EXPECT_TRUE(lockedInside);
+    EXPECT_EQ(reached, 0);
+    EXPECT_FALSE(guard.isLocked());
+}
+
 TEST_F(OperationGuardTest, AYieldInsideAYieldDoesNothing) {
     int runs = 0;
     window->CallAfter([&] {

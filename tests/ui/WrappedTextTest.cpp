@@ -30,7 +30,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{{"NameLongerThanALine"},
             "ABCDEFGHIJKLMNOPQRSTUVWXYZ",
             "ABCDEFGHIJ\nKLMNOPQRST\nUVWXYZ"},
-        Row{{"AfterAKana"}, "FOOは既に存在します。上書き", "FOOは既に存在しま\nす。上書き"},
+        Row{{"AfterAKana"}, "FOO は既に存在します。上書き", "FOO は既に存在し\nます。上書き"},
         Row{{"OwnLineEndsStay"}, "one\ntwo", "one\ntwo"},
         Row{{"EmptyLineStays"}, "one\n\ntwo", "one\n\ntwo"}),
     rowName);

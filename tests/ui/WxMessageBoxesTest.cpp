@@ -24,7 +24,7 @@ class WxMessageBoxesTest : public DialogInLanguage {
     /// Answers the next box and remembers what it was.
     void answerWith(int id) {
         script.answer([this, id](wxDialog& dialog) {
-            auto& box = dynamic_cast<wxMessageDialog&>(dialog);
+            auto& box = dynamic_cast<MessageBox&>(dialog);
             text = box.GetMessage().utf8_string();
             title = box.GetCaption().utf8_string();
             style = box.GetMessageDialogStyle();
@@ -43,14 +43,43 @@ class WxMessageBoxesTest : public DialogInLanguage {
     wxWindow* parent = nullptr;
 };
 
-TEST_P(WxMessageBoxesTest, TellsATextAsItIs) {
+TEST_P(WxMessageBoxesTest, TellsWithOneButtonAndTheProgramsTitle) {
     answerWith(wxID_OK);
-    boxes.tell("A&B 100%s %n.JBI", BoxIcon::Exclamation);
-    EXPECT_EQ(text, "A&B 100%s %n.JBI");
+    boxes.tell("text", BoxIcon::Exclamation);
     EXPECT_EQ(title, "Vantrel");
     EXPECT_EQ(style & (wxOK | wxCANCEL | wxYES_NO), wxOK);
     EXPECT_TRUE(style & wxICON_WARNING);
     EXPECT_EQ(ok, messages.getMessage(325));
+}
+
+std::string shownTexts(const wxWindow& window) {
+    std::string texts;
+    for (const wxWindow* const child : window.GetChildren())
+        if (const auto* const label = dynamic_cast<const wxStaticText*>(child))
+            texts += label->GetLabelText().utf8_string();
+    return texts;
+}
+
+TEST_P(WxMessageBoxesTest, ShowsATextAsItIs) {
+    script.act([this](wxDialog& box) {
+        text = shownTexts(box);
+        expectNothingCutOff(box);
+        saveScreenshot(box, "box-" + language());
+        box.EndModal(wxID_NO);
+    });
+    boxes.askYesNo("A&B 100%s %n.JBI", BoxIcon::Question);
+    EXPECT_EQ(text, "A&B 100%s %n.JBI");
+}
+
+TEST_P(WxMessageBoxesTest, ALongNameWrapsInsteadOfWideningIt) {
+    script.act([this](wxDialog& box) {
+        EXPECT_TRUE(waitFor([&] { return box.GetSize().x > 100; }));
+        EXPECT_LT(box.GetSize().x, box.FromDIP(760));
+        expectNothingCutOff(box);
+        saveScreenshot(box, "box-long-" + language());
+        box.EndModal(wxID_OK);
+    });
+    boxes.tell('[' + std::string(250, 'W') + ']' + messages.getMessage(8), BoxIcon::Exclamation);
 }
 
 TEST_P(WxMessageBoxesTest, AsksYesOrNoWithNoAsTheDefault) {
@@ -107,21 +136,30 @@ TEST_P(WxMessageBoxesTest, NeverBelongsToAWindowThatComesAndGoes) {
     EXPECT_EQ(parent, nullptr);
 }
 
-/// Presses a key again and again until the box that takes it is gone.
+/// Presses a key until the box that takes it is gone; the first presses may come before the box is
+/// on the screen. A box that does not take it is answered Yes in the end.
 class PatientKey : public wxTimer {
   public:
     explicit PatientKey(int key) : key_(key) { Start(50); }
-    void Notify() override { pressKey(key_); }
+    void Notify() override {
+        if (++presses_ > 60 && box)
+            box->EndModal(wxID_YES);
+        else
+            pressKey(key_);
+    }
+
+    wxDialog* box = nullptr;
 
   private:
     int key_;
+    int presses_ = 0;
 };
 
 TEST_P(WxMessageBoxesTest, EnterAndEscAreNo) {
     for (const int key : {int(WXK_RETURN), int(WXK_ESCAPE)}) {
-        script.act([](wxDialog&) {});
-        const PatientKey pressed(key);
-        EXPECT_FALSE(boxes.askYesNo(messages.getMessage(1) + " A&B 100%", BoxIcon::Question));
+        PatientKey pressed(key);
+        script.act([&pressed](wxDialog& box) { pressed.box = &box; });
+        EXPECT_FALSE(boxes.askYesNo(messages.getMessage(1), BoxIcon::Question)) << key;
     }
 }
 

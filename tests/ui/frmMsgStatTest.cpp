@@ -101,6 +101,17 @@ TEST_P(frmMsgStatTest, CancelLeavesTheMarkAndSaysThatItWasTaken) {
     EXPECT_TRUE(control<wxButton>(*window, "cmdCancel").IsEnabled());
 }
 
+TEST_P(frmMsgStatTest, CancelStaysOffAsLongAsThePressIsKept) {
+    panel.show("text");
+    click(*window, "cmdCancel");
+    panel.keepPress(true);
+    panel.show("next");
+    EXPECT_FALSE(control<wxButton>(*window, "cmdCancel").IsEnabled());
+    panel.keepPress(false);
+    panel.show("another command");
+    EXPECT_TRUE(control<wxButton>(*window, "cmdCancel").IsEnabled());
+}
+
 TEST_P(frmMsgStatTest, EscAndCloseBoxArePressesOfCancel) {
     panel.show("text");
     EXPECT_TRUE(swallows(*window, WXK_ESCAPE));
@@ -159,16 +170,17 @@ TEST_P(frmMsgStatTest, DoesNotTakeTheMainWindowsFocus) {
 }
 
 TEST_P(frmMsgStatTest, StandsOverTheMainWindow) {
-    auto* const main = new wxFrame(nullptr, wxID_ANY, "main", wxPoint(60, 300), wxSize(900, 600));
+    auto* const main = new wxFrame(nullptr, wxID_ANY, "main", wxPoint(60, 300), wxSize(500, 300));
     const WindowHolder<wxFrame> holder(main);
     wxTheApp->SetTopWindow(main);
     main->Show();
-    ASSERT_TRUE(waitFor([&] { return main->IsActive(); }));
+    ASSERT_TRUE(waitFor([&] { return main->IsActive() && main->GetSize().x == 500; }));
     panel.show("text");
     const auto middle = [](const wxRect& at) { return wxPoint(at.x, at.y) + at.GetSize() / 2; };
-    const auto off = middle(window->GetRect()) - middle(main->GetRect());
-    EXPECT_LT(std::abs(off.x), 30);
-    EXPECT_LT(std::abs(off.y), 30);
+    EXPECT_TRUE(waitFor([&] {
+        const auto off = middle(window->GetRect()) - middle(main->GetRect());
+        return std::abs(off.x) < 30 && std::abs(off.y) < 30;
+    }));
     wxTheApp->SetTopWindow(nullptr);
 }
 

@@ -4,6 +4,8 @@
 #include "support/ModalScript.h"
 #include "ui/dialogs/WindowHolder.h"
 
+#include <wx/frame.h>
+
 namespace vantrel::tests {
 namespace {
 
@@ -58,6 +60,18 @@ TEST_P(frmVersTest, OpensModallyWhileItIsVisible) {
     });
     EXPECT_TRUE(modal);
     EXPECT_FALSE(window->IsShown());
+}
+
+TEST_P(frmVersTest, OpensInFrontOfTheMainWindow) {
+    window->Show();
+    ASSERT_TRUE(waitFor([&] { return window->IsActive(); }));
+    const WindowHolder<wxFrame> main(new wxFrame(nullptr, wxID_ANY, "main"));
+    main->Show();
+    ASSERT_TRUE(waitFor([&] { return main->IsActive(); }));
+    whileOpen([&] {
+        EXPECT_TRUE(waitFor([&] { return window->IsActive(); }));
+        click(*window, "Command1");
+    });
 }
 
 TEST_P(frmVersTest, EscAndCloseBoxCloseIt) {

@@ -68,7 +68,7 @@ std::string ListFileDraft::cancelCaption() const {
 }
 
 bool ListFileDraft::canConfirm() const {
-    return !trimmed(name_).empty() && !holdsWildcard(name_);
+    return !trimmed(name_).empty() && PathRules::isPlainName(completedName());
 }
 
 std::string ListFileDraft::completedName() const {
@@ -100,13 +100,15 @@ bool ListFileDraft::readList(const std::string& file) {
     return session_.SetJobListFile(file, mode_ == list_file_mark::saveJobs);
 }
 
-/// A file that can be read was left by the operator, who need not be told.
+/// The operator who left a list need not be told. The session has no words for what the system had
+/// against a file, so these come from a second try, which as a rule ends at the opening.
 void ListFileDraft::tellWhyNotRead(const std::string& file) const {
+    if (session_.ErrorCode() == session_code::cancelled)
+        return;
     const auto content = readFile(PathRules().join(state_.PCPath, file));
-    if (!content)
-        boxes_.tell(messages_.getMessage(message::listFileNotRead) + '[' + file + "] " +
-                        content.reason(),
-                    BoxIcon::Exclamation);
+    boxes_.tell(messages_.getMessage(message::listFileNotRead) + '[' + file + "] " +
+                    (content ? messages_.errorText(session_.ErrorCode()) : content.reason()),
+                BoxIcon::Exclamation);
 }
 
 void ListFileDraft::abandon() {

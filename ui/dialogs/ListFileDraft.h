@@ -42,7 +42,7 @@ class ListFileDraft {
     const std::string& name() const { return name_; }
     void setName(std::string name) { name_ = std::move(name); }
 
-    /// Off while the name is empty or holds a wildcard.
+    /// Off while the name is empty or not a plain one: a wildcard, another folder.
     bool canConfirm() const;
     /// The name without outer blanks, with ".lst" at its end when it holds no ".".
     std::string completedName() const;

@@ -1,7 +1,5 @@
 #include "ui/dialogs/PlainCaption.h"
 
-#include "base/Text.h"
-
 namespace vantrel {
 namespace {
 
@@ -27,7 +25,7 @@ std::string withoutMnemonic(std::string_view caption) {
         plain += caption[0];
         caption.remove_prefix(1);
     }
-    if (endsWith(plain, "..."))
+    if (plain.ends_with("..."))
         plain.resize(plain.size() - 3);
     return plain;
 }

@@ -1,5 +1,6 @@
 # The dialogs' sources, relative to ui/.
 set(DIALOG_SOURCES
+    dialogs/CaptionButton.cpp
     dialogs/PlainCaption.cpp
     dialogs/CentredPosition.cpp
     dialogs/DialogKeys.cpp

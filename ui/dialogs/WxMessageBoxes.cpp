@@ -2,13 +2,30 @@
 
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "ui/IconSet.h"
 #include "ui/dialogs/DialogParent.h"
+#include "ui/dialogs/WrappedText.h"
 #include "ui/dialogs/WxText.h"
 
-#include <wx/msgdlg.h>
+#include <wx/dcmemory.h>
+#include <wx/iconbndl.h>
+#include <wx/settings.h>
 
 namespace vantrel {
 namespace {
+
+/// Device-independent pixels.
+constexpr int longestLine = 560;
+
+/// The boxes break lines at blanks only, and a file's name may be long and without any.
+wxString wrapped(const std::string& text) {
+    wxMemoryDC dc;
+    dc.SetFont(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT));
+    const auto widthOf = [&dc](std::string_view part) {
+        return dc.GetTextExtent(toWx(std::string(part))).x;
+    };
+    return toWx(wrappedText(text, dc.FromDIP(longestLine), widthOf));
+}
 
 long styleOf(BoxIcon icon) {
     switch (icon) {
@@ -40,13 +57,16 @@ int WxMessageBoxes::show(const std::string& text, long style) const {
     const auto recorded = messages_.getMessage(message::title);
     const auto title = recorded.empty() ? wxString("Vantrel") : toWx(recorded);
     wxWindow* const parent = dialogParent();
-    wxMessageDialog box(parent, toWx(text), title,
-                        style | (parent ? wxCENTRE : wxCENTRE | wxDIALOG_NO_PARENT));
+    MessageBox box(parent, wrapped(text), title,
+                   style | (parent ? wxCENTRE : wxCENTRE | wxDIALOG_NO_PARENT));
+    box.SetIcons(programIcons());
     captionButtons(box, style);
+    if (style & wxYES_NO)
+        box.SetEscapeId(wxID_NO);
     return box.ShowModal();
 }
 
-void WxMessageBoxes::captionButtons(wxMessageDialog& box, long style) const {
+void WxMessageBoxes::captionButtons(MessageBox& box, long style) const {
     const auto ok = toWx(messages_.getMessage(message::ok));
     const auto cancel = toWx(messages_.resourceMessage(message::resource::cancel));
     const auto yes = toWx(messages_.resourceMessage(message::resource::yes));

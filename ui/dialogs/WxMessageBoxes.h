@@ -2,11 +2,21 @@
 
 #include "lang/MessageBoxes.h"
 
-class wxMessageDialog;
+#include <wx/msgdlg.h>
+#ifdef __WXGTK__
+#include <wx/generic/msgdlgg.h>
+#endif
 
 namespace vantrel {
 
 class MessageTable;
+
+// The native box of GTK 3 shows no icon, so there the toolkit's own is taken.
+#ifdef __WXGTK__
+using MessageBox = wxGenericMessageDialog;
+#else
+using MessageBox = wxMessageDialog;
+#endif
 
 /// The system's own message boxes, with the language's words on their buttons. They work before
 /// there is any other window and before any language is read.
@@ -20,7 +30,7 @@ class WxMessageBoxes : public MessageBoxes {
 
   private:
     int show(const std::string& text, long style) const;
-    void captionButtons(wxMessageDialog& box, long style) const;
+    void captionButtons(MessageBox& box, long style) const;
 
     const MessageTable& messages_;
 };

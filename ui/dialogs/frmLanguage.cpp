@@ -4,6 +4,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "ui/IconSet.h"
+#include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/LanguageDraft.h"
@@ -94,22 +95,20 @@ wxSizer* frmLanguage::buildButtons(const MessageTable& messages) {
     Picture1_ = new wxStaticBitmap(this, wxID_ANY, wxBitmapBundle(), wxDefaultPosition,
                                    FromDIP(wxSize(pictureSize, pictureSize)), 0, "Picture1");
     Picture1_->SetMinSize(FromDIP(wxSize(pictureSize, pictureSize)));
-    const std::array<std::tuple<int, int, const char*>, 4> buttons{
-        {{wxID_OK, message::ok, "Command1"},
-         {wxID_CANCEL, message::cancel, "Command2"},
-         {wxID_ANY, message::editLanguageFile, "Command3"},
-         {wxID_ANY, message::chooseFont, "Command4"}}};
+    const std::array<std::pair<int, const char*>, 4> buttons{
+        {{message::ok, "Command1"},
+         {message::cancel, "Command2"},
+         {message::editLanguageFile, "Command3"},
+         {message::chooseFont, "Command4"}}};
     auto* const column = new wxBoxSizer(wxVERTICAL);
-    for (const auto& [id, caption, name] : buttons) {
-        auto* const button =
-            new wxButton(this, id, toWx(messages.getMessage(caption)), wxDefaultPosition,
-                         wxDefaultSize, 0, wxDefaultValidator, name);
+    for (const auto& [caption, name] : buttons) {
+        auto* const button = newCaptionButton(this, messages.getMessage(caption), name);
         column->Add(button, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(8)));
     }
     column->AddStretchSpacer();
     column->Add(Picture1_, wxSizerFlags().CentreHorizontal());
-    SetAffirmativeId(wxID_OK);
     static_cast<wxButton*>(FindWindow("Command1"))->SetDefault();
+    SetEscapeId(FindWindow("Command2")->GetId());
     return column;
 }
 

@@ -1,6 +1,7 @@
 #include "ui/dialogs/frmListFile.h"
 
 #include "ui/IconSet.h"
+#include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/ListFileDraft.h"
@@ -69,12 +70,10 @@ wxSizer* frmListFile::buildTexts() {
 }
 
 wxSizer* frmListFile::buildButtons() {
-    cmdOK_ = new wxButton(this, wxID_OK, toWx(draft_.okCaption()), wxDefaultPosition, wxDefaultSize,
-                          0, wxDefaultValidator, "cmdOK");
-    auto* const cmdCancel =
-        new wxButton(this, wxID_CANCEL, toWx(draft_.cancelCaption()), wxDefaultPosition,
-                     wxDefaultSize, 0, wxDefaultValidator, "cmdCancel");
+    cmdOK_ = newCaptionButton(this, draft_.okCaption(), "cmdOK");
+    auto* const cmdCancel = newCaptionButton(this, draft_.cancelCaption(), "cmdCancel");
     cmdOK_->SetDefault();
+    SetEscapeId(cmdCancel->GetId());
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     row->Add(cmdOK_);
     row->Add(cmdCancel, wxSizerFlags().Border(wxLEFT, FromDIP(8)));

@@ -4,6 +4,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "ui/IconSet.h"
+#include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogParent.h"
 #include "ui/dialogs/DialogSize.h"
@@ -69,8 +70,7 @@ void frmMsgStat::buildControls() {
                           wxGA_HORIZONTAL | wxGA_SMOOTH, wxDefaultValidator, "pgbInf");
     lblWaiting_ =
         new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblWaiting");
-    cmdCancel_ = new wxButton(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0,
-                              wxDefaultValidator, "cmdCancel");
+    cmdCancel_ = newCaptionButton(this, "", "cmdCancel");
 
     const int gap = FromDIP(8);
     // A hidden bar or button keeps its place: the window's size does not change while it is shown.
@@ -148,7 +148,7 @@ void frmMsgStat::showControls(const ProgressPanel& panel) {
     pgbInf_->SetValue(std::clamp(panel.item(), 0, range));
     pgbInf_->Show(panel.barShown());
     cmdCancel_->Show(panel.cancelButtonShown());
-    cmdCancel_->Enable(!panel.isCancelled());
+    cmdCancel_->Enable(!panel.isPressTaken());
 }
 
 void frmMsgStat::showOrHide(bool visible) {

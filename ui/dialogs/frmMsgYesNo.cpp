@@ -4,6 +4,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "ui/IconSet.h"
+#include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogParent.h"
 #include "ui/dialogs/DialogSize.h"
@@ -70,16 +71,14 @@ wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const Applicati
 wxSizer* frmMsgYesNo::buildButtons(const MessageTable& messages) {
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     for (std::size_t index = 0; index < cmdYesNo_.size(); ++index) {
-        const int id = index == cancelIndex ? wxID_CANCEL : wxID_ANY;
-        auto* const button = new wxButton(this, id, toWx(messages.resourceMessage(captions[index])),
-                                          wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
-                                          "cmdYesNo" + std::to_string(index));
+        auto* const button = newCaptionButton(this, messages.resourceMessage(captions[index]),
+                                              "cmdYesNo" + std::to_string(index));
         button->Bind(wxEVT_BUTTON, [this, index](wxCommandEvent&) { press(index); });
         row->Add(button, wxSizerFlags().Border(wxLEFT, index == 0 ? 0 : FromDIP(8)));
         cmdYesNo_[index] = button;
     }
     // Esc and the close box press this one too.
-    SetEscapeId(wxID_CANCEL);
+    SetEscapeId(cmdYesNo_[cancelIndex]->GetId());
     cmdYesNo_[cancelIndex]->SetDefault();
     cmdYesNo_[cancelIndex]->SetFocus();
     return row;

@@ -4,6 +4,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "ui/IconSet.h"
+#include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/PlainCaption.h"
@@ -61,8 +62,7 @@ void frmVers::buildControls(const std::string& version) {
     row->Add(new wxStaticBitmap(this, wxID_ANY, icon("vantrel", size)),
              wxSizerFlags().Border(wxRIGHT, FromDIP(20)));
     row->Add(buildLabels(version), wxSizerFlags(1));
-    auto* const Command1 = new wxButton(this, wxID_OK, "", wxDefaultPosition, wxDefaultSize, 0,
-                                        wxDefaultValidator, "Command1");
+    auto* const Command1 = newCaptionButton(this, "", "Command1");
     Command1->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { unload(); });
 
     const int gap = FromDIP(20);
@@ -70,7 +70,7 @@ void frmVers::buildControls(const std::string& version) {
     column->Add(row, wxSizerFlags(1).Expand().Border(wxALL, gap));
     column->Add(Command1, wxSizerFlags().Right().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
     SetSizer(column);
-    SetEscapeId(wxID_OK);
+    SetEscapeId(Command1->GetId());
     Command1->SetDefault();
     Command1->SetFocus();
 }
@@ -90,7 +90,8 @@ void frmVers::openModal() {
         return;
     }
     applyCaptions();
-    // Shown without waiting it would not become modal.
+    // Shown anew it comes to the front: modal and behind the main window, it would seem to block
+    // the whole program.
     Hide();
     ShowModal();
 }
