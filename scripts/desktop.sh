@@ -44,9 +44,12 @@ question_titled() {
 asks() { question_titled "$1" >/dev/null; }
 
 is_active() { [ "$(xdotool getactivewindow 2>/dev/null)" = "$1" ]; }
+# Asked for again each time: a window that opens in between takes the activation for itself.
+becomes_active() {
+    is_active "$1" || { xdotool windowactivate "$1" 2>/dev/null || true; is_active "$1"; }
+}
 activate() {
-    xdotool windowactivate "$1" 2>/dev/null || true
-    until_true "window $1 to become active" is_active "$1"
+    until_true "window $1 to become active" becomes_active "$1"
 }
 keys() { xdotool key --clearmodifiers --delay 20 "$@"; }
 # click WINDOW X Y: pixels from the window's upper left corner.
