@@ -10,6 +10,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/OperatorDialog.h"
+#include "link/ShownText.h"
 #include "link/Snappy.h"
 
 #include <utility>
@@ -113,9 +114,24 @@ void MainCommands::mnuDisp(std::int16_t index) {
 }
 
 void MainCommands::mnuSort(std::int16_t index) {
-    const auto side = with_.state.Active;
+    with_.panes.listing(with_.state.Active).SortType = index;
+    sortAnew(with_.state.Active);
+}
+
+void MainCommands::clickColumn(int column) {
+    constexpr int columns = 3;
+    if (column < 0 || column >= columns)
+        return;
+    auto& listing = with_.panes.listing(ActiveSide::PC);
+    if (listing.SortType != column)
+        listing.SortType = static_cast<std::int16_t>(column);
+    else
+        listing.SortDir = listing.SortDir == 0 ? 1 : 0;
+    sortAnew(ActiveSide::PC);
+}
+
+void MainCommands::sortAnew(ActiveSide side) {
     const auto selected = with_.panes.selectedNames(side);
-    with_.panes.listing(side).SortType = index;
     with_.panes.sort(side);
     with_.panes.selectNames(side, selected);
     updateStates();
@@ -200,7 +216,7 @@ void MainCommands::openItem(ActiveSide side, std::size_t row) {
 void MainCommands::edit(const std::string& path) {
     const auto started = with_.editTextFile(path);
     if (!started)
-        with_.dialog.tell("[" + path + "]" + with_.messages.getMessage(message::editorNotStarted) +
+        with_.dialog.tell("[" + shownText(path) + "]" + with_.messages.getMessage(message::editorNotStarted) +
                               "\n" + started.reason(),
                           BoxIcon::Exclamation);
 }
@@ -210,6 +226,12 @@ void MainCommands::upFolder() {
     if (parent != with_.state.PCPath)
         openPCFolder(parent);
     updateStates();
+}
+
+void MainCommands::drop(ActiveSide source) {
+    activate(source);
+    if (with_.state.Active == source && currentStates().mnuFile[fileCopy].enabled)
+        mnuFile(fileCopy);
 }
 
 void MainCommands::mnuEnd() {

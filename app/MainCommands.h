@@ -54,6 +54,9 @@ class MainCommands {
     void mnuDisp(std::int16_t index);
     /// Sort type of the active pane; an index without a column sorts by name.
     void mnuSort(std::int16_t index);
+    /// A press on a column header of the PC pane, by its column from 0: another column keeps the
+    /// direction, the same one turns it. Only name, size and date order anything.
+    void clickColumn(int column);
     void mnuModeBsc();
     void mnuModeHiSpeed();
     void mnuRefresh();
@@ -64,6 +67,8 @@ class MainCommands {
     void openItem(ActiveSide side, std::size_t row);
     /// One folder up in the PC pane; a root stays.
     void upFolder();
+    /// The selection of `source` was dropped onto the other pane: copied, where a copy is offered.
+    void drop(ActiveSide source);
     void mnuEnd();
 
     /// Makes a pane the active one.
@@ -84,6 +89,7 @@ class MainCommands {
   private:
     void edit(const std::string& path);
     CommandStates currentStates() const;
+    void sortAnew(ActiveSide side);
     void switchTo(TransferMode mode);
     void showMode();
 

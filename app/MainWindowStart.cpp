@@ -8,6 +8,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/OperatorDialog.h"
+#include "link/ShownText.h"
 #include "platform/Files.h"
 
 namespace vantrel {
@@ -32,7 +33,7 @@ void openStoredFolder(const MainServices& with, MainCommands& commands) {
          above = PathRules().parent(folder))
         folder = above;
     if (folder != stored)
-        with.dialog.tell("[" + stored + "]" + with.messages.getMessage(message::folderGone),
+        with.dialog.tell("[" + shownText(stored) + "]" + with.messages.getMessage(message::folderGone),
                          BoxIcon::Exclamation);
     commands.openPCFolder(folder);
 }

@@ -8,6 +8,7 @@
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/ShownText.h"
 
 #include <limits>
 #include <utility>
@@ -58,9 +59,9 @@ bool RobotSelection::isNewChoice(int index) const {
 void RobotSelection::followFolder() {
     const RobotRecord& robot = with_.state.CurrentRobot;
     if (!with_.panes.scanPC(robot.Path)) {
-        with_.boxes.tell("[" + robot.Name + "]" +
+        with_.boxes.tell("[" + shownText(robot.Name) + "]" +
                              with_.messages.getMessage(message::robotFolderNotListed) + "\n" +
-                             robot.Path,
+                             shownText(robot.Path),
                          BoxIcon::Exclamation);
         return;
     }

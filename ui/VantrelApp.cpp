@@ -15,6 +15,11 @@ namespace vantrel {
 /// The program's entry: builds the composition root and lets its start routine run.
 class VantrelApp : public wxApp {
   public:
+    bool Initialize(int& argumentCount, wxChar** argumentValues) override {
+        prepareSystem();
+        return wxApp::Initialize(argumentCount, argumentValues);
+    }
+
     bool OnInit() override {
         // The start routine reads the command line itself; unknown arguments are no error.
         // What the toolkit finds wrong with itself is for us, not for the operator.

@@ -10,6 +10,7 @@
 #include "files/PaneRows.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "ui/ChoiceKeys.h"
 #include "ui/FileListControl.h"
 #include "ui/IconSet.h"
 #include "ui/KeyedToolBar.h"
@@ -49,7 +50,8 @@ frmZuroVant::frmZuroVant(ApplicationState& state, const MessageTable& messages,
                          OperationGuard& guard)
     : wxFrame(nullptr, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
               wxDEFAULT_FRAME_STYLE, "frmZuroVant"),
-      state_(state), messages_(messages), guard_(guard), controls_(*this), menus_(*this) {
+      state_(state), messages_(messages), guard_(guard), controls_(*this), menus_(*this),
+      drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard) {
     SetIcons(programIcons());
     // No help for menu entries in the panel that shows the PC's count.
     SetStatusBarPane(-1);
@@ -104,6 +106,15 @@ void frmZuroVant::bindEvents() {
         if (onRobotChosen)
             onRobotChosen(event.GetSelection());
     });
+    chooseInOpenListOnly(*controls_.cmbRbtName);
+    controls_.lsvPC->onColumnClicked = [this](int column) {
+        if (commands_)
+            commands_->clickColumn(column);
+    };
+    drag_.onDropped = [this](ActiveSide source) {
+        if (commands_)
+            commands_->drop(source);
+    };
     menus_.onChosen = [this](MenuItem item) { chosen(item); };
 }
 
@@ -122,6 +133,7 @@ void frmZuroVant::bindPane(ActiveSide side) {
         if (commands_ && row >= 0)
             commands_->openItem(side, std::size_t(row));
     };
+    list.onDragBegun = [this, side] { drag_.begin(side); };
     list.onMenuRequested = [this, side](wxPoint) { menus_.popUp(pane(side)); };
     filter(side).Bind(wxEVT_CHOICE, [this, side](wxCommandEvent&) {
         if (commands_)

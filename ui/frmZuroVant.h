@@ -5,6 +5,7 @@
 #include "files/PaneWindow.h"
 #include "ui/MainMenus.h"
 #include "ui/MainWindowControls.h"
+#include "ui/PaneDrag.h"
 
 #include <functional>
 #include <optional>
@@ -40,6 +41,7 @@ class frmZuroVant : public wxFrame, public PaneWindow, public MainWindowView, pu
     void showNotice(const std::string& text);
     const MainWindowControls& controls() const { return controls_; }
     const MainMenus& menus() const { return menus_; }
+    PaneDrag& drag() { return drag_; }
 
     PaneList& list(ActiveSide side) override;
     int filterIndex(ActiveSide side) const override;
@@ -93,6 +95,7 @@ class frmZuroVant : public wxFrame, public PaneWindow, public MainWindowView, pu
     OperationGuard& guard_;
     MainWindowControls controls_;
     MainMenus menus_;
+    PaneDrag drag_;
     MainCommands* commands_ = nullptr;
     bool placed_ = false;
     std::optional<Settled> settled_;

@@ -1,11 +1,6 @@
-#include "app/MainCommands.h"
+#include "MainCommandsFixture.h"
 
-#include "app/CommandStates.h"
-#include "app/MainWindowStart.h"
-#include "app/MainWindowView.h"
-#include "app/ModeCommands.h"
 #include "app/RobotSelection.h"
-#include "files/CommandFixture.h"
 
 #include <gmock/gmock.h>
 
@@ -13,70 +8,6 @@ namespace vantrel::tests {
 namespace {
 
 using testing::ElementsAre;
-
-/// The main window without pixels: keeps what it was last told, and the order.
-class RecordingView : public MainWindowView {
-  public:
-    void applyFont() override { log.push_back("font"); }
-    void applyCaptions() override { log.push_back("captions"); }
-    void place(const std::array<std::int32_t, 8>& positions) override {
-        log.push_back("place " + std::to_string(positions[2]));
-    }
-    void showStates(const CommandStates& shown) override { states = shown; }
-    void showMode(const ModeLook& look) override {
-        mode = look;
-        log.push_back("mode " + look.caption);
-    }
-    void showActiveSide(ActiveSide side) override { active = side; }
-    void showSerialLine(const std::string& port, const std::string& format) override {
-        log.push_back("serial " + port + " " + format);
-    }
-    void showAddress(const std::string& shown) override { address = shown; }
-    void showFolder(const std::string& path) override { folder = path; }
-    void showView(ActiveSide side, std::int16_t type) override {
-        (side == ActiveSide::PC ? pcView : controllerView) = type;
-    }
-    void selectAll(ActiveSide side) override { selectedAll.push_back(side); }
-    std::optional<FileKind> focusedKind() const override { return kind; }
-    void closeWindow() override { ++closes; }
-
-    std::vector<std::string> log;
-    CommandStates states;
-    ModeLook mode;
-    ActiveSide active = ActiveSide::PC;
-    std::string address;
-    std::string folder;
-    int pcView = -1;
-    int controllerView = -1;
-    std::vector<ActiveSide> selectedAll;
-    std::optional<FileKind> kind = FileKind::JobFile;
-    int closes = 0;
-};
-
-class MainCommandsTest : public CommandFixture {
-  protected:
-    MainCommandsTest() {
-        state.StartupDone = true;
-        robot(); // the controller is there, with an empty directory
-    }
-
-    RecordingView view;
-    MainServices services{state,
-                          session,
-                          panes,
-                          commands,
-                          messages,
-                          dialog,
-                          window,
-                          view,
-                          [this](const std::string& path) {
-                              edited.push_back(path);
-                              return editorAnswer;
-                          }};
-    std::vector<std::string> edited;
-    Outcome editorAnswer = Done{};
-    MainCommands main{services};
-};
 
 TEST_F(MainCommandsTest, CopyFollowsTheActivePane) {
     pcJob("NEW");
@@ -450,85 +381,6 @@ TEST_F(MainCommandsTest, EndAsksTheWindowToClose) {
 TEST_F(MainCommandsTest, EntriesOfOtherDialogsAreNotItsOwn) {
     EXPECT_FALSE(main.menu({Menu::mnuOpt, 7}));
     EXPECT_FALSE(main.menu({Menu::mnuVer, 0}));
-}
-
-class MainWindowStartTest : public MainCommandsTest {
-  protected:
-    MainWindowStartTest() {
-        state.StartupDone = false;
-        state.WindowPos[2] = 9720;
-        panes.fillFilterChoices();
-    }
-    void start() { startMainWindow(services, main); }
-};
-
-TEST_F(MainWindowStartTest, DressesAndPlacesTheWindowBeforeItShowsAnything) {
-    start();
-    EXPECT_THAT(view.log,
-                ElementsAre("font", "serial COM1: 9600bps DataLength:8  Parity:EVEN  StopBit:1",
-                            "captions", "place 9720", "mode Vantrel  --  --"));
-}
-
-TEST_F(MainWindowStartTest, ListsTheStoredFolderWithItsCount) {
-    pcJob("A");
-    start();
-    EXPECT_EQ(view.folder, pc.path());
-    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
-    EXPECT_EQ(window.pcStatus, "PC: 1 items");
-}
-
-TEST_F(MainWindowStartTest, AppliesBothViewsAndLeavesThePCPaneActive) {
-    state.PCDispType = 3;
-    state.CtrlDispType = 2;
-    start();
-    EXPECT_EQ(view.pcView, 3);
-    EXPECT_EQ(view.controllerView, 2);
-    EXPECT_EQ(state.Active, ActiveSide::PC);
-    EXPECT_EQ(view.active, ActiveSide::PC);
-    EXPECT_TRUE(view.states.button("DispDetail").checked);
-}
-
-TEST_F(MainWindowStartTest, AStoredHighSpeedModeIsRestored) {
-    state.TransMode = TransferMode::HispeedLink;
-    state.CurrentRobot.IPaddr = "10.0.0.1";
-    start();
-    EXPECT_TRUE(view.mode.showsRobot);
-    EXPECT_EQ(view.address, "10.0.0.1");
-    EXPECT_EQ(state.TransMode, TransferMode::HispeedLink);
-}
-
-TEST_F(MainWindowStartTest, AFolderThatIsGoneOpensTheNearestOneAboveAndSaysSo) {
-    pcJob("A");
-    state.PCPath = pc.path("gone/deeper");
-    start();
-    EXPECT_EQ(state.PCPath, pc.path());
-    EXPECT_EQ(boxes.texts().size(), 1u);
-    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
-}
-
-TEST_F(MainWindowStartTest, AModelWithoutTheLinkStartsWithTheSerialLine) {
-    state.Controler = 1;
-    state.TransMode = TransferMode::HispeedLink;
-    start();
-    EXPECT_EQ(state.TransMode, TransferMode::Bsc);
-    EXPECT_TRUE(view.mode.showsSerialLine);
-}
-
-TEST_F(MainWindowStartTest, AFolderOfAnotherSystemEndsTheSearchWithAMessage) {
-    for (const char* stored : {"C:\\JOBS", "gone", ""}) {
-        boxes.shown.clear();
-        state.PCPath = stored;
-        start();
-        EXPECT_FALSE(boxes.texts().empty()) << stored;
-    }
-}
-
-TEST_F(MainWindowStartTest, AListThatWasReadBeforeStays) {
-    robotJob("OLD");
-    ASSERT_TRUE(panes.readController());
-    panes.fill(ActiveSide::Controller);
-    start();
-    EXPECT_THAT(window.controller.names, testing::Contains("OLD.JBI"));
 }
 
 } // namespace

@@ -2,11 +2,13 @@
 
 #include <deque>
 #include <functional>
+#include <utility>
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/dialog.h>
 #include <wx/modalhook.h>
+#include <wx/timer.h>
 
 namespace vantrel::tests {
 
@@ -31,6 +33,26 @@ class ModalScript : public wxModalDialogHook {
         std::function<void(wxDialog&)> action;
     };
 
+    /// Building a dialog may let events run, so the action waits until it really is open.
+    class Opened : public wxTimer {
+      public:
+        void wait(std::function<void()> action, const wxDialog& dialog) {
+            action_ = std::move(action);
+            dialog_ = &dialog;
+            Start(2);
+        }
+        void Notify() override {
+            if (!dialog_->IsModal() || !dialog_->IsShown())
+                return;
+            Stop();
+            wxTheApp->CallAfter(std::exchange(action_, {}));
+        }
+
+      private:
+        std::function<void()> action_;
+        const wxDialog* dialog_ = nullptr;
+    };
+
     int Enter(wxDialog* dialog) override {
         // Some dialogs announce themselves twice.
         if (dialog == open_)
@@ -44,17 +66,20 @@ class ModalScript : public wxModalDialogHook {
         if (step.look)
             return step.look(*dialog);
         open_ = dialog;
-        wxTheApp->CallAfter([action = step.action, dialog] { action(*dialog); });
+        opened_.wait([this, action = step.action] { action(*open_); }, *dialog);
         return wxID_NONE;
     }
 
     void Exit(wxDialog* dialog) override {
-        if (dialog == open_)
-            open_ = nullptr;
+        if (dialog != open_)
+            return;
+        opened_.Stop();
+        open_ = nullptr;
     }
 
     std::deque<Step> steps_;
-    const wxDialog* open_ = nullptr; ///< the innermost dialog that is being acted on
+    Opened opened_;
+    wxDialog* open_ = nullptr; ///< the innermost dialog that is being acted on
 };
 
 } // namespace vantrel::tests

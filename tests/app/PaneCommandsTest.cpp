@@ -1,0 +1,100 @@
+#include "MainCommandsFixture.h"
+
+#include <gmock/gmock.h>
+
+namespace vantrel::tests {
+namespace {
+
+using testing::ElementsAre;
+
+class PaneCommandsTest : public MainCommandsTest {};
+
+TEST_F(PaneCommandsTest, AnotherColumnKeepsTheDirectionAndTheSameOneTurnsIt) {
+    state.PCListing.SortDir = 1;
+    showPanes();
+    main.clickColumn(2);
+    EXPECT_EQ(state.PCListing.SortType, 2);
+    EXPECT_EQ(state.PCListing.SortDir, 1);
+    main.clickColumn(2);
+    EXPECT_EQ(state.PCListing.SortDir, 0);
+    main.clickColumn(2);
+    EXPECT_EQ(state.PCListing.SortDir, 1);
+    main.clickColumn(0);
+    EXPECT_EQ(state.PCListing.SortType, 0);
+    EXPECT_EQ(state.PCListing.SortDir, 1);
+}
+
+TEST_F(PaneCommandsTest, ADirectionThatIsNoneOfTheTwoCountsAsDescendingWhenTurned) {
+    state.PCListing.SortDir = 5;
+    main.clickColumn(0);
+    EXPECT_EQ(state.PCListing.SortDir, 0);
+}
+
+TEST_F(PaneCommandsTest, OtherColumnsAreIgnored) {
+    state.PCListing.SortType = 1;
+    for (const int column : {-1, 3, 70'000}) {
+        main.clickColumn(column);
+        EXPECT_EQ(state.PCListing.SortType, 1) << column;
+        EXPECT_EQ(state.PCListing.SortDir, 0) << column;
+    }
+}
+
+TEST_F(PaneCommandsTest, AHeaderSortsThePCPaneWhateverPaneIsActive) {
+    pcJob("A");
+    pcJob("B");
+    showPanes();
+    main.activate(ActiveSide::Controller);
+    window.pc.click({"A.JBI"});
+    main.clickColumn(0);
+    EXPECT_THAT(window.pc.names, ElementsAre("B.JBI", "A.JBI"));
+    EXPECT_THAT(panes.selectedNames(ActiveSide::PC), ElementsAre("A.JBI"));
+    EXPECT_EQ(state.CtrlListing.SortDir, 0);
+    EXPECT_EQ(state.Active, ActiveSide::Controller);
+}
+
+TEST_F(PaneCommandsTest, AHeaderMovesTheCheckMarkOfTheSortMenu) {
+    showPanes();
+    main.clickColumn(1);
+    EXPECT_TRUE(view.states.mnuSort[1].checked);
+    EXPECT_FALSE(view.states.mnuSort[0].checked);
+}
+
+TEST_F(PaneCommandsTest, TheSortMenuKeepsTheDirection) {
+    state.PCListing.SortDir = 1;
+    main.mnuSort(0);
+    main.mnuSort(0);
+    EXPECT_EQ(state.PCListing.SortDir, 1);
+}
+
+TEST_F(PaneCommandsTest, ADropOfThePCSelectionSendsIt) {
+    pcJob("NEW");
+    showPanes();
+    main.activate(ActiveSide::Controller);
+    window.pc.click({"NEW.JBI"});
+    main.drop(ActiveSide::PC);
+    EXPECT_EQ(state.Active, ActiveSide::PC);
+    EXPECT_EQ(robot().bytes("NEW.JBI"), job("NEW"));
+    EXPECT_TRUE(pc.has("NEW.JBI"));
+}
+
+TEST_F(PaneCommandsTest, ADropOfTheControllersSelectionFetchesIt) {
+    robotJob("OLD");
+    showPanes();
+    window.controller.click({"OLD.JBI"});
+    main.drop(ActiveSide::Controller);
+    EXPECT_EQ(state.Active, ActiveSide::Controller);
+    EXPECT_EQ(pc.read("OLD.JBI"), job("OLD"));
+    EXPECT_TRUE(robot().has("OLD.JBI"));
+}
+
+TEST_F(PaneCommandsTest, ADropIsACopyOnlyWhereACopyIsOffered) {
+    pcJob("NEW");
+    showPanes();
+    window.pc.click({"NEW.JBI"});
+    view.kind = FileKind::PlainFile;
+    main.drop(ActiveSide::PC);
+    EXPECT_FALSE(robot().has("NEW.JBI"));
+}
+
+} // namespace
+} // namespace vantrel::tests

@@ -1,0 +1,14 @@
+#pragma once
+
+class wxChoice;
+
+namespace vantrel {
+
+/// Makes keys and the wheel open the list of a closed choice in place of changing it: passing by an
+/// entry is no choice, only a press on it or Enter in the open list is.
+void chooseInOpenListOnly(wxChoice& choice);
+
+/// Shows the list of a choice.
+void openList(wxChoice& choice);
+
+} // namespace vantrel

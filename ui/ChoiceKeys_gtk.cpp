@@ -1,0 +1,13 @@
+#include "ui/ChoiceKeys.h"
+
+#include <gtk/gtk.h>
+#include <wx/choice.h>
+
+namespace vantrel {
+
+void openList(wxChoice& choice) {
+    if (choice.IsEnabled())
+        gtk_combo_box_popup(GTK_COMBO_BOX(choice.GetHandle()));
+}
+
+} // namespace vantrel
