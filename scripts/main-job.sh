@@ -5,18 +5,9 @@
 # an older one), one job back, closes the program and compares every byte.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-source "$here/desktop.sh"
+source "$here/trial.sh"
 
-build=$1
-rm -rf "$2"
-mkdir -p "$2"
-work=$(cd "$2" && pwd)
-trial=$work/trial
-screenshots=$work
-cmake --install "$build" --prefix "$trial" >"$work/install.log"
-
-jobs=$trial/jobs
-controller=$trial/controllers/line1-weld
+trial_lay_out "$1" "$2"
 newer=DOORFR.JBI # on both sides; the PC has a newer one
 added=TRIAL1.JBI # on the PC only
 fetched=CALIB.JBI # on the controller only
@@ -26,33 +17,8 @@ fetched=CALIB.JBI # on the controller only
 [ ! -e "$controller/$added" ] || give_up "$added is on the controller already"
 [ ! -e "$jobs/$fetched" ] || give_up "$fetched is on the PC already"
 
-# The pane's rows: folders, then jobs by name.
-row_of() {
-    local folders
-    folders=$(find "$jobs" -mindepth 1 -maxdepth 1 -type d | wc -l)
-    printf '%s\n' $((folders + $(cd "$jobs" && printf '%s\n' *.JBI | sort -f | grep -n "^$1\$" | cut -d: -f1) - 1))
-}
-controller_row_of() {
-    printf '%s\n' $(($(cd "$controller" && printf '%s\n' *.JBI | sort -f | grep -n "^$1\$" | cut -d: -f1) - 1))
-}
-repeat() { local i; for ((i = 0; i < $1; i++)); do printf '%s ' "$2"; done; }
-
-env LC_ALL=C.UTF-8 "$trial/Vantrel" >"$work/program.log" 2>&1 &
-program=$!
-trap 'kill "$program" 2>/dev/null || true' EXIT
-
 say "Started; reading the controller's file list when asked."
-until_true "the question at start" asks Vantrel
-activate "$(question_titled Vantrel)"
-keys alt+y
-until_true "the version window" is_shown "About Vantrel"
-activate "$(window_titled 'About Vantrel')"
-keys Return
-until_true "the version window to close" is_gone "About Vantrel"
-title='Vantrel  -- Hispeed Link --'
-until_true "the main window" is_shown "$title"
-main=$(window_titled "$title")
-activate "$main"
+trial_start
 
 say "Sending $newer and $added: selected with the keyboard, copied with the mouse."
 first=$(row_of "$newer")
@@ -72,9 +38,7 @@ until_true "the progress window to close" is_gone 'File transfer'
 
 say "Fetching $fetched: pane chosen with the mouse, copied with the menu."
 activate "$main"
-click "$main" 480 130 # the controller pane's list
-# shellcheck disable=SC2046
-keys Home $(repeat "$(controller_row_of "$fetched")" Down)
+select_on_controller "$fetched"
 keys alt+f
 keys c
 until_true "$fetched on the PC" same_bytes "$jobs/$fetched" "$controller/$fetched"
@@ -83,15 +47,7 @@ activate "$main"
 import -window "$main" "$work/window.png"
 
 say "Closing."
-keys alt+F4
-until_true "the question at the end" asks Vantrel
-activate "$(question_titled Vantrel)"
-keys Return
-until_true "the program to end" has_ended
-status=0
-wait "$program" || status=$?
-trap - EXIT
-[ "$status" -eq 0 ] || { cat "$work/program.log"; give_up "the program ended with $status"; }
+trial_close
 grep -q '^Window=600,600,12600,8400,1650,800,2400' "$trial/Vantrel.ini" ||
     give_up "a window that nobody moved was saved at another place: $(grep '^Window=' "$trial/Vantrel.ini")"
 grep -q 'TransMode=16' "$trial/Vantrel.ini" || give_up "the settings were not saved"

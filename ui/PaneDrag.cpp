@@ -54,12 +54,18 @@ wxWindow& PaneDrag::pane(ActiveSide side) const {
 }
 
 void PaneDrag::begin(ActiveSide source) {
+    whileDragging(source, [&] {
+        Payload payload;
+        wxDropSource dragged(payload, &pane(source));
+        dragged.DoDragDrop(wxDrag_CopyOnly);
+    });
+}
+
+void PaneDrag::whileDragging(ActiveSide source, const std::function<void()>& drag) {
     if (source_ || guard_.isLocked())
         return;
     source_ = source;
-    Payload payload;
-    wxDropSource dragged(payload, &pane(source));
-    dragged.DoDragDrop(wxDrag_CopyOnly);
+    drag();
     source_.reset();
 }
 

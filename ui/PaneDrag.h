@@ -24,6 +24,8 @@ class PaneDrag {
 
     /// Lets the operator drag; returns when the mouse button is released.
     void begin(ActiveSide source);
+    /// What a drag consists of: `drag` runs while the source is remembered.
+    void whileDragging(ActiveSide source, const std::function<void()>& drag);
 
     /// Whether a drop on this pane would be taken.
     bool accepts(ActiveSide target) const;

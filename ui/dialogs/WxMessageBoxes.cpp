@@ -63,8 +63,6 @@ int WxMessageBoxes::show(const std::string& text, long style) const {
     captionButtons(box, style);
     if (style & wxYES_NO)
         box.SetEscapeId(wxID_NO);
-    if (style & wxYES_NO)
-        box.SetEscapeId(wxID_NO);
     return box.ShowModal();
 }
 

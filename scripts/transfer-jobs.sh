@@ -1,0 +1,95 @@
+#!/usr/bin/env bash
+# Plays every transfer command through the real window, as an operator would:
+#   scripts/transfer-jobs.sh BUILD_FOLDER WORK_FOLDER
+# Moves, deletes and drags jobs both ways with the simulated controller and compares every byte on
+# both sides after each step.
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+source "$here/trial.sh"
+
+trial_lay_out "$1" "$2"
+original=$work/original
+cp -r "$jobs" "$original"
+cp -r "$controller" "$work/controller"
+
+is_gone_file() { [ ! -e "$1" ]; }
+expect_gone() { until_true "$1 to go" is_gone_file "$1"; }
+expect_same() { until_true "$2 to equal $1" same_bytes "$1" "$2"; }
+progress_ends() { until_true "the progress window to close" is_gone 'File transfer'; }
+
+answer() { # TITLE KEY
+    until_true "the question of $1" asks "$1"
+    activate "$(question_titled "$1")"
+    keys "$2"
+    until_true "the question of $1 to close" is_answered "$1"
+}
+is_answered() { ! asks "$1"; }
+
+trial_start
+
+say "Moving BRKT02.JBI to the controller."
+select_on_pc BRKT02.JBI
+keys alt+f m
+expect_same "$original/BRKT02.JBI" "$controller/BRKT02.JBI"
+expect_gone "$jobs/BRKT02.JBI"
+progress_ends
+
+say "Moving HOME.JBI, which is there and protected: it stays on the PC."
+select_on_pc HOME.JBI
+keys alt+f m
+answer 'File transfer' alt+y
+until_true "the report" asks Vantrel
+import -window root "$work/refused.png"
+answer Vantrel Return
+progress_ends
+expect_same "$original/HOME.JBI" "$jobs/HOME.JBI"
+expect_same "$work/controller/HOME.JBI" "$controller/HOME.JBI"
+
+say "Moving CALIB.JBI to the PC."
+select_on_controller CALIB.JBI
+keys alt+f m
+expect_same "$work/controller/CALIB.JBI" "$jobs/CALIB.JBI"
+expect_gone "$controller/CALIB.JBI"
+progress_ends
+
+say "Deleting DASH.JBI on the controller, after a No."
+select_on_controller DASH.JBI
+keys Delete
+answer Vantrel alt+n
+select_on_controller DASH.JBI
+[ -e "$controller/DASH.JBI" ] || give_up "No deleted the job"
+keys Delete
+answer Vantrel alt+y
+expect_gone "$controller/DASH.JBI"
+
+say "Deleting MEMO.JBI on the PC."
+select_on_pc MEMO.JBI
+keys Delete
+answer Vantrel alt+y
+expect_gone "$jobs/MEMO.JBI"
+
+say "Dragging CAMERA.JBI to the controller and DOORFL.JBI to the PC."
+activate "$main"
+# shellcheck disable=SC2046
+drag $(pc_item "$(row_of CAMERA.JBI)") "${controller_pane[@]}"
+expect_same "$original/CAMERA.JBI" "$controller/CAMERA.JBI"
+expect_same "$original/CAMERA.JBI" "$jobs/CAMERA.JBI"
+progress_ends
+activate "$main"
+# shellcheck disable=SC2046
+drag $(controller_item "$(controller_row_of DOORFL.JBI)") "${pc_pane[@]}"
+expect_same "$work/controller/DOORFL.JBI" "$jobs/DOORFL.JBI"
+expect_same "$work/controller/DOORFL.JBI" "$controller/DOORFL.JBI"
+progress_ends
+
+say "Dropping the PC's list onto itself."
+activate "$main"
+before=$(cd "$trial" && find jobs controllers -type f | sort | xargs md5sum)
+# shellcheck disable=SC2046
+drag $(pc_item "$(row_of CAMERA.JBI)") "${pc_pane[@]}"
+import -window "$main" "$work/window.png"
+
+trial_close
+after=$(cd "$trial" && find jobs controllers -type f | sort | xargs md5sum)
+[ "$before" = "$after" ] || give_up "a drop of a list onto itself changed files"
+say "Done: every byte is where it should be."

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "platform/Environment.h"
+#include "support/ModalScript.h"
+#include "support/TemporaryFolder.h"
+#include "support/Windows.h"
+#include "ui/Composition.h"
+#include "ui/FileListControl.h"
+#include "ui/MainWindowControls.h"
+#include "ui/frmZuroVant.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantrel::tests {
+
+/// The whole program, started in a folder of its own with the simulator beside it: jobs in "jobs",
+/// one controller in "robot" on COM1 and 10.0.0.1, another in "other" on 10.0.0.2.
+class ProgramWorld {
+  public:
+    ProgramWorld() {
+        for (const char* name : {"English.lng", "Japanese.lng", "System.lng", "FileTable.tbl"})
+            std::filesystem::copy_file(std::filesystem::path(VANTREL_DATA_FOLDER) / name,
+                                       folder.path(name));
+        std::filesystem::copy_file(VANTREL_SIMULATOR, folder.path(libraryFileName()));
+        for (const char* name : {"jobs", "robot", "other"})
+            folder.makeFolder(name);
+        script("");
+        settings("TransMode=1\r\n");
+        folder.write("robot.ini", "[Boot]\r\nName=FIRST\r\n\r\n[Robot]\r\nName=FIRST\r\n"
+                                  "IPaddr=10.0.0.1\r\nPath=jobs\r\n\r\n[Robot]\r\nName=SECOND\r\n"
+                                  "IPaddr=10.0.0.2\r\nPath=jobs\r\n\r\n");
+    }
+
+    static std::string job(std::string_view name) {
+        return "/JOB\r\n//NAME " + std::string(name) + "\r\nNOP\r\nEND\r\n";
+    }
+    void pcJob(const std::string& name) { folder.write("jobs/" + name + ".JBI", job(name)); }
+    void robotJob(const std::string& name) { folder.write("robot/" + name + ".JBI", job(name)); }
+
+    /// Lines of the simulator's script.
+    void script(const std::string& lines) {
+        folder.write("simulator.ini", "[Controller1]\nFolder=robot\nPort=1\nAddress=10.0.0.1\n"
+                                      "[Controller2]\nFolder=other\nAddress=10.0.0.2\n[Script]\n" +
+                                          lines);
+    }
+    /// Lines of the section [Vantrel].
+    void settings(const std::string& lines, const std::string& language = "English") {
+        folder.write("Vantrel.ini", "[Vantrel]\r\nPath=" + folder.path("jobs") + "\r\n" + lines +
+                                        "[PCType]\r\nDispType=3\r\n[CtrlType]\r\nDispType=2\r\n"
+                                        "[Language Info]\r\nLanguage=" +
+                                        language + "\r\nLangSelect=0\r\n");
+    }
+
+    /// Starts the program and reads the controller's directory, or not, as the operator is asked.
+    void start(bool readController) {
+        program = std::make_unique<Composition>(folder.path("Vantrel"), std::vector<std::string>{});
+        modal.answer([readController](wxDialog&) { return readController ? wxID_YES : wxID_NO; });
+        ASSERT_EQ(program->start(), StartResult::Running);
+        ASSERT_TRUE(waitFor([this] { return window().IsShownOnScreen(); }));
+        for (wxWindow* const other : wxTopLevelWindows)
+            if (other->IsShown() && other != &window())
+                other->Close(); // the version window
+        runEvents();
+    }
+
+    frmZuroVant& window() { return *program->mainWindow(); }
+    const MainWindowControls& controls() { return window().controls(); }
+    wxListView& pcList() { return controls().lsvPC->native(); }
+    wxListView& controllerList() { return controls().lsvCtrl->native(); }
+
+    /// Selects these items of a list and no others, as clicks do.
+    static void choose(FileListControl& list, const std::vector<std::size_t>& rows) {
+        list.focus();
+        if (list.onActivated)
+            list.onActivated();
+        list.select(rows);
+        runEvents();
+    }
+    void menu(MenuItem item) {
+        wxCommandEvent event(wxEVT_MENU, MainMenus::idOf(item));
+        event.SetEventObject(&window());
+        window().HandleWindowEvent(event);
+    }
+
+    TemporaryFolder folder;
+    ModalScript modal;
+    std::unique_ptr<Composition> program;
+};
+
+} // namespace vantrel::tests
