@@ -4,6 +4,7 @@
 #include "app/MainWindowView.h"
 #include "app/SerialLabel.h"
 #include "base/PathRules.h"
+#include "files/FolderTree.h"
 #include "files/Panes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -35,7 +36,7 @@ void openStoredFolder(const MainServices& with, MainCommands& commands) {
     if (folder != stored)
         with.dialog.tell("[" + shownText(stored) + "]" + with.messages.getMessage(message::folderGone),
                          BoxIcon::Exclamation);
-    commands.openPCFolder(folder);
+    commands.openPCFolder(folder, FolderTree::driveAndFolder(folder));
 }
 
 } // namespace

@@ -58,15 +58,11 @@ bool RobotSelection::isNewChoice(int index) const {
 
 void RobotSelection::followFolder() {
     const RobotRecord& robot = with_.state.CurrentRobot;
-    if (!with_.panes.scanPC(robot.Path)) {
+    if (!with_.window.enterFolder(robot.Path))
         with_.boxes.tell("[" + shownText(robot.Name) + "]" +
                              with_.messages.getMessage(message::robotFolderNotListed) + "\n" +
                              shownText(robot.Path),
                          BoxIcon::Exclamation);
-        return;
-    }
-    with_.panes.fill(ActiveSide::PC);
-    with_.window.showFolder(with_.state.PCPath);
 }
 
 void RobotSelection::refreshController() {

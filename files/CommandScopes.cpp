@@ -4,6 +4,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/ProgressPanel.h"
+#include "link/ShownText.h"
 #include "link/Snappy.h"
 
 namespace vantrel {
@@ -33,7 +34,7 @@ CommandProgress::~CommandProgress() {
 }
 
 bool CommandProgress::next(const std::string& name, std::size_t item, std::size_t count) {
-    with_.progress.step(label_ + name, static_cast<int>(item), static_cast<int>(count),
+    with_.progress.step(label_ + shownText(name), static_cast<int>(item), static_cast<int>(count),
                         with_.messages.getMessage(message::waitingForController));
     // An operation of the session may have hidden the panel that it shares with the command.
     if (!with_.progress.isVisible())

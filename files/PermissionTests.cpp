@@ -8,6 +8,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/SessionErrorRecord.h"
+#include "link/ShownText.h"
 #include "platform/TextEncoding.h"
 
 namespace vantrel {
@@ -41,7 +42,7 @@ bool PermissionTests::hasUsableName(const std::string& name) const {
         if (direction_ == Direction::Receive)
             reports.aboutFile(name, message::controllerNameRefused);
         else
-            reports.transferFailed("[" + name + "]",
+            reports.transferFailed("[" + shownText(name) + "]",
                                    with_.messages.errorText(session_code::nameRefused));
         return false;
     }

@@ -21,6 +21,7 @@ bool JobListStore::load(const std::string& file, bool unchecked) {
     const auto content = readFile(PathRules().join(tools_.properties.path, file));
     if (!content) {
         tools_.error.set(session_code::listFileNotOpened, "");
+        tools_.error.systemReason = content.reason();
         return false;
     }
     entries_.clear();

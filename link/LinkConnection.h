@@ -44,7 +44,9 @@ class LinkConnection {
     Zurolink& library() const;
 
     /// To be called where an operation begins. Its links all lead to the controller that is set
-    /// now: after a change in its middle the next `connect` fails.
+    /// now: after a change in its middle the next `connect` fails. It neither follows the change,
+    /// which would spread one list over two robots, nor goes on with what was set, on a robot that
+    /// the screen no longer shows.
     void begin();
     /// The operator has been told that the robot's address is not set; nothing was recorded.
     bool endedByUnsetAddress() const { return endedByUnsetAddress_; }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace vantrel {
 
@@ -26,6 +27,7 @@ inline constexpr std::int16_t oldFileKeptAside = 28;   ///< it could not be put 
 inline constexpr std::int16_t controllerChanged = 29;  ///< while the operation ran
 /// A variable's value is not finite. (30 to 33 stay unused: their texts would be the buttons'.)
 inline constexpr std::int16_t valueNotFinite = 34;
+inline constexpr std::int16_t listNotRead = 35;      ///< an empty list is all there is to write
 inline constexpr std::int16_t libraryUnusable = -10; ///< missing, wrong or incomplete library
 } // namespace session_code
 
@@ -35,11 +37,13 @@ struct SessionErrorRecord {
     std::string
         ErrorFunction; ///< the library function that failed; empty when the operator decided
     std::int32_t ErrorIndex = 0;
+    std::string systemReason; ///< in the system's words, where it was the one to refuse
 
     /// Without an index the previous one stays.
     void set(std::int16_t code, std::string function, std::optional<std::int32_t> index = {}) {
         ErrorCode = code;
         ErrorFunction = std::move(function);
+        systemReason.clear();
         if (index)
             ErrorIndex = *index;
     }

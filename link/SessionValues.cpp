@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 
+#include <cmath>
 #include <limits>
 
 namespace vantrel {
@@ -48,7 +49,7 @@ std::optional<bool> flagFrom(const SessionValue& value) {
             return false;
     }
     const auto number = numberFrom(value);
-    if (!number)
+    if (!number || std::isnan(*number))
         return {};
     return *number != 0;
 }

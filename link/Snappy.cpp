@@ -127,6 +127,10 @@ bool Snappy::endedByUnsetAddress() const {
     return parts_->link.endedByUnsetAddress();
 }
 
+const std::string& Snappy::systemReason() const {
+    return parts_->error.systemReason;
+}
+
 const std::vector<std::string>& Snappy::jobsInTheWay() const {
     return parts_->inTheWay;
 }
@@ -165,7 +169,9 @@ bool Snappy::Parts::transferList(const SessionProperties& properties, JobBatch::
     JobBatch batch(
         {properties, link, progress, error, localJobs, services.messages, services.dialog},
         std::move(transfer));
-    return batch.run(jobs.entries().all());
+    // A copy: the list is open to every caller, and a batch lets events run.
+    const std::vector<std::string> entries = jobs.entries().all();
+    return batch.run(entries);
 }
 
 bool Snappy::ReadDirectory(std::vector<std::string>& list) {

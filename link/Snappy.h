@@ -61,6 +61,9 @@ class Snappy : public SessionProperties {
     /// True when the last operation ended because the robot's address is not set. The operator has
     /// been told already and the error record is as it was, so the caller reports nothing more.
     bool endedByUnsetAddress() const;
+    /// What the system said to the last failure, where it was the system that refused a list file;
+    /// empty for every other failure, whose code tells all that is known.
+    const std::string& systemReason() const;
     /// What the file transferred last would have replaced, in the order of its questions and by the
     /// names that these show: for a caller who let the silent session answer them with Cancel and
     /// now asks for itself. Empty when nothing was in the way.

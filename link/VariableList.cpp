@@ -26,7 +26,7 @@ bool VariableList::read() {
         return fail(session_code::nameRefused);
     const auto content = readFile(PathRules().join(properties_.path, file_));
     if (!content)
-        return fail(session_code::listFileNotOpened);
+        return fail(session_code::listFileNotOpened, content.reason());
     readingFailed_ = false;
     const DecodedText decoded = decodeText(*content);
     encoding_ = decoded.encoding;
@@ -40,20 +40,22 @@ bool VariableList::write(const std::string& file) {
     if (!PathRules::isPlainName(file))
         return fail(session_code::nameRefused);
     if (readingFailed_ && entries_.count() == 0)
-        return fail(session_code::listFileNotOpened);
+        return fail(session_code::listNotRead);
     std::string text;
     for (const std::string& entry : entries_.all())
         text += entry + lineEnd_;
     auto bytes = encodeText(text, encoding_);
     if (!bytes) // a line that came from elsewhere than the file
         bytes = encodeText(text, TextEncoding::Utf8);
-    if (!bytes || !replaceFile(PathRules().join(properties_.path, file), *bytes))
+    if (!bytes)
         return fail(session_code::listFileNotOpened);
-    return true;
+    const Outcome written = replaceFile(PathRules().join(properties_.path, file), *bytes);
+    return written || fail(session_code::listFileNotOpened, written.reason());
 }
 
-bool VariableList::fail(std::int16_t code) {
+bool VariableList::fail(std::int16_t code, const std::string& systemReason) {
     error_.set(code, "");
+    error_.systemReason = systemReason;
     return false;
 }
 

@@ -31,7 +31,7 @@ class VariableList {
     const EntryList& entries() const { return entries_; }
 
   private:
-    bool fail(std::int16_t code);
+    bool fail(std::int16_t code, const std::string& systemReason = {});
 
     const SessionProperties& properties_;
     SessionErrorRecord& error_;

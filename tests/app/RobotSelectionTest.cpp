@@ -18,7 +18,13 @@ class RecordingSelectionWindow final : public RobotSelectionWindow {
     bool isLocked() const override { return locked; }
     void selectRobot(int index) override { add("select " + std::to_string(index)); }
     void showAddress(const std::string& address) override { add("address " + address); }
-    void showFolder(const std::string& folder) override { add("folder " + folder); }
+    bool enterFolder(const std::string& folder) override {
+        if (!desk_.panes.scanPC(folder))
+            return false;
+        desk_.panes.fill(ActiveSide::PC);
+        add("folder " + folder);
+        return true;
+    }
     void refreshStates() override { add("states"); }
     void refreshActivePane() override {
         add(desk_.state.Active == ActiveSide::Controller
@@ -125,6 +131,14 @@ TEST_F(RobotSelectionTest, AFolderThatCannotBeListedIsNamedAndTheOldOneStays) {
     EXPECT_EQ(desk_.state.PCPath, before);
     EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"[R1]m48\n" + missing}));
     EXPECT_EQ(desk_.log.at(desk_.log.size() - 2), "refresh Ctrl of 10.0.0.1");
+}
+
+TEST_F(RobotSelectionTest, AVeryLongNameAndFolderAreNamedShortened) {
+    desk_.state.RobotList[1].Name = std::string(100'000, 'N');
+    desk_.state.RobotList[1].Path = "/" + std::string(100'000, 'F');
+    selection_.choose(1);
+    ASSERT_EQ(desk_.boxes.shown.size(), 1U);
+    EXPECT_LT(desk_.boxes.shown[0].text.size(), 450U);
 }
 
 TEST_F(RobotSelectionTest, DuringTheStartTheChoiceIsTakenBack) {

@@ -81,6 +81,17 @@ TEST_F(DeleteCommandTest, EachJobIsShownInTheCommandsOwnProgress) {
                 ElementsAre("Deleting ", "Deleting A.JBI", "Deleting B.JBI", "Deleting C.JBI"));
 }
 
+TEST_F(DeleteCommandTest, AVeryLongNameIsAskedForAndShownShortened) {
+    const std::string name(240, 'A');
+    robotJob(name);
+    selectOnController({name + ".JBI"});
+    question.answers = {Answer::Yes};
+    EXPECT_TRUE(commands.deleteOnController());
+    const std::string shown = std::string(200, 'A') + "\u2026";
+    EXPECT_THAT(question.questions, ElementsAre("[" + shown + "] delete from the controller?"));
+    EXPECT_THAT(progressView.messages(), ElementsAre("Deleting ", "Deleting " + shown));
+}
+
 TEST_F(DeleteCommandTest, AFailureIsReportedAndTheNextJobFollows) {
     robotJobs();
     question.answers = {Answer::All};

@@ -216,6 +216,22 @@ TEST_F(JobBatchTest, SkippedEntriesAreToldOnceWhenTheListFailsToo) {
     EXPECT_THAT(world.boxes.texts(), ElementsAre("1 skipped"));
 }
 
+TEST_F(JobBatchTest, SkippedEntriesAreToldOnceWhenTheListIsCancelledToo) {
+    addFiles({"LOCAL", "A", "B"});
+    world.pc.write("LocalJob.lst", "LOCAL");
+    pressCancelAtYield(2);
+    EXPECT_FALSE(world.session->JobListDownLoad());
+    EXPECT_EQ(world.error(), " 3 1");
+    EXPECT_THAT(world.boxes.texts(), ElementsAre("1 skipped"));
+}
+
+TEST_F(JobBatchTest, AListThatIsChangedMeanwhileIsWorkedThroughAsItWas) {
+    addFiles({"A", "B"});
+    world.view.onYield = [this](int) { world.session->JobListClear(); };
+    EXPECT_TRUE(world.session->JobListDownLoad());
+    EXPECT_THAT(world.controller().names(), ElementsAre("A.JBI", "B.JBI"));
+}
+
 TEST_F(JobBatchTest, AnUnsetAddressIsTheOnlyThingTold) {
     world.pc.write("LocalJob.lst", "LOCAL");
     world.session->AddJobList("LOCAL.JBI");

@@ -156,6 +156,21 @@ TEST_F(JobSendTest, ARelatedJobFileAsksForTheJobButDeletesNothing) {
     EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
 }
 
+TEST_F(JobSendTest, AJobIsReplacedWhetherItsRelatedFileIsListedBeforeOrAfterIt) {
+    for (const char* first : {"WELD.JBI", "WELD.JBR"}) {
+        tests::FakeController& robot = world.controller();
+        robot = {};
+        robot.put(first, older);
+        robot.put("WELD.JBI", older);
+        robot.put("WELD.JBR", older);
+        world.library.forgetCalls();
+        EXPECT_TRUE(send("WELD.JBI", true)) << world.error();
+        EXPECT_EQ(robot.bytes("WELD.JBI"), weld);
+        EXPECT_EQ(robot.bytes("WELD.JBR"), older);
+        EXPECT_EQ(world.library.callCount("BscDeleteJob"), 1);
+    }
+}
+
 TEST_F(JobSendTest, DataFilesAreSentWithoutAQuestion) {
     world.controller().put("TOOL.CND", "old");
     world.pc.write("TOOL.CND", "new");

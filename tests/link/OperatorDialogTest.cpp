@@ -5,9 +5,9 @@
 #include "support/RecordingProgressView.h"
 #include "support/ScriptedQuestionWindow.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

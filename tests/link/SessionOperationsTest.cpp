@@ -2,6 +2,8 @@
 
 #include "SessionWorld.h"
 
+#include <limits>
+
 namespace vantrel {
 namespace {
 
@@ -65,10 +67,28 @@ TEST_F(SessionOperationsTest, ValuesThatDoNotConvertChangeNothing) {
     EXPECT_EQ(world.session->port, 1);
 }
 
-TEST_F(SessionOperationsTest, APropertyIsNotSetToNothing) {
-    EXPECT_FALSE(operations.set("DisplayMonitor", SessionValue()));
-    EXPECT_TRUE(fails("DisplayMonitor", {SessionValue()}));
-    EXPECT_TRUE(world.session->DisplayMonitor);
+TEST_F(SessionOperationsTest, NoPropertyIsSetToNothing) {
+    for (const char* name : {"port", "Baudrate", "parity", "DataLen", "StopBit", "path",
+                             "DisplayMonitor", "MonitorTitle", "IPaddress"}) {
+        const auto before = operations.get(name);
+        ASSERT_TRUE(before) << name;
+        EXPECT_FALSE(operations.set(name, SessionValue())) << name;
+        EXPECT_TRUE(fails(name, {SessionValue()})) << name;
+        EXPECT_EQ(*operations.get(name), *before) << name;
+    }
+}
+
+TEST_F(SessionOperationsTest, NumbersAreNotSetToWhatIsNoNumber) {
+    const double notANumber = std::numeric_limits<double>::quiet_NaN();
+    for (const char* name :
+         {"port", "Baudrate", "parity", "DataLen", "StopBit", "DisplayMonitor"}) {
+        const auto before = operations.get(name);
+        ASSERT_TRUE(before) << name;
+        for (const SessionValue& value :
+             {SessionValue(Text()), SessionValue(Text("x")), SessionValue(notANumber)})
+            EXPECT_FALSE(operations.set(name, value)) << name;
+        EXPECT_EQ(*operations.get(name), *before) << name;
+    }
 }
 
 TEST_F(SessionOperationsTest, EachDirectoryEntryStaysOneLine) {

@@ -2,6 +2,8 @@
 
 #include "support/NamedRow.h"
 
+#include <limits>
+
 #include <gtest/gtest.h>
 
 namespace vantrel {
@@ -42,6 +44,7 @@ TEST(SessionValuesTest, TruthValues) {
     EXPECT_EQ(flagFrom(Text("False")), false);
     EXPECT_EQ(flagFrom(Text("1")), true);
     EXPECT_EQ(flagFrom(Text("maybe")), std::nullopt);
+    EXPECT_EQ(flagFrom(std::numeric_limits<double>::quiet_NaN()), std::nullopt);
     EXPECT_EQ(toSessionValue(true), SessionValue(1.0));
 }
 

@@ -135,6 +135,31 @@ TEST_F(SnappyTest, AnUnsetAddressIsForgottenByTheListFilesToo) {
     }
 }
 
+TEST_F(SnappyTest, EveryOperationThatIsRefusedAtOnceHidesTheProgressToo) {
+    const std::function<bool(Snappy&)> operations[] = {
+        [](Snappy& session) { return session.JobDownLoad("../A.JBI"); },
+        [](Snappy& session) { return session.JobUpLoad("../A.JBI"); },
+        [](Snappy& session) { return session.JobDelete("../A.JBI"); },
+        [](Snappy& session) { return session.VarDownLoad("no entry"); },
+        [](Snappy& session) {
+            session.AddJobList("../A.JBI");
+            return session.JobListUpLoad() || session.JobListDownLoad();
+        },
+        [](Snappy& session) {
+            session.AddVarList("no entry");
+            return session.VarListUpLoad() || session.VarListDownLoad();
+        },
+        [](Snappy& session) {
+            session.path += "/nowhere";
+            return session.JobUpLoad("A.JBI") || session.JobListUpLoad();
+        }};
+    for (const auto& operation : operations) {
+        world.panel.show("command");
+        EXPECT_FALSE(operation(*world.session));
+        EXPECT_FALSE(world.panel.isVisible()) << world.error();
+    }
+}
+
 struct OtherControllerRow : tests::NamedRow {
     void (*change)(tests::SessionWorld&);
 };

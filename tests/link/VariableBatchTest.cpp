@@ -2,6 +2,8 @@
 
 #include "SessionWorld.h"
 
+#include <limits>
+
 namespace vantrel {
 namespace {
 
@@ -59,6 +61,27 @@ TEST_F(VariableBatchTest, ALibraryFailureEndsTheListWithItsIndex) {
     world.library.disturb({.function = "BscPutVarData", .call = 2, .code = 1510});
     EXPECT_FALSE(world.session->VarListDownLoad());
     EXPECT_EQ(world.error(), "BscPutVarData 1510 2");
+}
+
+TEST_F(VariableBatchTest, AValueThatIsNoNumberEndsTheListWithItsIndexAndLeavesTheEntry) {
+    world.controller().variables[{0, 1}] = {7};
+    world.controller().variables[{3, 2}] = {std::numeric_limits<double>::quiet_NaN()};
+    add({"B1=0", "", "R2=5", "B1=1"});
+    EXPECT_FALSE(world.session->VarListUpLoad());
+    EXPECT_EQ(world.error(), "BscGetVarData 34 2");
+    EXPECT_THAT(list(), ElementsAre("B001=7", "", "R2=5", "B1=1"));
+    EXPECT_EQ(world.library.openLinks(), 0);
+}
+
+TEST_F(VariableBatchTest, AListThatIsClearedMeanwhileEndsThere) {
+    add({"B1=5", "B2=6"});
+    world.view.onYield = [this](int at) {
+        if (at == 2)
+            world.session->VarListClear();
+    };
+    EXPECT_TRUE(world.session->VarListDownLoad());
+    EXPECT_THAT(list(), testing::IsEmpty());
+    EXPECT_EQ(world.library.callCount("BscPutVarData"), 1);
 }
 
 TEST_F(VariableBatchTest, APressEndsTheListAfterTheEntry) {

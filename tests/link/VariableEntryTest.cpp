@@ -2,9 +2,9 @@
 
 #include "support/NamedRow.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

@@ -74,7 +74,7 @@ TEST_F(VariableListTest, AListThatCouldNotBeReadIsNotWrittenOverAFile) {
     world.session->SetVarListFile("none.lst");
     ASSERT_FALSE(world.session->ReadVarListFile());
     EXPECT_FALSE(world.session->WriteVarListFile("good.lst"));
-    EXPECT_EQ(world.error(), " 6 0");
+    EXPECT_EQ(world.error(), " 35 0");
     EXPECT_EQ(world.pc.read("good.lst"), "B1=1\r\n");
     world.session->AddVarList("B2=2");
     EXPECT_TRUE(world.session->WriteVarListFile("good.lst"));
@@ -87,6 +87,20 @@ TEST_F(VariableListTest, AnEmptyListThatWasReadIsWritten) {
     ASSERT_TRUE(read(""));
     EXPECT_TRUE(world.session->WriteVarListFile("copy.lst"));
     EXPECT_TRUE(world.pc.has("copy.lst"));
+}
+
+TEST_F(VariableListTest, WhatTheSystemSaidIsKeptUntilTheNextFailure) {
+    world.pc.makeFolder("folder.lst");
+    world.session->SetVarListFile("none.lst");
+    EXPECT_FALSE(world.session->ReadVarListFile());
+    EXPECT_THAT(world.session->systemReason(), testing::HasSubstr("No such file"));
+    EXPECT_FALSE(world.session->WriteVarListFile("good.lst"));
+    EXPECT_EQ(world.session->systemReason(), "");
+    world.session->AddVarList("B1=1");
+    EXPECT_FALSE(world.session->WriteVarListFile("folder.lst"));
+    EXPECT_NE(world.session->systemReason(), "");
+    EXPECT_FALSE(world.session->WriteVarListFile("../good.lst"));
+    EXPECT_EQ(world.session->systemReason(), "");
 }
 
 TEST_F(VariableListTest, ReadingAndWritingAreOperationsThatHideTheProgress) {

@@ -4,10 +4,10 @@
 #include "platform/Environment.h"
 #include "support/TemporaryFolder.h"
 
+#include <filesystem>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <filesystem>
 
 namespace vantrel {
 namespace {

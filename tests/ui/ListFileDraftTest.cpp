@@ -189,6 +189,38 @@ TEST_F(ListFileDraftTest, AFileThatCannotBeReadIsNamedWithTheReason) {
     EXPECT_EQ(world.boxes.shown[0].icon, BoxIcon::Exclamation);
 }
 
+/// Puts the list file there once the session has given up on it.
+class LateFile : public ProgressView {
+  public:
+    explicit LateFile(const TemporaryFolder& folder) : folder_(folder) {}
+    void refresh(const ProgressPanel& panel) override {
+        if (!panel.isVisible())
+            folder_.write("late.lst", "A.JBI\n");
+    }
+    void yield() override {}
+    void unload() override {}
+
+  private:
+    const TemporaryFolder& folder_;
+};
+
+TEST_F(ListFileDraftTest, TheReasonIsThatOfTheSessionsOwnTry) {
+    LateFile late(world.pc);
+    world.panel.attach(&late);
+    world.panel.show("shown, so that the end of the operation can be seen");
+    EXPECT_EQ(confirmed(mark::saveJobs, "late").mark(), "0");
+    ASSERT_TRUE(world.pc.has("late.lst"));
+    ASSERT_EQ(world.boxes.shown.size(), 1U);
+    EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("[late.lst] No such file"));
+    world.panel.attach(nullptr);
+}
+
+TEST_F(ListFileDraftTest, AVeryLongNameIsNamedShortened) {
+    confirmed(mark::saveJobs, std::string(240, 'x'));
+    ASSERT_EQ(world.boxes.shown.size(), 1U);
+    EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("[" + std::string(200, 'x') + "\u2026] "));
+}
+
 TEST_F(ListFileDraftTest, AFolderOfThatNameIsNamedToo) {
     world.pc.makeFolder("vars.lst");
     EXPECT_EQ(confirmed(mark::loadVariables, "vars").mark(), "0");

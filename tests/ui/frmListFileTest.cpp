@@ -63,6 +63,31 @@ TEST_P(frmListFileTest, AFileThatCannotBeReadClosesItToo) {
     EXPECT_EQ(world.boxes.shown.size(), 1U);
 }
 
+/// Notes whether a window was still open when something was told.
+class BoxesOverWindow final : public FakeMessageBoxes {
+  public:
+    const wxDialog* window = nullptr;
+    bool windowWasOpen = false;
+
+    void tell(const std::string& text, BoxIcon icon) override {
+        windowWasOpen = window && window->IsModal() && window->IsShown();
+        FakeMessageBoxes::tell(text, icon);
+    }
+};
+
+TEST_P(frmListFileTest, AFileThatCannotBeReadIsNamedBeforeTheWindowHides) {
+    BoxesOverWindow boxes;
+    ListFileDraft wrong(state, *world.session, boxes, messages, mark::saveJobs);
+    frmListFile window(nullptr, wrong, state);
+    boxes.window = &window;
+    whileModal(window, [&] {
+        type(window, "txtFile", "nowhere");
+        click(window, "cmdOK");
+    });
+    EXPECT_TRUE(boxes.windowWasOpen);
+    EXPECT_EQ(wrong.mark(), "0");
+}
+
 TEST_P(frmListFileTest, CancelEscAndCloseBoxReadNothing) {
     type(dialog, "txtFile", "jobs");
     whileModal(dialog, [&] { click(dialog, "cmdCancel"); });

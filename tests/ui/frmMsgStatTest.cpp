@@ -101,6 +101,21 @@ TEST_P(frmMsgStatTest, CancelLeavesTheMarkAndSaysThatItWasTaken) {
     EXPECT_TRUE(control<wxButton>(*window, "cmdCancel").IsEnabled());
 }
 
+TEST_P(frmMsgStatTest, CancelStaysOffThroughStepsAndQuestionsUntilTheMarkIsCleared) {
+    panel.show("text");
+    click(*window, "cmdCancel");
+    const auto& button = control<wxButton>(*window, "cmdCancel");
+    panel.step("second", 1, 2, "");
+    EXPECT_FALSE(button.IsEnabled());
+    panel.hide();
+    panel.showAgain();
+    EXPECT_FALSE(button.IsEnabled());
+    panel.showCancelButton(true);
+    EXPECT_FALSE(button.IsEnabled());
+    panel.show("another command");
+    EXPECT_TRUE(button.IsEnabled());
+}
+
 TEST_P(frmMsgStatTest, CancelStaysOffAsLongAsThePressIsKept) {
     panel.show("text");
     click(*window, "cmdCancel");

@@ -6,8 +6,8 @@
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/ShownText.h"
 #include "link/Snappy.h"
-#include "platform/Files.h"
 
 namespace vantrel {
 namespace {
@@ -100,14 +100,13 @@ bool ListFileDraft::readList(const std::string& file) {
     return session_.SetJobListFile(file, mode_ == list_file_mark::saveJobs);
 }
 
-/// The operator who left a list need not be told. The session has no words for what the system had
-/// against a file, so these come from a second try, which as a rule ends at the opening.
+/// The operator who left a list need not be told.
 void ListFileDraft::tellWhyNotRead(const std::string& file) const {
     if (session_.ErrorCode() == session_code::cancelled)
         return;
-    const auto content = readFile(PathRules().join(state_.PCPath, file));
-    boxes_.tell(messages_.getMessage(message::listFileNotRead) + '[' + file + "] " +
-                    (content ? messages_.errorText(session_.ErrorCode()) : content.reason()),
+    const std::string& reason = session_.systemReason();
+    boxes_.tell(messages_.getMessage(message::listFileNotRead) + '[' + shownText(file) + "] " +
+                    (reason.empty() ? messages_.errorText(session_.ErrorCode()) : reason),
                 BoxIcon::Exclamation);
 }
 
