@@ -64,7 +64,7 @@ bool DeleteCommand::deleteOnController(const std::string& name) {
         outcome_.controllerTouched = false;
         return false;
     }
-    TransferReports(with_).deletionFailed();
+    TransferReports(with_).deletionFailed(name);
     return true;
 }
 

@@ -63,7 +63,7 @@ MoveCommand::Arrival MoveCommand::transfer(const std::string& name) {
     const bool overwrite = overwriteAll_ && !replacesOwn;
     Arrival arrival = Arrival::Arrived;
     if (!callSession(name, overwrite))
-        arrival = overwrite || !existsAlready() ? failed() : askAndTransfer(name);
+        arrival = overwrite || !existsAlready() ? failed(name) : askAndTransfer(name);
     if (arrival == Arrival::Arrived)
         arrived_.insert(arrives);
     return arrival;
@@ -106,7 +106,7 @@ bool MoveCommand::hasArrived(const std::string& name) const {
 MoveCommand::Arrival MoveCommand::transferOver(const std::string& name) {
     if (progress_.isCancelled())
         return Arrival::EndOfCommand;
-    return callSession(name, true) ? Arrival::Arrived : failed();
+    return callSession(name, true) ? Arrival::Arrived : failed(name);
 }
 
 bool MoveCommand::callSession(const std::string& name, bool overwrite) {
@@ -134,13 +134,13 @@ Answer MoveCommand::askOverwrite(const std::string& name) const {
 
 /// An unset address concerns every file: the session has told the operator, and the command ends
 /// without another attempt.
-MoveCommand::Arrival MoveCommand::failed() {
+MoveCommand::Arrival MoveCommand::failed(const std::string& name) {
     outcome_.succeeded = false;
     if (with_.session.endedByUnsetAddress()) {
         outcome_.controllerTouched = false;
         return Arrival::EndOfCommand;
     }
-    TransferReports(with_).transferFailed();
+    TransferReports(with_).transferFailed(name);
     return Arrival::NotArrived;
 }
 

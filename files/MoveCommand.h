@@ -39,7 +39,7 @@ class MoveCommand {
     std::string arrivalName(const std::string& name) const;
     /// Whether this very command has brought something there that goes by this name.
     bool hasArrived(const std::string& name) const;
-    Arrival failed();
+    Arrival failed(const std::string& name);
     void removeFromPC(const std::string& name);
     bool removeFromController(const std::string& name);
     void touchBothSides();

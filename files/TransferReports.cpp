@@ -18,6 +18,10 @@ std::string bracketed(const std::string& name) {
     return "[" + shownText(name) + "]";
 }
 
+std::string lineOf(const std::string& name) {
+    return name.empty() ? std::string() : "\n" + bracketed(name);
+}
+
 std::string inParentheses(const std::string& text) {
     return " ( " + text + " )";
 }
@@ -33,8 +37,8 @@ void TransferReports::aboutFile(const std::string& name, std::int32_t messageNum
     tell(bracketed(name) + with_.messages.getMessage(messageNumber) + inParentheses(reason));
 }
 
-void TransferReports::transferFailed() const {
-    tellSessionFailure(message::transferFailed, {});
+void TransferReports::transferFailed(const std::string& name) const {
+    tellTransferFailure({}, name);
 }
 
 void TransferReports::listTransferFailed() const {
@@ -42,16 +46,16 @@ void TransferReports::listTransferFailed() const {
     if (with_.session.ErrorFunction().empty() &&
         with_.session.ErrorCode() == session_code::cancelled)
         return;
-    tellSessionFailure(message::transferFailed,
-                       " (" + std::to_string(with_.session.ErrorIndex()) + ")");
+    const auto index = with_.session.ErrorIndex();
+    tellTransferFailure(" (" + std::to_string(index) + ")", with_.session.JobList(index));
 }
 
 void TransferReports::transferFailed(const std::string& function, const std::string& reason) const {
     tell(with_.messages.getMessage(message::transferFailed) + function + inParentheses(reason));
 }
 
-void TransferReports::deletionFailed() const {
-    tell(with_.messages.getMessage(message::deleteFailed) + functionAndReason());
+void TransferReports::deletionFailed(const std::string& name) const {
+    tell(with_.messages.getMessage(message::deleteFailed) + functionAndReason() + lineOf(name));
 }
 
 void TransferReports::originalNotDeleted(const std::string& name) const {
@@ -67,11 +71,16 @@ std::string TransferReports::errorText() const {
     return with_.messages.errorText(with_.session.ErrorCode());
 }
 
-void TransferReports::tellSessionFailure(std::int32_t head, const std::string& end) const {
-    if (with_.session.ErrorFunction() == directoryStep)
+/// The index of a failed directory counts what was read, so it names no file of a list.
+void TransferReports::tellTransferFailure(const std::string& end, const std::string& name) const {
+    const bool ofDirectory = with_.session.ErrorFunction() == directoryStep;
+    if (ofDirectory && end.empty())
+        tell(with_.messages.getMessage(message::noSuchFile) + lineOf(name));
+    else if (ofDirectory)
         tell(with_.messages.getMessage(message::noSuchFile));
     else
-        tell(with_.messages.getMessage(head) + functionAndReason() + end);
+        tell(with_.messages.getMessage(message::transferFailed) + functionAndReason() + end +
+             lineOf(name));
 }
 
 std::string TransferReports::functionAndReason() const {

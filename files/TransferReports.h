@@ -18,12 +18,13 @@ class TransferReports {
     void aboutFile(const std::string& name, std::int32_t messageNumber,
                    const std::string& reason) const;
 
-    /// The session's last failure as a failed transfer, of one file or of a list.
-    void transferFailed() const;
+    /// The session's last failure as a failed transfer, of one file or of a list, with the file's
+    /// name in a line of its own.
+    void transferFailed(const std::string& name) const;
     void listTransferFailed() const;
     /// A failed transfer that the session knows nothing of.
     void transferFailed(const std::string& function, const std::string& reason) const;
-    void deletionFailed() const;
+    void deletionFailed(const std::string& name) const;
     /// The file has arrived, but the session could not delete the controller's job.
     void originalNotDeleted(const std::string& name) const;
 
@@ -32,7 +33,7 @@ class TransferReports {
     std::string errorText() const;
 
   private:
-    void tellSessionFailure(std::int32_t head, const std::string& end) const;
+    void tellTransferFailure(const std::string& end, const std::string& name) const;
     std::string functionAndReason() const;
 
     TransferServices with_;

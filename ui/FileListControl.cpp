@@ -182,13 +182,29 @@ void FileListControl::fillItems() {
         list_->SetItemState(-1, 0, wxLIST_STATE_SELECTED);
         list_->SetItemCount(count);
         list_->Refresh();
-    } else {
+    } else if (!showsRowsAlready()) {
         list_->DeleteAllItems();
         for (long row = 0; row < count; ++row)
             list_->InsertItem(row, text(rows_->name(std::size_t(row))),
                               imageIndex(rows_->kind(std::size_t(row))));
     }
     filling_ = false;
+}
+
+/// Laying out an item costs far more than looking at it, and rows are often shown again unchanged.
+bool FileListControl::showsRowsAlready() const {
+    const std::size_t count = rows_ ? rows_->size() : 0;
+    if (itemCount() != count)
+        return false;
+    wxListItem item;
+    item.SetMask(wxLIST_MASK_TEXT | wxLIST_MASK_IMAGE);
+    for (std::size_t row = 0; row < count; ++row) {
+        item.SetId(long(row));
+        if (!list_->GetItem(item) || item.GetImage() != imageIndex(rows_->kind(row)) ||
+            item.GetText() != text(rows_->name(row)))
+            return false;
+    }
+    return true;
 }
 
 std::vector<std::size_t> FileListControl::selectedRows() const {

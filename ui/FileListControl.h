@@ -72,6 +72,7 @@ class FileListControl : public wxPanel, public PaneList {
     void bindPresses(wxWindow& window);
     void addColumns();
     void fillItems();
+    bool showsRowsAlready() const;
     void focusFirstFile();
     void changed();
 

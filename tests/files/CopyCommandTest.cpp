@@ -283,7 +283,7 @@ TEST_F(CopyCommandTest, AFailureIsReportedWithFunctionCodeTextAndIndex) {
     selectOnPC({"A.JBI", "B.JBI", "C.JBI"});
     library.disturb({"BscDownLoad", 2, false, false, 2000});
     EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed: BscDownLoad ( line broken ) (1)"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed: BscDownLoad ( line broken ) (1)\n[B.JBI]"));
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Exclamation);
     EXPECT_THAT(robot().names(), ElementsAre("A.JBI")) << "a copy ends at its first failure";
     EXPECT_THAT(window.controller.names, ElementsAre("A.JBI"));
@@ -295,7 +295,7 @@ TEST_F(CopyCommandTest, ACodeWithoutATextIsReportedAsItsNumber) {
     selectOnPC({"A.JBI"});
     library.disturb({"BscDownLoad", 1, false, false, -7});
     EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed: BscDownLoad ( -7 ) (0)"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed: BscDownLoad ( -7 ) (0)\n[A.JBI]"));
 }
 
 TEST_F(CopyCommandTest, AFailureOfOurOwnIsReportedThoughItHasNoFunction) {
@@ -304,7 +304,7 @@ TEST_F(CopyCommandTest, AFailureOfOurOwnIsReportedThoughItHasNoFunction) {
     selectOnPC({"A.JBI"});
     ASSERT_TRUE(removeFile(pc.path("A.JBI")));
     EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed:  ( not readable ) (0)"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed:  ( not readable ) (0)\n[A.JBI]"));
 }
 
 TEST_F(CopyCommandTest, ADirectoryThatCannotBeReadIsReportedAsNoSuchFile) {
@@ -324,7 +324,7 @@ TEST_F(CopyCommandTest, ALineThatStaysDownIsReportedForTheTransferAndForTheList)
     library.disturb({"BscConnect", 1, true, false, 2000});
     EXPECT_FALSE(commands.sendCopy());
     EXPECT_THAT(boxes.texts(),
-                ElementsAre("Transfer failed: BscConnect ( line broken ) (0)", "not read"));
+                ElementsAre("Transfer failed: BscConnect ( line broken ) (0)\n[A.JBI]", "not read"));
     EXPECT_THAT(window.controller.names, ElementsAre("OLD.JBI")) << "the old list stays";
     EXPECT_EQ(window.controllerStatus, "Controller: 1 items");
 }
@@ -373,7 +373,7 @@ TEST_F(CopyCommandTest, AJobThatIsGoneFromTheControllerIsAFailureOfItsUpload) {
     robot().erase("B.JBI");
     EXPECT_FALSE(commands.receiveCopy());
     EXPECT_THAT(boxes.texts(),
-                ElementsAre("Transfer failed: BscUpLoad ( not on the controller ) (1)"));
+                ElementsAre("Transfer failed: BscUpLoad ( not on the controller ) (1)\n[B.JBI]"));
     EXPECT_TRUE(pc.has("A.JBI"));
     EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
 }

@@ -97,7 +97,7 @@ TEST_F(DeleteCommandTest, AFailureIsReportedAndTheNextJobFollows) {
     question.answers = {Answer::All};
     library.disturb({"BscSelectJob", 1, false, false, 2000});
     EXPECT_FALSE(commands.deleteOnController());
-    EXPECT_THAT(boxes.texts(), ElementsAre("Delete failed: BscSelectJob ( line broken )"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("Delete failed: BscSelectJob ( line broken )\n[A.JBI]"));
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Exclamation);
     EXPECT_THAT(robot().names(), ElementsAre("A.JBI"));
 }

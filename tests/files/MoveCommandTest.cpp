@@ -175,7 +175,7 @@ TEST_P(MoveAnswer, AFailureIsReportedAndTheNextFileFollows) {
     EXPECT_FALSE(move());
     EXPECT_THAT(boxes.texts(),
                 ElementsAre(std::string("Transfer failed: ") +
-                            (sends() ? "BscDownLoad" : "BscUpLoad") + " ( line broken )"));
+                            (sends() ? "BscDownLoad" : "BscUpLoad") + " ( line broken )\n[A.JBI]"));
     EXPECT_TRUE(sourceIsThere("A.JBI"));
     EXPECT_FALSE(sourceIsThere("B.JBI"));
     EXPECT_EQ(destination("B.JBI"), job("B", "new"));
@@ -221,7 +221,7 @@ TEST_P(MoveAnswer, ADisconnectThatFailsKeepsTheSource) {
     EXPECT_FALSE(move());
     EXPECT_TRUE(sourceIsThere("A.JBI"));
     ASSERT_FALSE(boxes.shown.empty());
-    EXPECT_EQ(boxes.shown[0].text, "Transfer failed: BscDisConnect ( line broken )");
+    EXPECT_EQ(boxes.shown[0].text, "Transfer failed: BscDisConnect ( line broken )\n[A.JBI]");
     linksLeftOpen = 1; // on purpose: a link that does not disconnect is not closed
 }
 
@@ -248,7 +248,7 @@ TEST_F(MoveCommandTest, AReceiveThatReportsSuccessButBringsNothingKeepsBothSides
     question.answers = {Answer::Yes};
     library.disturb({"BscUpLoad", 1, false, true});
     EXPECT_FALSE(commands.receiveMove());
-    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed: BscUpLoad ( did not arrive )"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed: BscUpLoad ( did not arrive )\n[A.JBI]"));
     EXPECT_EQ(robot().bytes("A.JBI"), job("A", "new"));
     EXPECT_EQ(pc.read("A.JBI"), job("A", "old"));
     EXPECT_EQ(library.callCount("BscDeleteJob"), 0);

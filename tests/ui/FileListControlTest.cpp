@@ -58,6 +58,25 @@ TEST_P(FileListControlTest, ShowsNothingOfAnEmptyPane) {
     EXPECT_EQ(list.focusedKind(), std::nullopt);
 }
 
+TEST_P(FileListControlTest, ShowsWhatChangedBetweenTwoFillsOfTheSameLength) {
+    world.fill({"B.JBI", "A.JBI", "FOLDER/", "D.TXT"});
+    list.show(world.rows);
+    EXPECT_EQ(list.native().GetItemText(3), "D.TXT");
+    EXPECT_EQ(list.native().GetItemText(1), "A.JBI");
+    // A file that has become a folder of the same name keeps its place.
+    world.fill({"B.JBI", "A.JBI/"});
+    list.show(world.rows);
+    EXPECT_EQ(list.focusedKind(), FileKind::Folder);
+    world.fill({"A.JBI", "B.JBI"});
+    list.show(world.rows);
+    wxListItem first;
+    first.SetMask(wxLIST_MASK_IMAGE);
+    if (list.native().GetItem(first) && GetParam() != ListView::Details) {
+        constexpr int jobImage = 1;
+        EXPECT_EQ(first.GetImage(), jobImage);
+    }
+}
+
 TEST_P(FileListControlTest, SelectsTheseRowsAndNoOthers) {
     list.select({1, 3});
     EXPECT_THAT(list.selectedRows(), ElementsAre(1u, 3u));
