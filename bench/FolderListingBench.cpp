@@ -1,55 +1,16 @@
-#include "files/ControllerModels.h"
-#include "files/FileFilters.h"
+#include "ManyJobs.h"
 #include "files/FolderScan.h"
 #include "files/PaneRows.h"
-#include "support/TemporaryFolder.h"
 
 #include <benchmark/benchmark.h>
 
-#include <dirent.h>
-#include <memory>
-#include <sys/stat.h>
-
-namespace vantrel {
+namespace vantrel::bench {
 namespace {
-
-constexpr int manyFiles = 100'000;
-constexpr int allFiles = 4; ///< the PC pane's filter entry "*.*"
-
-/// A folder of many job files, made once for all benchmarks and removed at the end.
-const tests::TemporaryFolder& manyJobs() {
-    static const auto folder = [] {
-        auto made = std::make_unique<tests::TemporaryFolder>();
-        for (int number = 0; number < manyFiles; ++number)
-            made->write("JOB" + std::to_string(number * 7919 % manyFiles) + ".JBI", "/JOB\r\n");
-        return made;
-    }();
-    return *folder;
-}
-
-bool isAmongAllFiles(std::string_view upperName) {
-    return matchesFilter(upperName, allFiles, pcModel());
-}
 
 FolderListing manyJobsListing() {
     return *scanFolder(manyJobs().path());
 }
 
-/// The yardstick: the least that reading a folder with sizes and dates can cost.
-void bareReadAndStat(benchmark::State& state) {
-    const std::string path = manyJobs().path();
-    for (auto _ : state) {
-        DIR* const folder = opendir(path.c_str());
-        long long bytes = 0;
-        while (const dirent* const entry = readdir(folder)) {
-            struct stat details {};
-            if (fstatat(dirfd(folder), entry->d_name, &details, 0) == 0)
-                bytes += details.st_size;
-        }
-        closedir(folder);
-        benchmark::DoNotOptimize(bytes);
-    }
-}
 BENCHMARK(bareReadAndStat)->Unit(benchmark::kMillisecond);
 
 /// What opening a folder in the PC pane costs below the window.
@@ -90,4 +51,4 @@ void sortByColumn(benchmark::State& state) {
 BENCHMARK(sortByColumn)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
 
 } // namespace
-} // namespace vantrel
+} // namespace vantrel::bench
