@@ -3,7 +3,9 @@
 #include "app/CommandStates.h"
 #include "app/MainWindowView.h"
 #include "app/ModeCommands.h"
+#include "app/PCFolder.h"
 #include "base/PathRules.h"
+#include "files/PaneErrors.h"
 #include "files/PaneWindow.h"
 #include "files/Panes.h"
 #include "files/TransferCommands.h"
@@ -31,7 +33,8 @@ constexpr ToolCommand toolCommands[] = {
     {"Refresh", {Menu::mnuRefresh, 0}},          {"modeHiSpeed", {Menu::mnuModeHiSpeed, 0}},
     {"modeBsc", {Menu::mnuModeBsc, 0}},          {"DispBig", {Menu::mnuDisp, 0}},
     {"DispSmall", {Menu::mnuDisp, 1}},           {"DispList", {Menu::mnuDisp, 2}},
-    {"DispDetail", {Menu::mnuDisp, 3}},
+    {"DispDetail", {Menu::mnuDisp, 3}},          {"FileDisp", {Menu::mnuFile, fileDisplay}},
+    {"Print", {Menu::mnuFile, filePrint}},
 };
 
 /// A kind is told by the last three characters; the editor wants a point before them.
@@ -50,7 +53,7 @@ bool MainCommands::menu(MenuItem item) {
     switch (item.menu) {
     case Menu::mnuFile:
     case Menu::mnuRightFile:
-        return mnuFile(item.index), item.index <= fileSelectAll;
+        return mnuFile(item.index), true;
     case Menu::mnuDisp:
     case Menu::mnuFileDisp:
         return mnuDisp(index), true;
@@ -103,7 +106,17 @@ void MainCommands::mnuFile(int index) {
         controller ? with_.transfers.deleteOnController() : with_.transfers.deleteOnPC();
     else if (index == fileSelectAll)
         with_.view.selectAll(with_.state.Active);
+    else if (index == fileDisplay)
+        toggleViewer();
+    else if (index == filePrint)
+        viewer_.print();
     updateStates();
+}
+
+void MainCommands::toggleViewer() {
+    viewer_.showOrHide();
+    if (with_.state.ViewerShown)
+        activate(ActiveSide::PC);
 }
 
 void MainCommands::mnuDisp(std::int16_t index) {
@@ -190,14 +203,9 @@ void MainCommands::refreshActivePane() {
     updateStates();
 }
 
-void MainCommands::openPCFolder(const std::string& folder) {
-    if (!with_.panes.scanPC(folder)) {
-        with_.dialog.tell("File Get Error!!", BoxIcon::Exclamation);
-        return;
-    }
-    with_.view.showFolder(with_.state.PCPath);
-    if (!with_.panes.fill(ActiveSide::PC))
-        with_.dialog.tell("File Dispaly Error!!", BoxIcon::Exclamation);
+void MainCommands::openPCFolder(const std::string& folder, FolderTree tree) {
+    if (!with_.folder.enter(folder, std::move(tree)))
+        with_.dialog.tell(folderNotRead, BoxIcon::Exclamation);
 }
 
 void MainCommands::openItem(ActiveSide side, std::size_t row) {
@@ -206,7 +214,7 @@ void MainCommands::openItem(ActiveSide side, std::size_t row) {
         return;
     const auto path = PathRules().join(with_.state.PCPath, rows.name(row));
     if (rows.kind(row) == FileKind::Folder) {
-        openPCFolder(path);
+        openPCFolder(path, FolderTree::folderOnly(path));
         updateStates();
     } else if (rows.kind(row) == FileKind::JobFile && hasExtension(rows.name(row))) {
         edit(path);
@@ -224,7 +232,7 @@ void MainCommands::edit(const std::string& path) {
 void MainCommands::upFolder() {
     const auto parent = PathRules().parent(with_.state.PCPath);
     if (parent != with_.state.PCPath)
-        openPCFolder(parent);
+        openPCFolder(parent, FolderTree::driveAndFolder(parent));
     updateStates();
 }
 
@@ -239,7 +247,8 @@ void MainCommands::mnuEnd() {
 }
 
 void MainCommands::activate(ActiveSide side) {
-    if (with_.state.Active == side)
+    const bool isCovered = side == ActiveSide::Controller && with_.state.ViewerShown;
+    if (with_.state.Active == side || isCovered)
         return;
     with_.state.Active = side;
     with_.view.showActiveSide(side);
@@ -266,7 +275,7 @@ CommandStates MainCommands::currentStates() const {
         .mode = state.TransMode,
         .hispeedAvailable = hispeedAvailable(state),
         .locked = state.Busy,
-        .viewerShown = false,
+        .viewerShown = state.ViewerShown,
         .focusedKind = with_.view.focusedKind(),
         .controllerFilter = with_.window.filterIndex(ActiveSide::Controller),
         .JBR = state.JBR,

@@ -1,44 +1,25 @@
 #pragma once
 
+#include "app/MainServices.h"
+#include "app/ViewerCommands.h"
 #include "base/ApplicationState.h"
-#include "base/Result.h"
 #include "lang/Captions.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 
 namespace vantrel {
 
-class MainWindowView;
-class MessageTable;
-class OperatorDialog;
+class FolderTree;
 struct CommandStates;
-class PaneWindow;
-class Panes;
-class Snappy;
-class TransferCommands;
-
-/// What the main window's commands work with; everything is borrowed and outlives them.
-struct MainServices {
-    ApplicationState& state;
-    Snappy& session;
-    Panes& panes;
-    TransferCommands& transfers;
-    const MessageTable& messages;
-    OperatorDialog& dialog;
-    PaneWindow& window;
-    MainWindowView& view;
-    std::function<Outcome(const std::string& path)> editTextFile; ///< the system's text editor
-};
 
 /// The commands of the main window, by their names in its menus. Each acts on the active pane and
 /// ends by bringing menus and buttons in line.
 class MainCommands {
   public:
-    explicit MainCommands(const MainServices& services) : with_(services) {}
+    explicit MainCommands(const MainServices& services) : with_(services), viewer_(services) {}
 
     /// Runs a menu entry; false when it is none of these commands.
     bool menu(MenuItem item);
@@ -48,7 +29,7 @@ class MainCommands {
     /// when the list itself handles it.
     bool listKey(ActiveSide side, int key, bool control);
 
-    /// 0 copy, 1 move, 2 delete, 3 select all.
+    /// 0 copy, 1 move, 2 delete, 3 select all, 5 display file, 6 print.
     void mnuFile(int index);
     /// View 0 to 3 of the active pane.
     void mnuDisp(std::int16_t index);
@@ -71,12 +52,14 @@ class MainCommands {
     void drop(ActiveSide source);
     void mnuEnd();
 
-    /// Makes a pane the active one.
+    /// Makes a pane the active one; the controller pane cannot be while the viewer stands in its
+    /// place.
     void activate(ActiveSide side);
     /// Refills a pane after another entry of its filter box was chosen.
     void chooseFilter(ActiveSide side);
-    /// Lists a folder in the PC pane; a failure is told and changes nothing.
-    void openPCFolder(const std::string& folder);
+    /// Lists a folder in the PC pane and shows `tree` in place of the old folder tree; a failure is
+    /// told and changes nothing.
+    void openPCFolder(const std::string& folder, FolderTree tree);
     /// Leaves a mode that the controller model does not have, and shows what is available.
     void applyHispeedAvailability();
     /// Shows a mode that the session was told by name.
@@ -88,12 +71,14 @@ class MainCommands {
 
   private:
     void edit(const std::string& path);
+    void toggleViewer();
     CommandStates currentStates() const;
     void sortAnew(ActiveSide side);
     void switchTo(TransferMode mode);
     void showMode();
 
     MainServices with_;
+    ViewerCommands viewer_;
     TransferMode shownMode_ = TransferMode::Bsc;
 };
 

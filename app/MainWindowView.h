@@ -4,6 +4,7 @@
 #include "files/FileKinds.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -36,6 +37,7 @@ class MainWindowView {
     virtual void selectAll(ActiveSide side) = 0;
     /// Of the item that has the focus in `lsvPC`.
     virtual std::optional<FileKind> focusedKind() const = 0;
+    virtual std::optional<std::size_t> focusedRow() const = 0;
     virtual void closeWindow() = 0;
 };
 

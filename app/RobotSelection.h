@@ -23,8 +23,9 @@ class RobotSelectionWindow {
     virtual void selectRobot(int index) = 0;
     /// `lblIPAddr2`.
     virtual void showAddress(const std::string& address) = 0;
-    /// Rebuilds `trvFolderList` and `trvFolderName` for the PC folder.
-    virtual void showFolder(const std::string& folder) = 0;
+    /// Goes to another PC folder; false, untold and with everything as it was, when it cannot be
+    /// opened.
+    virtual bool enterFolder(const std::string& folder) = 0;
     virtual void refreshStates() = 0;
     /// The refresh command, on the active pane.
     virtual void refreshActivePane() = 0;

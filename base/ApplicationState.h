@@ -58,6 +58,7 @@ struct ApplicationState {
     std::string VarListFile;
     std::string IniFileName; ///< the executable's base name and ".ini", without folder
 
+    bool ViewerShown = false; ///< the file viewer stands in place of the controller pane
     bool NoSave = false;
     bool Busy = false;
     bool StartupDone = false;

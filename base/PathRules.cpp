@@ -95,14 +95,18 @@ char PathRules::separator() const {
     return style_ == PathStyle::Windows ? '\\' : '/';
 }
 
+std::string_view PathRules::separators() const {
+    return vantrel::separators(style_);
+}
+
 bool PathRules::isSeparator(char character) const {
-    return separators(style_).find(character) != std::string_view::npos;
+    return separators().find(character) != std::string_view::npos;
 }
 
 std::string PathRules::withSeparator(std::string_view folder) const {
     if (folder.empty())
         return {};
-    const auto last = folder.find_last_not_of(separators(style_));
+    const auto last = folder.find_last_not_of(separators());
     std::string result(folder.substr(0, last == folder.npos ? 0 : last + 1));
     return result + separator();
 }

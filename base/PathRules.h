@@ -21,7 +21,11 @@ class PathRules {
   public:
     explicit constexpr PathRules(PathStyle style = nativePathStyle) : style_(style) {}
 
+    constexpr PathStyle style() const { return style_; }
+    /// What is written between names.
     char separator() const;
+    /// Every character that is read as one.
+    std::string_view separators() const;
     bool isSeparator(char character) const;
 
     /// The folder with exactly one separator at its end. No folder stays none here and in `join`:

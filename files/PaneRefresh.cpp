@@ -1,5 +1,6 @@
 #include "files/PaneRefresh.h"
 
+#include "files/PaneErrors.h"
 #include "files/Panes.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
@@ -14,7 +15,7 @@ PaneRefresh::PaneRefresh(const TransferServices& services)
 
 bool PaneRefresh::refreshPC() const {
     if (!with_.panes.scanPC(with_.state.PCPath)) {
-        TransferReports(with_).tell("File Get Error!!");
+        TransferReports(with_).tell(folderNotRead);
         return false;
     }
     return fill(ActiveSide::PC, selectedOnPC_);
@@ -42,7 +43,7 @@ void PaneRefresh::refreshTouched(const CommandOutcome& outcome) const {
 bool PaneRefresh::fill(ActiveSide side, const std::vector<std::string>& selected) const {
     const bool isFilled = with_.panes.fill(side);
     if (!isFilled)
-        TransferReports(with_).tell("File Dispaly Error!!");
+        TransferReports(with_).tell(listNotShown);
     with_.panes.selectNames(side, selected);
     return isFilled;
 }

@@ -1,5 +1,6 @@
 #include "files/Panes.h"
 
+#include "files/BusyPointer.h"
 #include "files/ControllerModels.h"
 #include "files/FileFilters.h"
 #include "files/FolderScan.h"
@@ -14,17 +15,6 @@
 namespace vantrel {
 
 namespace {
-
-class BusyPointer {
-  public:
-    explicit BusyPointer(PaneWindow& window) : window_(window) { window_.setBusyPointer(true); }
-    ~BusyPointer() { window_.setBusyPointer(false); }
-    BusyPointer(const BusyPointer&) = delete;
-    BusyPointer& operator=(const BusyPointer&) = delete;
-
-  private:
-    PaneWindow& window_;
-};
 
 /// The entries of `from`; the sort state of `to` stays, since it belongs to the pane.
 void takeEntries(FolderListing& to, FolderListing&& from) {

@@ -19,7 +19,7 @@ inline constexpr std::int32_t kindRefused = 8;            ///< after [name]
 inline constexpr std::int32_t deleteFailed = 9;           ///< then the function that failed
 inline constexpr std::int32_t askDeleteOnPC = 10;         ///< after [name]
 inline constexpr std::int32_t askDeleteOnController = 11; ///< after [name]
-inline constexpr std::int32_t folderNotOpened = 12;
+inline constexpr std::int32_t folderNotOpened = 12; ///< then [folder]
 inline constexpr std::int32_t askExit = 13;
 inline constexpr std::int32_t countPC = 14;         ///< then the count, then `countEnd`
 inline constexpr std::int32_t countController = 15; ///< then the count, then `countEnd`
@@ -58,7 +58,7 @@ inline constexpr std::int32_t listFileNotWritten = 54; ///< then [file name] or 
 inline constexpr std::int32_t folderGone = 55;         ///< after [folder]
 inline constexpr std::int32_t localJobPassedOver = 56; ///< after [name]
 inline constexpr std::int32_t nothingToPrint = 57;
-inline constexpr std::int32_t printFailed = 58;
+inline constexpr std::int32_t printFailed = 58; ///< then [name]
 inline constexpr std::int32_t editorNotStarted = 59;        ///< after [file name]
 inline constexpr std::int32_t libraryFunctionsMissing = 60; ///< then the names
 inline constexpr std::int32_t oldFileKept = 61;             ///< after [name], then [other name]
@@ -176,7 +176,6 @@ inline constexpr std::int32_t languageNotRecorded = 345; ///< then the reason
 
 // Other windows.
 inline constexpr std::int32_t executionMessage = 350; ///< the start message's title
-inline constexpr std::int32_t printPreview = 360;
 inline constexpr std::int32_t page = 361; ///< then the page, `progressOf`, the number of pages
 inline constexpr std::int32_t tipFolderTree = 370;
 

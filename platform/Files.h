@@ -48,6 +48,10 @@ struct FolderEntry {
 Outcome visitFolder(const std::string& path, const std::function<void(const FolderEntry&)>& visit);
 /// The same without looking at each entry's details: only names.
 Outcome visitNames(const std::string& path, const std::function<void(std::string_view)>& visit);
+/// The names of the folders only, and of links to folders. A folder's details are not asked for, so
+/// that one on which a dead medium is mounted cannot hang the caller.
+Outcome visitSubfolders(const std::string& path,
+                        const std::function<void(std::string_view)>& visit);
 
 std::string currentFolder();
 Outcome changeCurrentFolder(const std::string& path);

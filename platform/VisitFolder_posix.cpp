@@ -20,7 +20,7 @@ bool isOneself(std::string_view name) {
     return name == "." || name == "..";
 }
 
-/// Calls `visit` with each entry's name as the system has it.
+/// Calls `visit` with the folder's descriptor and each entry as the system has it.
 template <typename Visit>
 Outcome visitEntries(const std::string& path, const Visit& visit) {
     if (hasNul(path))
@@ -30,7 +30,7 @@ Outcome visitEntries(const std::string& path, const Visit& visit) {
         return systemFailure(errno);
     while (const dirent* entry = ::readdir(folder.get())) {
         if (!isOneself(entry->d_name))
-            visit(::dirfd(folder.get()), entry->d_name);
+            visit(::dirfd(folder.get()), *entry);
     }
     return Done{};
 }
@@ -55,22 +55,40 @@ void readEntry(int folder, const char* name, LocalDates& dates, FolderEntry& ent
     entry.changed = dates.text(details.st_mtime);
 }
 
+/// Only links, and entries of file systems that do not tell the kind, have to be looked at.
+bool leadsToFolder(int folder, const dirent& entry) {
+    if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN)
+        return entry.d_type == DT_DIR;
+    struct stat details {};
+    return ::fstatat(folder, entry.d_name, &details, 0) == 0 && S_ISDIR(details.st_mode);
+}
+
 } // namespace
 
 Outcome visitFolder(const std::string& path, const std::function<void(const FolderEntry&)>& visit) {
     LocalDates dates;
     std::string storage;
-    return visitEntries(path, [&](int folder, const char* name) {
+    return visitEntries(path, [&](int folder, const dirent& found) {
         FolderEntry entry;
-        entry.name = shownName(name, storage);
-        readEntry(folder, name, dates, entry);
+        entry.name = shownName(found.d_name, storage);
+        readEntry(folder, found.d_name, dates, entry);
         visit(entry);
     });
 }
 
 Outcome visitNames(const std::string& path, const std::function<void(std::string_view)>& visit) {
     std::string storage;
-    return visitEntries(path, [&](int, const char* name) { visit(shownName(name, storage)); });
+    return visitEntries(path,
+                        [&](int, const dirent& found) { visit(shownName(found.d_name, storage)); });
+}
+
+Outcome visitSubfolders(const std::string& path,
+                        const std::function<void(std::string_view)>& visit) {
+    std::string storage;
+    return visitEntries(path, [&](int folder, const dirent& found) {
+        if (leadsToFolder(folder, found))
+            visit(shownName(found.d_name, storage));
+    });
 }
 
 } // namespace vantrel

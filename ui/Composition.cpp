@@ -1,12 +1,19 @@
 #include "ui/Composition.h"
 
 #include "app/MainWindowStart.h"
+#include "app/SettingDraft.h"
 #include "base/PathRules.h"
+#include "files/FolderFiles.h"
+#include "files/Subfolders.h"
 #include "lang/MessageNumbers.h"
+#include "platform/Drives.h"
 #include "platform/Environment.h"
+#include "platform/NetworkFolders.h"
+#include "ui/FolderTreeDropDown.h"
 #include "ui/dialogs/LanguageDraft.h"
 #include "ui/dialogs/VersionText.h"
 #include "ui/dialogs/frmLanguage.h"
+#include "ui/dialogs/frmSetting.h"
 #include "ui/frmZuroVant.h"
 
 #include <wx/app.h>
@@ -16,7 +23,7 @@ namespace vantrel {
 Composition::Composition(std::string executable, std::span<const std::string> arguments)
     : executable_(std::move(executable)), programFolder_(PathRules().parent(executable_)),
       commandLine_(readCommandLine(arguments)), languages_(programFolder_), boxes_(messages_),
-      questions_(messages_, state_), dialog_(progress_, questions_, boxes_),
+      printer_(messages_), questions_(messages_, state_), dialog_(progress_, questions_, boxes_),
       languageChoice_(state_, messages_, languages_, boxes_, localeLanguageName()),
       settings_(programFolder_, settingsFileName(executable_)),
       registry_(state_, messages_, boxes_, programFolder_),
@@ -25,16 +32,25 @@ Composition::Composition(std::string executable, std::span<const std::string> ar
     guard_.lock();
 }
 
-Composition::~Composition() = default;
+// A window that is still there shows rows and a text that the commands hold; at once, since a
+// deferred end would come after theirs.
+Composition::~Composition() {
+    delete window_.get();
+}
 
 Composition::Commands::Commands(Composition& owner, frmZuroVant& window)
     : panes(owner.state_, *owner.session_, owner.table_, owner.messages_, window),
       transfers(TransferServices{owner.state_, *owner.session_, panes, window, owner.table_,
                                  owner.messages_, owner.progress_, owner.dialog_}),
-      services{owner.state_,  *owner.session_, panes,  transfers,   owner.messages_,
-               owner.dialog_, window,          window, editTextFile},
+      folder(owner.state_, panes, owner.dialog_, window, *window.controls().trvFolderList),
+      services{owner.state_,    *owner.session_, panes,  transfers,
+               owner.messages_, owner.dialog_,   window, window,
+               folder,          editTextFile,    window, owner.printer_},
       main(services),
+      folderTree(services, main, *window.controls().trvFolderList, {listDrives, subfolders}),
       robots({owner.state_, *owner.session_, panes, owner.messages_, owner.boxes_, owner}),
+      settings({owner.state_, *owner.session_, panes, owner.registry_, window, robots, window,
+                main}),
       shutdown({owner.state_, owner.settings_, owner.registry_, *owner.session_, owner.messages_,
                 owner.boxes_, owner}) {}
 
@@ -106,6 +122,7 @@ void Composition::buildMainWindow() {
     wxTheApp->SetTopWindow(window_.get());
     commands_ = std::make_unique<Commands>(*this, *window_);
     window_->connect(commands_->main);
+    window_->controls().trvFolderList->connect(commands_->folderTree);
     window_->onClose = [this] { return commands_->shutdown.close(); };
     window_->onRobotChosen = [this](int index) { commands_->robots.choose(index); };
     window_->onOtherEntry = [this](MenuItem item) { otherEntry(item); };
@@ -158,8 +175,8 @@ void Composition::showAddress(const std::string& address) {
     window_->showAddress(address);
 }
 
-void Composition::showFolder(const std::string& folder) {
-    window_->showFolder(folder);
+bool Composition::enterFolder(const std::string& folder) {
+    return commands_->folder.enter(folder, FolderTree::driveAndFolder(folder));
 }
 
 void Composition::refreshStates() {
@@ -171,11 +188,28 @@ void Composition::refreshActivePane() {
 }
 
 void Composition::otherEntry(MenuItem item) {
-    constexpr int language = 7;
+    constexpr int settings = 0, language = 7;
     if (item.menu == Menu::mnuVer)
         openVersionWindow();
+    else if (item == MenuItem{Menu::mnuOpt, settings})
+        openSettings();
     else if (item == MenuItem{Menu::mnuOpt, language})
         changeLanguage();
+}
+
+void Composition::openSettings() {
+    SettingDraft draft(state_, messages_, programFolder_);
+    const auto onNetwork = [](const std::string& folder) { return isOnNetwork(folder); };
+    {
+        frmSetting dialog(window_.get(), draft,
+                          {.messages = messages_,
+                           .state = state_,
+                           .boxes = boxes_,
+                           .folders = {listDrives, subfolders, folderFiles, onNetwork},
+                           .apply = [&] { commands_->settings.apply(draft); }});
+        dialog.ShowModal();
+    }
+    commands_->settings.showSettings();
 }
 
 void Composition::openVersionWindow() {

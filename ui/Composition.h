@@ -1,8 +1,11 @@
 #pragma once
 
+#include "app/FolderTreeCommands.h"
 #include "app/MainCommands.h"
+#include "app/PCFolder.h"
 #include "app/RobotRegistry.h"
 #include "app/RobotSelection.h"
+#include "app/SettingCommands.h"
 #include "app/SettingsFile.h"
 #include "app/Shutdown.h"
 #include "app/StartRoutine.h"
@@ -19,6 +22,7 @@
 #include "link/Snappy.h"
 #include "link/ZurolinkBinding.h"
 #include "ui/OperationGuard.h"
+#include "ui/WxFilePrinter.h"
 #include "ui/dialogs/FrmMessage.h"
 #include "ui/dialogs/WindowHolder.h"
 #include "ui/dialogs/WxMessageBoxes.h"
@@ -57,9 +61,12 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
     struct Commands {
         Panes panes;
         TransferCommands transfers;
+        PCFolder folder;
         MainServices services;
         MainCommands main;
+        FolderTreeCommands folderTree;
         RobotSelection robots;
+        SettingCommands settings;
         Shutdown shutdown;
 
         Commands(Composition& owner, frmZuroVant& window);
@@ -85,11 +92,12 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
 
     void selectRobot(int index) override;
     void showAddress(const std::string& address) override;
-    void showFolder(const std::string& folder) override;
+    bool enterFolder(const std::string& folder) override;
     void refreshStates() override;
     void refreshActivePane() override;
 
     void otherEntry(MenuItem item);
+    void openSettings();
     void openVersionWindow();
     void changeLanguage();
     void showSimulationNotice();
@@ -104,6 +112,7 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
     MessageTable messages_;
     LanguageFiles languages_;
     WxMessageBoxes boxes_;
+    WxFilePrinter printer_;
     ProgressPanel progress_;
     QuestionDialogs questions_;
     OperatorDialog dialog_;

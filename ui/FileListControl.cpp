@@ -328,9 +328,19 @@ void FileListControl::bindEvents() {
         bindPresses(*part);
     bindPresses(*list_);
     list_->Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) {
+        const wxPoint place = event.GetPosition();
         if (onMenuRequested)
-            onMenuRequested(event.GetPosition());
+            onMenuRequested(place == wxDefaultPosition ? focusedItemPlace() : place);
     });
+}
+
+/// Below the item, where the menu key's menu belongs; the list's corner when there is none.
+wxPoint FileListControl::focusedItemPlace() const {
+    wxRect item;
+    const long row = focusedRow();
+    if (row == -1 || !list_->GetItemRect(row, item, wxLIST_RECT_LABEL))
+        return list_->GetScreenPosition();
+    return list_->ClientToScreen(item.GetBottomLeft());
 }
 
 } // namespace vantrel

@@ -63,7 +63,8 @@ class FileListControl : public wxPanel, public PaneList {
     std::function<void(wxKeyEvent&)> onKey;
     /// Called when the operator drags the selection.
     std::function<void()> onDragBegun;
-    /// Called for a request of the pop-up menu, after the row under the pointer was selected.
+    /// Called for a request of the pop-up menu, after the row under the pointer was selected, with
+    /// the place of the pointer or, for the menu key, of the focused row.
     std::function<void(wxPoint screenPosition)> onMenuRequested;
 
   private:
@@ -74,6 +75,7 @@ class FileListControl : public wxPanel, public PaneList {
     void fillItems();
     bool showsRowsAlready() const;
     void focusFirstFile();
+    wxPoint focusedItemPlace() const;
     void changed();
 
     const PaneRows* rows_ = nullptr;

@@ -39,6 +39,9 @@ const std::vector<Top>& barTable() {
           {Menu::mnuFile, 2},
           {Menu::mnuFile, 3},
           {},
+          {Menu::mnuFile, 5},
+          {Menu::mnuFile, 6},
+          {},
           {Menu::mnuEnd, 0, "Alt+F4"}}},
         {Menu::mnuDispMain,
          {{Menu::mnuDisp, 0, "", wxITEM_CHECK},
@@ -52,7 +55,7 @@ const std::vector<Top>& barTable() {
           {Menu::mnuSort, 1, "", wxITEM_CHECK},
           {Menu::mnuSort, 2, "", wxITEM_CHECK}}},
         {Menu::mnuRefresh, {{Menu::mnuRefresh, 0, "F5"}}},
-        {Menu::mnuOptMain, {{Menu::mnuOpt, 7}}},
+        {Menu::mnuOptMain, {{Menu::mnuOpt, 0}, {}, {Menu::mnuOpt, 7}}},
         {Menu::mnuHelpMain, {{Menu::mnuVer, 0}}},
     };
     return table;
@@ -205,8 +208,8 @@ void MainMenus::applyStates(const CommandStates& states) {
         bar_->EnableTop(index, states.unlocked);
 }
 
-void MainMenus::popUp(wxWindow& owner) {
-    owner.PopupMenu(popUp_.get());
+void MainMenus::popUp(wxWindow& owner, const wxPoint& screenPosition) {
+    owner.PopupMenu(popUp_.get(), owner.ScreenToClient(screenPosition));
 }
 
 } // namespace vantrel

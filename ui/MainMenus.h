@@ -28,7 +28,7 @@ class MainMenus {
     void applyCaptions(const MessageTable& messages);
     void applyStates(const CommandStates& states);
     /// Shows `mnuRightClick`; returns when it was closed.
-    void popUp(wxWindow& owner);
+    void popUp(wxWindow& owner, const wxPoint& screenPosition);
 
     /// Called with the entry that was chosen.
     std::function<void(MenuItem)> onChosen;

@@ -1,10 +1,14 @@
 #include "ui/MainWindowControls.h"
 
 #include "ui/FileListControl.h"
+#include "ui/FileViewer.h"
+#include "ui/FolderTreeDropDown.h"
 #include "ui/IconSet.h"
 #include "ui/KeyedToolBar.h"
 #include "ui/PathDisplay.h"
+#include "ui/SystemLook.h"
 
+#include <wx/bmpbuttn.h>
 #include <wx/choice.h>
 #include <wx/frame.h>
 #include <wx/panel.h>
@@ -21,6 +25,7 @@ using Kind = KeyedToolBar::Kind;
 
 const wxSize smallIcon{16, 16};
 const wxSize arrowIcon{32, 32};
+const wxSize dropDownIcon{12, 12};
 
 PaneFrame makeFrame(wxWindow* parent, const wxString& name) {
     PaneFrame frame;
@@ -49,6 +54,7 @@ MainWindowControls::MainWindowControls(wxFrame& window) : surface(new wxPanel(&w
     makePCPane();
     pctDirectArrow = new wxStaticBitmap(surface, wxID_ANY, icon("arrowToController", arrowIcon));
     makeControllerPane();
+    makeViewerPane();
     makeHighlights();
     constexpr int panels = 3;
     stsFileInf = window.CreateStatusBar(panels, wxSTB_DEFAULT_STYLE, wxID_ANY, "stsFileInf");
@@ -68,7 +74,9 @@ void MainWindowControls::makeToolBar() {
                                 {"DispBig", Kind::Check},
                                 {"DispSmall", Kind::Check},
                                 {"DispList", Kind::Check},
-                                {"DispDetail", Kind::Check}});
+                                {"DispDetail", Kind::Check},
+                                {"", Kind::Separator},
+                                {"FileDisp", Kind::Check}});
 }
 
 void MainWindowControls::makeConnectionBlock() {
@@ -87,8 +95,13 @@ void MainWindowControls::makePCPane() {
     Picture1 = new wxStaticBitmap(pane, wxID_ANY, icon("folder", smallIcon));
     lblFolder = makeLabel(pane, "lblDisp2");
     trvFolderName = new PathDisplay(pane, "trvFolderName");
-    tlbPC = new KeyedToolBar(pane, "tlbPC", {{"UpFolder"}});
+    Command1 = new wxBitmapButton(pane, wxID_ANY, icon("dropDown", dropDownIcon), wxDefaultPosition,
+                                  wxDefaultSize, wxBU_EXACTFIT, wxDefaultValidator, "Command1");
+    allowNarrow(*Command1);
+    tlbPC = new KeyedToolBar(pane, "tlbPC", {{"UpFolder"}, {"Print"}});
     lsvPC = new FileListControl(pane, "lsvPC");
+    // After the list, so that it lies above it.
+    trvFolderList = new FolderTreeDropDown(pane, "trvFolderList", *Command1);
     lblPCFileType = makeLabel(pane, "lblDisp0");
     cmbPCFileType = makeChoice(pane, "cmbPCFileType");
 }
@@ -102,6 +115,15 @@ void MainWindowControls::makeControllerPane() {
     lsvCtrl = new FileListControl(pane, "lsvCtrl");
     lblCtrlFileType = makeLabel(pane, "lblDisp1");
     cmbCtrlFileType = makeChoice(pane, "cmbCtrlFileType");
+}
+
+void MainWindowControls::makeViewerPane() {
+    fraFile = makeFrame(surface, "fraFile");
+    auto* pane = fraFile.panel;
+    rtxFileDisp = new FileViewer(pane, "rtxFileDisp");
+    lblFile = makeLabel(pane, "lblDispFile");
+    lblFileName = makeLabel(pane, "lblFileName");
+    pane->Hide();
 }
 
 void MainWindowControls::makeHighlights() {

@@ -16,6 +16,8 @@ class wxWindow;
 namespace vantrel {
 
 class FileListControl;
+class FileViewer;
+class FolderTreeDropDown;
 class KeyedToolBar;
 class PathDisplay;
 
@@ -46,7 +48,9 @@ struct MainWindowControls {
     wxStaticBitmap* Picture1 = nullptr;
     wxStaticText* lblFolder = nullptr; ///< element 2 of `lblDisp`
     PathDisplay* trvFolderName = nullptr;
+    wxBitmapButton* Command1 = nullptr;
     KeyedToolBar* tlbPC = nullptr;
+    FolderTreeDropDown* trvFolderList = nullptr;
     FileListControl* lsvPC = nullptr;
     wxStaticText* lblPCFileType = nullptr; ///< element 0 of `lblDisp`
     wxChoice* cmbPCFileType = nullptr;
@@ -60,6 +64,11 @@ struct MainWindowControls {
     wxStaticText* lblCtrlFileType = nullptr; ///< element 1 of `lblDisp`
     wxChoice* cmbCtrlFileType = nullptr;
 
+    PaneFrame fraFile; ///< the viewer, in the place of `fraCtrl`
+    FileViewer* rtxFileDisp = nullptr;
+    wxStaticText* lblFile = nullptr; ///< its heading, an element of `lblDisp` too
+    wxStaticText* lblFileName = nullptr;
+
     wxPanel* pcHighlight = nullptr; ///< shows the mode's colour under the active pane
     wxPanel* controllerHighlight = nullptr;
     wxStatusBar* stsFileInf = nullptr;
@@ -69,6 +78,7 @@ struct MainWindowControls {
     void makeConnectionBlock();
     void makePCPane();
     void makeControllerPane();
+    void makeViewerPane();
     void makeHighlights();
 };
 

@@ -3,10 +3,13 @@
 #include "app/Twips.h"
 #include "app/WindowLayout.h"
 #include "ui/FileListControl.h"
+#include "ui/FileViewer.h"
+#include "ui/FolderTreeDropDown.h"
 #include "ui/KeyedToolBar.h"
 #include "ui/MainWindowControls.h"
 #include "ui/PathDisplay.h"
 
+#include <wx/bmpbuttn.h>
 #include <wx/choice.h>
 #include <wx/statbmp.h>
 #include <wx/statbox.h>
@@ -41,6 +44,12 @@ class Placer {
         control->SetSize(row);
     }
 
+    /// As high as its neighbour, which is placed already.
+    void beside(wxWindow* control, const Rectangle& place, const wxWindow& neighbour) const {
+        const auto row = pixels(place);
+        control->SetSize(row.x, neighbour.GetPosition().y, row.width, neighbour.GetSize().y);
+    }
+
     void frame(const PaneFrame& frame, const Rectangle& place) const {
         exactly(frame.panel, place);
         frame.box->SetSize(frame.panel->GetClientSize());
@@ -67,8 +76,10 @@ void placeControls(const MainWindowControls& controls, const WindowLayout& layou
     place.exactly(controls.Picture1, layout.Picture1);
     place.inRow(controls.lblFolder, layout.lblDisp[folderLabel]);
     place.inRow(controls.trvFolderName, layout.trvFolderName);
+    place.beside(controls.Command1, layout.Command1, *controls.trvFolderName);
     place.inRow(controls.tlbPC, layout.tlbPC);
     place.exactly(controls.lsvPC, layout.lsvPC);
+    place.exactly(controls.trvFolderList, layout.trvFolderList);
     place.inRow(controls.lblPCFileType, layout.lblDisp[pcTypeLabel]);
     place.inRow(controls.cmbPCFileType, layout.cmbPCFileType);
 
@@ -80,6 +91,11 @@ void placeControls(const MainWindowControls& controls, const WindowLayout& layou
     place.exactly(controls.lsvCtrl, layout.lsvCtrl);
     place.inRow(controls.lblCtrlFileType, layout.lblDisp[controllerTypeLabel]);
     place.inRow(controls.cmbCtrlFileType, layout.cmbCtrlFileType);
+
+    place.frame(controls.fraFile, layout.fraFile);
+    place.exactly(controls.rtxFileDisp, layout.rtxFileDisp);
+    place.inRow(controls.lblFile, layout.lblDisp[viewerFileLabel]);
+    place.inRow(controls.lblFileName, layout.lblFileName);
 
     place.exactly(controls.pcHighlight, layout.shapePC);
     place.exactly(controls.controllerHighlight, layout.shapeCtrl);

@@ -1,24 +1,24 @@
 #include "ui/PathDisplay.h"
 
-#include "ui/IconSet.h"
+#include "ui/FolderImages.h"
 
 namespace vantrel {
 
 namespace {
-constexpr int iconSize = 16;
-constexpr int driveImage = 0;
-constexpr int openImage = 1;
+// The tree of the GTK port is drawn by the toolkit and has no themed border of its own.
+#ifdef __WXGTK__
+constexpr long fieldBorder = wxBORDER_SIMPLE;
+#else
+constexpr long fieldBorder = wxBORDER_THEME;
+#endif
 } // namespace
 
 PathDisplay::PathDisplay(wxWindow* parent, const wxString& name)
     : wxTreeCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                 wxTR_NO_BUTTONS | wxTR_NO_LINES | wxTR_FULL_ROW_HIGHLIGHT | wxBORDER_THEME,
+                 wxTR_NO_BUTTONS | wxTR_NO_LINES | wxTR_FULL_ROW_HIGHLIGHT | fieldBorder,
                  wxDefaultValidator, name) {
     SetIndent(0);
-    wxVector<wxBitmapBundle> images;
-    images.push_back(icon("drive", wxSize(iconSize, iconSize)));
-    images.push_back(icon("open", wxSize(iconSize, iconSize)));
-    SetImages(images);
+    SetImages(folderImages());
     // One line is all there ever is; scroll bars would cover it.
     ShowScrollbars(wxSHOW_SB_NEVER, wxSHOW_SB_NEVER);
 }
@@ -26,7 +26,7 @@ PathDisplay::PathDisplay(wxWindow* parent, const wxString& name)
 void PathDisplay::showFolder(const wxString& nodeText, std::string_view image,
                              const wxString& fullPath) {
     DeleteAllItems();
-    AddRoot(nodeText, image == "drive" ? driveImage : openImage);
+    AddRoot(nodeText, folderImage(image));
     UnselectAll();
     SetToolTip(fullPath);
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+class wxString;
+class wxWindow;
+
 namespace vantrel {
 
 /// To be called before the toolkit starts: keeps it from loading what this program has no use for.
@@ -8,5 +11,14 @@ void prepareSystem();
 /// Adjusts the system's look for the whole program, once, before the first window: the main window
 /// is laid out for controls as dense as on the PCs that stand beside robots.
 void applySystemLook();
+
+/// Lets a button be as small as its image, where the system would give it a margin.
+void allowNarrow(wxWindow& button);
+
+/// Brings a control that is shown before the siblings that it overlaps.
+void bringToFront(wxWindow& control);
+
+/// What a screen reader calls a control that shows no text of its own.
+void setAccessibleName(wxWindow& control, const wxString& name);
 
 } // namespace vantrel

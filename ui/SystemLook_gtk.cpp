@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include <gtk/gtk.h>
+#include <wx/window.h>
 
 namespace vantrel {
 
@@ -14,6 +15,8 @@ toolbar { padding: 0; }
 toolbar button { padding: 3px; min-height: 16px; min-width: 16px; }
 toolbar separator { margin: 3px 2px; }
 combobox button.combo { padding: 1px 6px; min-height: 20px; }
+button.narrow { padding: 0; min-height: 12px; min-width: 12px; }
+entry { padding: 1px 6px; min-height: 22px; }
 button.text-button { padding: 3px 10px; min-height: 20px; }
 )css";
 
@@ -33,6 +36,27 @@ void applySystemLook() {
                                               GTK_STYLE_PROVIDER(provider),
                                               GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
     g_object_unref(provider);
+}
+
+void allowNarrow(wxWindow& button) {
+    gtk_style_context_add_class(gtk_widget_get_style_context(button.GetHandle()), "narrow");
+}
+
+// A control that scrolls has a window around its own, which the toolkit's Raise() leaves where it
+// is. One that was placed while hidden does not go to its place by itself.
+void bringToFront(wxWindow& control) {
+    auto* const widget = control.GetHandle();
+    if (auto* const window = gtk_widget_get_window(widget))
+        gdk_window_raise(window);
+    const wxRect place = control.GetRect();
+    GtkAllocation allocation{place.x, place.y, place.width, place.height};
+    gtk_widget_get_preferred_size(widget, nullptr, nullptr);
+    gtk_widget_size_allocate(widget, &allocation);
+}
+
+void setAccessibleName(wxWindow& control, const wxString& name) {
+    if (auto* accessible = gtk_widget_get_accessible(control.GetHandle()))
+        atk_object_set_name(accessible, name.utf8_str());
 }
 
 } // namespace vantrel

@@ -12,6 +12,8 @@
 #include "lang/MessageTable.h"
 #include "ui/ChoiceKeys.h"
 #include "ui/FileListControl.h"
+#include "ui/FileViewer.h"
+#include "ui/FolderTreeDropDown.h"
 #include "ui/IconSet.h"
 #include "ui/KeyedToolBar.h"
 #include "ui/MainWindowPlaces.h"
@@ -19,6 +21,8 @@
 #include "ui/PathDisplay.h"
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
+
+#include <utility>
 
 #include <wx/choice.h>
 #include <wx/iconbndl.h>
@@ -102,6 +106,10 @@ void frmZuroVant::bindEvents() {
     bindPane(ActiveSide::PC);
     bindPane(ActiveSide::Controller);
     bindToolBars();
+    controls_.fraFile.panel->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent& event) {
+        controls_.rtxFileDisp->SetFocus();
+        event.Skip();
+    });
     controls_.cmbRbtName->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
         if (onRobotChosen)
             onRobotChosen(event.GetSelection());
@@ -134,7 +142,7 @@ void frmZuroVant::bindPane(ActiveSide side) {
             commands_->openItem(side, std::size_t(row));
     };
     list.onDragBegun = [this, side] { drag_.begin(side); };
-    list.onMenuRequested = [this, side](wxPoint) { menus_.popUp(pane(side)); };
+    list.onMenuRequested = [this, side](wxPoint place) { menus_.popUp(pane(side), place); };
     filter(side).Bind(wxEVT_CHOICE, [this, side](wxCommandEvent&) {
         if (commands_)
             commands_->chooseFilter(side);
@@ -222,6 +230,7 @@ void frmZuroVant::setBusyPointer(bool busy) {
 }
 
 void frmZuroVant::setLocked(bool locked) {
+    controls_.trvFolderList->dropDown(false);
     if (locked)
         guard_.lock();
     else
@@ -239,6 +248,7 @@ void frmZuroVant::yield() {
 
 void frmZuroVant::applyFont() {
     applyCaptionFont(*this, state_);
+    controls_.rtxFileDisp->setFontSize(captionFont(state_).GetPointSize());
 }
 
 void frmZuroVant::applyCaptions() {
@@ -252,6 +262,7 @@ void frmZuroVant::applyCaptions() {
     const std::tuple<wxWindow*, const char*, int> labels[] = {
         {controls.fraPC.box, "fraPC", 0},
         {controls.fraCtrl.box, "fraCtrl", 0},
+        {controls.lblFile, "lblDisp", viewerFileLabel},
         {controls.lblPCFileType, "lblDisp", pcTypeLabel},
         {controls.lblCtrlFileType, "lblDisp", controllerTypeLabel},
         {controls.lblSerial, "lblDisp", serialLabelIndex},
@@ -261,6 +272,9 @@ void frmZuroVant::applyCaptions() {
     for (const auto& [control, name, index] : labels)
         if (const auto message = controlMessage(name, index))
             control->SetLabel(toWx(messages_.getMessage(*message)));
+    // The viewer's frame has no caption of its own: it is named after the command that shows it.
+    controls.fraFile.box->SetLabel(toWx(messages_.getMessage(message::tipDisplayFile)));
+    controls.trvFolderList->setCaption(toWx(messages_.getMessage(message::tipFolderTree)));
     applyColumnTitles();
     lay();
 }
@@ -344,6 +358,7 @@ void frmZuroVant::showStates(const CommandStates& states) {
     for (wxWindow* part :
          {static_cast<wxWindow*>(controls_.tlbMain), static_cast<wxWindow*>(controls_.fraPC.panel),
           static_cast<wxWindow*>(controls_.fraCtrl.panel),
+          static_cast<wxWindow*>(controls_.fraFile.panel),
           static_cast<wxWindow*>(controls_.cmbRbtName)})
         part->Enable(states.unlocked);
 }
@@ -398,6 +413,37 @@ void frmZuroVant::selectAll(ActiveSide side) {
 
 std::optional<FileKind> frmZuroVant::focusedKind() const {
     return pane(ActiveSide::PC).focusedKind();
+}
+
+std::optional<std::size_t> frmZuroVant::focusedRow() const {
+    const long row = pane(ActiveSide::PC).focusedRow();
+    return row < 0 ? std::nullopt : std::optional(std::size_t(row));
+}
+
+void frmZuroVant::showFile(const std::string& name, std::string_view text) {
+    controls_.lblFileName->SetLabelText(toWx(name));
+    controls_.lblFileName->SetToolTip(toWx(name));
+    controls_.rtxFileDisp->showText(text);
+    exchangePanes(true);
+}
+
+void frmZuroVant::hideFile() {
+    exchangePanes(false);
+    controls_.rtxFileDisp->clear();
+}
+
+void frmZuroVant::exchangePanes(bool viewer) {
+    const wxWindowUpdateLocker frozen(controls_.surface);
+    auto* leaving = controls_.fraCtrl.panel;
+    auto* entering = controls_.fraFile.panel;
+    if (!viewer)
+        std::swap(leaving, entering);
+    // A hidden window that has the focus would keep it to itself.
+    if (leaving->IsDescendant(FindFocus()))
+        pane(ActiveSide::PC).focus();
+    leaving->Hide();
+    entering->Show();
+    lay();
 }
 
 void frmZuroVant::closeWindow() {

@@ -2,6 +2,7 @@
 
 #include "app/MainWindowView.h"
 #include "app/RobotRegistry.h"
+#include "app/ViewerPane.h"
 #include "files/PaneWindow.h"
 #include "ui/MainMenus.h"
 #include "ui/MainWindowControls.h"
@@ -22,7 +23,11 @@ class OperationGuard;
 struct WindowPlacement;
 
 /// The main window. It shows what it is told, and hands every event to one command.
-class frmZuroVant : public wxFrame, public PaneWindow, public MainWindowView, public RobotBox {
+class frmZuroVant : public wxFrame,
+                    public PaneWindow,
+                    public MainWindowView,
+                    public RobotBox,
+                    public ViewerPane {
   public:
     frmZuroVant(ApplicationState& state, const MessageTable& messages, OperationGuard& guard);
     ~frmZuroVant() override;
@@ -63,7 +68,11 @@ class frmZuroVant : public wxFrame, public PaneWindow, public MainWindowView, pu
     void showView(ActiveSide side, std::int16_t displayType) override;
     void selectAll(ActiveSide side) override;
     std::optional<FileKind> focusedKind() const override;
+    std::optional<std::size_t> focusedRow() const override;
     void closeWindow() override;
+
+    void showFile(const std::string& name, std::string_view text) override;
+    void hideFile() override;
 
     void clear() override;
     void add(const std::string& name) override;
@@ -83,6 +92,7 @@ class frmZuroVant : public wxFrame, public PaneWindow, public MainWindowView, pu
     void bindEvents();
     void bindPane(ActiveSide side);
     void bindToolBars();
+    void exchangePanes(bool viewer);
     void toolPressed(const std::string& key);
     void chosen(MenuItem item);
     void listKey(wxKeyEvent& event, ActiveSide side);

@@ -1,11 +1,16 @@
 #pragma once
 
 #include "app/CommandStates.h"
+#include "app/FolderTreeView.h"
+#include "app/FilePrinter.h"
 #include "app/MainCommands.h"
 #include "app/MainWindowView.h"
 #include "app/ModeCommands.h"
+#include "app/PCFolder.h"
+#include "app/ViewerPane.h"
 #include "files/CommandFixture.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -36,6 +41,7 @@ class RecordingView : public MainWindowView {
     }
     void selectAll(ActiveSide side) override { selectedAll.push_back(side); }
     std::optional<FileKind> focusedKind() const override { return kind; }
+    std::optional<std::size_t> focusedRow() const override { return row; }
     void closeWindow() override { ++closes; }
 
     std::vector<std::string> log;
@@ -48,7 +54,62 @@ class RecordingView : public MainWindowView {
     int controllerView = -1;
     std::vector<ActiveSide> selectedAll;
     std::optional<FileKind> kind = FileKind::JobFile;
+    std::optional<std::size_t> row;
     int closes = 0;
+};
+
+/// The folder tree without pixels: the texts of its nodes, "+" before those that are opened.
+class RecordingTreeView : public FolderTreeView {
+  public:
+    void showTree(const FolderTree& shown) override {
+        nodes.clear();
+        for (const auto root : shown.roots())
+            keep(shown, root);
+        ++shows;
+    }
+    void dropDown(bool down) override { isDown = down; }
+
+    std::vector<std::string> nodes;
+    bool isDown = false;
+    int shows = 0;
+
+  private:
+    void keep(const FolderTree& shown, FolderTree::Id id) {
+        const auto& node = shown.node(id);
+        nodes.push_back((node.expanded ? "+" : "") + node.text + " " + std::string(node.image));
+        for (const auto child : node.children)
+            keep(shown, child);
+    }
+};
+
+class RecordingViewerPane : public ViewerPane {
+  public:
+    void showFile(const std::string& shownName, std::string_view shownText) override {
+        isShown = true;
+        name = shownName;
+        text = shownText;
+        ++shows;
+    }
+    void hideFile() override { isShown = false; }
+
+    bool isShown = false;
+    std::string name, text;
+    int shows = 0;
+};
+
+/// A printer that prints into memory.
+class RecordingPrinter : public FilePrinter {
+  public:
+    Outcome print(const std::string& name, std::string_view text) override {
+        printed.push_back(name + ":" + std::string(text));
+        if (whilePrinting)
+            whilePrinting();
+        return answer;
+    }
+
+    std::vector<std::string> printed;
+    std::function<void()> whilePrinting;
+    Outcome answer = Done{};
 };
 
 class MainCommandsTest : public CommandFixture {
@@ -59,6 +120,10 @@ class MainCommandsTest : public CommandFixture {
     }
 
     RecordingView view;
+    RecordingViewerPane viewer;
+    RecordingPrinter printer;
+    RecordingTreeView tree;
+    PCFolder folder{state, panes, dialog, view, tree};
     MainServices services{state,
                           session,
                           panes,
@@ -67,10 +132,13 @@ class MainCommandsTest : public CommandFixture {
                           dialog,
                           window,
                           view,
+                          folder,
                           [this](const std::string& path) {
                               edited.push_back(path);
                               return editorAnswer;
-                          }};
+                          },
+                          viewer,
+                          printer};
     std::vector<std::string> edited;
     Outcome editorAnswer = Done{};
     MainCommands main{services};

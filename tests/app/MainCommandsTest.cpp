@@ -226,7 +226,7 @@ TEST_F(MainCommandsTest, RefreshOfThePCShowsNewFilesAndKeepsTheSelection) {
 TEST_F(MainCommandsTest, AFolderThatIsGoneIsToldAndNothingChanges) {
     pcJob("A");
     showPanes();
-    main.openPCFolder(pc.path("missing"));
+    main.openPCFolder(pc.path("missing"), FolderTree());
     EXPECT_THAT(boxes.texts(), ElementsAre("File Get Error!!"));
     EXPECT_EQ(state.PCPath, pc.path());
     EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
@@ -332,7 +332,9 @@ class RobotChoiceTest : public MainCommandsTest, public RobotSelectionWindow {
     bool isLocked() const override { return false; }
     void selectRobot(int) override {}
     void showAddress(const std::string&) override {}
-    void showFolder(const std::string&) override {}
+    bool enterFolder(const std::string& path) override {
+        return folder.enter(path, FolderTree::driveAndFolder(path));
+    }
     void refreshStates() override { main.updateStates(); }
     void refreshActivePane() override { main.refreshActivePane(); }
 

@@ -132,5 +132,21 @@ TEST(VisitNames, GivesTheSameNames) {
               "No such file or directory");
 }
 
+TEST(VisitSubfolders, GivesFoldersAndLinksToFolders) {
+    const TemporaryFolder folder, other;
+    folder.write("file", "");
+    folder.makeFolder("sub");
+    folder.makeFolder(".hidden");
+    std::filesystem::create_symlink(other.path(), folder.path("toFolder"));
+    std::filesystem::create_symlink(folder.path(), folder.path("toItself"));
+    std::filesystem::create_symlink(other.write("file", ""), folder.path("toFile"));
+    std::filesystem::create_symlink("nowhere", folder.path("dangling"));
+    std::set<std::string> names;
+    const auto keep = [&](std::string_view name) { names.emplace(name); };
+    EXPECT_TRUE(visitSubfolders(folder.path(), keep));
+    EXPECT_EQ(names, (std::set<std::string>{"sub", ".hidden", "toFolder", "toItself"}));
+    EXPECT_EQ(visitSubfolders(folder.path("none"), keep).reason(), "No such file or directory");
+}
+
 } // namespace
 } // namespace vantrel

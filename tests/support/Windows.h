@@ -6,6 +6,7 @@
 #include <wx/checkbox.h>
 #include <wx/dialog.h>
 #include <wx/evtloop.h>
+#include <wx/notebook.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/toplevel.h>
@@ -119,7 +120,10 @@ inline std::string cutOffCaptions(wxWindow& window) {
                                 dynamic_cast<wxButton*>(child) || dynamic_cast<wxCheckBox*>(child);
         const auto best = child->GetBestSize(), size = child->GetSize();
         const bool tooSmall = best.x > size.x || best.y > size.y;
-        if ((hasCaption && !shortensItself && tooSmall) || !inside.Contains(child->GetRect()))
+        // A page is placed by its book, in the book's own coordinates.
+        const bool sticksOut =
+            !dynamic_cast<wxNotebook*>(&window) && !inside.Contains(child->GetRect());
+        if ((hasCaption && !shortensItself && tooSmall) || sticksOut)
             complaints += (child->GetName() + ": " + child->GetLabel() + '\n').utf8_string();
         complaints += cutOffCaptions(*child);
     }

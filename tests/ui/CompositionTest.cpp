@@ -1,9 +1,11 @@
 #include "ui/Composition.h"
 
 #include "ProgramWorld.h"
+#include "ui/FolderTreeDropDown.h"
 #include "ui/KeyedToolBar.h"
 #include "ui/PaneDrag.h"
 
+#include <wx/bmpbuttn.h>
 #include <wx/choice.h>
 #include <wx/menu.h>
 #include <wx/statusbr.h>
@@ -53,6 +55,10 @@ class EverythingAtOnce {
             choice->SetSelection(1);
             command(*choice, wxEVT_CHOICE, choice->GetId());
         }
+        command(*controls.Command1, wxEVT_BUTTON, controls.Command1->GetId());
+        wxTreeEvent opening(wxEVT_TREE_ITEM_EXPANDING, controls.trvFolderList);
+        controls.trvFolderList->HandleWindowEvent(opening);
+        key(*controls.trvFolderList, wxEVT_KEY_DOWN, WXK_RETURN);
         key(world_.window(), wxEVT_CHAR_HOOK, WXK_F1);
         key(world_.window(), wxEVT_CHAR_HOOK, WXK_F5);
         for (auto* part : {controls.fraPC.panel, controls.fraCtrl.panel})
@@ -139,6 +145,7 @@ TEST_F(CompositionTest, NothingThatTheOperatorDoesDuringATransferIsBegun) {
     EXPECT_TRUE(world.controls().pcHighlight->IsShown());
     EXPECT_TRUE(world.window().GetTitle().Contains("BSC")) << world.window().GetTitle();
     EXPECT_FALSE(onPC("OLD.JBI"));
+    EXPECT_FALSE(world.controls().trvFolderList->IsShown());
 }
 
 TEST_F(CompositionTest, TheSameIsTakenWhenNothingRuns) {

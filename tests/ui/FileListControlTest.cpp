@@ -70,6 +70,7 @@ TEST_P(FileListControlTest, ShowsWhatChangedBetweenTwoFillsOfTheSameLength) {
     world.fill({"A.JBI", "B.JBI"});
     list.show(world.rows);
     wxListItem first;
+    first.SetId(0);
     first.SetMask(wxLIST_MASK_IMAGE);
     if (list.native().GetItem(first) && GetParam() != ListView::Details) {
         constexpr int jobImage = 1;
@@ -103,6 +104,30 @@ TEST_P(FileListControlTest, APressActivatesThePaneThatHasTheFocusAlready) {
         part->HandleWindowEvent(event);
     }
     EXPECT_GE(activated, 2);
+}
+
+TEST_P(FileListControlTest, ARightPressSelectsTheItemUnderThePointerBeforeItsMenu) {
+    std::vector<std::size_t> selected;
+    list.onMenuRequested = [&](wxPoint) { selected = list.selectedRows(); };
+    wxRect item;
+    ASSERT_TRUE(list.native().GetItemRect(2, item, wxLIST_RECT_LABEL));
+    wxUIActionSimulator mouse;
+    mouse.MouseMove(list.native().ClientToScreen(item.GetPosition() + item.GetSize() / 2));
+    runEvents();
+    mouse.MouseClick(wxMOUSE_BTN_RIGHT);
+    EXPECT_TRUE(waitFor([&] { return !selected.empty(); }));
+    EXPECT_THAT(selected, ElementsAre(2u));
+}
+
+TEST_P(FileListControlTest, TheMenuKeyAsksForTheMenuAtTheFocusedItem) {
+    wxPoint place;
+    list.onMenuRequested = [&](wxPoint asked) { place = asked; };
+    list.select({1});
+    wxContextMenuEvent key(wxEVT_CONTEXT_MENU, list.native().GetId(), wxDefaultPosition);
+    list.native().HandleWindowEvent(key);
+    wxRect item;
+    ASSERT_TRUE(list.native().GetItemRect(1, item, wxLIST_RECT_LABEL));
+    EXPECT_EQ(place, list.native().ClientToScreen(item.GetBottomLeft()));
 }
 
 TEST_P(FileListControlTest, TellsOfManyChangesOnce) {

@@ -11,6 +11,7 @@
 #include "ui/OperationGuard.h"
 #include "ui/PathDisplay.h"
 
+#include <wx/bmpbuttn.h>
 #include <wx/choice.h>
 #include <wx/menu.h>
 #include <wx/statbox.h>
@@ -62,6 +63,7 @@ TEST_P(MainWindowTest, EveryCaptionHasAText) {
                       controls.tlbCtrlButton})
         for (const auto& key : bar->keys())
             EXPECT_FALSE(bar->toolTip(key).empty()) << key;
+    EXPECT_FALSE(controls.Command1->GetToolTipText().empty());
     for (wxWindow* label :
          {static_cast<wxWindow*>(controls.fraPC.box), static_cast<wxWindow*>(controls.fraCtrl.box),
           static_cast<wxWindow*>(controls.lblPCFileType),
@@ -86,7 +88,8 @@ TEST_P(MainWindowTest, NothingOverlapsInItsPane) {
                     << left->GetName() << " and " << right->GetName();
         }
     };
-    expectApart({controls.tlbPCButton, controls.lblFolder, controls.trvFolderName, controls.tlbPC,
+    expectApart({controls.tlbPCButton, controls.lblFolder, controls.trvFolderName,
+                 controls.Command1, controls.tlbPC,
                  controls.lsvPC, controls.cmbPCFileType, controls.lblPCFileType});
     expectApart({controls.tlbCtrlButton, controls.tlbFile, controls.lsvCtrl,
                  controls.cmbCtrlFileType, controls.lblCtrlFileType});

@@ -6,11 +6,16 @@ set(DIALOG_SOURCES
     dialogs/DialogKeys.cpp
     dialogs/DialogParent.cpp
     dialogs/DialogSize.cpp
+    dialogs/FileNameList.cpp
     dialogs/FirstPaint.cpp
+    dialogs/FolderChoicePanel.cpp
     dialogs/FrmMessage.cpp
     dialogs/IconSet.cpp
     dialogs/LanguageDraft.cpp
     dialogs/ListFileDraft.cpp
+    dialogs/SettingOptionPage.cpp
+    dialogs/SettingPortPage.cpp
+    dialogs/SettingRobotPage.cpp
     dialogs/VersionText.cpp
     dialogs/WindowFont.cpp
     dialogs/WrappedText.cpp
@@ -20,6 +25,7 @@ set(DIALOG_SOURCES
     dialogs/frmListFile.cpp
     dialogs/frmMsgStat.cpp
     dialogs/frmMsgYesNo.cpp
+    dialogs/frmSetting.cpp
     dialogs/frmVers.cpp)
 
 # The version stands in one place, the project's own line in the top CMake file.

@@ -1,0 +1,30 @@
+#include "app/PCFolder.h"
+
+#include "app/FolderTreeView.h"
+#include "app/MainWindowView.h"
+#include "base/ApplicationState.h"
+#include "files/PaneErrors.h"
+#include "files/Panes.h"
+#include "link/OperatorDialog.h"
+
+#include <utility>
+
+namespace vantrel {
+
+bool PCFolder::enter(const std::string& folder, FolderTree tree) {
+    if (!panes_.scanPC(folder))
+        return false;
+    window_.showFolder(state_.PCPath);
+    treeView_.dropDown(false);
+    showTree(std::move(tree));
+    if (!panes_.fill(ActiveSide::PC))
+        dialog_.tell(listNotShown, BoxIcon::Exclamation);
+    return true;
+}
+
+void PCFolder::showTree(FolderTree tree) {
+    tree_ = std::move(tree);
+    treeView_.showTree(tree_);
+}
+
+} // namespace vantrel

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "files/FolderTree.h"
+
+#include <string>
+
+namespace vantrel {
+
+class FolderTreeView;
+class MainWindowView;
+class OperatorDialog;
+class Panes;
+struct ApplicationState;
+
+/// The one place where the PC pane goes to another folder, whoever asked for it: list, status,
+/// path display and folder tree always show the same one.
+class PCFolder {
+  public:
+    PCFolder(ApplicationState& state, Panes& panes, OperatorDialog& dialog, MainWindowView& window,
+             FolderTreeView& treeView)
+        : state_(state), panes_(panes), dialog_(dialog), window_(window), treeView_(treeView) {}
+
+    /// Lists the folder and shows it everywhere, with `tree` in place of the old folder tree, which
+    /// is hidden. False, untold and with everything as it was, when the folder cannot be opened.
+    bool enter(const std::string& folder, FolderTree tree);
+
+    /// What the folder tree shows now.
+    FolderTree& tree() { return tree_; }
+    /// Shows another tree for the same folder.
+    void showTree(FolderTree tree);
+
+  private:
+    ApplicationState& state_;
+    Panes& panes_;
+    OperatorDialog& dialog_;
+    MainWindowView& window_;
+    FolderTreeView& treeView_;
+    FolderTree tree_;
+};
+
+} // namespace vantrel

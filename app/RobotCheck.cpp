@@ -1,0 +1,117 @@
+#include "app/RobotCheck.h"
+
+#include "app/RegistryTokens.h"
+#include "app/RobotAddress.h"
+#include "app/RobotFileWriter.h"
+#include "app/RobotListDraft.h"
+#include "base/Text.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/ShownText.h"
+#include "platform/TextCase.h"
+
+#include <algorithm>
+#include <string_view>
+#include <unordered_map>
+
+namespace vantrel {
+namespace {
+
+using Kind = RobotFault::Kind;
+
+bool isControl(char character) {
+    return static_cast<unsigned char>(character) < 0x20 || character == 0x7F;
+}
+
+/// Both readers of the registry have to give a name back as it was typed. Quotation marks are
+/// refused anywhere: whether one of them is stripped depends on the other end of the name.
+bool isStorableName(std::string_view name) {
+    return name == writableName(name) && name.find('"') == name.npos && !name.starts_with('\'') &&
+           !name.ends_with('\'') && std::ranges::none_of(name, isControl);
+}
+
+/// How often each name stands in the list, without regard to letter case.
+class NameCount {
+  public:
+    explicit NameCount(std::span<const RobotEntry> robots) {
+        for (const RobotEntry& entry : robots)
+            ++times_[upperCase_.of(entry.robot.Name)];
+    }
+    bool isTaken(const std::string& name) { return times_[upperCase_.of(name)] > 1; }
+
+  private:
+    UpperCaseMapping upperCase_;
+    std::unordered_map<std::string, int> times_;
+};
+
+std::optional<Kind> nameFault(const std::string& name, NameCount& names) {
+    if (trimmed(name).empty())
+        return Kind::NoName;
+    if (!isStorableName(name))
+        return Kind::NameRefused;
+    if (names.isTaken(name))
+        return Kind::NameTaken;
+    return std::nullopt;
+}
+
+std::optional<std::size_t> refusedAddressPart(const RobotRecord& robot) {
+    if (hasEmptyAddress(robot))
+        return std::nullopt;
+    const auto refused = std::ranges::find_if_not(
+        addressParts, [&robot](auto part) { return isAddressPart(robot.*part); });
+    if (refused == addressParts.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(refused - addressParts.begin());
+}
+
+bool isFolderRefused(const RobotEntry& entry) {
+    return entry.robot.Path != entry.stored.Path &&
+           entry.robot.Path.find_first_of(registryDelimiters) != std::string::npos;
+}
+
+std::optional<RobotFault> faultOf(const RobotEntry& entry, std::size_t place, NameCount& names) {
+    if (const auto kind = nameFault(entry.robot.Name, names))
+        return RobotFault{*kind, place};
+    if (const auto part = refusedAddressPart(entry.robot))
+        return RobotFault{Kind::AddressRefused, place, *part};
+    if (isFolderRefused(entry))
+        return RobotFault{Kind::FolderRefused, place};
+    return std::nullopt;
+}
+
+std::int32_t messageOf(Kind kind) {
+    switch (kind) {
+    case Kind::NoName:
+        break;
+    case Kind::NameTaken:
+        return message::robotNameTaken;
+    case Kind::NameRefused:
+        return message::robotNameRefused;
+    case Kind::AddressRefused:
+        return message::robotAddressRefused;
+    case Kind::FolderRefused:
+        return message::robotFolderRefused;
+    }
+    return message::robotWithoutName;
+}
+
+} // namespace
+
+std::optional<RobotFault> findRobotFault(std::span<const RobotEntry> robots) {
+    NameCount names(robots);
+    for (std::size_t place = 0; place < robots.size(); ++place)
+        if (robots[place].isChanged())
+            if (const auto fault = faultOf(robots[place], place, names))
+                return fault;
+    return std::nullopt;
+}
+
+std::string faultText(const RobotFault& fault, std::span<const RobotEntry> robots,
+                      const MessageTable& messages) {
+    const std::string text = messages.getMessage(messageOf(fault.kind));
+    if (fault.kind == Kind::NoName)
+        return text;
+    return "[" + shownText(robots[fault.robot].robot.Name) + "]" + text;
+}
+
+} // namespace vantrel

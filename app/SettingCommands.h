@@ -1,0 +1,48 @@
+#pragma once
+
+namespace vantrel {
+
+class MainCommands;
+class MainWindowView;
+class Panes;
+class RobotBox;
+class RobotRegistry;
+class RobotSelection;
+class SettingDraft;
+class Snappy;
+struct ApplicationState;
+struct SettingValues;
+
+/// What applied settings reach; everything is borrowed and outlives it.
+struct SettingServices {
+    ApplicationState& state;
+    Snappy& session;
+    Panes& panes;
+    RobotRegistry& registry;
+    RobotBox& box;
+    RobotSelection& robots;
+    MainWindowView& view;
+    MainCommands& main;
+};
+
+/// What the settings dialog changes in the program. Nothing is written to a disk and no connection
+/// is made.
+class SettingCommands {
+  public:
+    explicit SettingCommands(const SettingServices& services) : with_(services) {}
+
+    /// OK or apply, on a draft without a fault: its values become the program's, then the
+    /// session's; a controller pane that now belongs to another machine is emptied.
+    void apply(SettingDraft& draft);
+    /// After the dialog was closed, whichever way: everything that shows a setting.
+    void showSettings();
+
+  private:
+    void takeOptions(const SettingValues& values);
+    void takeRobots(SettingValues&& values);
+    void rebuildPanes();
+
+    SettingServices with_;
+};
+
+} // namespace vantrel

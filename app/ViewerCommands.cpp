@@ -1,0 +1,88 @@
+#include "app/ViewerCommands.h"
+
+#include "app/FilePrinter.h"
+#include "app/MainWindowView.h"
+#include "app/ViewerPane.h"
+#include "base/ApplicationState.h"
+#include "base/PathRules.h"
+#include "files/BusyPointer.h"
+#include "files/CommandScopes.h"
+#include "files/Panes.h"
+#include "files/ViewerText.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/OperatorDialog.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vantrel {
+
+void ViewerCommands::showOrHide() {
+    if (with_.state.ViewerShown)
+        hide();
+    else if (const auto name = selectedJobFile())
+        show(*name);
+}
+
+void ViewerCommands::show(const std::string& name) {
+    Result<std::string> text = Failure{};
+    {
+        const BusyPointer busy(with_.window);
+        text = readViewerText(PathRules().join(with_.state.PCPath, name), with_.state.Headder);
+        if (text) {
+            name_ = name;
+            text_ = std::move(*text);
+            with_.viewerPane.showFile(name_, text_);
+        }
+    }
+    with_.state.ViewerShown = bool(text);
+    if (!text)
+        tell(message::viewerFailed, name, text.reason());
+}
+
+void ViewerCommands::hide() {
+    with_.viewerPane.hideFile();
+    with_.state.ViewerShown = false;
+    text_ = std::string(); // it may be large
+}
+
+void ViewerCommands::print() {
+    if (!with_.state.ViewerShown)
+        return with_.dialog.tell(with_.messages.getMessage(message::nothingToPrint),
+                                 BoxIcon::Exclamation);
+    const auto question = with_.messages.getMessage(message::askPrint) + "[" + name_ + "]";
+    if (!with_.dialog.askYesNo(question, BoxIcon::Question))
+        return;
+    Outcome printed = Done{};
+    {
+        // The system's print dialog and its work let events run, and the text is borrowed
+        // meanwhile.
+        const WindowLock lock(with_.window);
+        printed = with_.printer.print(name_, text_);
+    }
+    if (!printed)
+        tell(message::printFailed, name_, printed.reason());
+}
+
+/// The item with the focus, as long as it is selected, else the first selected one.
+std::optional<std::string> ViewerCommands::selectedJobFile() const {
+    const auto selected = with_.window.list(ActiveSide::PC).selectedRows();
+    if (selected.empty())
+        return std::nullopt;
+    const auto focused = with_.view.focusedRow();
+    const bool isSelected = focused && std::ranges::find(selected, *focused) != selected.end();
+    const auto row = isSelected ? *focused : selected.front();
+    const auto& rows = std::as_const(with_.panes).rows(ActiveSide::PC);
+    if (row >= rows.size() || rows.kind(row) != FileKind::JobFile)
+        return std::nullopt;
+    return rows.name(row);
+}
+
+void ViewerCommands::tell(std::int32_t messageNumber, const std::string& name,
+                          const std::string& reason) const {
+    with_.dialog.tell(with_.messages.getMessage(messageNumber) + "[" + name + "]\n" + reason,
+                      BoxIcon::Exclamation);
+}
+
+} // namespace vantrel

@@ -1,0 +1,79 @@
+#include "files/ViewerText.h"
+
+#include "base/Text.h"
+#include "platform/Files.h"
+#include "platform/TextEncoding.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vantrel {
+namespace {
+
+constexpr std::string_view replacement = "\xEF\xBF\xBD";
+constexpr std::string_view lineEnd = "\r\n";
+
+/// Control characters of both sets, line separators, and the marks that turn the direction of the
+/// text after them: with those a job could read on the screen otherwise than a controller reads it.
+bool isUnshowable(unsigned codePoint) {
+    return (codePoint < 0x20 && codePoint != '\t') || (codePoint >= 0x7F && codePoint < 0xA0) ||
+           codePoint == 0x200E || codePoint == 0x200F ||
+           (codePoint >= 0x2028 && codePoint <= 0x202E) ||
+           (codePoint >= 0x2066 && codePoint <= 0x2069);
+}
+
+/// Whether an unshowable character may begin with this byte of UTF-8.
+bool isSuspect(char byte) {
+    const auto value = static_cast<unsigned char>(byte);
+    return (value < 0x20 && value != '\t') || value == 0x7F || value == 0xC2 || value == 0xE2;
+}
+
+/// The first character, which is a suspect one, and its length in bytes.
+std::pair<unsigned, std::size_t> firstSuspect(std::string_view text) {
+    const auto at = [text](std::size_t index) {
+        return index < text.size() ? static_cast<unsigned char>(text[index]) : 0u;
+    };
+    const auto tail = [&at](std::size_t index) { return at(index) & 0x3Fu; };
+    if (at(0) == 0xC2)
+        return {0x80u | tail(1), std::min<std::size_t>(2, text.size())};
+    if (at(0) == 0xE2)
+        return {0x2000u | (tail(1) << 6u) | tail(2), std::min<std::size_t>(3, text.size())};
+    return {at(0), 1};
+}
+
+void appendShowable(std::string& kept, std::string_view line) {
+    while (!line.empty()) {
+        const auto suspect = std::ranges::find_if(line, isSuspect);
+        kept.append(line.begin(), suspect);
+        line.remove_prefix(std::size_t(suspect - line.begin()));
+        if (line.empty())
+            return;
+        const auto [codePoint, length] = firstSuspect(line);
+        kept.append(isUnshowable(codePoint) ? replacement : line.substr(0, length));
+        line.remove_prefix(length);
+    }
+}
+
+} // namespace
+
+std::string viewerText(std::string_view text, bool Headder) {
+    std::string kept;
+    kept.reserve(text.size() + text.size() / 16);
+    while (!text.empty()) {
+        const auto line = takeLine(text);
+        if (line.starts_with('/') && !Headder)
+            continue;
+        appendShowable(kept, line);
+        kept.append(lineEnd);
+    }
+    return kept;
+}
+
+Result<std::string> readViewerText(const std::string& path, bool Headder) {
+    const auto bytes = readFile(path);
+    if (!bytes)
+        return Failure{bytes.reason()};
+    return viewerText(decodeText(*bytes).text, Headder);
+}
+
+} // namespace vantrel

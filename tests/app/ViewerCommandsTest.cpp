@@ -1,0 +1,205 @@
+#include "app/ViewerCommands.h"
+
+#include "MainCommandsFixture.h"
+
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+namespace vantrel::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+/// A PC folder with a job, a data file, a plain file and a folder, all with their rows shown.
+class ViewerCommandsTest : public MainCommandsTest {
+  protected:
+    ViewerCommandsTest() {
+        pc.write("A.JBI", "/JOB\r\nNOP\n");
+        pc.write("B.DAT", "1,2\r3");
+        pc.write("C.TXT", "text");
+        pc.makeFolder("JBI");
+        showPanes();
+        window.pc.click({"A.JBI"});
+    }
+
+    void press() { main.tool("FileDisp"); }
+
+    static constexpr std::size_t rowOfFolder = 0, rowOfJob = 1, rowOfData = 2;
+};
+
+TEST_F(ViewerCommandsTest, ShowsTheSelectedJobFileWithoutItsHeader) {
+    press();
+    EXPECT_TRUE(viewer.isShown);
+    EXPECT_EQ(viewer.name, "A.JBI");
+    EXPECT_EQ(viewer.text, "NOP\r\n");
+    EXPECT_TRUE(state.ViewerShown);
+    EXPECT_TRUE(view.states.button("FileDisp").checked);
+    EXPECT_TRUE(view.states.mnuFile[filePrint].enabled);
+    EXPECT_EQ(window.deepestBusy, 1);
+    EXPECT_EQ(window.busyDepth, 0);
+}
+
+TEST_F(ViewerCommandsTest, ShowsHeaderLinesWhenTheSettingAsksForThem) {
+    state.Headder = true;
+    main.menu({Menu::mnuFile, fileDisplay});
+    EXPECT_EQ(viewer.text, "/JOB\r\nNOP\r\n");
+}
+
+TEST_F(ViewerCommandsTest, AFileOfHeaderLinesOnlyIsEmptyWithoutThem) {
+    pc.write("A.JBI", "/JOB\r\n//NAME A\r\n");
+    press();
+    EXPECT_TRUE(viewer.isShown);
+    EXPECT_EQ(viewer.text, "");
+    press();
+    state.Headder = true;
+    press();
+    EXPECT_EQ(viewer.text, "/JOB\r\n//NAME A\r\n");
+}
+
+TEST_F(ViewerCommandsTest, ASecondPressReturnsToTheControllerWithoutReading) {
+    press();
+    pc.write("A.JBI", "changed");
+    window.pc.click({"B.DAT"});
+    press();
+    EXPECT_FALSE(viewer.isShown);
+    EXPECT_EQ(viewer.shows, 1);
+    EXPECT_FALSE(state.ViewerShown);
+    EXPECT_FALSE(view.states.button("FileDisp").checked);
+    EXPECT_FALSE(view.states.mnuFile[filePrint].enabled);
+    EXPECT_TRUE(view.states.tlbCtrlButton.state.enabled);
+}
+
+TEST_F(ViewerCommandsTest, AnotherSettingOfTheHeaderReloadsNothing) {
+    press();
+    state.Headder = true;
+    main.updateStates();
+    EXPECT_EQ(viewer.shows, 1);
+    EXPECT_EQ(viewer.text, "NOP\r\n");
+}
+
+TEST_F(ViewerCommandsTest, AFolderOrPlainFileOrNothingSelectedChangesNothing) {
+    for (const auto& name : {"JBI", "C.TXT", "no such row"}) {
+        window.pc.click({name});
+        press();
+        EXPECT_FALSE(viewer.isShown) << name;
+        EXPECT_FALSE(state.ViewerShown) << name;
+        EXPECT_FALSE(view.states.button("FileDisp").checked) << name;
+    }
+    EXPECT_EQ(viewer.shows, 0);
+    EXPECT_THAT(boxes.texts(), IsEmpty());
+}
+
+TEST_F(ViewerCommandsTest, EveryJobKindIsShown) {
+    window.pc.click({"B.DAT"});
+    press();
+    EXPECT_EQ(viewer.text, "1,2\r\n3\r\n");
+}
+
+TEST_F(ViewerCommandsTest, OfSeveralTheOneWithTheFocusIsShown) {
+    window.pc.click({"A.JBI", "B.DAT"});
+    view.row = rowOfData;
+    press();
+    EXPECT_EQ(viewer.name, "B.DAT");
+}
+
+TEST_F(ViewerCommandsTest, AFocusOutsideTheSelectionDoesNotCount) {
+    view.row = rowOfData;
+    press();
+    EXPECT_EQ(viewer.name, "A.JBI");
+}
+
+TEST_F(ViewerCommandsTest, LooksAtThePCListWhicheverPaneIsActiveAndActivatesIt) {
+    robotJob("Z");
+    panes.readController();
+    panes.fill(ActiveSide::Controller);
+    window.controller.click({"Z.JBI"});
+    main.activate(ActiveSide::Controller);
+    main.menu({Menu::mnuFile, fileDisplay});
+    EXPECT_EQ(viewer.name, "A.JBI");
+    EXPECT_EQ(state.Active, ActiveSide::PC);
+    EXPECT_EQ(view.active, ActiveSide::PC);
+}
+
+TEST_F(ViewerCommandsTest, TheControllerPaneCannotBecomeActiveUnderTheViewer) {
+    press();
+    main.activate(ActiveSide::Controller);
+    EXPECT_EQ(state.Active, ActiveSide::PC);
+    press();
+    main.activate(ActiveSide::Controller);
+    EXPECT_EQ(state.Active, ActiveSide::Controller);
+}
+
+TEST_F(ViewerCommandsTest, AFileThatCannotBeOpenedIsToldAndThePaneStays) {
+    std::filesystem::remove(pc.path("A.JBI"));
+    press();
+    ASSERT_EQ(boxes.shown.size(), 1u);
+    EXPECT_THAT(boxes.shown[0].text, StartsWith("not displayed [A.JBI]\n"));
+    EXPECT_GT(boxes.shown[0].text.size(), std::string("not displayed [A.JBI]\n").size());
+    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Exclamation);
+    EXPECT_FALSE(viewer.isShown);
+    EXPECT_FALSE(state.ViewerShown);
+    EXPECT_FALSE(view.states.button("FileDisp").checked);
+    EXPECT_EQ(window.busyDepth, 0);
+}
+
+TEST_F(ViewerCommandsTest, APathIsJoinedWithOneSeparator) {
+    state.PCPath = pc.path() + "/";
+    press();
+    EXPECT_EQ(viewer.text, "NOP\r\n");
+}
+
+TEST_F(ViewerCommandsTest, PrintingAsksFirstAndPrintsWhatIsDisplayed) {
+    press();
+    pc.write("A.JBI", "changed");
+    state.Headder = true;
+    window.pc.click({"B.DAT"});
+    boxes.answers = {true};
+    main.tool("Print");
+    ASSERT_EQ(boxes.shown.size(), 1u);
+    EXPECT_EQ(boxes.shown[0], (FakeMessageBoxes::Box{FakeMessageBoxes::Kind::YesNo,
+                                                     "print? [A.JBI]", BoxIcon::Question}));
+    EXPECT_THAT(printer.printed, ElementsAre("A.JBI:NOP\r\n"));
+}
+
+TEST_F(ViewerCommandsTest, ABoxThatIsClosedPrintsNothing) {
+    press();
+    main.menu({Menu::mnuFile, filePrint});
+    EXPECT_EQ(boxes.shown.size(), 1u);
+    EXPECT_THAT(printer.printed, IsEmpty());
+}
+
+TEST_F(ViewerCommandsTest, WithoutADisplayedFileThereIsNothingToPrint) {
+    boxes.answers = {true, true};
+    main.menu({Menu::mnuFile, filePrint});
+    press();
+    press();
+    main.tool("Print");
+    EXPECT_THAT(boxes.texts(), ElementsAre("nothing to print", "nothing to print"));
+    EXPECT_THAT(printer.printed, IsEmpty());
+}
+
+TEST_F(ViewerCommandsTest, TheWindowIsLockedWhileThePrinterWorks) {
+    press();
+    boxes.answers = {true};
+    int depth = 0;
+    printer.whilePrinting = [&] { depth = window.lockDepth; };
+    main.tool("Print");
+    EXPECT_EQ(depth, 1);
+    EXPECT_EQ(window.lockDepth, 0);
+}
+
+TEST_F(ViewerCommandsTest, AFailedPrintIsToldOnceTheWindowIsFree) {
+    press();
+    boxes.answers = {true};
+    printer.answer = Failure{"no paper"};
+    main.tool("Print");
+    EXPECT_THAT(boxes.texts(), ElementsAre("print? [A.JBI]", "not printed [A.JBI]\nno paper"));
+    EXPECT_TRUE(state.ViewerShown);
+    expectLeftInOrder();
+}
+
+} // namespace
+} // namespace vantrel::tests

@@ -1,0 +1,37 @@
+#include "files/Subfolders.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+
+namespace vantrel::tests {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(Subfolders, ComeInTheOrderOfTheirNamesWithoutRegardToCase) {
+    const TemporaryFolder folder;
+    for (const char* name : {"b", "A", "C", ".hidden", "\u00E4", "\u00C4b", "B"})
+        folder.makeFolder(name);
+    folder.write("file.JBI", "");
+    EXPECT_THAT(subfolders(folder.path()),
+                ElementsAre(".hidden", "A", "B", "b", "C", "\u00E4", "\u00C4b"));
+}
+
+TEST(Subfolders, OfAFolderThatCannotBeReadAreNone) {
+    const TemporaryFolder folder;
+    EXPECT_THAT(subfolders(folder.path("gone")), IsEmpty());
+    EXPECT_THAT(subfolders(folder.write("file", "")), IsEmpty());
+    EXPECT_THAT(subfolders(""), IsEmpty());
+}
+
+TEST(Subfolders, OfALinkThatLeadsBackAreReadOneLevelAtATime) {
+    const TemporaryFolder folder;
+    folder.makeFolder("a");
+    std::filesystem::create_symlink(folder.path(), folder.path("loop"));
+    EXPECT_THAT(subfolders(folder.path("loop")), ElementsAre("a", "loop"));
+}
+
+} // namespace
+} // namespace vantrel::tests

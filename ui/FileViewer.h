@@ -1,0 +1,34 @@
+#pragma once
+
+#include "app/TextSlices.h"
+
+#include <string_view>
+
+#include <wx/textctrl.h>
+
+namespace vantrel {
+
+/// `rtxFileDisp`: shows a text of any size, read-only. The first part is there at once; the rest is
+/// appended whenever the program has nothing else to do, so that a file of 50 MB does not keep the
+/// operator waiting. Of the keys only the arrows reach the text; copying is on its context menu.
+class FileViewer : public wxTextCtrl {
+  public:
+    FileViewer(wxWindow* parent, const wxString& name);
+
+    /// Replaces what is shown, and whatever of it is still to be appended. The text, UTF-8, is
+    /// borrowed until the next call of this or of `clear`.
+    void showText(std::string_view text);
+    void clear();
+    /// Whether everything has been appended.
+    bool isWhole() const { return rest_.isDone(); }
+    /// A fixed-pitch font of this size in points.
+    void setFontSize(int points);
+
+  private:
+    void appendNext(wxIdleEvent& event);
+    void keyPressed(wxKeyEvent& event);
+
+    TextSlices rest_;
+};
+
+} // namespace vantrel

@@ -1,0 +1,186 @@
+#include "ui/dialogs/FolderChoicePanel.h"
+
+#include "link/ShownText.h"
+#include "ui/FolderImages.h"
+#include "ui/SystemLook.h"
+#include "ui/dialogs/FileNameList.h"
+#include "ui/dialogs/WxText.h"
+
+#include <utility>
+
+#include <wx/choice.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+#include <wx/treectrl.h>
+#include <wx/utils.h>
+
+namespace vantrel {
+namespace {
+
+/// Device-independent pixels.
+constexpr int treeWidth = 200;
+constexpr int fileListWidth = 150;
+constexpr int listHeight = 150;
+
+class NodeData : public wxTreeItemData {
+  public:
+    explicit NodeData(FolderTree::Id node) : id(node) {}
+    const FolderTree::Id id;
+};
+
+FolderTree::Id idOf(const wxTreeCtrl& tree, const wxTreeItemId& item) {
+    const auto* data = item.IsOk() ? dynamic_cast<NodeData*>(tree.GetItemData(item)) : nullptr;
+    return data ? data->id : FolderTree::none;
+}
+
+} // namespace
+
+FolderChoicePanel::FolderChoicePanel(wxWindow* parent, FolderSources sources,
+                                     const std::string& caption)
+    : wxPanel(parent, wxID_ANY), choice_(std::move(sources)) {
+    SetSizer(buildControls(caption));
+    bindEvents();
+}
+
+wxSizer* FolderChoicePanel::buildControls(const std::string& caption) {
+    wxArrayString drives;
+    for (const Drive& drive : choice_.drives())
+        drives.Add(toWx(shownText(drive.text)));
+    lblDirName_ = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                                   wxST_ELLIPSIZE_MIDDLE | wxST_NO_AUTORESIZE, "lblDirName");
+    lblDirName_->SetMinSize(FromDIP(wxSize(treeWidth, -1)));
+    Drive1_ = new wxChoice(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(treeWidth, -1)),
+                           drives, 0, wxDefaultValidator, "Drive1");
+    Dir1_ = new wxTreeCtrl(this, wxID_ANY, wxDefaultPosition,
+                           FromDIP(wxSize(treeWidth, listHeight)),
+                           wxTR_HAS_BUTTONS | wxTR_LINES_AT_ROOT | wxTR_NO_LINES | wxTR_HIDE_ROOT |
+                               wxTR_SINGLE | wxTR_FULL_ROW_HIGHLIGHT | wxBORDER_THEME,
+                           wxDefaultValidator, "Dir1");
+    Dir1_->SetImages(folderImages());
+    File1_ = new FileNameList(this, "File1");
+    File1_->SetMinSize(FromDIP(wxSize(fileListWidth, listHeight)));
+    for (wxWindow* const control : {static_cast<wxWindow*>(Drive1_),
+                                    static_cast<wxWindow*>(Dir1_),
+                                    static_cast<wxWindow*>(File1_)})
+        setAccessibleName(*control, toWx(caption));
+
+    auto* const lists = new wxBoxSizer(wxHORIZONTAL);
+    lists->Add(Dir1_, wxSizerFlags(4).Expand());
+    lists->Add(File1_, wxSizerFlags(3).Expand().Border(wxLEFT, FromDIP(6)));
+    auto* const column = new wxBoxSizer(wxVERTICAL);
+    column->Add(lblDirName_, wxSizerFlags().Expand());
+    column->Add(Drive1_, wxSizerFlags().Expand().Border(wxTOP, FromDIP(4)));
+    column->Add(lists, wxSizerFlags(1).Expand().Border(wxTOP, FromDIP(4)));
+    return column;
+}
+
+void FolderChoicePanel::bindEvents() {
+    Drive1_->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
+        const wxBusyCursor busy;
+        choice_.chooseDrive(std::size_t(event.GetSelection()));
+        rebuildTree();
+        chosen();
+    });
+    Dir1_->Bind(wxEVT_TREE_ITEM_EXPANDING, &FolderChoicePanel::expanding, this);
+    Dir1_->Bind(wxEVT_TREE_SEL_CHANGED, [this](wxTreeEvent& event) {
+        const auto node = idOf(*Dir1_, event.GetItem());
+        if (filling_ || node == FolderTree::none)
+            return;
+        const wxBusyCursor busy;
+        choice_.choose(node);
+        chosen();
+    });
+    // A tree that has no size yet cannot scroll.
+    Dir1_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        showSelection();
+    });
+    // Enter opens and closes a folder here; the dialog's button is not meant.
+    Dir1_->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+        const int key = event.GetKeyCode();
+        const auto item = Dir1_->GetSelection();
+        if ((key != WXK_RETURN && key != WXK_NUMPAD_ENTER) || !item.IsOk())
+            event.Skip();
+        else if (Dir1_->ItemHasChildren(item))
+            Dir1_->Toggle(item);
+    });
+}
+
+void FolderChoicePanel::show(const std::string& folder) {
+    if (folder == choice_.folder() && Dir1_->GetCount() > 0)
+        return;
+    choice_.show(folder);
+    rebuildTree();
+    refresh();
+}
+
+void FolderChoicePanel::focusDrives() {
+    Drive1_->SetFocus();
+}
+
+void FolderChoicePanel::focusFolders() {
+    Dir1_->SetFocus();
+}
+
+void FolderChoicePanel::rebuildTree() {
+    filling_ = true;
+    Dir1_->DeleteAllItems();
+    addNodes(Dir1_->AddRoot(wxString()), choice_.tree().roots());
+    showSelection();
+    filling_ = false;
+}
+
+/// With as much of what is below it as fits.
+void FolderChoicePanel::showSelection() {
+    const auto selected = Dir1_->GetSelection();
+    if (!selected.IsOk())
+        return;
+    if (const auto last = Dir1_->GetLastChild(selected); last.IsOk() && Dir1_->IsExpanded(selected))
+        Dir1_->EnsureVisible(last);
+    Dir1_->EnsureVisible(selected);
+}
+
+void FolderChoicePanel::addNodes(const wxTreeItemId& parent,
+                                 const std::vector<FolderTree::Id>& nodes) {
+    const FolderTree& tree = choice_.tree();
+    for (const auto id : nodes) {
+        const auto& node = tree.node(id);
+        const auto item = Dir1_->AppendItem(parent, toWx(shownText(node.text)),
+                                            folderImage(node.image), -1, new NodeData(id));
+        Dir1_->SetItemHasChildren(item, !node.childrenRead || !node.children.empty());
+        addNodes(item, node.children);
+        if (node.expanded && !node.children.empty())
+            Dir1_->Expand(item);
+        if (id == tree.selected())
+            Dir1_->SelectItem(item);
+    }
+}
+
+void FolderChoicePanel::expanding(wxTreeEvent& event) {
+    const auto item = event.GetItem();
+    const auto node = idOf(*Dir1_, item);
+    if (filling_ || node == FolderTree::none || Dir1_->GetChildrenCount(item, false) > 0)
+        return;
+    const wxBusyCursor busy;
+    const auto nodes = choice_.open(node);
+    addNodes(item, nodes);
+    if (!nodes.empty())
+        return;
+    Dir1_->SetItemHasChildren(item, false);
+    event.Veto();
+}
+
+void FolderChoicePanel::chosen() {
+    refresh();
+    if (onChosen)
+        onChosen(choice_.folder());
+}
+
+void FolderChoicePanel::refresh() {
+    lblDirName_->SetLabelText(toWx(shownText(choice_.folder())));
+    lblDirName_->SetToolTip(toWx(shownText(choice_.folder())));
+    Drive1_->SetSelection(choice_.drive() ? int(*choice_.drive()) : wxNOT_FOUND);
+    File1_->show(choice_.files());
+}
+
+} // namespace vantrel

@@ -1,0 +1,122 @@
+#include "ui/dialogs/frmSetting.h"
+
+#include "app/SettingDraft.h"
+#include "base/ApplicationState.h"
+#include "lang/MessageBoxes.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "ui/IconSet.h"
+#include "ui/dialogs/CaptionButton.h"
+#include "ui/dialogs/DialogKeys.h"
+#include "ui/dialogs/DialogSize.h"
+#include "ui/dialogs/SettingOptionPage.h"
+#include "ui/dialogs/SettingPortPage.h"
+#include "ui/dialogs/SettingRobotPage.h"
+#include "ui/dialogs/WindowFont.h"
+#include "ui/dialogs/WxText.h"
+
+#include <utility>
+
+#include <wx/button.h>
+#include <wx/iconbndl.h>
+#include <wx/notebook.h>
+#include <wx/sizer.h>
+
+namespace vantrel {
+
+frmSetting::frmSetting(wxWindow* parent, SettingDraft& draft, SettingWindowServices services)
+    : wxDialog(parent, wxID_ANY, toWx(services.messages.getMessage(message::settingsTitle)),
+               wxDefaultPosition, wxDefaultSize, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER,
+               "frmSetting"),
+      draft_(draft), services_(std::move(services)) {
+    SetIcons(programIcons());
+    buildPages();
+    const int gap = FromDIP(12);
+    auto* const column = new wxBoxSizer(wxVERTICAL);
+    column->Add(SSTab1_, wxSizerFlags(1).Expand().Border(wxALL, gap));
+    column->Add(buildButtons(), wxSizerFlags().Right().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
+    SetSizer(column);
+    bindEvents();
+    applyCaptionFont(*this, services_.state);
+    fitToContents(*this);
+    CentreOnParent();
+    refreshButtons();
+    FindWindow("lstRgstRbt")->SetFocus();
+}
+
+template <typename Page>
+Page* frmSetting::addPage(Page* page, int caption) {
+    SSTab1_->AddPage(page, toWx(services_.messages.getMessage(caption)));
+    page->onEdited = [this] { refreshButtons(); };
+    return page;
+}
+
+void frmSetting::buildPages() {
+    const auto& messages = services_.messages;
+    SSTab1_ = new wxNotebook(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, "SSTab1");
+    robotPage_ = addPage(
+        new SettingRobotPage(SSTab1_, draft_.robots(), messages, std::move(services_.folders)),
+        message::settingsRobotPage);
+    addPage(new SettingPortPage(SSTab1_, draft_.serial(), messages),
+            message::settingsCommunicationPage);
+    addPage(new SettingOptionPage(SSTab1_, draft_, messages), message::settingsOptionsPage);
+}
+
+wxSizer* frmSetting::buildButtons() {
+    const auto& messages = services_.messages;
+    auto* const cmdOK = newCaptionButton(this, messages.getMessage(message::ok), "cmdOK");
+    auto* const cmdCancel =
+        newCaptionButton(this, messages.getMessage(message::cancel), "cmdCancel");
+    cmdRefresh_ = newCaptionButton(this, messages.getMessage(message::applySettings), "cmdRefresh");
+    cmdOK->SetDefault();
+    SetEscapeId(cmdCancel->GetId());
+    auto* const row = new wxBoxSizer(wxHORIZONTAL);
+    for (auto* const button : {cmdOK, cmdCancel, cmdRefresh_})
+        row->Add(button, wxSizerFlags().Border(wxLEFT, FromDIP(8)));
+    return row;
+}
+
+void frmSetting::bindEvents() {
+    const auto onClick = [this](const char* name, std::function<void()> action) {
+        FindWindow(name)->Bind(wxEVT_BUTTON, [this, action](wxCommandEvent&) {
+            // Applying fills the panes, which lets events run.
+            if (!applying_)
+                action();
+        });
+    };
+    onClick("cmdOK", [this] { confirm(); });
+    onClick("cmdRefresh", [this] { apply(); });
+    // The close box and Esc press this one too.
+    onClick("cmdCancel", [this] { EndModal(wxID_CANCEL); });
+    swallowF1(*this);
+}
+
+bool frmSetting::apply() {
+    if (const auto fault = draft_.fault()) {
+        services_.boxes.tell(draft_.textOf(*fault), BoxIcon::Exclamation);
+        SSTab1_->SetSelection(SSTab1_->FindPage(robotPage_));
+        robotPage_->showFault(*fault);
+        return false;
+    }
+    applying_ = true;
+    services_.apply();
+    applying_ = false;
+    robotPage_->refresh();
+    // A button that goes off would leave the keyboard nowhere.
+    if (cmdRefresh_->HasFocus())
+        FindWindow("cmdOK")->SetFocus();
+    refreshButtons();
+    return true;
+}
+
+void frmSetting::confirm() {
+    if (apply())
+        EndModal(wxID_OK);
+}
+
+void frmSetting::refreshButtons() {
+    if (cmdRefresh_)
+        cmdRefresh_->Enable(draft_.isEdited());
+}
+
+} // namespace vantrel
