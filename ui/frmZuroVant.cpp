@@ -16,6 +16,7 @@
 #include "ui/FolderTreeDropDown.h"
 #include "ui/IconSet.h"
 #include "ui/KeyedToolBar.h"
+#include "ui/MainWindowCaptions.h"
 #include "ui/MainWindowPlaces.h"
 #include "ui/OperationGuard.h"
 #include "ui/PathDisplay.h"
@@ -55,7 +56,7 @@ frmZuroVant::frmZuroVant(ApplicationState& state, const MessageTable& messages,
     : wxFrame(nullptr, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
               wxDEFAULT_FRAME_STYLE, "frmZuroVant"),
       state_(state), messages_(messages), guard_(guard), controls_(*this), menus_(*this),
-      drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard) {
+      drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard), place_(*this, state.WindowPos) {
     SetIcons(programIcons());
     // No help for menu entries in the panel that shows the PC's count.
     SetStatusBarPane(-1);
@@ -99,9 +100,6 @@ void frmZuroVant::bindEvents() {
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
         event.Skip();
         CallAfter(&frmZuroVant::lay);
-    });
-    settleTimer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
-        settled_ = Settled{ClientToScreen(wxPoint(0, 0)), GetSize()};
     });
     bindPane(ActiveSide::PC);
     bindPane(ActiveSide::Controller);
@@ -253,90 +251,25 @@ void frmZuroVant::applyFont() {
 
 void frmZuroVant::applyCaptions() {
     const wxWindowUpdateLocker frozen(this);
-    const auto& controls = controls_;
     menus_.applyCaptions(messages_);
-    for (const auto& tip : toolTips())
-        for (auto* bar : {controls.tlbMain, controls.tlbPC, controls.tlbFile, controls.tlbPCButton,
-                          controls.tlbCtrlButton})
-            bar->setToolTip(tip.key, toWx(messages_.getMessage(tip.message)));
-    const std::tuple<wxWindow*, const char*, int> labels[] = {
-        {controls.fraPC.box, "fraPC", 0},
-        {controls.fraCtrl.box, "fraCtrl", 0},
-        {controls.lblFile, "lblDisp", viewerFileLabel},
-        {controls.lblPCFileType, "lblDisp", pcTypeLabel},
-        {controls.lblCtrlFileType, "lblDisp", controllerTypeLabel},
-        {controls.lblSerial, "lblDisp", serialLabelIndex},
-        {controls.lblFolder, "lblDisp", folderLabel},
-        {controls.lblRbtName, "lblRbtName", 0},
-        {controls.lblIPaddr, "lblIPaddr", 0}};
-    for (const auto& [control, name, index] : labels)
-        if (const auto message = controlMessage(name, index))
-            control->SetLabel(toWx(messages_.getMessage(*message)));
-    // The viewer's frame has no caption of its own: it is named after the command that shows it.
-    controls.fraFile.box->SetLabel(toWx(messages_.getMessage(message::tipDisplayFile)));
-    controls.trvFolderList->setCaption(toWx(messages_.getMessage(message::tipFolderTree)));
-    applyColumnTitles();
+    captionControls(controls_, messages_);
     lay();
-}
-
-void frmZuroVant::applyColumnTitles() {
-    std::array<wxString, FileListControl::columnCount> titles;
-    std::size_t column = 0;
-    for (const auto message : columnMessages())
-        titles.at(column++) = toWx(messages_.getMessage(message));
-    pane(ActiveSide::PC).setColumnTitles(titles);
-    pane(ActiveSide::Controller).setColumnTitles(titles);
 }
 
 void frmZuroVant::place(const std::array<std::int32_t, 8>& positions) {
     const int resolution = dpi();
-    const auto pixels = [&](std::size_t index) {
-        return pixelsFromTwips(positions[index], resolution);
-    };
-    const auto size = [&](WindowSize twips) {
-        return wxSize(pixelsFromTwips(twips.width, resolution),
-                      pixelsFromTwips(twips.height, resolution));
-    };
-    SetMinSize(size(minimumSize));
-    moveTo(wxRect(wxPoint(pixels(0), pixels(1)),
-                  size(atLeastMinimum({double(positions[2]), double(positions[3])}))));
-    pane(ActiveSide::PC).setColumnWidths({pixels(4), pixels(5), pixels(6)});
+    place_.put(resolution);
+    std::array<int, FileListControl::columnCount> widths{};
+    constexpr std::size_t firstWidth = 4;
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        widths.at(column) = pixelsFromTwips(positions.at(firstWidth + column), resolution);
+    pane(ActiveSide::PC).setColumnWidths(widths);
     placed_ = true;
     lay();
-    constexpr int settleTime = 1000; // milliseconds
-    settleTimer_.StartOnce(settleTime);
-}
-
-void frmZuroVant::moveTo(const wxRect& outer) {
-    // A window that believes to be there already does not say so to the window manager, which then
-    // chooses a place itself.
-    if (GetPosition() == outer.GetPosition() && !IsShown())
-        Move(outer.GetPosition() + wxPoint(1, 1));
-    SetSize(outer);
 }
 
 WindowPlacement frmZuroVant::placement() const {
-    const int resolution = dpi();
-    const auto twips = [&](int pixels, std::size_t index) {
-        return twipsUnlessUnchanged(pixels, resolution, state_.WindowPos.at(index));
-    };
-    // What only the window manager has adjusted is nobody's wish: the stored numbers stay, or the
-    // window would drift with every start.
-    const auto wished = [&](int change, int now, std::size_t index) {
-        if (!settled_)
-            return twips(now, index);
-        return state_.WindowPos.at(index) + twipsFromPixels(change, resolution);
-    };
-    const wxRect outer = GetRect();
-    const Settled settled = settled_.value_or(Settled{});
-    const wxPoint moved = ClientToScreen(wxPoint(0, 0)) - settled.clientOrigin;
-    const auto widths = pane(ActiveSide::PC).columnWidths();
-    return {.isNormal = !IsIconized() && !IsMaximized(),
-            .left = wished(moved.x, outer.x, 0),
-            .top = wished(moved.y, outer.y, 1),
-            .width = wished(outer.width - settled.size.x, outer.width, 2),
-            .height = wished(outer.height - settled.size.y, outer.height, 3),
-            .columnWidths = {twips(widths[0], 4), twips(widths[1], 5), twips(widths[2], 6)}};
+    return place_.placement(dpi(), pane(ActiveSide::PC).columnWidths());
 }
 
 void frmZuroVant::showStates(const CommandStates& states) {

@@ -7,13 +7,13 @@
 #include "ui/MainMenus.h"
 #include "ui/MainWindowControls.h"
 #include "ui/PaneDrag.h"
+#include "ui/WindowPlace.h"
 
 #include <functional>
 #include <optional>
 #include <string>
 
 #include <wx/frame.h>
-#include <wx/timer.h>
 
 namespace vantrel {
 
@@ -79,13 +79,6 @@ class frmZuroVant : public wxFrame,
     void select(int index) override;
 
   private:
-    /// Where the window stands once the window manager has had its say, in pixels. The client
-    /// area's place is what all managers agree on.
-    struct Settled {
-        wxPoint clientOrigin;
-        wxSize size;
-    };
-
     FileListControl& pane(ActiveSide side) const;
     wxChoice& filter(ActiveSide side) const;
     int dpi() const;
@@ -97,8 +90,6 @@ class frmZuroVant : public wxFrame,
     void chosen(MenuItem item);
     void listKey(wxKeyEvent& event, ActiveSide side);
     void lay();
-    void moveTo(const wxRect& outer);
-    void applyColumnTitles();
 
     ApplicationState& state_;
     const MessageTable& messages_;
@@ -106,10 +97,9 @@ class frmZuroVant : public wxFrame,
     MainWindowControls controls_;
     MainMenus menus_;
     PaneDrag drag_;
+    WindowPlace place_;
     MainCommands* commands_ = nullptr;
     bool placed_ = false;
-    std::optional<Settled> settled_;
-    wxTimer settleTimer_;
 };
 
 } // namespace vantrel

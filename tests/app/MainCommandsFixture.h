@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/CommandStates.h"
-#include "app/FolderTreeView.h"
 #include "app/FilePrinter.h"
+#include "app/FolderTreeView.h"
 #include "app/MainCommands.h"
 #include "app/MainWindowView.h"
 #include "app/ModeCommands.h"

@@ -1,5 +1,4 @@
 #include "MainCommandsFixture.h"
-
 #include "app/RobotSelection.h"
 
 #include <gmock/gmock.h>

@@ -13,6 +13,7 @@
 
 #include <wx/bmpbuttn.h>
 #include <wx/choice.h>
+#include <wx/display.h>
 #include <wx/menu.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
@@ -89,8 +90,8 @@ TEST_P(MainWindowTest, NothingOverlapsInItsPane) {
         }
     };
     expectApart({controls.tlbPCButton, controls.lblFolder, controls.trvFolderName,
-                 controls.Command1, controls.tlbPC,
-                 controls.lsvPC, controls.cmbPCFileType, controls.lblPCFileType});
+                 controls.Command1, controls.tlbPC, controls.lsvPC, controls.cmbPCFileType,
+                 controls.lblPCFileType});
     expectApart({controls.tlbCtrlButton, controls.tlbFile, controls.lsvCtrl,
                  controls.cmbCtrlFileType, controls.lblCtrlFileType});
     expectApart({controls.tlbMain, controls.fraPC.panel, controls.fraCtrl.panel,
@@ -184,6 +185,14 @@ TEST_P(MainWindowTest, AWindowThatNobodyMovedKeepsItsStoredPlace) {
     EXPECT_EQ(placement.top, 0);
     EXPECT_EQ(placement.height, 7000);
     EXPECT_EQ(placement.columnWidths[0], 1400);
+}
+
+TEST_P(MainWindowTest, AWindowStoredOffEveryScreenIsBroughtBack) {
+    state.WindowPos = {1'000'000, 1'000'000, 9720, 7000, 1400, 700, 1500, 0};
+    window.place(state.WindowPos);
+    EXPECT_TRUE(
+        waitFor([this] { return wxDisplay::GetFromPoint(window.GetPosition()) != wxNOT_FOUND; }));
+    EXPECT_LT(window.placement().left, 100'000) << "what is seen is what is stored";
 }
 
 TEST_P(MainWindowTest, ATooSmallStoredSizeIsRaised) {

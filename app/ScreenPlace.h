@@ -1,0 +1,19 @@
+#pragma once
+
+#include <vector>
+
+namespace vantrel {
+
+/// Pixels from the corner of the first screen; other screens may lie at negative places.
+struct ScreenRect {
+    int left = 0, top = 0, width = 0, height = 0;
+
+    bool operator==(const ScreenRect&) const = default;
+};
+
+/// Where a window goes that was stored at `wished`: there, when enough of its title bar lies on one
+/// of the screens to take hold of it; else onto the first screen, with its size as far as that has
+/// room. `screens` are the parts that task bars leave free; without any the wish stands.
+ScreenRect placeOnScreens(const ScreenRect& wished, const std::vector<ScreenRect>& screens);
+
+} // namespace vantrel

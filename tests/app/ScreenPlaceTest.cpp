@@ -1,0 +1,47 @@
+#include "app/ScreenPlace.h"
+
+#include "support/NamedRow.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+namespace vantrel::tests {
+namespace {
+
+constexpr int farAway = std::numeric_limits<int>::max() / 2;
+const std::vector<ScreenRect> twoScreens{{0, 0, 1280, 1000}, {1280, 0, 1920, 1040}};
+
+struct Row {
+    const char* name;
+    ScreenRect wished;
+    ScreenRect placed;
+};
+
+class ScreenPlaceTest : public testing::TestWithParam<Row> {};
+
+TEST_P(ScreenPlaceTest, BringsBackWhatNobodyCouldTakeHoldOf) {
+    EXPECT_EQ(placeOnScreens(GetParam().wished, twoScreens), GetParam().placed);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ScreenPlaceTest,
+    testing::Values(
+        Row{"OnTheFirst", {40, 40, 640, 480}, {40, 40, 640, 480}},
+        Row{"OnTheSecond", {2000, 500, 640, 480}, {2000, 500, 640, 480}},
+        Row{"MostlyOffToTheRight", {3090, 500, 640, 480}, {3090, 500, 640, 480}},
+        Row{"TooFarToTheRight", {3110, 500, 640, 480}, {0, 0, 640, 480}},
+        Row{"MostlyOffToTheLeft", {-540, 10, 640, 480}, {-540, 10, 640, 480}},
+        Row{"TooFarToTheLeft", {-560, 10, 640, 480}, {0, 0, 640, 480}},
+        Row{"TitleAboveTheScreen", {40, -30, 640, 480}, {0, 0, 640, 480}},
+        Row{"TitleBelowTheScreen", {40, 990, 640, 480}, {0, 0, 640, 480}},
+        Row{"AtTheEndOfTheWorld", {farAway, farAway, 640, 480}, {0, 0, 640, 480}},
+        Row{"LargerThanTheScreenItComesBackTo", {9000, 0, 4000, 3000}, {0, 0, 1280, 1000}}),
+    [](const auto& info) { return info.param.name; });
+
+TEST(ScreenPlaceTest, WithoutScreensTheWishStands) {
+    EXPECT_EQ(placeOnScreens({9000, 0, 640, 480}, {}), (ScreenRect{9000, 0, 640, 480}));
+}
+
+} // namespace
+} // namespace vantrel::tests
