@@ -27,6 +27,20 @@ is_answered() { ! asks "$1"; }
 
 trial_start
 
+say "Displaying BRKT02.JBI beside the PC pane, not over it."
+look_at() { import -window "$main" -crop 370x330+12+120 +repage "$work/$1.png"; }
+looks_as_before() { look_at pane-now && [ "$(compare -metric AE "$work/pane.png" "$work/pane-now.png" null: 2>&1)" = 0 ]; }
+covered() { import -window "$main" -crop 370x330+440+120 +repage "$1"; }
+looks_covered() { covered "$work/covered-now.png" && [ "$(compare -metric AE "$work/covered.png" "$work/covered-now.png" null: 2>&1)" != 0 ]; }
+select_on_pc BRKT02.JBI
+look_at pane
+covered "$work/covered.png"
+keys alt+f i
+until_true "the controller pane to be covered" looks_covered
+until_true "the PC pane to be free" looks_as_before
+import -window "$main" "$work/viewer.png"
+keys alt+f i
+
 say "Moving BRKT02.JBI to the controller."
 select_on_pc BRKT02.JBI
 keys alt+f m

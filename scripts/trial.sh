@@ -59,18 +59,21 @@ controller_row_of() {
 repeat() { local i; for ((i = 0; i < $1; i++)); do printf '%s ' "$2"; done; }
 
 # Panes of the window at its place in the trial, in pixels from its corner.
+# A press on a frame gives its list the focus; two quick presses on a list would be a double click.
+pc_frame=(200 488)
+controller_frame=(620 488)
 pc_pane=(60 300)
 controller_pane=(760 440)
 pc_item() { printf '70 %s' $((149 + 22 * $1)); }
 controller_item() { printf '490 %s' $((125 + 19 * $1)); }
 # shellcheck disable=SC2046
 select_on_pc() { # NAME
-    click "$main" "${pc_pane[@]}"
+    click "$main" "${pc_frame[@]}"
     keys Home $(repeat "$(row_of "$1")" Down)
 }
 # shellcheck disable=SC2046
 select_on_controller() { # NAME
-    click "$main" "${controller_pane[@]}"
+    click "$main" "${controller_frame[@]}"
     keys Home $(repeat "$(controller_row_of "$1")" Down)
 }
 # drag FROM_X FROM_Y TO_X TO_Y: with the left button held.

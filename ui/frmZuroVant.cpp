@@ -20,6 +20,7 @@
 #include "ui/MainWindowPlaces.h"
 #include "ui/OperationGuard.h"
 #include "ui/PathDisplay.h"
+#include "ui/SystemLook.h"
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
 
@@ -377,6 +378,7 @@ void frmZuroVant::exchangePanes(bool viewer) {
     leaving->Hide();
     entering->Show();
     lay();
+    bringToFront(*entering);
 }
 
 void frmZuroVant::closeWindow() {

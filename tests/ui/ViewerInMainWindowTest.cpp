@@ -49,6 +49,13 @@ TEST_F(ViewerInMainWindowTest, StandsInThePlaceOfTheControllerPane) {
     ASSERT_TRUE(isViewerShown());
     EXPECT_FALSE(controls().fraCtrl.panel->IsShown());
     EXPECT_EQ(controls().fraFile.panel->GetRect(), place);
+    // Where it is said to be is not always where the system shows it.
+    const auto onScreen = [](wxWindow& panel) { return panel.ClientToScreen(wxPoint(0, 0)); };
+    auto& pc = *controls().fraPC.panel;
+    EXPECT_TRUE(waitFor([&] {
+        return onScreen(*controls().fraFile.panel) - onScreen(pc) ==
+               place.GetPosition() - pc.GetPosition();
+    }));
     EXPECT_EQ(controls().rtxFileDisp->GetRect().x, controls().lsvCtrl->GetRect().x);
     EXPECT_EQ(shown(), "NOP\nEND\n");
     EXPECT_EQ(controls().lblFileName->GetLabelText(), "A.JBI");
