@@ -17,7 +17,9 @@ FolderTreeCommands::FolderTreeCommands(const MainServices& services, MainCommand
                                        FolderTreeView& view, FolderSource source)
     : with_(services), commands_(commands), view_(view), source_(std::move(source)) {}
 
+/// A press in the PC pane: keys in the tree must not act on the controller.
 void FolderTreeCommands::drop() {
+    commands_.activate(ActiveSide::PC);
     with_.folder.showTree(
         FolderTree::whole(with_.state.PCPath, source_.drives(), source_.subfolders));
     view_.dropDown(true);

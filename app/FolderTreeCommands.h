@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/MainServices.h"
 #include "files/FolderTree.h"
 #include "platform/Drives.h"
 
@@ -10,7 +11,6 @@ namespace vantrel {
 
 class FolderTreeView;
 class MainCommands;
-struct MainServices;
 
 /// What the folder tree needs of the system.
 struct FolderSource {
@@ -35,7 +35,7 @@ class FolderTreeCommands {
     void choose(FolderTree::Id id);
 
   private:
-    const MainServices& with_;
+    MainServices with_;
     MainCommands& commands_;
     FolderTreeView& view_;
     FolderSource source_;

@@ -132,8 +132,7 @@ void MainCommands::mnuSort(std::int16_t index) {
 }
 
 void MainCommands::clickColumn(int column) {
-    constexpr int columns = 3;
-    if (column < 0 || column >= columns)
+    if (column < 0 || column >= sort_column::count)
         return;
     auto& listing = with_.panes.listing(ActiveSide::PC);
     if (listing.SortType != column)
@@ -231,6 +230,7 @@ void MainCommands::edit(const std::string& path) {
 }
 
 void MainCommands::upFolder() {
+    activate(ActiveSide::PC);
     const auto parent = PathRules().parent(with_.state.PCPath);
     if (parent != with_.state.PCPath)
         openPCFolder(parent, FolderTree::driveAndFolder(parent));

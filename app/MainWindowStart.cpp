@@ -2,6 +2,7 @@
 
 #include "app/MainCommands.h"
 #include "app/MainWindowView.h"
+#include "app/PCFolder.h"
 #include "app/SerialLabel.h"
 #include "base/PathRules.h"
 #include "files/FolderTree.h"
@@ -10,7 +11,6 @@
 #include "lang/MessageTable.h"
 #include "link/OperatorDialog.h"
 #include "link/ShownText.h"
-#include "platform/Files.h"
 
 namespace vantrel {
 
@@ -26,17 +26,27 @@ void showViews(const MainServices& with, MainCommands& commands) {
     with.view.showActiveSide(ActiveSide::PC);
 }
 
-/// A stored folder that is gone opens the nearest one above it, with one message.
-void openStoredFolder(const MainServices& with, MainCommands& commands) {
+/// A stored folder that cannot be opened opens the nearest one above it that can, with one message.
+void openStoredFolder(const MainServices& with) {
     const std::string stored = with.state.PCPath;
     std::string folder = stored;
-    for (auto above = PathRules().parent(folder); !isFolder(folder) && above != folder;
-         above = PathRules().parent(folder))
+    const auto open = [&with](const std::string& path) {
+        return with.folder.enter(path, FolderTree::driveAndFolder(path));
+    };
+    bool isOpen = open(folder);
+    for (auto above = PathRules().parent(folder); !isOpen && above != folder;
+         above = PathRules().parent(folder)) {
         folder = above;
-    if (folder != stored)
-        with.dialog.tell("[" + shownText(stored) + "]" + with.messages.getMessage(message::folderGone),
+        isOpen = open(folder);
+    }
+    if (!isOpen) {
+        with.view.showFolder(stored);
+        with.panes.showCount(ActiveSide::PC);
+    }
+    if (!isOpen || folder != stored)
+        with.dialog.tell("[" + shownText(stored) + "]" +
+                             with.messages.getMessage(message::folderGone),
                          BoxIcon::Exclamation);
-    commands.openPCFolder(folder, FolderTree::driveAndFolder(folder));
 }
 
 } // namespace
@@ -56,7 +66,7 @@ void startMainWindow(const MainServices& with, MainCommands& commands) {
     with.view.showAddress(state.CurrentRobot.IPaddr);
     // The view first, so that no row is shown in another one before.
     with.view.showView(ActiveSide::PC, state.PCDispType);
-    openStoredFolder(with, commands);
+    openStoredFolder(with);
     showViews(with, commands);
     commands.updateStates();
 }

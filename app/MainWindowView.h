@@ -23,7 +23,7 @@ class MainWindowView {
     /// The caption font and every caption of the window, counts included.
     virtual void applyFont() = 0;
     virtual void applyCaptions() = 0;
-    /// Twips; of the window and of the first three columns of `lsvPC`.
+    /// Twips; of the window and of the first three columns of `lsvPC`, the last number unused.
     virtual void place(const std::array<std::int32_t, 8>& windowPositions) = 0;
 
     virtual void showStates(const CommandStates& states) = 0;

@@ -18,7 +18,7 @@ struct Character {
 
 Character firstCharacter(std::string_view text) {
     std::size_t length = 1;
-    while (length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0u) == 0x80u)
+    while (length < text.size() && continuesCharacter(text[length]))
         ++length;
     const auto bytes = text.substr(0, length);
     if (length == 1)

@@ -50,7 +50,8 @@ class RobotListDraft {
     bool isEdited() const { return edited_; }
     /// Whether the list differs from the stored one.
     bool isChanged() const;
-    /// Where the current robot stands now; of a list that had none the first, of an empty list none.
+    /// Where the current robot stands now; of a list that had none the first, of an empty list
+    /// none.
     std::optional<std::size_t> current() const;
     /// The list as it is stored: addresses of changed robots tidied, the sentinel at its end.
     std::vector<RobotRecord> records() const;

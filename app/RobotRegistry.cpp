@@ -11,7 +11,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "platform/Files.h"
-#include "platform/ProfileFile.h"
+#include "platform/ProfileText.h"
 #include "platform/TextCase.h"
 
 #include <algorithm>
@@ -25,13 +25,6 @@ constexpr const char* fileName = "robot.ini";
 constexpr const char* defaultName = "DEFAULT";
 /// Longer than any name that a list can show, so that the boot name is never cut.
 constexpr std::size_t bootNameBuffer = 4096;
-
-// A file in another encoding is not rightly read by the profile functions.
-bool profileUnderstands(TextEncoding encoding, bool plain) {
-    if (encoding == TextEncoding::Utf8)
-        return plain;
-    return encoding != TextEncoding::Utf8WithMark;
-}
 
 // The first name at which encoding the file fails, for the reason that is told.
 Failure notExpressible(const std::vector<RobotRecord>& robots, TextEncoding encoding) {
@@ -110,20 +103,13 @@ bool RobotRegistry::readList(const std::string& content) {
     return makeFoldersAbsolute(state_.RobotList, RobotPaths(state_.BaseDir));
 }
 
+// The only key that is read as in any profile. The rules for it work on a file's bytes, and only
+// UTF-16 holds every text.
 void RobotRegistry::readBootName(const std::string& text) {
-    if (profileUnderstands(encoding_, plain_)) {
-        state_.BootName = ProfileFile(path_).text("Boot", "Name", "", bootNameBuffer);
-        return;
-    }
-    TextLines lines(text);
-    RobotFileReader reader(lines, boxes_, programFolder_);
-    std::optional<std::string> block = reader.FindFirstBlock();
-    while (block && *block != "Boot")
-        block = reader.FindFirstBlock();
-    RobotRecord boot;
-    if (block)
-        reader.ReadBlock_Robot(boot);
-    state_.BootName = writableName(boot.Name);
+    const ProfileText profile(
+        encodeText(text, TextEncoding::Utf16LittleEndian).value_or(std::string()));
+    state_.BootName =
+        cutToBuffer(profile.value("Boot", "Name").value_or(std::string()), bootNameBuffer);
 }
 
 void RobotRegistry::selectBootRobot() {
@@ -154,24 +140,32 @@ void RobotRegistry::tellNotRead() {
                 BoxIcon::Exclamation);
 }
 
-// A file that holds ASCII only goes on in the code page, which the profile functions read; only
-// where that lacks a character, or would be taken for UTF-8, in UTF-8.
+// A file that holds ASCII only goes on in the code page, which other programs read; only where that
+// lacks a character in UTF-8.
 std::optional<std::string> RobotRegistry::encoded(const std::string& text) const {
     if (!plain_)
-        return encodeText(text, encoding_);
-    auto bytes = encodeText(text, TextEncoding::CodePage);
-    if (bytes && decodeText(*bytes).text == text)
-        return bytes;
-    return encodeText(text, TextEncoding::Utf8);
+        return encodeReadably(text, encoding_);
+    auto bytes = encodeReadably(text, TextEncoding::CodePage);
+    return bytes ? bytes : encodeText(text, TextEncoding::Utf8);
 }
 
-Outcome RobotRegistry::keepUnreadFile() const {
-    if (!anythingExists(path_))
-        return Done{};
+std::string RobotRegistry::freeBackupPath() const {
     std::string backup = path_ + ".bak";
     for (int number = 2; anythingExists(backup); ++number)
         backup = path_ + ".bak" + std::to_string(number);
-    return renameFile(path_, backup);
+    return backup;
+}
+
+Outcome RobotRegistry::writeBesideUnreadFile(const std::string& bytes) {
+    if (!anythingExists(path_))
+        return replaceFile(path_, bytes);
+    const std::string backup = freeBackupPath();
+    if (Outcome kept = renameFile(path_, backup); !kept)
+        return kept;
+    const Outcome written = replaceFile(path_, bytes);
+    if (!written && !renameFile(backup, path_))
+        return Failure{written.reason() + " [" + backup + "]"};
+    return written;
 }
 
 Outcome RobotRegistry::write() {
@@ -181,12 +175,9 @@ Outcome RobotRegistry::write() {
         registryText(state_.CurrentRobot.Name, state_.RobotList, RobotPaths(state_.BaseDir)));
     if (!bytes)
         return notExpressible(state_.RobotList, encoding_);
-    if (!readWhole_) {
-        if (Outcome kept = keepUnreadFile(); !kept)
-            return kept;
-        readWhole_ = true;
-    }
-    return replaceFile(path_, *bytes);
+    const Outcome written = readWhole_ ? replaceFile(path_, *bytes) : writeBesideUnreadFile(*bytes);
+    readWhole_ = readWhole_ || written;
+    return written;
 }
 
 } // namespace vantrel

@@ -56,7 +56,9 @@ class RobotRegistry {
     void selectBootRobot();
     void tellNotRead();
     std::optional<std::string> encoded(const std::string& text) const;
-    Outcome keepUnreadFile() const;
+    std::string freeBackupPath() const;
+    /// Puts the file that could not be read aside first, and back when the new one fails.
+    Outcome writeBesideUnreadFile(const std::string& bytes);
 
     ApplicationState& state_;
     const MessageTable& messages_;

@@ -64,10 +64,14 @@ void SettingCommands::takeRobots(SettingValues&& values) {
 }
 
 void SettingCommands::showSettings() {
+    recaption();
+    with_.main.applyHispeedAvailability();
+}
+
+void SettingCommands::recaption() {
     const auto serial = serialLabel(with_.state);
     with_.view.showSerialLine(serial.port, serial.format);
     with_.view.applyCaptions();
-    with_.main.applyHispeedAvailability();
     with_.main.recaption();
 }
 

@@ -36,6 +36,8 @@ class SettingCommands {
     void apply(SettingDraft& draft);
     /// After the dialog was closed, whichever way: everything that shows a setting.
     void showSettings();
+    /// After another language: every text of the main window, with the mode as it is.
+    void recaption();
 
   private:
     void takeOptions(const SettingValues& values);

@@ -19,10 +19,10 @@ RobotRecord freshRobot(const MessageTable& messages, const std::string& programF
 
 SettingDraft::SettingDraft(const ApplicationState& state, const MessageTable& messages,
                            const std::string& programFolder)
-    : messages_(messages), robots_(state.RobotList, state.CurrentRobotIndex,
-                                   freshRobot(messages, programFolder)),
-      serial_(state), controler_(state.Controler),
-      options_{state.SyncroRobotDir == 1, state.JBR, state.Headder, state.NoSave} {}
+    : messages_(messages),
+      robots_(state.RobotList, state.CurrentRobotIndex, freshRobot(messages, programFolder)),
+      serial_(state), controler_(state.Controler), options_{state.SyncroRobotDir == 1, state.JBR,
+                                                            state.Headder, state.NoSave} {}
 
 void SettingDraft::chooseControler(int index) {
     edited_ = edited_ || index != controler_;

@@ -27,7 +27,7 @@ struct SettingValues {
     bool NoSave = false, JBR = false, Headder = false;
     std::int16_t Controler = 0;
     bool robotsChanged = false;
-    std::vector<RobotRecord> RobotList;       ///< ends with the sentinel
+    std::vector<RobotRecord> RobotList;      ///< ends with the sentinel
     std::optional<std::size_t> CurrentRobot; ///< its place in the list
 };
 

@@ -18,6 +18,19 @@ bool Shutdown::close() {
     with_.windows.unloadOtherWindows();
     if (!with_.boxes.askOkCancel(with_.messages.getMessage(message::askExit), BoxIcon::Question))
         return false;
+    return saveAndQuit();
+}
+
+bool Shutdown::closeUnasked() {
+    if (closed_)
+        return true;
+    if (isRefused())
+        return false;
+    with_.windows.unloadOtherWindows();
+    return saveAndQuit();
+}
+
+bool Shutdown::saveAndQuit() {
     if (!with_.state.NoSave)
         save();
     with_.session.Quit();

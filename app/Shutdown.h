@@ -42,9 +42,13 @@ class Shutdown {
     /// quit. While something runs the close is refused without a word. Once it has returned true it
     /// goes on to do so and does nothing more.
     bool close();
+    /// The system ends the operator's session: the same without the question. False while something
+    /// runs; to be called again then.
+    bool closeUnasked();
 
   private:
     bool isRefused() const;
+    bool saveAndQuit();
     void save() const;
 
     ShutdownServices with_;

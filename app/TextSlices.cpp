@@ -5,10 +5,6 @@
 namespace vantrel {
 namespace {
 
-bool continuesCharacter(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0u) == 0x80u;
-}
-
 /// Where to cut a line that is too long: before a character, not within one.
 std::size_t cut(std::string_view line) {
     std::size_t end = TextSlices::longestLine;

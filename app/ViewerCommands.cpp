@@ -12,6 +12,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/OperatorDialog.h"
+#include "link/ShownText.h"
 
 #include <algorithm>
 #include <utility>
@@ -51,7 +52,7 @@ void ViewerCommands::print() {
     if (!with_.state.ViewerShown)
         return with_.dialog.tell(with_.messages.getMessage(message::nothingToPrint),
                                  BoxIcon::Exclamation);
-    const auto question = with_.messages.getMessage(message::askPrint) + "[" + name_ + "]";
+    const auto question = with_.messages.getMessage(message::askPrint) + "[" + shownText(name_) + "]";
     if (!with_.dialog.askYesNo(question, BoxIcon::Question))
         return;
     Outcome printed = Done{};
@@ -81,7 +82,7 @@ std::optional<std::string> ViewerCommands::selectedJobFile() const {
 
 void ViewerCommands::tell(std::int32_t messageNumber, const std::string& name,
                           const std::string& reason) const {
-    with_.dialog.tell(with_.messages.getMessage(messageNumber) + "[" + name + "]\n" + reason,
+    with_.dialog.tell(with_.messages.getMessage(messageNumber) + "[" + shownText(name) + "]\n" + reason,
                       BoxIcon::Exclamation);
 }
 

@@ -8,6 +8,12 @@
 
 namespace vantrel {
 
+/// What a pane is sorted by, which is the column's place in the list as well.
+namespace sort_column {
+inline constexpr std::int16_t name = 0, size = 1, date = 2;
+inline constexpr int count = 3;
+} // namespace sort_column
+
 /// What one pane shows: the entries of a PC folder or of a controller's directory, in the order in
 /// which they were found. `Names`, `Sizes` and `Dates` run in parallel.
 struct FolderListing {
@@ -17,7 +23,7 @@ struct FolderListing {
     std::vector<std::int32_t>
         Sizes;                   ///< bytes (at most 2^31 - 1 is shown), `folderSize` for a folder
     std::vector<DateText> Dates; ///< local time of the last change; empty when unknown
-    std::int16_t SortType = 0;   ///< column: 0 name, 1 size, 2 date
+    std::int16_t SortType = 0;   ///< one of `sort_column`; any other value sorts by name
     std::int16_t SortDir = 0;    ///< 1 descending, anything else ascending
 
     static constexpr std::int32_t folderSize = -1;

@@ -11,17 +11,6 @@ namespace {
 
 constexpr std::size_t longestName = 255; ///< bytes
 
-/// The first `count` characters, never half of one.
-std::string_view firstCharacters(std::string_view text, std::size_t count) {
-    std::size_t end = 0;
-    for (; count > 0 && end < text.size(); --count) {
-        ++end;
-        while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0u) == 0x80u)
-            ++end;
-    }
-    return text.substr(0, end);
-}
-
 bool hasDriveColon(std::string_view path) {
     const auto start = firstCharacters(path, 2);
     return start.ends_with(':') && start.size() > firstCharacters(path, 1).size();

@@ -166,6 +166,27 @@ bool isValidUtf8(std::string_view bytes) {
     }
 }
 
+std::string_view firstCharacters(std::string_view utf8, std::size_t count) {
+    std::size_t end = 0;
+    for (; count > 0 && end < utf8.size(); --count)
+        do
+            ++end;
+        while (end < utf8.size() && continuesCharacter(utf8[end]));
+    return utf8.substr(0, end);
+}
+
+bool isUnshowable(char32_t codePoint) {
+    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0) || codePoint == 0x200E ||
+           codePoint == 0x200F || (codePoint >= 0x2028 && codePoint <= 0x202E) ||
+           (codePoint >= 0x2066 && codePoint <= 0x2069);
+}
+
+std::string onOneLine(std::string_view utf8) {
+    std::u32string characters = codePoints(utf8);
+    std::ranges::replace_if(characters, isUnshowable, replacementCharacter);
+    return vantrel::utf8(characters);
+}
+
 std::u32string codePoints(std::string_view utf8) {
     std::u32string result;
     result.reserve(utf8.size());

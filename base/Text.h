@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +29,22 @@ std::vector<std::string_view> lines(std::string_view text);
 bool isAscii(std::string_view text);
 /// Whether the bytes are strict UTF-8: no overlong forms, no surrogates, nothing past U+10FFFF.
 bool isValidUtf8(std::string_view bytes);
+
+/// Whether a byte of UTF-8 goes on with a character that began before it.
+constexpr bool continuesCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0u) == 0x80u;
+}
+
+/// The first `count` characters of UTF-8, never half of one; all when there are no more.
+std::string_view firstCharacters(std::string_view utf8, std::size_t count);
+
+/// Whether a character would not be seen where it stands: control characters, line separators, and
+/// the marks that turn the direction of the text after them, with which a text could be read
+/// otherwise than it is written.
+bool isUnshowable(char32_t codePoint);
+/// A name as one line of text, whatever somebody calls his files: characters that cannot be shown
+/// become U+FFFD.
+std::string onOneLine(std::string_view utf8);
 
 /// The characters of strict UTF-8 as code points; an invalid byte becomes U+FFFD.
 std::u32string codePoints(std::string_view utf8);

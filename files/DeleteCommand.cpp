@@ -2,6 +2,7 @@
 
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
+#include "files/AmbiguousNames.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -20,7 +21,7 @@ DeleteCommand::DeleteCommand(const TransferServices& services)
 /// Cancel button has to stay for the files that follow.
 CommandOutcome DeleteCommand::onController(const std::vector<SelectedItem>& items) {
     with_.session.DisplayMonitor = false;
-    run(items, message::askDeleteOnController,
+    run(withoutAmbiguousNames(with_, items), message::askDeleteOnController,
         [this](const std::string& name) { return deleteOnController(name); });
     return outcome_;
 }

@@ -2,6 +2,7 @@
 
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
+#include "files/AmbiguousNames.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -12,7 +13,16 @@
 #include "link/Snappy.h"
 #include "platform/Files.h"
 
+#include <algorithm>
+
 namespace vantrel {
+namespace {
+
+bool holds(const std::vector<std::string>& jobs, const std::string& job) {
+    return std::ranges::find(jobs, job) != jobs.end();
+}
+
+} // namespace
 
 MoveCommand::MoveCommand(const TransferServices& services, Direction direction)
     : with_(services), direction_(direction),
@@ -32,11 +42,13 @@ CommandOutcome MoveCommand::run(const std::vector<SelectedItem>& items) {
     return outcome_;
 }
 
-/// Jobs that belong to the PC alone are passed over here as in the session's list transfers.
+/// Jobs that belong to the PC alone are passed over by the very list of the session's transfers. A
+/// receive deletes on the controller, so it needs names that stand for one job there.
 std::vector<std::string> MoveCommand::movable(const std::vector<SelectedItem>& items) const {
-    LocalJobList local;
-    local.read(with_.session.path);
-    auto names = PermissionTests(with_, direction_).permitted(items);
+    const LocalJobList& local = with_.session.readLocalJobs();
+    const PermissionTests tests(with_, direction_);
+    auto names = tests.permitted(
+        direction_ == Direction::Receive ? withoutAmbiguousNames(with_, items) : items);
     std::erase_if(names, [&](const std::string& name) {
         if (!local.contains(name))
             return false;
@@ -69,9 +81,19 @@ MoveCommand::Arrival MoveCommand::transfer(const std::string& name) {
     return arrival;
 }
 
-MoveCommand::Arrival MoveCommand::askAndTransfer(const std::string& name) {
-    const std::vector<std::string> inTheWay = with_.session.jobsInTheWay();
-    for (const std::string& job : inTheWay) {
+MoveCommand::Arrival MoveCommand::askAndTransfer(const std::string& name,
+                                                 std::vector<std::string> asked) {
+    std::vector<std::string> unasked = with_.session.jobsInTheWay();
+    std::erase_if(unasked, [&asked](const std::string& job) { return holds(asked, job); });
+    const Arrival allowed = askFor(unasked);
+    if (allowed != Arrival::Arrived)
+        return allowed;
+    asked.insert(asked.end(), unasked.begin(), unasked.end());
+    return transferOver(name, asked);
+}
+
+MoveCommand::Arrival MoveCommand::askFor(const std::vector<std::string>& jobs) {
+    for (const std::string& job : jobs) {
         if (overwriteAll_ && !hasArrived(job))
             continue;
         switch (askOverwrite(job)) {
@@ -86,7 +108,7 @@ MoveCommand::Arrival MoveCommand::askAndTransfer(const std::string& name) {
             break;
         }
     }
-    return transferOver(name);
+    return Arrival::Arrived;
 }
 
 /// A controller keeps a job by the name of its "//NAME" line.
@@ -94,7 +116,7 @@ std::string MoveCommand::arrivalName(const std::string& name) const {
     if (direction_ == Direction::Receive || !isJobFileName(name))
         return name;
     const auto job = JobFile::read(PathRules().join(with_.state.PCPath, name));
-    return job && !job->name().empty() ? job->name() + ".JBI" : name;
+    return job && !job->name().empty() ? jobFileName(job->name()) : name;
 }
 
 bool MoveCommand::hasArrived(const std::string& name) const {
@@ -102,10 +124,23 @@ bool MoveCommand::hasArrived(const std::string& name) const {
                                                                 : arrived_.hasFile(name);
 }
 
-/// With the operator's leave. "Exists already" is a failure now: asking again would not end.
-MoveCommand::Arrival MoveCommand::transferOver(const std::string& name) {
+/// While the questions were open, the file may have been saved under another name line, or another
+/// job have come to the controller. So a send is tried once more without leave, and what is in its
+/// way by now has to be what the operator was asked about. "Exists already" is a failure in the
+/// end: asking for the same again would not end.
+MoveCommand::Arrival MoveCommand::transferOver(const std::string& name,
+                                               const std::vector<std::string>& asked) {
     if (progress_.isCancelled())
         return Arrival::EndOfCommand;
+    if (direction_ == Direction::Send && !overwriteAll_) {
+        if (callSession(name, false))
+            return Arrival::Arrived;
+        if (!existsAlready())
+            return failed(name);
+        if (!std::ranges::all_of(with_.session.jobsInTheWay(),
+                                 [&asked](const std::string& job) { return holds(asked, job); }))
+            return askAndTransfer(name, asked);
+    }
     return callSession(name, true) ? Arrival::Arrived : failed(name);
 }
 

@@ -29,9 +29,13 @@ class MoveCommand {
     /// False when the command ends with this file.
     bool move(const std::string& name);
     Arrival transfer(const std::string& name);
-    /// Asks for whatever the session has found in the way, by its name.
-    Arrival askAndTransfer(const std::string& name);
-    Arrival transferOver(const std::string& name);
+    /// Asks for whatever the session has found in the way, by its name, but for what the operator
+    /// was `asked` about before.
+    Arrival askAndTransfer(const std::string& name, std::vector<std::string> asked = {});
+    /// `Arrived` when all of these may be overwritten.
+    Arrival askFor(const std::vector<std::string>& jobs);
+    /// With the operator's leave for what he was `asked` about, and for nothing else.
+    Arrival transferOver(const std::string& name, const std::vector<std::string>& asked);
     bool callSession(const std::string& name, bool overwrite);
     bool existsAlready() const;
     Answer askOverwrite(const std::string& name) const;

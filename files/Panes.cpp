@@ -96,9 +96,8 @@ bool Panes::fill(ActiveSide side) {
 /// Events that the yield lets in may fill the pane anew: what is shown after it are the rows as
 /// they are then.
 void Panes::sort(ActiveSide side) {
-    constexpr std::int16_t columnSize = 1;
     changeableRows(side).sort();
-    if (listing(side).SortType != columnSize)
+    if (listing(side).SortType != sort_column::size)
         window_.yield();
     window_.list(side).show(rows(side));
 }

@@ -7,15 +7,8 @@ namespace vantrel {
 
 namespace {
 
-constexpr std::int16_t columnSize = 1;
-constexpr std::int16_t columnDate = 2;
 constexpr std::int16_t descendingOrder = 1;
 constexpr std::size_t headLength = sizeof(std::uint64_t);
-
-bool isAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char character) { return static_cast<unsigned char>(character) < 0x80; });
-}
 
 /// Most names are ASCII, where the locale-independent mapping needs no table.
 std::string upperName(std::string_view name) {
@@ -44,9 +37,9 @@ RowKeys::RowKeys(const FolderListing& listing, const std::vector<std::uint32_t>&
     keys_.reserve(entries.size());
     for (const std::uint32_t entry : entries) {
         const bool isFile = listing.Sizes[entry] >= 0;
-        if (listing.SortType == columnSize)
+        if (listing.SortType == sort_column::size)
             add(sizeText(listing.Sizes[entry]), entry, false);
-        else if (listing.SortType == columnDate)
+        else if (listing.SortType == sort_column::date)
             add(listing.Dates[entry].view(), entry, isFile);
         else
             add(upperName(listing.Names[entry]), entry, isFile);

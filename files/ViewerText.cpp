@@ -13,15 +13,6 @@ namespace {
 constexpr std::string_view replacement = "\xEF\xBF\xBD";
 constexpr std::string_view lineEnd = "\r\n";
 
-/// Control characters of both sets, line separators, and the marks that turn the direction of the
-/// text after them: with those a job could read on the screen otherwise than a controller reads it.
-bool isUnshowable(unsigned codePoint) {
-    return (codePoint < 0x20 && codePoint != '\t') || (codePoint >= 0x7F && codePoint < 0xA0) ||
-           codePoint == 0x200E || codePoint == 0x200F ||
-           (codePoint >= 0x2028 && codePoint <= 0x202E) ||
-           (codePoint >= 0x2066 && codePoint <= 0x2069);
-}
-
 /// Whether an unshowable character may begin with this byte of UTF-8.
 bool isSuspect(char byte) {
     const auto value = static_cast<unsigned char>(byte);
@@ -29,9 +20,9 @@ bool isSuspect(char byte) {
 }
 
 /// The first character, which is a suspect one, and its length in bytes.
-std::pair<unsigned, std::size_t> firstSuspect(std::string_view text) {
+std::pair<char32_t, std::size_t> firstSuspect(std::string_view text) {
     const auto at = [text](std::size_t index) {
-        return index < text.size() ? static_cast<unsigned char>(text[index]) : 0u;
+        return index < text.size() ? static_cast<unsigned char>(text[index]) : char32_t{0};
     };
     const auto tail = [&at](std::size_t index) { return at(index) & 0x3Fu; };
     if (at(0) == 0xC2)

@@ -62,6 +62,8 @@ inline constexpr std::int32_t printFailed = 58; ///< then [name]
 inline constexpr std::int32_t editorNotStarted = 59;        ///< after [file name]
 inline constexpr std::int32_t libraryFunctionsMissing = 60; ///< then the names
 inline constexpr std::int32_t oldFileKept = 61;             ///< after [name], then [other name]
+inline constexpr std::int32_t nameIsAmbiguous = 62;         ///< after [name]
+inline constexpr std::int32_t partialFileKept = 63;         ///< after [name]
 
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;

@@ -25,12 +25,9 @@ TransferOutcome JobBatch::runThrough(const std::vector<std::string>& entries) {
     const auto count = static_cast<std::int32_t>(entries.size());
     for (std::int32_t index = 0; index < count; ++index) {
         const std::string& entry = entries[static_cast<std::size_t>(index)];
-        tools_.progress.step(tools_.progress.transferring(entry), index, count);
-        if (tools_.localJobs.contains(entry)) {
-            ++skipped_;
-            continue;
-        }
-        const TransferOutcome outcome = handle(entry, index);
+        const TransferOutcome outcome = tools_.localJobs.contains(entry)
+                                            ? passOver(entry, index, count)
+                                            : handle(entry, index, count);
         record(outcome, index);
         if (outcome == TransferOutcome::Failed || outcome == TransferOutcome::Cancelled)
             return outcome;
@@ -38,7 +35,15 @@ TransferOutcome JobBatch::runThrough(const std::vector<std::string>& entries) {
     return TransferOutcome::Done;
 }
 
-TransferOutcome JobBatch::handle(const std::string& entry, std::int32_t index) {
+TransferOutcome JobBatch::passOver(const std::string& entry, std::int32_t index,
+                                   std::int32_t count) {
+    ++skipped_;
+    return tools_.progress.isCancelledPassingOver(entry, index, count) ? TransferOutcome::Cancelled
+                                                                       : TransferOutcome::Done;
+}
+
+TransferOutcome JobBatch::handle(const std::string& entry, std::int32_t index, std::int32_t count) {
+    tools_.progress.step(tools_.progress.transferring(entry), index, count);
     const TransferOutcome outcome = transfer_(entry, index, overwriteAll_);
     overwriteAll_ = overwriteAll_ || outcome == TransferOutcome::DoneAll;
     if (outcome == TransferOutcome::Failed)

@@ -43,7 +43,8 @@ class JobBatch {
   private:
     /// `Done` at the end of the list, else what ended it early.
     TransferOutcome runThrough(const std::vector<std::string>& entries);
-    TransferOutcome handle(const std::string& entry, std::int32_t index);
+    TransferOutcome passOver(const std::string& entry, std::int32_t index, std::int32_t count);
+    TransferOutcome handle(const std::string& entry, std::int32_t index, std::int32_t count);
     /// What a failure or a cancel adds to the error record: the entry's index.
     void record(TransferOutcome outcome, std::int32_t index);
     void tellSkipped() const;

@@ -35,7 +35,7 @@ bool JobFetch::listFolder() {
 TransferOutcome JobFetch::fetch(const std::string& name, std::int32_t index, bool overwriteAll) {
     tools_.inTheWay.clear();
     const auto libraryName = tools_.link.libraryFileName(name, "BscUpLoad", index);
-    if (!libraryName)
+    if (!libraryName || !tools_.link.isAsBegun())
         return TransferOutcome::Failed;
     putBackLeftover(tools_.properties.path, name);
     TransferOutcome outcome = TransferOutcome::Done;
@@ -94,9 +94,15 @@ bool JobFetch::receiveInto(ReplacedFile& file, std::int16_t handle, const std::s
 void JobFetch::putBack(ReplacedFile& file, const std::string& name, std::int32_t index) {
     if (file.putBack())
         return;
+    const std::string shownName = "[" + shownText(name) + "]";
+    if (file.asideName().empty()) {
+        // The record goes on telling why the file is incomplete.
+        tools_.dialog.tell(shownName + tools_.messages.getMessage(message::partialFileKept),
+                           BoxIcon::Exclamation);
+        return;
+    }
     tools_.error.set(session_code::oldFileKeptAside, "", index);
-    tools_.dialog.tell("[" + shownText(name) + "]" +
-                           tools_.messages.getMessage(message::oldFileKept) + "[" +
+    tools_.dialog.tell(shownName + tools_.messages.getMessage(message::oldFileKept) + "[" +
                            file.asideName() + "]",
                        BoxIcon::Exclamation);
 }

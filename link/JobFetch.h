@@ -29,8 +29,9 @@ class JobFetch {
                      std::int32_t index);
     bool receiveInto(ReplacedFile& file, std::int16_t handle, const std::string& libraryName,
                      std::int32_t index);
-    /// Puts the old file back after a failed transfer; that it could not be is told whatever
-    /// `DisplayMonitor` says, for nobody would look for the file under its other name.
+    /// Leaves the folder as it was before a failed transfer; that it could not be done is told
+    /// whatever `DisplayMonitor` says: nobody would look for the old file under its other name, and
+    /// everybody would take half a new one for a whole.
     void putBack(ReplacedFile& file, const std::string& name, std::int32_t index);
 
     TransferTools tools_;

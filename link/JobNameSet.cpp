@@ -54,6 +54,10 @@ std::string jobExtension(std::string_view fileName) {
     return point == std::string_view::npos ? std::string() : asciiUpper(fileName.substr(point));
 }
 
+std::string jobFileName(const std::string& nameInside) {
+    return isJobFileName(nameInside) ? nameInside : nameInside + ".JBI";
+}
+
 bool isJobFileName(std::string_view fileName) {
     const std::string extension = jobExtension(fileName);
     return extension == ".JBI" || extension == ".JBR";

@@ -34,6 +34,8 @@ class JobNameSet {
 
 /// The upper-cased extension with its point (".JBI"), or an empty text.
 std::string jobExtension(std::string_view fileName);
+/// The name under which a controller lists the job that a "//NAME" line names.
+std::string jobFileName(const std::string& nameInside);
 /// Whether the name has one of a job file's extensions, ".JBI" and ".JBR" in any letter case.
 bool isJobFileName(std::string_view fileName);
 

@@ -28,7 +28,7 @@ bool isUsableJobName(const std::string& name) {
 TransferOutcome JobSend::send(const std::string& file, std::int32_t index, bool overwriteAll) {
     tools_.inTheWay.clear();
     const auto libraryName = tools_.link.libraryFileName(file, "BscDownLoad", index);
-    if (!libraryName)
+    if (!libraryName || !tools_.link.isAsBegun())
         return TransferOutcome::Failed;
     const auto inside = readNameInside(file, index);
     if (!inside)
@@ -38,7 +38,7 @@ TransferOutcome JobSend::send(const std::string& file, std::int32_t index, bool 
         return outcome;
     if (!transmit(file, *libraryName, index))
         return TransferOutcome::Failed;
-    tools_.directory.insert(inside->empty() ? file : *inside + ".JBI");
+    tools_.directory.insert(inside->empty() ? file : jobFileName(*inside));
     return outcome;
 }
 
@@ -60,15 +60,26 @@ TransferOutcome JobSend::prepare(const std::string& file, const std::string& nam
     if (!isJobFileName(file))
         return TransferOutcome::Done;
     const auto jobs = jobsInTheWay(file, nameInside);
-    if (!jobs.empty() && !isUsableJobName(nameInside)) {
+    const bool deletes = jobExtension(file) == ".JBI";
+    if (deletes && !jobs.empty() && !isUsableJobName(nameInside)) {
         tools_.error.set(session_code::jobNameUnusable, "", index);
         return TransferOutcome::Failed;
     }
     tools_.inTheWay = shownNames(file, jobs);
     const TransferOutcome outcome = overwriteAll ? TransferOutcome::Done : askAll(tools_.inTheWay);
-    if (!goesOn(outcome) || jobExtension(file) != ".JBI")
+    if (!goesOn(outcome) || jobs.empty())
         return outcome;
-    return removeAll(jobs) ? outcome : TransferOutcome::Failed;
+    if (!overwriteAll && !isAsAsked(file, nameInside, index))
+        return TransferOutcome::Failed;
+    return !deletes || removeAll(jobs) ? outcome : TransferOutcome::Failed;
+}
+
+bool JobSend::isAsAsked(const std::string& file, const std::string& nameInside,
+                        std::int32_t index) {
+    const auto now = readNameInside(file, index);
+    if (now && *now != nameInside)
+        tools_.error.set(session_code::fileChanged, "", index);
+    return now && *now == nameInside;
 }
 
 // A file FOO.JBI whose line names BAR concerns both jobs: the operator thinks of the file by FOO,

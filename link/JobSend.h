@@ -36,6 +36,9 @@ class JobSend {
     std::vector<std::string> shownNames(const std::string& file,
                                         const std::vector<std::string>& jobs) const;
     TransferOutcome askAll(const std::vector<std::string>& names) const;
+    /// Whether the file still is the one that the operator was asked about: a question stays open
+    /// for as long as it likes, and somebody may save the file meanwhile.
+    bool isAsAsked(const std::string& file, const std::string& nameInside, std::int32_t index);
     bool removeAll(const std::vector<std::string>& jobs);
     bool transmit(const std::string& file, const std::string& libraryName, std::int32_t index);
 

@@ -21,19 +21,24 @@ constexpr const char* unsetAddress = "0.0.0.0";
 } // namespace
 
 void LinkConnection::begin() {
-    begunWith_ = controller();
+    begunWith_ = ends();
     endedByUnsetAddress_ = false;
 }
 
-LinkConnection::Controller LinkConnection::controller() const {
-    return {services_.TransMode, properties_.port, properties_.IPaddress};
+LinkConnection::Ends LinkConnection::ends() const {
+    return {services_.TransMode, properties_.port, properties_.IPaddress, properties_.path};
+}
+
+bool LinkConnection::isAsBegun() {
+    if (!begunWith_ || *begunWith_ == ends())
+        return true;
+    error_.set(session_code::controllerChanged, "", 0);
+    return false;
 }
 
 std::int16_t LinkConnection::connect() {
-    if (begunWith_ && *begunWith_ != controller()) {
-        error_.set(session_code::controllerChanged, "", 0);
+    if (!isAsBegun())
         return noHandle;
-    }
     // The library keeps files of its own beside the program; without that folder it may still work.
     static_cast<void>(changeCurrentFolder(services_.programFolder));
     const auto folder = libraryText(properties_.path, "BscOpen", 0);

@@ -43,24 +43,29 @@ class LinkConnection {
 
     Zurolink& library() const;
 
-    /// To be called where an operation begins. Its links all lead to the controller that is set
-    /// now: after a change in its middle the next `connect` fails. It neither follows the change,
-    /// which would spread one list over two robots, nor goes on with what was set, on a robot that
-    /// the screen no longer shows.
+    /// To be called where an operation begins and ends. Its links all lead to the controller, and
+    /// work in the folder, that are set at its beginning: after a change in its middle the next
+    /// `connect` fails. It neither follows the change, which would spread one list over two robots,
+    /// nor goes on with what was set, on a robot that the screen no longer shows.
     void begin();
+    void end() { begunWith_.reset(); }
+    bool hasBegun() const { return begunWith_.has_value(); }
+    /// False, with the reason recorded, when controller or folder are not those of the beginning.
+    bool isAsBegun();
     /// The operator has been told that the robot's address is not set; nothing was recorded.
     bool endedByUnsetAddress() const { return endedByUnsetAddress_; }
 
   private:
-    /// What tells one controller from another.
-    struct Controller {
+    /// What tells one controller from another, and the folder on the PC.
+    struct Ends {
         TransferMode mode;
         std::int16_t port;
         std::string address;
-        bool operator==(const Controller&) const = default;
+        std::string folder;
+        bool operator==(const Ends&) const = default;
     };
 
-    Controller controller() const;
+    Ends ends() const;
     bool addressUnset() const;
     std::int16_t refuseUnsetAddress(std::int16_t handle);
     bool configure(std::int16_t handle);
@@ -72,7 +77,7 @@ class LinkConnection {
     const SessionServices& services_;
     const SessionProperties& properties_;
     SessionErrorRecord& error_;
-    std::optional<Controller> begunWith_; ///< nothing outside an operation
+    std::optional<Ends> begunWith_; ///< nothing outside an operation
     bool endedByUnsetAddress_ = false;
 };
 

@@ -2,7 +2,6 @@
 
 #include "base/PathRules.h"
 #include "base/Text.h"
-#include "base/Wildcard.h"
 #include "platform/Files.h"
 #include "platform/TextCase.h"
 #include "platform/TextEncoding.h"
@@ -13,6 +12,9 @@ namespace vantrel {
 namespace {
 
 constexpr std::string_view fileName = "LocalJob.lst";
+/// Bytes of the longest name that a file can have, and an extension added to it: no transfer takes
+/// a longer one, so that patterns need not be tried on it.
+constexpr std::size_t longestForm = 255 + 4;
 
 std::string comparedForm(std::string_view entry) {
     std::string form = normalisedJobName(entry);
@@ -41,20 +43,27 @@ void LocalJobList::read(const std::string& folder) {
 void LocalJobList::add(std::string_view entry) {
     entries_.emplace_back(entry);
     std::string form = comparedForm(entry);
-    if (form.find_first_of("*?#[") == std::string::npos)
+    if (form.find_first_of("*?#[") == std::string::npos) {
         names_.insert(std::move(form));
-    else
-        patterns_.push_back(std::move(form));
+        return;
+    }
+    WildcardPattern pattern(form);
+    if (pattern.shortestMatch() <= longestForm)
+        patterns_.push_back(std::move(pattern));
 }
 
 bool LocalJobList::contains(std::string_view entry) const {
     if (entries_.empty())
         return false;
     const std::string form = comparedForm(entry);
-    const auto matches = [&form](const std::string& pattern) {
-        return matchesWildcard(form, pattern);
-    };
-    return names_.contains(form) || std::any_of(patterns_.begin(), patterns_.end(), matches);
+    if (names_.contains(form))
+        return true;
+    if (patterns_.empty() || form.size() > longestForm)
+        return false;
+    const std::u32string characters = codePoints(form);
+    return std::any_of(
+        patterns_.begin(), patterns_.end(),
+        [&characters](const WildcardPattern& pattern) { return pattern.matches(characters); });
 }
 
 } // namespace vantrel

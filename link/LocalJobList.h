@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Wildcard.h"
+
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -23,7 +25,7 @@ class LocalJobList {
 
     std::vector<std::string> entries_;      ///< trimmed, in file order
     std::unordered_set<std::string> names_; ///< the entries without a wildcard, normalised
-    std::vector<std::string> patterns_;     ///< the others, normalised
+    std::vector<WildcardPattern> patterns_; ///< the others, normalised
 };
 
 } // namespace vantrel

@@ -1,6 +1,7 @@
 #include "link/ReplacedFile.h"
 
 #include "base/PathRules.h"
+#include "base/Text.h"
 #include "platform/Files.h"
 
 #include <cstddef>
@@ -12,6 +13,7 @@ namespace vantrel {
 namespace {
 
 constexpr std::size_t longestStem = 200; ///< bytes; leaves room for the marks behind it
+constexpr std::size_t shortenedStem = longestStem / 4; ///< characters, of at most four bytes
 
 std::string pathOf(const std::string& folder, const std::string& name) {
     return PathRules().join(folder, name);
@@ -26,14 +28,11 @@ std::string digestOf(const std::string& name) {
 }
 
 /// What the other name of a file begins with: its own name, or when that is too long to take an
-/// addition, the beginning of it (no half character) and a digest of the whole.
+/// addition, the beginning of it and a digest of the whole.
 std::string stemOf(const std::string& name) {
     if (name.size() <= longestStem)
         return name;
-    std::size_t end = longestStem;
-    while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0) == 0x80)
-        --end;
-    return name.substr(0, end) + "~" + digestOf(name);
+    return std::string(firstCharacters(name, shortenedStem)) + "~" + digestOf(name);
 }
 
 /// Not a name that a job or a list could have.
@@ -84,7 +83,9 @@ bool ReplacedFile::hasArrived() const {
 
 void ReplacedFile::keep() {
     decided_ = true;
-    if (!aside_.empty()) // a leftover beside a complete file does no harm
+    // Beside a complete file a leftover does no harm. Should that file go one day, the next fetch
+    // will take the leftover for its old version and put it back, and ask before it is replaced.
+    if (!aside_.empty())
         static_cast<void>(removeFile(pathOf(folder_, aside_)));
 }
 
@@ -95,9 +96,7 @@ Outcome ReplacedFile::putBack() {
     const std::string path = pathOf(folder_, name_);
     if (!aside_.empty())
         return renameFile(pathOf(folder_, aside_), path);
-    if (isRegularFile(path))
-        static_cast<void>(removeFile(path));
-    return Done{};
+    return anythingExists(path) ? removeFile(path) : Done{};
 }
 
 ReplacedFile::~ReplacedFile() {

@@ -27,7 +27,8 @@ class ReplacedFile {
     /// The new file is complete: the old one goes.
     void keep();
     /// The new file goes and the old one comes back. On failure the old one stays under
-    /// `asideName`. Does nothing after `keep` and a second time.
+    /// `asideName`, or without an old one a part of the new one where it is. Does nothing after
+    /// `keep` and a second time.
     Outcome putBack();
     /// The old file's present name; empty without one.
     const std::string& asideName() const { return aside_; }

@@ -24,10 +24,12 @@ inline constexpr std::int16_t fileDidNotArrive = 25; ///< reported as done, but 
 inline constexpr std::int16_t fileNotReplaceable = 26; ///< the old PC file cannot be set aside
 inline constexpr std::int16_t jobNameUnusable = 27;    ///< no "//NAME" line that a job could have
 inline constexpr std::int16_t oldFileKeptAside = 28;   ///< it could not be put back
-inline constexpr std::int16_t controllerChanged = 29;  ///< while the operation ran
+inline constexpr std::int16_t controllerChanged = 29;  ///< or the PC folder, while it ran
 /// A variable's value is not finite. (30 to 33 stay unused: their texts would be the buttons'.)
 inline constexpr std::int16_t valueNotFinite = 34;
 inline constexpr std::int16_t listNotRead = 35;      ///< an empty list is all there is to write
+inline constexpr std::int16_t fileChanged = 36;      ///< the PC file, while its question was open
+inline constexpr std::int16_t operationRunning = 37; ///< one is begun while another runs
 inline constexpr std::int16_t libraryUnusable = -10; ///< missing, wrong or incomplete library
 } // namespace session_code
 

@@ -37,18 +37,6 @@ SessionValue outValue(const std::string& text) {
     return text;
 }
 
-/// A name that holds no line end, whatever a controller calls its files.
-std::string onOneLine(const std::string& name) {
-    std::u32string characters = codePoints(name);
-    std::replace_if(
-        characters.begin(), characters.end(),
-        [](char32_t character) {
-            return character < 0x20 || (character >= 0x7F && character < 0xA0);
-        },
-        char32_t{0xFFFD});
-    return utf8(characters);
-}
-
 SessionValue outValue(const std::vector<std::string>& names) {
     std::string text;
     for (const std::string& name : names)

@@ -18,6 +18,7 @@ SessionProgress::SessionProgress(const SessionProperties& properties, const Mess
 
 void SessionProgress::begin() {
     pressed_ = false;
+    shown_ = false;
     panel_.keepPress(false);
     if (panel_.isVisible())
         isCancelled();
@@ -49,6 +50,7 @@ void SessionProgress::show(const std::string& message) {
         isCancelled();
     panel_.setTitle(properties_.MonitorTitle);
     panel_.setCancelCaption(messages_.resourceMessage(message::resource::cancel));
+    shown_ = true;
     panel_.show(message);
 }
 
@@ -58,8 +60,9 @@ void SessionProgress::step(const std::string& message, std::int32_t item, std::i
 }
 
 void SessionProgress::hide() {
-    if (!silent())
+    if (shown_ || !silent())
         panel_.hide();
+    shown_ = false;
 }
 
 bool SessionProgress::isCancelled() {
@@ -73,6 +76,16 @@ bool SessionProgress::isCancelledAfterYield() {
     if (!silent())
         panel_.yield();
     return isCancelled();
+}
+
+bool SessionProgress::isCancelledPassingOver(const std::string& name, std::int32_t item,
+                                             std::int32_t count) {
+    constexpr std::int32_t shownOnes = 1000; ///< every one of so many
+    const bool isLast = item + 1 == count;
+    if (!isLast && (item + 1) % shownOnes != 0)
+        return isCancelled();
+    step(transferring(name), item, count);
+    return isCancelledAfterYield();
 }
 
 std::string SessionProgress::transferring(const std::string& name) const {

@@ -23,7 +23,8 @@ class SessionProgress {
     /// Where an operation begins: of an earlier press only one made in a window that is still
     /// visible counts, for it is meant for the command that this operation is a part of.
     void begin();
-    /// Where the operation ends: hides the dialog.
+    /// Where the operation ends: hides the dialog, even if `DisplayMonitor` was switched off since
+    /// it was shown.
     void end();
 
     /// Text, bar and second label for work on a single thing, shown with the next message.
@@ -38,6 +39,9 @@ class SessionProgress {
     bool isCancelled();
     /// The same after the event loop had a chance to deliver a press.
     bool isCancelledAfterYield();
+    /// Whether Cancel was pressed, asked for an entry that is passed over. Lists may hold millions
+    /// of these, so only now and then, and at the list's end, one is shown and a press let in.
+    bool isCancelledPassingOver(const std::string& name, std::int32_t item, std::int32_t count);
 
     /// "Transferring " and "Deleting " with a name; without one they stand alone.
     std::string transferring(const std::string& name = {}) const;
@@ -51,6 +55,7 @@ class SessionProgress {
     const MessageTable& messages_;
     ProgressPanel& panel_;
     bool pressed_ = false;
+    bool shown_ = false; ///< by the present operation
 };
 
 } // namespace vantrel

@@ -1,7 +1,6 @@
 #include "link/SessionValues.h"
 
 #include "base/Numbers.h"
-#include "base/Text.h"
 
 #include <cmath>
 #include <limits>
@@ -42,12 +41,8 @@ std::optional<std::int16_t> integer16From(const SessionValue& value) {
 }
 
 std::optional<bool> flagFrom(const SessionValue& value) {
-    if (const auto* text = std::get_if<std::string>(&value)) {
-        if (equalsIgnoringAsciiCase(*text, "true"))
-            return true;
-        if (equalsIgnoringAsciiCase(*text, "false"))
-            return false;
-    }
+    if (const auto* text = std::get_if<std::string>(&value))
+        return truthValue(*text);
     const auto number = numberFrom(value);
     if (!number || std::isnan(*number))
         return {};

@@ -1,7 +1,6 @@
 #include "link/ShownText.h"
 
-#include <algorithm>
-#include <cstddef>
+#include "base/Text.h"
 
 namespace vantrel {
 namespace {
@@ -12,13 +11,8 @@ constexpr const char* ellipsis = "\u2026";
 } // namespace
 
 std::string shownText(std::string_view text) {
-    std::size_t characters = 0;
-    const auto startsOneTooMany = [&characters](char byte) {
-        const bool starts = (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-        return starts && ++characters > mostCharacters;
-    };
-    const auto end = std::find_if(text.begin(), text.end(), startsOneTooMany);
-    return std::string(text.begin(), end) + (end == text.end() ? "" : ellipsis);
+    const std::string_view start = firstCharacters(text, mostCharacters);
+    return onOneLine(start) + (start.size() < text.size() ? ellipsis : "");
 }
 
 } // namespace vantrel

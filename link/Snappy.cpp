@@ -38,6 +38,11 @@ struct Snappy::Parts {
           jobs({properties, error, services.messages, services.dialog}), variable(link, error),
           variables(properties, error) {}
 
+    /// Runs one public operation; whichever way it is left, the progress dialog is hidden. One that
+    /// is begun while another runs, by an event that this one lets in, is refused: both would work
+    /// on the same link, record and directory.
+    template <typename Work>
+    bool operate(const Work& work);
     /// The controller's names, for the questions of a send. Hides the progress, as every reading of
     /// the directory does.
     bool readDirectory();
@@ -68,18 +73,22 @@ struct Snappy::Parts {
 
 namespace {
 
-/// One public operation: whichever way it is left, the progress dialog is hidden.
+/// The time of one operation.
 class Operation {
   public:
-    Operation(LinkConnection& link, SessionProgress& progress) : progress_(progress) {
-        link.begin();
+    Operation(LinkConnection& link, SessionProgress& progress) : link_(link), progress_(progress) {
+        link_.begin();
         progress_.begin();
     }
-    ~Operation() { progress_.end(); }
+    ~Operation() {
+        progress_.end();
+        link_.end();
+    }
     Operation(const Operation&) = delete;
     Operation& operator=(const Operation&) = delete;
 
   private:
+    LinkConnection& link_;
     SessionProgress& progress_;
 };
 
@@ -131,8 +140,23 @@ const std::string& Snappy::systemReason() const {
     return parts_->error.systemReason;
 }
 
+const LocalJobList& Snappy::readLocalJobs() {
+    parts_->localJobs.read(path);
+    return parts_->localJobs;
+}
+
 const std::vector<std::string>& Snappy::jobsInTheWay() const {
     return parts_->inTheWay;
+}
+
+template <typename Work>
+bool Snappy::Parts::operate(const Work& work) {
+    if (link.hasBegun()) {
+        error.set(session_code::operationRunning, "");
+        return false;
+    }
+    const Operation operation(link, progress);
+    return work();
 }
 
 // Jobs.
@@ -175,55 +199,60 @@ bool Snappy::Parts::transferList(const SessionProperties& properties, JobBatch::
 }
 
 bool Snappy::ReadDirectory(std::vector<std::string>& list) {
-    const Operation operation(parts_->link, parts_->progress);
-    return parts_->reader.read(list);
+    list.clear();
+    return parts_->operate([&] { return parts_->reader.read(list); });
 }
 
 bool Snappy::JobDownLoad(const std::string& file, bool overwriteAll) {
-    const Operation operation(parts_->link, parts_->progress);
-    parts_->inTheWay.clear();
-    // A name that will be refused opens no link, not even the directory's.
-    if (!parts_->link.libraryFileName(file, "BscDownLoad", 0) || !parts_->readDirectory())
-        return false;
-    parts_->progress.open(parts_->progress.transferring(file), false, true);
-    return parts_->concludeSingle(parts_->sending.send(file, 0, overwriteAll));
+    return parts_->operate([&] {
+        parts_->inTheWay.clear();
+        // A name that will be refused opens no link, not even the directory's.
+        if (!parts_->link.libraryFileName(file, "BscDownLoad", 0) || !parts_->readDirectory())
+            return false;
+        parts_->progress.open(parts_->progress.transferring(file), false, true);
+        return parts_->concludeSingle(parts_->sending.send(file, 0, overwriteAll));
+    });
 }
 
 bool Snappy::JobDelete(const std::string& name) {
-    const Operation operation(parts_->link, parts_->progress);
-    parts_->progress.prepare(parts_->progress.deleting(name));
-    return parts_->deletion.remove(name);
+    return parts_->operate([&] {
+        parts_->progress.prepare(parts_->progress.deleting(name));
+        return parts_->deletion.remove(name);
+    });
 }
 
 bool Snappy::JobUpLoad(const std::string& name, bool overwriteAll) {
-    const Operation operation(parts_->link, parts_->progress);
-    parts_->inTheWay.clear();
-    if (!parts_->link.libraryFileName(name, "BscUpLoad", 0) || !parts_->fetching.listFolder())
-        return false;
-    parts_->progress.open(parts_->progress.transferring(name), false, true);
-    return parts_->concludeSingle(parts_->fetching.fetch(name, 0, overwriteAll));
+    return parts_->operate([&] {
+        parts_->inTheWay.clear();
+        if (!parts_->link.libraryFileName(name, "BscUpLoad", 0) || !parts_->fetching.listFolder())
+            return false;
+        parts_->progress.open(parts_->progress.transferring(name), false, true);
+        return parts_->concludeSingle(parts_->fetching.fetch(name, 0, overwriteAll));
+    });
 }
 
 bool Snappy::JobListDownLoad() {
-    const Operation operation(parts_->link, parts_->progress);
-    parts_->localJobs.read(path);
-    if (!parts_->readDirectory())
-        return false;
-    return parts_->transferList(
-        *this, [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
-            return parts_->sending.send(entry, index, overwriteAll);
-        });
+    return parts_->operate([&] {
+        parts_->localJobs.read(path);
+        if (!parts_->readDirectory())
+            return false;
+        return parts_->transferList(
+            *this, [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
+                return parts_->sending.send(entry, index, overwriteAll);
+            });
+    });
 }
 
 bool Snappy::JobListUpLoad() {
-    const Operation operation(parts_->link, parts_->progress);
-    parts_->localJobs.read(path);
-    if (!parts_->fetching.listFolder())
-        return false;
-    return parts_->transferList(
-        *this, [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
-            return parts_->fetching.fetch(entry, index, overwriteAll);
-        });
+    return parts_->operate([&] {
+        parts_->localJobs.read(path);
+        if (!parts_->fetching.listFolder())
+            return false;
+        return parts_->transferList(
+            *this, [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
+                return parts_->fetching.fetch(entry, index, overwriteAll);
+            });
+    });
 }
 
 void Snappy::AddJobList(const std::string& entry) {
@@ -239,9 +268,10 @@ void Snappy::RemoveJobList(std::int32_t index) {
 }
 
 bool Snappy::SetJobListFile(const std::string& file, bool unchecked) {
-    const Operation operation(parts_->link, parts_->progress);
-    parts_->localJobs.read(path);
-    return parts_->jobs.load(file, unchecked);
+    return parts_->operate([&] {
+        parts_->localJobs.read(path);
+        return parts_->jobs.load(file, unchecked);
+    });
 }
 
 // Variables.
@@ -251,8 +281,7 @@ void Snappy::SetVarListFile(const std::string& file) {
 }
 
 bool Snappy::ReadVarListFile() {
-    const Operation operation(parts_->link, parts_->progress);
-    return parts_->variables.read();
+    return parts_->operate([&] { return parts_->variables.read(); });
 }
 
 void Snappy::VarListClear() {
@@ -268,34 +297,37 @@ void Snappy::RemoveVarList(std::int32_t index) {
 }
 
 bool Snappy::VarDownLoad(const std::string& entry) {
-    const Operation operation(parts_->link, parts_->progress);
-    parts_->progress.open(parts_->progress.transferring(entry), false, false);
-    return parts_->variable.write(entry);
+    return parts_->operate([&] {
+        parts_->progress.open(parts_->progress.transferring(entry), false, false);
+        return parts_->variable.write(entry);
+    });
 }
 
 bool Snappy::VarUpLoad(std::string& entry) {
-    const Operation operation(parts_->link, parts_->progress);
-    parts_->progress.open(parts_->progress.transferring(entry), false, false);
-    return parts_->variable.read(entry);
+    return parts_->operate([&] {
+        parts_->progress.open(parts_->progress.transferring(entry), false, false);
+        return parts_->variable.read(entry);
+    });
 }
 
 bool Snappy::VarListDownLoad() {
-    const Operation operation(parts_->link, parts_->progress);
-    VariableBatch batch(parts_->link, parts_->progress, parts_->error);
-    return batch.run(parts_->variables.entries(),
-                     [this](std::string& entry) { return parts_->variable.write(entry); });
+    return parts_->operate([&] {
+        VariableBatch batch(parts_->link, parts_->progress, parts_->error);
+        return batch.run(parts_->variables.entries(),
+                         [this](std::string& entry) { return parts_->variable.write(entry); });
+    });
 }
 
 bool Snappy::VarListUpLoad() {
-    const Operation operation(parts_->link, parts_->progress);
-    VariableBatch batch(parts_->link, parts_->progress, parts_->error);
-    return batch.run(parts_->variables.entries(),
-                     [this](std::string& entry) { return parts_->variable.read(entry); });
+    return parts_->operate([&] {
+        VariableBatch batch(parts_->link, parts_->progress, parts_->error);
+        return batch.run(parts_->variables.entries(),
+                         [this](std::string& entry) { return parts_->variable.read(entry); });
+    });
 }
 
 bool Snappy::WriteVarListFile(const std::string& file) {
-    const Operation operation(parts_->link, parts_->progress);
-    return parts_->variables.write(file);
+    return parts_->operate([&] { return parts_->variables.write(file); });
 }
 
 // The session itself.

@@ -11,10 +11,13 @@
 
 namespace vantrel {
 
+class LocalJobList;
+
 /// The one controller session: every operation on a controller passes through it. Each operation
 /// opens its own link and closes it again; a failure returns false and leaves its reason in the
 /// error record. Sending into the controller is "download", fetching from it "upload". The public
-/// fields are those of `SessionProperties`.
+/// fields are those of `SessionProperties`. One operation runs at a time: a second one, begun by an
+/// event while the first lets events run, is refused with the code `operationRunning`.
 class Snappy : public SessionProperties {
   public:
     explicit Snappy(const SessionServices& services);
@@ -22,6 +25,8 @@ class Snappy : public SessionProperties {
 
     std::int32_t JobListCount() const;
     std::int32_t VarListCount() const;
+    /// Of the last failure or decision; a success leaves it. So 5, "all", stays readable after
+    /// later files that were sent without a question, until something else is recorded.
     std::int16_t ErrorCode() const;
     const std::string& ErrorFunction() const;
     std::int32_t ErrorIndex() const;
@@ -30,7 +35,8 @@ class Snappy : public SessionProperties {
     std::string VarList(std::int32_t index) const;
 
     bool ReadDirectory(std::vector<std::string>& list);
-    /// `overwriteAll` is read, not written: the answer All is reported as `ErrorCode` 5.
+    /// `overwriteAll` is read, not written: the answer All is reported as `ErrorCode` 5, which is
+    /// also there when it was given for an earlier file.
     bool JobDownLoad(const std::string& file, bool overwriteAll = false);
     bool JobDelete(const std::string& name);
     bool JobUpLoad(const std::string& name, bool overwriteAll = false);
@@ -64,6 +70,9 @@ class Snappy : public SessionProperties {
     /// What the system said to the last failure, where it was the system that refused a list file;
     /// empty for every other failure, whose code tells all that is known.
     const std::string& systemReason() const;
+    /// Reads "LocalJob.lst" of `path` as a list transfer does: without one the list stays as it
+    /// was.
+    const LocalJobList& readLocalJobs();
     /// What the file transferred last would have replaced, in the order of its questions and by the
     /// names that these show: for a caller who let the silent session answer them with Cancel and
     /// now asks for itself. Empty when nothing was in the way.

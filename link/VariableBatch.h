@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace vantrel {
 
@@ -12,7 +13,8 @@ class SessionProgress;
 struct SessionErrorRecord;
 
 /// Transfers a list of variables one after the other; the first failure or a press of Cancel ends
-/// it, with the entry's index in the error record. Blank lines are passed over.
+/// it, with the entry's index in the error record. Blank lines are passed over. The list is worked
+/// through as it is at the start; a refreshed entry replaces only the text that it was read for.
 class VariableBatch {
   public:
     /// Transfers one entry, which may come back refreshed.
@@ -24,7 +26,8 @@ class VariableBatch {
     bool run(EntryList& entries, const Transfer& transfer);
 
   private:
-    bool transferOne(EntryList& entries, std::int32_t index, const Transfer& transfer);
+    bool transferOne(EntryList& entries, std::int32_t index, const std::string& before,
+                     const Transfer& transfer);
 
     const LinkConnection& link_;
     SessionProgress& progress_;

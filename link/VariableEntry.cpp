@@ -44,19 +44,6 @@ std::optional<std::int16_t> kindOf(std::string_view line) {
     }
 }
 
-/// The text behind the first `count` characters, however many bytes these have.
-std::string_view behind(std::string_view text, std::size_t count) {
-    const auto continues = [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-    };
-    std::size_t at = 0;
-    for (; count > 0 && at < text.size(); --count)
-        do
-            ++at;
-        while (at < text.size() && continues(text[at]));
-    return text.substr(at);
-}
-
 std::optional<double> valueOf(std::string_view text) {
     return trimmed(text).empty() ? 0.0 : wholeNumber(text);
 }
@@ -90,7 +77,8 @@ std::optional<VariableEntry> VariableEntry::parse(std::string_view line) {
     const auto kind = kindOf(line);
     if (!kind)
         return {};
-    const std::string_view rest = behind(line, kinds[static_cast<std::size_t>(*kind)].lettersRead);
+    const Kind& read = kinds[static_cast<std::size_t>(*kind)];
+    const std::string_view rest = line.substr(firstCharacters(line, read.lettersRead).size());
     const std::size_t equals = rest.find('=');
     if (equals == std::string_view::npos)
         return {};

@@ -44,7 +44,7 @@ bool VariableList::write(const std::string& file) {
     std::string text;
     for (const std::string& entry : entries_.all())
         text += entry + lineEnd_;
-    auto bytes = encodeText(text, encoding_);
+    auto bytes = encodeReadably(text, encoding_);
     if (!bytes) // a line that came from elsewhere than the file
         bytes = encodeText(text, TextEncoding::Utf8);
     if (!bytes)

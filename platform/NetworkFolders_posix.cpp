@@ -1,8 +1,7 @@
-#include "platform/NetworkFolders.h"
-
 #include "base/Text.h"
 #include "platform/Files.h"
 #include "platform/MountInfo_posix.h"
+#include "platform/NetworkFolders.h"
 
 #include <algorithm>
 #include <array>
@@ -14,9 +13,9 @@ namespace {
 /// File systems of other machines, and the one that mounts them when they are entered. What a
 /// program mounts ("fuse.") may be anywhere.
 bool isNetworkFileSystem(std::string_view name) {
-    static constexpr std::array<std::string_view, 12> network{
-        "nfs", "nfs4", "cifs", "smb3", "smbfs", "ncpfs", "afs", "9p", "ceph", "davfs", "autofs",
-        "coda"};
+    static constexpr std::array<std::string_view, 12> network{"nfs",   "nfs4",  "cifs",   "smb3",
+                                                              "smbfs", "ncpfs", "afs",    "9p",
+                                                              "ceph",  "davfs", "autofs", "coda"};
     return name.starts_with("fuse.") || std::ranges::find(network, name) != network.end();
 }
 

@@ -103,6 +103,13 @@ std::optional<std::string> encodeText(std::string_view text, TextEncoding encodi
     return std::nullopt;
 }
 
+std::optional<std::string> encodeReadably(std::string_view text, TextEncoding encoding) {
+    auto bytes = encodeText(text, encoding);
+    const bool misread =
+        bytes && encoding == TextEncoding::CodePage && decodeText(*bytes).text != text;
+    return misread ? encodeText(text, TextEncoding::Utf8) : bytes;
+}
+
 std::optional<std::string> toCodePage(std::string_view text) {
     if (text.find('\0') != std::string_view::npos)
         return std::nullopt;

@@ -28,6 +28,10 @@ DecodedText decodeText(std::string_view bytes);
 /// Text as the bytes of a file, or nothing when the encoding lacks one of its characters.
 std::optional<std::string> encodeText(std::string_view text, TextEncoding encoding);
 
+/// The same for a file that `decodeText` is to read back: code page bytes that it would take for
+/// another encoding are written as UTF-8.
+std::optional<std::string> encodeReadably(std::string_view text, TextEncoding encoding);
+
 /// What the communication library takes: text in the ANSI code page, or nothing when the code page
 /// lacks a character or the text holds a NUL.
 std::optional<std::string> toCodePage(std::string_view text);

@@ -1,10 +1,15 @@
 # Which Debian packages the build, the tests and the virtual display need, and how to get them.
 # Sourced by ./run and ./test.
 
-build_packages=(g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev pkg-config librsvg2-common fonts-vlgothic)
+build_packages=(g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev pkg-config librsvg2-common fonts-vlgothic
+    ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils adwaita-icon-theme)
-test_packages=(libgtest-dev libgmock-dev)
+test_packages=(libgtest-dev libgmock-dev poppler-utils)
 fuzz_packages=(clang cmake ninja-build ccache)
+# For the Windows build and its tests under Wine; the source package of the toolkit is fetched by
+# scripts/windows-toolkit.sh.
+windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build ccache make dpkg-dev
+    libgtest-dev libgmock-dev librsvg2-bin icoutils nsis zip wine wine64 locales fonts-vlgothic)
 
 is_debian_like() {
     command -v dpkg-query >/dev/null && command -v apt-get >/dev/null

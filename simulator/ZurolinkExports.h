@@ -4,8 +4,9 @@
 /// of 16 bits, texts in the ANSI code page, `values` ten doubles. Everything that differs between
 /// systems is in the macros here.
 
+// On Windows the definition file says what is exported, since it alone gives plain names.
 #if defined(_WIN32)
-#define ZUROLINK_EXPORT extern "C" __declspec(dllexport)
+#define ZUROLINK_EXPORT extern "C"
 #else
 #define ZUROLINK_EXPORT extern "C" __attribute__((visibility("default")))
 #endif

@@ -36,12 +36,13 @@ bool wouldChange(const wxKeyEvent& event) {
 
 void chooseInOpenListOnly(wxChoice& choice) {
     choice.Bind(wxEVT_KEY_DOWN, [&choice](wxKeyEvent& event) {
-        if (wouldChange(event))
+        if (wouldChange(event) && !isListOpen(choice))
             openList(choice);
         else
             event.Skip();
     });
-    choice.Bind(wxEVT_MOUSEWHEEL, [](wxMouseEvent&) {});
+    choice.Bind(wxEVT_MOUSEWHEEL,
+                [&choice](wxMouseEvent& event) { event.Skip(isListOpen(choice)); });
 }
 
 } // namespace vantrel

@@ -11,4 +11,7 @@ void chooseInOpenListOnly(wxChoice& choice);
 /// Shows the list of a choice.
 void openList(wxChoice& choice);
 
+/// Whether that list is shown now. On some systems the choice gets the keys meant for it.
+bool isListOpen(const wxChoice& choice);
+
 } // namespace vantrel

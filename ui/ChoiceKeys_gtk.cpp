@@ -10,4 +10,10 @@ void openList(wxChoice& choice) {
         gtk_combo_box_popup(GTK_COMBO_BOX(choice.GetHandle()));
 }
 
+bool isListOpen(const wxChoice& choice) {
+    gboolean isOpen = FALSE;
+    g_object_get(choice.GetHandle(), "popup-shown", &isOpen, nullptr);
+    return isOpen != FALSE;
+}
+
 } // namespace vantrel

@@ -40,8 +40,9 @@ Composition::~Composition() {
 
 Composition::Commands::Commands(Composition& owner, frmZuroVant& window)
     : panes(owner.state_, *owner.session_, owner.table_, owner.messages_, window),
-      transfers(TransferServices{owner.state_, *owner.session_, panes, window, owner.table_,
-                                 owner.messages_, owner.progress_, owner.dialog_}),
+      transferServices{owner.state_, *owner.session_, panes,           window,
+                       owner.table_, owner.messages_, owner.progress_, owner.dialog_},
+      transfers(transferServices),
       folder(owner.state_, panes, owner.dialog_, window, *window.controls().trvFolderList),
       services{owner.state_,    *owner.session_, panes,  transfers,
                owner.messages_, owner.dialog_,   window, window,
@@ -51,6 +52,8 @@ Composition::Commands::Commands(Composition& owner, frmZuroVant& window)
       robots({owner.state_, *owner.session_, panes, owner.messages_, owner.boxes_, owner}),
       settings({owner.state_, *owner.session_, panes, owner.registry_, window, robots, window,
                 main}),
+      listFiles(window, owner.state_, *owner.session_, owner.boxes_, owner.messages_),
+      lists(transferServices, listFiles), help(owner.state_, owner.programFolder_, openDocument),
       shutdown({owner.state_, owner.settings_, owner.registry_, *owner.session_, owner.messages_,
                 owner.boxes_, owner}) {}
 
@@ -124,6 +127,7 @@ void Composition::buildMainWindow() {
     window_->connect(commands_->main);
     window_->controls().trvFolderList->connect(commands_->folderTree);
     window_->onClose = [this] { return commands_->shutdown.close(); };
+    window_->onForcedClose = [this] { return commands_->shutdown.closeUnasked(); };
     window_->onRobotChosen = [this](int index) { commands_->robots.choose(index); };
     window_->onOtherEntry = [this](MenuItem item) { otherEntry(item); };
     commands_->panes.fillFilterChoices();
@@ -188,13 +192,22 @@ void Composition::refreshActivePane() {
 }
 
 void Composition::otherEntry(MenuItem item) {
-    constexpr int settings = 0, language = 7;
     if (item.menu == Menu::mnuVer)
         openVersionWindow();
-    else if (item == MenuItem{Menu::mnuOpt, settings})
+    else if (item.menu == Menu::mnuHelp)
+        commands_->help.mnuHelp(item.index);
+    else if (item.menu == Menu::mnuOpt)
+        openOption(item.index);
+}
+
+void Composition::openOption(int index) {
+    constexpr int settings = 0, language = 7;
+    if (index == settings)
         openSettings();
-    else if (item == MenuItem{Menu::mnuOpt, language})
+    else if (index == language)
         changeLanguage();
+    else
+        commands_->lists.mnuOpt(index);
 }
 
 void Composition::openSettings() {
@@ -221,11 +234,10 @@ void Composition::openVersionWindow() {
 
 void Composition::changeLanguage() {
     showLanguageDialog();
-    window_->applyCaptions();
+    commands_->settings.recaption();
     window_->applyFont();
     if (progressWindow_)
         progressWindow_->applyCaptions();
-    commands_->main.recaption();
     showSimulationNotice();
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "app/FolderTreeCommands.h"
+#include "app/HelpCommands.h"
+#include "app/ListTransferCommands.h"
 #include "app/MainCommands.h"
 #include "app/PCFolder.h"
 #include "app/RobotRegistry.h"
@@ -21,6 +23,7 @@
 #include "link/ProgressPanel.h"
 #include "link/Snappy.h"
 #include "link/ZurolinkBinding.h"
+#include "ui/ListFileDialogs.h"
 #include "ui/OperationGuard.h"
 #include "ui/WxFilePrinter.h"
 #include "ui/dialogs/FrmMessage.h"
@@ -60,6 +63,7 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
     /// What exists only once the main window does.
     struct Commands {
         Panes panes;
+        TransferServices transferServices;
         TransferCommands transfers;
         PCFolder folder;
         MainServices services;
@@ -67,6 +71,9 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
         FolderTreeCommands folderTree;
         RobotSelection robots;
         SettingCommands settings;
+        ListFileDialogs listFiles;
+        ListTransferCommands lists;
+        HelpCommands help;
         Shutdown shutdown;
 
         Commands(Composition& owner, frmZuroVant& window);
@@ -97,6 +104,7 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
     void refreshActivePane() override;
 
     void otherEntry(MenuItem item);
+    void openOption(int index);
     void openSettings();
     void openVersionWindow();
     void changeLanguage();

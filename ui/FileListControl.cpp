@@ -1,6 +1,7 @@
 #include "ui/FileListControl.h"
 
 #include "files/PaneRows.h"
+#include "ui/FieldBorder.h"
 #include "ui/IconSet.h"
 
 #include <wx/sizer.h>
@@ -12,12 +13,6 @@ namespace {
 
 constexpr int largeIconSize = 32;
 constexpr int smallIconSize = 16;
-// The list of the GTK port is drawn by the toolkit and has no themed border of its own.
-#ifdef __WXGTK__
-constexpr long listBorder = wxBORDER_SIMPLE;
-#else
-constexpr long listBorder = wxBORDER_THEME;
-#endif
 // In pixels at 96 dpi; what the settings' default column widths come to.
 constexpr std::array<int, FileListControl::columnCount> builtInWidths{93, 47, 100};
 
@@ -102,7 +97,7 @@ FileListControl::~FileListControl() {
 
 void FileListControl::createList() {
     list_ =
-        new NativeList(this, viewStyle(view_) | wxLC_AUTOARRANGE | listBorder, listName_, rows_);
+        new NativeList(this, viewStyle(view_) | wxLC_AUTOARRANGE | fieldBorder, listName_, rows_);
     list_->SetFont(GetFont());
     list_->SetNormalImages(kindIcons(largeIconSize));
     list_->SetSmallImages(kindIcons(smallIconSize));

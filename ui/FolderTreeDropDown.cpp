@@ -2,8 +2,8 @@
 
 #include "app/FolderTreeCommands.h"
 #include "ui/FolderImages.h"
+#include "ui/FolderNodes.h"
 #include "ui/SystemLook.h"
-#include "ui/dialogs/WxText.h"
 
 #include <utility>
 
@@ -13,17 +13,6 @@
 namespace vantrel {
 
 namespace {
-
-class NodeData : public wxTreeItemData {
-  public:
-    explicit NodeData(FolderTree::Id node) : id(node) {}
-    const FolderTree::Id id;
-};
-
-FolderTree::Id idOf(const wxTreeCtrl& tree, const wxTreeItemId& item) {
-    const auto* data = item.IsOk() ? dynamic_cast<NodeData*>(tree.GetItemData(item)) : nullptr;
-    return data ? data->id : FolderTree::none;
-}
 
 bool isMousePress(const wxEvent& event) {
     const auto type = event.GetEventType();
@@ -111,8 +100,8 @@ void FolderTreeDropDown::expanding(wxTreeEvent& event) {
     if (filling_ || !commands_ || GetChildrenCount(item, false) > 0)
         return;
     const wxBusyCursor busy;
-    const auto nodes = commands_->open(idOf(*this, item));
-    addNodes(item, commands_->tree(), nodes);
+    const auto nodes = commands_->open(folderNode(*this, item));
+    addFolderNodes(*this, item, commands_->tree(), nodes);
     if (!nodes.empty())
         return;
     SetItemHasChildren(item, false);
@@ -120,7 +109,7 @@ void FolderTreeDropDown::expanding(wxTreeEvent& event) {
 }
 
 void FolderTreeDropDown::choose(const wxTreeItemId& item) {
-    const auto node = idOf(*this, item);
+    const auto node = folderNode(*this, item);
     if (!commands_ || node == FolderTree::none)
         return;
     // A box that tells of a failure takes the focus; the tree is there again when it closes.
@@ -136,24 +125,8 @@ void FolderTreeDropDown::showTree(const FolderTree& tree) {
     filling_ = true;
     pressed_ = {};
     DeleteAllItems();
-    addNodes(AddRoot(wxString()), tree, tree.roots());
+    addFolderNodes(*this, AddRoot(wxString()), tree, tree.roots());
     filling_ = false;
-}
-
-void FolderTreeDropDown::addNodes(const wxTreeItemId& parent, const FolderTree& tree,
-                                  const std::vector<FolderTree::Id>& nodes) {
-    for (const auto id : nodes) {
-        const auto& node = tree.node(id);
-        const auto item =
-            AppendItem(parent, toWx(node.text), folderImage(node.image), -1, new NodeData(id));
-        // Whether there is anything below is looked at when the operator opens the node.
-        SetItemHasChildren(item, !node.childrenRead || !node.children.empty());
-        addNodes(item, tree, node.children);
-        if (node.expanded && !node.children.empty())
-            Expand(item);
-        if (id == tree.selected())
-            SelectItem(item);
-    }
 }
 
 void FolderTreeDropDown::dropDown(bool isDown) {
@@ -168,17 +141,7 @@ void FolderTreeDropDown::dropDown(bool isDown) {
     Show();
     bringToFront(*this);
     SetFocus();
-    showSelection();
-}
-
-/// With as much of what is below it as fits.
-void FolderTreeDropDown::showSelection() {
-    const auto selected = GetSelection();
-    if (!selected.IsOk())
-        return;
-    if (const auto last = GetLastChild(selected); last.IsOk() && IsExpanded(selected))
-        EnsureVisible(last);
-    EnsureVisible(selected);
+    showSelectedFolder(*this);
 }
 
 /// The node whose image, text or row is under the pointer; none on an expander.

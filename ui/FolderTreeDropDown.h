@@ -3,8 +3,6 @@
 #include "app/FolderTreeView.h"
 #include "files/FolderTree.h"
 
-#include <vector>
-
 #include <wx/eventfilter.h>
 #include <wx/treectrl.h>
 
@@ -39,9 +37,6 @@ class FolderTreeDropDown : public wxTreeCtrl, public FolderTreeView, private wxE
     void keyPressed(wxKeyEvent& event);
     void expanding(wxTreeEvent& event);
     void choose(const wxTreeItemId& item);
-    void showSelection();
-    void addNodes(const wxTreeItemId& parent, const FolderTree& tree,
-                  const std::vector<FolderTree::Id>& nodes);
     wxTreeItemId nodeAt(const wxMouseEvent& event) const;
     int FilterEvent(wxEvent& event) override;
     bool leaves(wxEvent& event) const;

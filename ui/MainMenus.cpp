@@ -55,8 +55,16 @@ const std::vector<Top>& barTable() {
           {Menu::mnuSort, 1, "", wxITEM_CHECK},
           {Menu::mnuSort, 2, "", wxITEM_CHECK}}},
         {Menu::mnuRefresh, {{Menu::mnuRefresh, 0, "F5"}}},
-        {Menu::mnuOptMain, {{Menu::mnuOpt, 0}, {}, {Menu::mnuOpt, 7}}},
-        {Menu::mnuHelpMain, {{Menu::mnuVer, 0}}},
+        {Menu::mnuOptMain,
+         {{Menu::mnuOpt, 0},
+          {},
+          {Menu::mnuOpt, 2},
+          {Menu::mnuOpt, 3},
+          {Menu::mnuOpt, 4},
+          {Menu::mnuOpt, 5},
+          {},
+          {Menu::mnuOpt, 7}}},
+        {Menu::mnuHelpMain, {{Menu::mnuHelp, 0, "F1"}, {Menu::mnuVer, 0}}},
     };
     return table;
 }

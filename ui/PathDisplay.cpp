@@ -1,17 +1,9 @@
 #include "ui/PathDisplay.h"
 
+#include "ui/FieldBorder.h"
 #include "ui/FolderImages.h"
 
 namespace vantrel {
-
-namespace {
-// The tree of the GTK port is drawn by the toolkit and has no themed border of its own.
-#ifdef __WXGTK__
-constexpr long fieldBorder = wxBORDER_SIMPLE;
-#else
-constexpr long fieldBorder = wxBORDER_THEME;
-#endif
-} // namespace
 
 PathDisplay::PathDisplay(wxWindow* parent, const wxString& name)
     : wxTreeCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,

@@ -10,6 +10,7 @@
 #include "files/PaneRows.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/ShownText.h"
 #include "ui/ChoiceKeys.h"
 #include "ui/FileListControl.h"
 #include "ui/FileViewer.h"
@@ -92,15 +93,17 @@ void frmZuroVant::bindEvents() {
         event.Skip();
         lay();
     });
-    Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
-        if (event.CanVeto() && onClose && !onClose())
-            event.Veto();
-        else
-            Destroy();
-    });
+    Bind(wxEVT_CLOSE_WINDOW, &frmZuroVant::close, this);
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
         event.Skip();
         CallAfter(&frmZuroVant::lay);
+    });
+    // The window gets a key before the control that has the focus.
+    Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_F1)
+            chosen({Menu::mnuHelp, 0});
+        else
+            event.Skip();
     });
     bindPane(ActiveSide::PC);
     bindPane(ActiveSide::Controller);
@@ -110,6 +113,7 @@ void frmZuroVant::bindEvents() {
         event.Skip();
     });
     controls_.cmbRbtName->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
+        controls_.cmbRbtName->SetToolTip(event.GetString());
         if (onRobotChosen)
             onRobotChosen(event.GetSelection());
     });
@@ -123,6 +127,16 @@ void frmZuroVant::bindEvents() {
             commands_->drop(source);
     };
     menus_.onChosen = [this](MenuItem item) { chosen(item); };
+}
+
+void frmZuroVant::close(wxCloseEvent& event) {
+    const auto& mayClose = event.CanVeto() ? onClose : onForcedClose;
+    if (!mayClose || mayClose())
+        Destroy();
+    else if (event.CanVeto())
+        event.Veto();
+    else
+        closesWhenUnlocked_ = true;
 }
 
 void frmZuroVant::bindPane(ActiveSide side) {
@@ -235,6 +249,8 @@ void frmZuroVant::setLocked(bool locked) {
     else
         guard_.unlock();
     state_.Busy = guard_.isLocked();
+    if (closesWhenUnlocked_ && !state_.Busy)
+        CallAfter([this] { Close(true); });
     if (commands_)
         commands_->updateStates();
 }
@@ -355,8 +371,8 @@ std::optional<std::size_t> frmZuroVant::focusedRow() const {
 }
 
 void frmZuroVant::showFile(const std::string& name, std::string_view text) {
-    controls_.lblFileName->SetLabelText(toWx(name));
-    controls_.lblFileName->SetToolTip(toWx(name));
+    controls_.lblFileName->SetLabelText(toWx(shownText(name)));
+    controls_.lblFileName->SetToolTip(toWx(shownText(name)));
     controls_.rtxFileDisp->showText(text);
     exchangePanes(true);
 }
@@ -395,6 +411,8 @@ void frmZuroVant::add(const std::string& name) {
 
 void frmZuroVant::select(int index) {
     controls_.cmbRbtName->SetSelection(index);
+    // The closed box may be too narrow for what tells two robots apart.
+    controls_.cmbRbtName->SetToolTip(controls_.cmbRbtName->GetStringSelection());
 }
 
 } // namespace vantrel

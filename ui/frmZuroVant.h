@@ -40,6 +40,9 @@ class frmZuroVant : public wxFrame,
     std::function<void(int index)> onRobotChosen;
     /// Asks whether the window may close; it closes when the answer is true.
     std::function<bool()> onClose;
+    /// The same for a close that cannot be refused, as at the end of the operator's session. While
+    /// an operation runs it is put off, since that still needs the window.
+    std::function<bool()> onForcedClose;
 
     WindowPlacement placement() const;
     /// The notice in the third panel of the status bar; an empty text hides nothing else.
@@ -83,6 +86,7 @@ class frmZuroVant : public wxFrame,
     wxChoice& filter(ActiveSide side) const;
     int dpi() const;
     void bindEvents();
+    void close(wxCloseEvent& event);
     void bindPane(ActiveSide side);
     void bindToolBars();
     void exchangePanes(bool viewer);
@@ -100,6 +104,7 @@ class frmZuroVant : public wxFrame,
     WindowPlace place_;
     MainCommands* commands_ = nullptr;
     bool placed_ = false;
+    bool closesWhenUnlocked_ = false;
 };
 
 } // namespace vantrel

@@ -11,19 +11,18 @@ using testing::IsEmpty;
 class FolderChoiceTest : public testing::Test {
   protected:
     FolderChoice choice(PathStyle style = PathStyle::Posix) {
-        return FolderChoice(
-            {[this] { return drives; },
-             [this](const std::string& folder) {
-                 read.push_back(folder);
-                 return folder == "/" ? std::vector<std::string>{"home", "srv"}
-                                      : std::vector<std::string>{"a", "b"};
-             },
-             [this](const std::string& folder) {
-                 listed.push_back(folder);
-                 return std::vector<std::string>{"X.JBI"};
-             },
-             [](const std::string& folder) { return folder.starts_with("/net"); }},
-            PathRules(style));
+        return FolderChoice({[this] { return drives; },
+                             [this](const std::string& folder) {
+                                 read.push_back(folder);
+                                 return folder == "/" ? std::vector<std::string>{"home", "srv"}
+                                                      : std::vector<std::string>{"a", "b"};
+                             },
+                             [this](const std::string& folder) {
+                                 listed.push_back(folder);
+                                 return std::vector<std::string>{"X.JBI"};
+                             },
+                             [](const std::string& folder) { return folder.starts_with("/net"); }},
+                            PathRules(style));
     }
     static std::string nodes(const FolderTree& tree, const std::vector<FolderTree::Id>& ids) {
         std::string text;

@@ -49,6 +49,12 @@ TEST_F(FolderTreeCommandsTest, TheTreeDropsDownForThePCFolder) {
     EXPECT_THAT(read, ElementsAre(pc.path()));
 }
 
+TEST_F(FolderTreeCommandsTest, KeysInItNeverActOnTheController) {
+    main.activate(ActiveSide::Controller);
+    commands_.drop();
+    EXPECT_EQ(state.Active, ActiveSide::PC);
+}
+
 TEST_F(FolderTreeCommandsTest, EachTimeItIsBuiltAnew) {
     ASSERT_TRUE(folder.enter(pc.path("inner"), FolderTree::folderOnly("inner")));
     commands_.drop();

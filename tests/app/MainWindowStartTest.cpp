@@ -63,6 +63,22 @@ TEST_F(MainWindowStartTest, AFolderThatIsGoneOpensTheNearestOneAboveAndSaysSo) {
     EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
 }
 
+TEST_F(MainWindowStartTest, AFolderThatIsThereButCannotBeListedOpensTheOneAboveToo) {
+    state.PCPath = pc.write("A.JBI", "no folder at all");
+    start();
+    EXPECT_EQ(state.PCPath, pc.path());
+    EXPECT_EQ(view.folder, pc.path());
+    EXPECT_EQ(boxes.texts().size(), 1u);
+    EXPECT_EQ(window.pcStatus, "PC: 1 items");
+}
+
+TEST_F(MainWindowStartTest, WithoutAnyFolderTheWindowStillSaysWhere) {
+    state.PCPath = "gone";
+    start();
+    EXPECT_EQ(view.folder, "gone");
+    EXPECT_EQ(window.pcStatus, "PC: 0 items");
+}
+
 TEST_F(MainWindowStartTest, AModelWithoutTheLinkStartsWithTheSerialLine) {
     state.Controler = 1;
     state.TransMode = TransferMode::HispeedLink;

@@ -66,6 +66,13 @@ TEST_F(PaneCommandsTest, TheSortMenuKeepsTheDirection) {
     EXPECT_EQ(state.PCListing.SortDir, 1);
 }
 
+TEST_F(PaneCommandsTest, APressOnUpIsAPressInThePCPane) {
+    showPanes();
+    main.activate(ActiveSide::Controller);
+    main.tool("UpFolder");
+    EXPECT_EQ(state.Active, ActiveSide::PC);
+}
+
 TEST_F(PaneCommandsTest, ADropOfThePCSelectionSendsIt) {
     pcJob("NEW");
     showPanes();

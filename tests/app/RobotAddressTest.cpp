@@ -20,8 +20,7 @@ struct TypedRow : NamedRow {
 class AddressPartTest : public testing::TestWithParam<TypedRow> {};
 
 TEST_P(AddressPartTest, IsKeptOrCleared) {
-    EXPECT_EQ(typedAddressPart(GetParam().typed),
-              (TypedPart{GetParam().kept, GetParam().movesOn}));
+    EXPECT_EQ(typedAddressPart(GetParam().typed), (TypedPart{GetParam().kept, GetParam().movesOn}));
 }
 
 TEST_P(AddressPartTest, IsJudged) {
@@ -30,27 +29,25 @@ TEST_P(AddressPartTest, IsJudged) {
 
 INSTANTIATE_TEST_SUITE_P(
     Typed, AddressPartTest,
-    testing::Values(TypedRow{{"Number"}, "192", "192", false, true},
-                    TypedRow{{"Nothing"}, "", "", false, false},
-                    TypedRow{{"PointAtTheEnd"}, "192.", "192", true, true},
-                    TypedRow{{"PointAlone"}, ".", "", false, false},
-                    TypedRow{{"TwoPoints"}, "1..", "", false, false},
-                    TypedRow{{"Letter"}, "a", "", false, false},
-                    TypedRow{{"LetterBehind"}, "19a", "", false, false},
-                    TypedRow{{"WholeAddress"}, "10.0.0.1", "", false, false},
-                    TypedRow{{"Fraction"}, "1.5", "1.5", false, false},
-                    TypedRow{{"Minus"}, "-1", "-1", false, false},
-                    TypedRow{{"Plus"}, "+1", "+1", false, false},
-                    TypedRow{{"Exponent"}, "1e2", "1e2", false, false},
-                    TypedRow{{"Blank"}, " 1", " 1", false, false},
-                    TypedRow{{"Zero"}, "0", "0", false, true},
-                    TypedRow{{"LeadingZeros"}, "0007", "0007", false, true},
-                    TypedRow{{"Highest"}, "255", "255", false, true},
-                    TypedRow{{"TooHigh"}, "256", "256", false, false},
-                    TypedRow{{"MuchTooHigh"}, "100000000000000000000", "100000000000000000000",
-                             false, false},
-                    TypedRow{{"WideDigits"}, "１", "", false, false},
-                    TypedRow{{"Hexadecimal"}, "0x10", "", false, false}),
+    testing::Values(
+        TypedRow{{"Number"}, "192", "192", false, true},
+        TypedRow{{"Nothing"}, "", "", false, false},
+        TypedRow{{"PointAtTheEnd"}, "192.", "192", true, true},
+        TypedRow{{"PointAlone"}, ".", "", false, false},
+        TypedRow{{"TwoPoints"}, "1..", "", false, false},
+        TypedRow{{"Letter"}, "a", "", false, false},
+        TypedRow{{"LetterBehind"}, "19a", "", false, false},
+        TypedRow{{"WholeAddress"}, "10.0.0.1", "", false, false},
+        TypedRow{{"Fraction"}, "1.5", "1.5", false, false},
+        TypedRow{{"Minus"}, "-1", "-1", false, false}, TypedRow{{"Plus"}, "+1", "+1", false, false},
+        TypedRow{{"Exponent"}, "1e2", "1e2", false, false},
+        TypedRow{{"Blank"}, " 1", " 1", false, false}, TypedRow{{"Zero"}, "0", "0", false, true},
+        TypedRow{{"LeadingZeros"}, "0007", "0007", false, true},
+        TypedRow{{"Highest"}, "255", "255", false, true},
+        TypedRow{{"TooHigh"}, "256", "256", false, false},
+        TypedRow{{"MuchTooHigh"}, "100000000000000000000", "100000000000000000000", false, false},
+        TypedRow{{"WideDigits"}, "１", "", false, false},
+        TypedRow{{"Hexadecimal"}, "0x10", "", false, false}),
     rowName);
 
 RobotRecord addressed(const char* one, const char* two, const char* three, const char* four) {

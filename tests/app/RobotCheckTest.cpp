@@ -54,7 +54,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(NameRow{{"Plain"}, "LINE1 WELD", {}}, NameRow{{"Japanese"}, "溶接１号", {}},
                     NameRow{{"HalfWidth"}, "ﾛﾎﾞｯﾄ", {}}, NameRow{{"InnerApostrophe"}, "Bob's", {}},
                     NameRow{{"Brackets"}, "[Robot]", {}}, NameRow{{"Semicolon"}, ";R", {}},
-                    NameRow{{"Empty"}, "", Kind::NoName}, NameRow{{"BlanksOnly"}, "  ", Kind::NoName},
+                    NameRow{{"Empty"}, "", Kind::NoName},
+                    NameRow{{"BlanksOnly"}, "  ", Kind::NoName},
                     NameRow{{"Comma"}, "a,b", Kind::NameRefused},
                     NameRow{{"EqualsSign"}, "a=b", Kind::NameRefused},
                     NameRow{{"Tab"}, "a\tb", Kind::NameRefused},
@@ -91,19 +92,18 @@ TEST_P(RobotAddressCheckTest, IsJudged) {
     EXPECT_EQ(faultOf(robot), expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Addresses, RobotAddressCheckTest,
-    testing::Values(AddressRow{{"Lowest"}, {"0", "0", "0", "0"}, -1},
-                    AddressRow{{"Highest"}, {"255", "255", "255", "255"}, -1},
-                    AddressRow{{"LeadingZeros"}, {"010", "000", "1", "1"}, -1},
-                    AddressRow{{"AllEmpty"}, {"", "", "", ""}, -1},
-                    AddressRow{{"FirstEmpty"}, {"", "0", "0", "1"}, 0},
-                    AddressRow{{"LastEmpty"}, {"10", "0", "0", ""}, 3},
-                    AddressRow{{"TooHigh"}, {"10", "256", "0", "1"}, 1},
-                    AddressRow{{"Fraction"}, {"10", "0", "1.5", "1"}, 2},
-                    AddressRow{{"Minus"}, {"-1", "0", "0", "1"}, 0},
-                    AddressRow{{"Blank"}, {"10", "0", "0", " 1"}, 3}),
-    rowName);
+INSTANTIATE_TEST_SUITE_P(Addresses, RobotAddressCheckTest,
+                         testing::Values(AddressRow{{"Lowest"}, {"0", "0", "0", "0"}, -1},
+                                         AddressRow{{"Highest"}, {"255", "255", "255", "255"}, -1},
+                                         AddressRow{{"LeadingZeros"}, {"010", "000", "1", "1"}, -1},
+                                         AddressRow{{"AllEmpty"}, {"", "", "", ""}, -1},
+                                         AddressRow{{"FirstEmpty"}, {"", "0", "0", "1"}, 0},
+                                         AddressRow{{"LastEmpty"}, {"10", "0", "0", ""}, 3},
+                                         AddressRow{{"TooHigh"}, {"10", "256", "0", "1"}, 1},
+                                         AddressRow{{"Fraction"}, {"10", "0", "1.5", "1"}, 2},
+                                         AddressRow{{"Minus"}, {"-1", "0", "0", "1"}, 0},
+                                         AddressRow{{"Blank"}, {"10", "0", "0", " 1"}, 3}),
+                         rowName);
 
 TEST(RobotCheckTest, AChosenFolderHoldsNoCommaAndNoEqualsSign) {
     for (const char* const folder : {"/a,b", "/a=b", "/a\tb", "/a\nb"}) {

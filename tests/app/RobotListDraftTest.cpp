@@ -17,8 +17,7 @@ RobotRecord robotAt(const std::string& name, const std::string& last) {
 
 std::vector<RobotRecord> three() {
     auto robots = emptyRobotList();
-    robots.insert(robots.begin(),
-                  {robotAt("A", "1"), robotAt("B", "2"), robotAt("C", "3")});
+    robots.insert(robots.begin(), {robotAt("A", "1"), robotAt("B", "2"), robotAt("C", "3")});
     return robots;
 }
 

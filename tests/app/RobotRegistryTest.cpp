@@ -6,8 +6,11 @@
 #include "app/RobotPaths.h"
 #include "base/PathRules.h"
 #include "platform/TextEncoding.h"
+#include "support/FileSizeLimit.h"
+#include "support/NamedRow.h"
 
 #include <filesystem>
+#include <string>
 
 #include <gtest/gtest.h>
 
@@ -206,6 +209,22 @@ TEST_F(RobotRegistryTest, AnUnreadFileIsKeptAsABackupWhenTheOperatorEdited) {
     EXPECT_FALSE(folder_.has("robot.ini.bak3"));
 }
 
+TEST_F(RobotRegistryTest, AnUnreadFileStaysInItsPlaceWhenTheNewOneCannotBeWritten) {
+    makeUnreadable();
+    registry_.read(box_);
+    state_.RobotList.insert(state_.RobotList.begin(), RobotRecord())->Name = "NEW";
+    registry_.noteEdit();
+    {
+        const tests::FileSizeLimit full(0);
+        EXPECT_FALSE(registry_.write());
+    }
+    EXPECT_TRUE(folder_.has("robot.ini/inner"));
+    EXPECT_FALSE(folder_.has("robot.ini.bak"));
+    EXPECT_TRUE(registry_.write()) << "it is tried again the same way";
+    EXPECT_TRUE(folder_.has("robot.ini.bak/inner"));
+    EXPECT_NE(file().find("Name=NEW\r\n"), std::string::npos);
+}
+
 TEST_F(RobotRegistryTest, AFileThatIsReadWholeAtLastIsRewritten) {
     makeUnreadable();
     registry_.read(box_);
@@ -272,6 +291,56 @@ TEST_F(RobotRegistryTest, APlainFileGoesOnInUtf8WhereTheCodePageCannot) {
         EXPECT_EQ(state_.BootName, name);
         EXPECT_EQ(state_.CurrentRobot.Name, name);
     }
+}
+
+// Without its other name the code page's bytes would be taken for UTF-8.
+TEST_F(RobotRegistryTest, ACodePageFileGoesOnInUtf8WhereItWouldBeReadOtherwise) {
+    read("[Robot]\r\nName=\x83\x7B\r\nPath=/a\r\n");
+    state_.RobotList[0].Name = "ﾓｰ";
+    state_.CurrentRobot = state_.RobotList[0];
+    EXPECT_TRUE(registry_.write());
+    registry_.read(box_);
+    EXPECT_EQ(state_.RobotList[0].Name, "ﾓｰ");
+    EXPECT_EQ(state_.BootName, "ﾓｰ");
+}
+
+struct BootRow : tests::NamedRow {
+    const char* block;
+    const char* boot;
+};
+
+class BootNameTest : public RobotRegistryTest, public testing::WithParamInterface<BootRow> {};
+
+/// Whatever the file's encoding, the name is what a profile read gives.
+TEST_P(BootNameTest, IsReadAsInAnyProfile) {
+    const std::string robots = "[Robot]\r\nName=R1\r\n[Robot]\r\nName=";
+    const std::string text = GetParam().block + robots;
+    read(text + "R2\r\n");
+    EXPECT_EQ(state_.BootName, GetParam().boot) << "plain";
+    for (const auto encoding : {TextEncoding::CodePage, TextEncoding::Utf8,
+                                TextEncoding::Utf8WithMark, TextEncoding::Utf16LittleEndian}) {
+        read(encodeText(text + "ボ\r\n", encoding).value());
+        EXPECT_EQ(state_.BootName, GetParam().boot) << int(encoding);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Blocks, BootNameTest,
+    testing::Values(BootRow{{"Usual"}, "[Boot]\r\nName=R2\r\n", "R2"},
+                    BootRow{{"LetterCaseOfTheSection"}, "[boot]\r\nName=R2\r\n", "R2"},
+                    BootRow{{"LetterCaseOfTheKey"}, "[Boot]\r\nNAME=R2\r\n", "R2"},
+                    BootRow{{"TheFirstNameWins"}, "[Boot]\r\nName=R2\r\nName=R1\r\n", "R2"},
+                    BootRow{{"OuterBlanks"}, "[Boot]\r\n Name = R2 \r\n", "R2"},
+                    BootRow{{"BlanksBeforeTheSection"}, "  [Boot]\r\nName=R2\r\n", "R2"},
+                    BootRow{{"Quotes"}, "[Boot]\r\nName=\"R 2\"\r\n", "R 2"},
+                    BootRow{{"CommasAndEqualSigns"}, "[Boot]\r\nName=R2,x=y\r\n", "R2,x=y"},
+                    BootRow{{"NoName"}, "[Boot]\r\n", ""},
+                    BootRow{{"NoSection"}, "Name=R2\r\n", ""}),
+    tests::rowName);
+
+TEST_F(RobotRegistryTest, TheBootNameEndsAtANul) {
+    read(std::string("[Boot]\r\nName=R2\0x\r\n[Robot]\r\nName=ボ\r\n", 38));
+    EXPECT_EQ(state_.BootName, "R2");
 }
 
 TEST_F(RobotRegistryTest, ANameThatTheFilesEncodingLacksIsRefusedByName) {

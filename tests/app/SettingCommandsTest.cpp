@@ -262,6 +262,17 @@ TEST_F(SettingCommandsTest, AModelWithoutTheHighSpeedLinkLeavesItAfterwards) {
     EXPECT_TRUE(view.mode.showsSerialLine);
 }
 
+TEST_F(SettingCommandsTest, AnotherLanguageLeavesEvenAModeAloneThatTheModelLacks) {
+    state.TransMode = TransferMode::HispeedLink;
+    state.Controler = aster;
+    view.log.clear();
+    settings.recaption();
+    EXPECT_EQ(state.TransMode, TransferMode::HispeedLink);
+    EXPECT_FALSE(window.controller.names.empty());
+    EXPECT_NE(std::ranges::find(view.log, "captions"), view.log.end());
+    EXPECT_EQ(window.pcStatus, "PC: 1 items");
+}
+
 TEST_F(SettingCommandsTest, AfterwardsLabelCaptionsCountsAndStatesFollow) {
     apply([](SettingDraft& draft) { draft.serial().setPort(3); });
     view.log.clear();

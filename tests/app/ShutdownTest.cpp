@@ -59,6 +59,22 @@ class ShutdownTest : public testing::Test {
                         .windows = windows_}};
 };
 
+TEST_F(ShutdownTest, TheEndOfTheOperatorsSessionSavesWithoutAQuestion) {
+    EXPECT_TRUE(shutdown_.closeUnasked());
+    EXPECT_TRUE(desk_.boxes.shown.empty());
+    EXPECT_NE(settings(), "");
+    EXPECT_NE(registryFile(), "");
+    EXPECT_TRUE(shutdown_.close()) << "it is closed already";
+}
+
+TEST_F(ShutdownTest, TheEndOfTheOperatorsSessionWaitsForWhatRuns) {
+    windows_.locked = true;
+    EXPECT_FALSE(shutdown_.closeUnasked());
+    expectNothingWritten();
+    windows_.locked = false;
+    EXPECT_TRUE(shutdown_.closeUnasked());
+}
+
 TEST_F(ShutdownTest, OkSavesEverythingAndQuitsTheSession) {
     desk_.boxes.answers = {true};
     EXPECT_TRUE(shutdown_.close());

@@ -145,6 +145,18 @@ TEST_F(ViewerCommandsTest, AFileThatCannotBeOpenedIsToldAndThePaneStays) {
     EXPECT_EQ(window.busyDepth, 0);
 }
 
+TEST_F(ViewerCommandsTest, ALongNameIsCutWhereItIsTold) {
+    const std::string name = std::string(240, 'A') + ".JBI";
+    pc.write(name, "NOP\r\n");
+    showPanes();
+    window.pc.click({name});
+    std::filesystem::remove(pc.path(name));
+    press();
+    ASSERT_EQ(boxes.shown.size(), 1u);
+    EXPECT_THAT(boxes.shown[0].text,
+                StartsWith("not displayed [" + std::string(200, 'A') + "\u2026]"));
+}
+
 TEST_F(ViewerCommandsTest, APathIsJoinedWithOneSeparator) {
     state.PCPath = pc.path() + "/";
     press();

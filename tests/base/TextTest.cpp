@@ -135,6 +135,26 @@ TEST(Utf8Encoding, IsTheSameForEveryCharacterThereAndBack) {
     EXPECT_TRUE(codePoints(utf8(all)) == all);
 }
 
+TEST(FirstCharacters, AreNeverCutInTwo) {
+    EXPECT_EQ(firstCharacters("abc", 0), "");
+    EXPECT_EQ(firstCharacters("abc", 2), "ab");
+    EXPECT_EQ(firstCharacters("abc", 9), "abc");
+    EXPECT_EQ(firstCharacters("\u6F22\u5B57x", 2), "\u6F22\u5B57");
+    EXPECT_EQ(firstCharacters("\U0001F916x", 1), "\U0001F916");
+    EXPECT_EQ(firstCharacters("", 3), "");
+}
+
+TEST(OneLine, HoldsNothingThatCannotBeShown) {
+    EXPECT_EQ(onOneLine("A B.JBI"), "A B.JBI");
+    EXPECT_EQ(onOneLine("\u6F22\uFF71"), "\u6F22\uFF71");
+    EXPECT_EQ(onOneLine({"a\0b", 3}), "a\uFFFDb");
+    for (const char* hidden : {"\n", "\r", "\t", "\x1B", "\x7F", "\u0085", "\u200E", "\u200F",
+                               "\u2028", "\u2029", "\u202E", "\u2066", "\u2069"})
+        EXPECT_EQ(onOneLine("a" + std::string(hidden) + "b"), "a\uFFFDb");
+    for (const char* shown : {" ", "~", "\u00A0", "\u200D", "\u2027", "\u202F", "\u2065", "\u206A"})
+        EXPECT_EQ(onOneLine(shown), shown);
+}
+
 TEST(Ascii, IsSevenBitsWide) {
     for (std::size_t length = 0; length < 20; ++length) {
         EXPECT_TRUE(isAscii(std::string(length, 'a')));

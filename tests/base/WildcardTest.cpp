@@ -95,6 +95,21 @@ std::string repeated(std::string_view part, int times) {
     return text;
 }
 
+TEST(WildcardPattern, KnowsItsShortestMatch) {
+    EXPECT_EQ(WildcardPattern("").shortestMatch(), 0u);
+    EXPECT_EQ(WildcardPattern("***").shortestMatch(), 0u);
+    EXPECT_EQ(WildcardPattern("a?#[!x-z]*[").shortestMatch(), 5u);
+}
+
+TEST(WildcardPattern, IsReadOnceForManyTexts) {
+    const WildcardPattern pattern("[A-C]*[!0]#");
+    EXPECT_TRUE(pattern.matches(U"Bx7"));
+    EXPECT_TRUE(pattern.matches(U"A\u6F22\u5B5717"));
+    EXPECT_FALSE(pattern.matches(U"A07"));
+    EXPECT_FALSE(pattern.matches(U"B7"));
+    EXPECT_FALSE(pattern.matches(U"Dx7"));
+}
+
 // A matcher that tries every way to share the text among the runs would not end here.
 TEST(WildcardTime, IsBoundedForManyRuns) {
     EXPECT_FALSE(matchesWildcard(std::string(2000, 'a'), repeated("*a", 500) + "b"));
@@ -105,6 +120,17 @@ TEST(WildcardTime, IsBoundedForUnclosedBrackets) {
     const std::string brackets(1'000'000, '[');
     EXPECT_TRUE(matchesWildcard(brackets, brackets));
     EXPECT_FALSE(matchesWildcard("x", brackets + "]"));
+}
+
+// Ten million runs in a row are one, and a longer pattern than the text is not tried at all.
+TEST(WildcardTime, IsBoundedForLongPatterns) {
+    const WildcardPattern runs(std::string(10'000'000, '*') + "Q");
+    const WildcardPattern literals("*" + std::string(1'000'000, 'x'));
+    for (int i = 0; i < 100'000; ++i) {
+        EXPECT_FALSE(runs.matches(U"A.JBI"));
+        EXPECT_FALSE(literals.matches(U"xxxxx"));
+    }
+    EXPECT_TRUE(runs.matches(U"Q"));
 }
 
 TEST(WildcardTime, IsBoundedForLongTexts) {

@@ -92,6 +92,18 @@ TEST_F(DeleteCommandTest, AVeryLongNameIsAskedForAndShownShortened) {
     EXPECT_THAT(progressView.messages(), ElementsAre("Deleting ", "Deleting " + shown));
 }
 
+TEST_F(DeleteCommandTest, JobsWhoseNamesDifferInLetterCaseOnlyAreNotDeleted) {
+    robotJob("foo");
+    robotJob("FOO");
+    robotJob("B");
+    selectOnController({"foo.JBI", "B.JBI"});
+    question.answers = {Answer::Yes};
+    EXPECT_TRUE(commands.deleteOnController());
+    EXPECT_THAT(boxes.texts(), ElementsAre("[foo.JBI] is ambiguous"));
+    EXPECT_THAT(question.questions, ElementsAre("[B.JBI] delete from the controller?"));
+    EXPECT_THAT(robot().names(), ElementsAre("foo.JBI", "FOO.JBI"));
+}
+
 TEST_F(DeleteCommandTest, AFailureIsReportedAndTheNextJobFollows) {
     robotJobs();
     question.answers = {Answer::All};

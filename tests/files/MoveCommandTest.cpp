@@ -248,106 +248,36 @@ TEST_F(MoveCommandTest, AReceiveThatReportsSuccessButBringsNothingKeepsBothSides
     question.answers = {Answer::Yes};
     library.disturb({"BscUpLoad", 1, false, true});
     EXPECT_FALSE(commands.receiveMove());
-    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed: BscUpLoad ( did not arrive )\n[A.JBI]"));
+    EXPECT_THAT(boxes.texts(),
+                ElementsAre("Transfer failed: BscUpLoad ( did not arrive )\n[A.JBI]"));
     EXPECT_EQ(robot().bytes("A.JBI"), job("A", "new"));
     EXPECT_EQ(pc.read("A.JBI"), job("A", "old"));
     EXPECT_EQ(library.callCount("BscDeleteJob"), 0);
 }
 
-/// "COPY.JBI" replaces two jobs: the one of its own name and "A", which its name line names.
-class MoveOverTwoJobs : public MoveCommandTest {
-  protected:
-    MoveOverTwoJobs() {
-        pc.write("COPY.JBI", job("A", "new"));
-        robotJob("A", "old");
-        robotJob("COPY", "old");
-    }
-    void expectNothingMoved() {
-        EXPECT_TRUE(pc.has("COPY.JBI"));
-        EXPECT_EQ(robot().bytes("A.JBI"), job("A", "old"));
-        EXPECT_EQ(robot().bytes("COPY.JBI"), job("COPY", "old"));
-        EXPECT_EQ(library.callCount("BscDeleteJob"), 0);
-        EXPECT_THAT(boxes.texts(), IsEmpty());
-    }
-};
-
-TEST_F(MoveOverTwoJobs, BothAreAskedFor) {
-    selectOnPC({"COPY.JBI"});
-    question.answers = {Answer::Yes, Answer::Yes};
-    EXPECT_TRUE(commands.sendMove());
-    EXPECT_THAT(question.questions, ElementsAre("COPY.JBI already exists. Overwrite it?",
-                                                "A.JBI already exists. Overwrite it?"));
-    EXPECT_THAT(robot().names(), ElementsAre("A.JBI"));
-    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "new"));
-    EXPECT_FALSE(pc.has("COPY.JBI"));
-}
-
-TEST_F(MoveOverTwoJobs, ANoToEitherSkipsTheFile) {
-    selectOnPC({"COPY.JBI"});
-    question.answers = {Answer::Yes, Answer::No};
-    EXPECT_TRUE(commands.sendMove());
-    EXPECT_EQ(question.questions.size(), 2u);
-    expectNothingMoved();
-}
-
-TEST_F(MoveOverTwoJobs, CancelEndsTheCommand) {
-    pcJob("D");
-    selectOnPC({"COPY.JBI", "D.JBI"});
-    question.answers = {Answer::Yes, Answer::Cancel};
-    EXPECT_FALSE(commands.sendMove());
-    EXPECT_TRUE(pc.has("D.JBI"));
-    expectNothingMoved();
-}
-
-TEST_F(MoveOverTwoJobs, AllCoversBoth) {
-    selectOnPC({"COPY.JBI"});
-    question.answers = {Answer::All};
-    EXPECT_TRUE(commands.sendMove());
-    EXPECT_EQ(question.questions.size(), 1u);
-    EXPECT_FALSE(pc.has("COPY.JBI"));
-}
-
-TEST_F(MoveCommandTest, OnlyTheJobNamedInsideIsAskedForByItsOwnName) {
-    pc.write("COPY.JBI", job("A", "new"));
-    robotJob("A", "old");
-    selectOnPC({"COPY.JBI"});
-    question.answers = {Answer::No};
-    EXPECT_TRUE(commands.sendMove());
-    EXPECT_THAT(question.questions, ElementsAre("A.JBI already exists. Overwrite it?"));
-    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "old"));
-    EXPECT_TRUE(pc.has("COPY.JBI"));
-}
-
-/// Three files with one name line: All must not let each one delete the one before it, whose PC
-/// file is gone by then.
-TEST_F(MoveCommandTest, AJobThatTheSameMoveHasSentIsAskedForInSpiteOfAll) {
-    for (const char* name : {"A1", "A2", "A3", "B"})
-        pc.write(std::string(name) + ".JBI", job(name[0] == 'B' ? "B" : "a", name));
-    robotJob("A", "old");
-    robotJob("B", "old");
-    selectOnPC({"A1.JBI", "A2.JBI", "A3.JBI", "B.JBI"});
-    question.answers = {Answer::All, Answer::No, Answer::Yes};
-    EXPECT_TRUE(commands.sendMove());
-    EXPECT_THAT(question.questions, ElementsAre("A.JBI already exists. Overwrite it?",
-                                                "A.JBI already exists. Overwrite it?",
-                                                "A.JBI already exists. Overwrite it?"));
-    EXPECT_FALSE(pc.has("A1.JBI"));
-    EXPECT_TRUE(pc.has("A2.JBI"));
-    EXPECT_FALSE(pc.has("A3.JBI"));
-    EXPECT_EQ(robot().bytes("A.JBI"), job("a", "A3"));
-    EXPECT_EQ(robot().bytes("B.JBI"), job("B", "B"));
-}
-
-TEST_F(MoveCommandTest, AFileThatTheSameMoveHasReceivedIsAskedForInSpiteOfAll) {
-    robotJob("A", "1");
-    robotJob("a", "2");
-    pcJob("A", "old");
-    selectOnController({"A.JBI", "a.JBI"});
-    question.answers = {Answer::All, Answer::No};
+TEST_F(MoveCommandTest, JobsWhoseNamesDifferInLetterCaseOnlyAreNotReceived) {
+    robotJob("foo", "low");
+    robotJob("FOO", "up");
+    robotJob("B");
+    selectOnController({"foo.JBI", "B.JBI"});
     EXPECT_TRUE(commands.receiveMove());
-    EXPECT_EQ(question.questions.size(), 2u);
-    EXPECT_EQ(pc.read("A.JBI"), job("A", "1"));
-    EXPECT_TRUE(robot().has("a.JBI"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("[foo.JBI] is ambiguous"));
+    EXPECT_THAT(robot().names(), ElementsAre("foo.JBI", "FOO.JBI"));
+    EXPECT_FALSE(pc.has("foo.JBI"));
+    EXPECT_TRUE(pc.has("B.JBI"));
+}
+
+/// As in a list transfer, a folder without a list of its own leaves the last one in force.
+TEST_F(MoveCommandTest, TheLocalListIsTheSessionsOwn) {
+    robot();
+    pc.write("LocalJob.lst", "A\n");
+    ASSERT_TRUE(session.JobListDownLoad());
+    std::filesystem::remove(pc.path("LocalJob.lst"));
+    pcJob("A");
+    selectOnPC({"A.JBI"});
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_THAT(boxes.texts(), ElementsAre("[A.JBI] is local"));
+    EXPECT_TRUE(pc.has("A.JBI"));
 }
 
 TEST_F(MoveCommandTest, AQuestionAboutAVeryLongNameIsShortened) {

@@ -1,6 +1,6 @@
 #include "link/JobBatch.h"
 
-#include "SessionWorld.h"
+#include "JobBatchFixture.h"
 #include "link/JobDeletion.h"
 #include "link/JobNameSet.h"
 #include "link/JobSend.h"
@@ -17,31 +17,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using tests::SessionWorld;
 
-struct JobBatchTest : testing::Test {
-    SessionWorld world;
-
-    /// Job files on the PC, put on the list too.
-    void addFiles(const std::vector<std::string>& names) {
-        for (const std::string& name : names) {
-            world.pc.write(name + ".JBI", SessionWorld::job(name));
-            world.session->AddJobList(name + ".JBI");
-        }
-    }
-    /// Older jobs on the controller.
-    void addOlder(const std::vector<std::string>& names) {
-        for (const std::string& name : names)
-            world.controller().put(name + ".JBI", SessionWorld::job(name, "OLD"));
-    }
-    bool isNew(const std::string& name) {
-        return world.controller().bytes(name + ".JBI") == SessionWorld::job(name);
-    }
-    void pressCancelAtYield(int yield) {
-        world.view.onYield = [this, yield](int at) {
-            if (at == yield)
-                world.panel.pressCancel();
-        };
-    }
-};
+struct JobBatchTest : tests::JobBatchFixture {};
 
 TEST_F(JobBatchTest, EveryEntryIsSentInListOrderAfterOneLookAtTheDirectory) {
     addFiles({"B", "A"});
@@ -198,33 +174,6 @@ TEST_F(JobBatchTest, AFailureOutranksAPress) {
     EXPECT_EQ(world.error(), "BscDownLoad 1400 0");
 }
 
-TEST_F(JobBatchTest, LocalJobsAreNeverSentAndTheOperatorLearnsHowMany) {
-    addFiles({"A", "LOCAL1", "LOCAL2"});
-    world.pc.write("LocalJob.lst", "LOCAL#\n");
-    EXPECT_TRUE(world.session->JobListDownLoad());
-    EXPECT_THAT(world.controller().names(), ElementsAre("A.JBI"));
-    EXPECT_THAT(world.boxes.texts(), ElementsAre("2 skipped"));
-    EXPECT_EQ(world.boxes.shown.front().icon, BoxIcon::None);
-}
-
-TEST_F(JobBatchTest, SkippedEntriesAreToldOnceWhenTheListFailsToo) {
-    addFiles({"LOCAL", "A"});
-    world.pc.write("LocalJob.lst", "LOCAL");
-    world.library.disturb({.function = "BscDownLoad", .code = 1400});
-    EXPECT_FALSE(world.session->JobListDownLoad());
-    EXPECT_EQ(world.error(), "BscDownLoad 1400 1");
-    EXPECT_THAT(world.boxes.texts(), ElementsAre("1 skipped"));
-}
-
-TEST_F(JobBatchTest, SkippedEntriesAreToldOnceWhenTheListIsCancelledToo) {
-    addFiles({"LOCAL", "A", "B"});
-    world.pc.write("LocalJob.lst", "LOCAL");
-    pressCancelAtYield(2);
-    EXPECT_FALSE(world.session->JobListDownLoad());
-    EXPECT_EQ(world.error(), " 3 1");
-    EXPECT_THAT(world.boxes.texts(), ElementsAre("1 skipped"));
-}
-
 TEST_F(JobBatchTest, AListThatIsChangedMeanwhileIsWorkedThroughAsItWas) {
     addFiles({"A", "B"});
     world.view.onYield = [this](int) { world.session->JobListClear(); };
@@ -232,92 +181,11 @@ TEST_F(JobBatchTest, AListThatIsChangedMeanwhileIsWorkedThroughAsItWas) {
     EXPECT_THAT(world.controller().names(), ElementsAre("A.JBI", "B.JBI"));
 }
 
-TEST_F(JobBatchTest, AnUnsetAddressIsTheOnlyThingTold) {
-    world.pc.write("LocalJob.lst", "LOCAL");
-    world.session->AddJobList("LOCAL.JBI");
-    world.session->AddJobList("A.JBI");
-    world.mode = TransferMode::HispeedLink;
-    world.session->IPaddress = "0.0.0.0";
-    EXPECT_FALSE(world.session->JobListUpLoad());
-    EXPECT_THAT(world.boxes.texts(), ElementsAre("address unset"));
-}
-
 TEST_F(JobBatchTest, VeryLongEntriesAreShownShortened) {
     world.session->AddJobList(std::string(100'000, 'x'));
     EXPECT_FALSE(world.session->JobListUpLoad());
     for (const auto& picture : world.view.pictures)
         EXPECT_LT(picture.message.size(), 250u);
-}
-
-TEST_F(JobBatchTest, LocalJobsAreNeverFetched) {
-    addOlder({"A", "LOCAL"});
-    world.session->AddJobList("A.JBI");
-    world.session->AddJobList("LOCAL.JBI");
-    world.pc.write("LocalJob.lst", "local");
-    EXPECT_TRUE(world.session->JobListUpLoad());
-    EXPECT_TRUE(world.pc.has("A.JBI"));
-    EXPECT_FALSE(world.pc.has("LOCAL.JBI"));
-}
-
-TEST_F(JobBatchTest, WithTheMonitorOffNobodyIsToldOfSkippedEntries) {
-    addFiles({"LOCAL"});
-    world.pc.write("LocalJob.lst", "LOCAL");
-    world.session->DisplayMonitor = false;
-    EXPECT_TRUE(world.session->JobListDownLoad());
-    EXPECT_THAT(world.boxes.shown, IsEmpty());
-}
-
-TEST_F(JobBatchTest, TheLocalListIsReadAnewByEveryTransfer) {
-    addFiles({"A"});
-    world.pc.write("LocalJob.lst", "A");
-    EXPECT_TRUE(world.session->JobListDownLoad());
-    EXPECT_FALSE(world.controller().has("A.JBI"));
-    world.pc.write("LocalJob.lst", "B");
-    EXPECT_TRUE(world.session->JobListDownLoad());
-    EXPECT_TRUE(world.controller().has("A.JBI"));
-}
-
-TEST_F(JobBatchTest, FetchingListsTheFolderOnceAndNeverTheController) {
-    addOlder({"A", "B"});
-    world.session->AddJobList("A.JBI");
-    world.session->AddJobList("B.JBI");
-    EXPECT_TRUE(world.session->JobListUpLoad());
-    EXPECT_EQ(world.library.callCount("BscFindFirst"), 0);
-    EXPECT_EQ(world.library.trace(),
-              tests::inOrder({tests::wholeLink(world, 1, {"BscUpLoad(1, A.JBI)"}),
-                              tests::wholeLink(world, 2, {"BscUpLoad(2, B.JBI)"})}));
-    EXPECT_TRUE(world.pc.has("B.JBI"));
-}
-
-TEST_F(JobBatchTest, FetchingAsksAndAnswersLikeSending) {
-    addOlder({"A", "B", "C"});
-    for (const char* name : {"A.JBI", "B.JBI", "C.JBI"}) {
-        world.pc.write(name, "mine");
-        world.session->AddJobList(name);
-    }
-    world.question.answers = {Answer::No, Answer::All};
-    EXPECT_TRUE(world.session->JobListUpLoad());
-    EXPECT_EQ(world.question.questions.size(), 2u);
-    EXPECT_EQ(world.pc.read("A.JBI"), "mine");
-    EXPECT_NE(world.pc.read("B.JBI"), "mine");
-    EXPECT_NE(world.pc.read("C.JBI"), "mine");
-}
-
-TEST_F(JobBatchTest, AFailedFetchEndsTheListWithItsIndex) {
-    addOlder({"A"});
-    world.session->AddJobList("A.JBI");
-    world.session->AddJobList("GONE.JBI");
-    EXPECT_FALSE(world.session->JobListUpLoad());
-    EXPECT_EQ(world.error(), "BscUpLoad 1200 1");
-}
-
-TEST_F(JobBatchTest, AFileThatThisListJustBroughtIsNotOverwrittenSilently) {
-    addOlder({"A"});
-    world.session->AddJobList("A.JBI");
-    world.session->AddJobList("a.jbi");
-    world.question.answers = {Answer::No};
-    EXPECT_TRUE(world.session->JobListUpLoad());
-    EXPECT_EQ(world.question.questions.size(), 1u);
 }
 
 TEST_F(JobBatchTest, AJobThatThisListJustSentIsNotOverwrittenSilently) {
@@ -328,6 +196,29 @@ TEST_F(JobBatchTest, AJobThatThisListJustSentIsNotOverwrittenSilently) {
     EXPECT_TRUE(world.session->JobListDownLoad());
     EXPECT_THAT(world.question.questions, ElementsAre("A.JBI already exists. Overwrite it?"));
     EXPECT_EQ(world.controller().bytes("A.JBI"), SessionWorld::job("A", "COPY"));
+}
+
+TEST_F(JobBatchTest, AJobThatASendHasDeletedIsNotInTheNextOnesWay) {
+    world.controller().put("COPY.JBI", SessionWorld::job("COPY", "OLD"));
+    world.pc.write("COPY.JBI", SessionWorld::job("WELD"));
+    world.pc.write("X.JBI", SessionWorld::job("COPY"));
+    world.session->AddJobList("COPY.JBI");
+    world.session->AddJobList("X.JBI");
+    world.question.answers = {Answer::Yes};
+    EXPECT_TRUE(world.session->JobListDownLoad());
+    EXPECT_THAT(world.question.questions, ElementsAre("COPY.JBI already exists. Overwrite it?"));
+    EXPECT_TRUE(isNew("WELD"));
+    EXPECT_TRUE(isNew("COPY"));
+}
+
+TEST_F(JobBatchTest, ANameLineWithAnExtensionIsRememberedAsItIs) {
+    for (const char* file : {"A.JBI", "B.JBI"}) {
+        world.pc.write(file, SessionWorld::job("X.JBI", file));
+        world.session->AddJobList(file);
+    }
+    world.question.answers = {Answer::No};
+    EXPECT_TRUE(world.session->JobListDownLoad());
+    EXPECT_THAT(world.question.questions, ElementsAre("X.JBI already exists. Overwrite it?"));
 }
 
 TEST_F(JobBatchTest, ProgressShowsEachItemItsPlaceAndWhatIsWaitedFor) {
@@ -342,17 +233,6 @@ TEST_F(JobBatchTest, ProgressShowsEachItemItsPlaceAndWhatIsWaitedFor) {
     EXPECT_TRUE(last.cancelButton);
     EXPECT_TRUE(last.bar);
     EXPECT_FALSE(world.panel.isVisible());
-}
-
-TEST_F(JobBatchTest, AnUnsetAddressEndsTheListWithOneBoxAndTheRecordAsItWas) {
-    world.session->AddJobList("A.JBI");
-    world.session->AddJobList("B.JBI");
-    world.mode = TransferMode::HispeedLink;
-    world.session->IPaddress = "0.0.0.0";
-    EXPECT_FALSE(world.session->JobListUpLoad());
-    EXPECT_TRUE(world.session->endedByUnsetAddress());
-    EXPECT_THAT(world.boxes.texts(), ElementsAre("address unset"));
-    EXPECT_EQ(world.error(), " 0 0");
 }
 
 std::size_t normalisations = 0;

@@ -45,6 +45,25 @@ TEST_F(JobFetchTest, AnExistingFileIsAskedForAndReplaced) {
     EXPECT_EQ(world.error(), " 0 0");
 }
 
+TEST_F(JobFetchTest, APressOfCancelIsLookedAtAfterTheFile) {
+    world.view.onYield = [this](int) { world.panel.pressCancel(); };
+    EXPECT_FALSE(fetch("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 3 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), weld);
+}
+
+TEST_F(JobFetchTest, APartOfAFileThatCannotBeRemovedIsTold) {
+    world.session->DisplayMonitor = false;
+    world.library.onCall = [this](const std::string& function) {
+        if (function == "BscUpLoad")
+            world.pc.write("NEW.JBI/inside", "x");
+    };
+    EXPECT_FALSE(fetch("NEW.JBI"));
+    EXPECT_EQ(world.error(), "BscUpLoad 1200 0");
+    EXPECT_THAT(world.boxes.texts(), ElementsAre("[NEW.JBI] incomplete"));
+    EXPECT_EQ(world.boxes.shown.at(0).icon, BoxIcon::Exclamation);
+}
+
 struct AnswerRow : tests::NamedRow {
     Answer answer;
     bool result;

@@ -217,7 +217,6 @@ TEST_F(JobSendTest, TheAnswerAllCoversTheJobNamedInsideToo) {
 }
 
 struct NamelessRow : tests::NamedRow {
-    const char* file;
     std::string bytes;
 };
 
@@ -225,9 +224,9 @@ class NamelessJobTest : public JobSendTest, public testing::WithParamInterface<N
 
 TEST_P(NamelessJobTest, IsRefusedBeforeTheOldJobIsAskedForOrDeleted) {
     world.controller().put("WELD.JBI", older);
-    world.pc.write(GetParam().file, GetParam().bytes);
+    world.pc.write("WELD.JBI", GetParam().bytes);
     for (const bool overwriteAll : {false, true}) {
-        EXPECT_FALSE(send(GetParam().file, overwriteAll));
+        EXPECT_FALSE(send("WELD.JBI", overwriteAll));
         EXPECT_EQ(world.error(), " 27 0");
     }
     EXPECT_EQ(world.controller().bytes("WELD.JBI"), older);
@@ -238,18 +237,25 @@ TEST_P(NamelessJobTest, IsRefusedBeforeTheOldJobIsAskedForOrDeleted) {
 
 INSTANTIATE_TEST_SUITE_P(
     Files, NamelessJobTest,
-    testing::Values(
-        NamelessRow{{"NoLine"}, "WELD.JBI", "/JOB\r\nNOP\r\n"},
-        NamelessRow{{"EmptyName"}, "WELD.JBI", "//NAME \r\n"},
-        NamelessRow{{"EmptyFile"}, "WELD.JBI", ""},
-        NamelessRow{{"NotPlain"}, "WELD.JBI", "//NAME A/B\r\n"},
-        NamelessRow{{"Wildcard"}, "WELD.JBI", "//NAME WELD*\r\n"},
-        NamelessRow{{"TrailingPoint"}, "WELD.JBI", "//NAME WELD.\r\n"},
-        NamelessRow{{"TooLong"}, "WELD.JBI", "//NAME " + std::string(252, 'A')},
-        NamelessRow{{"NotInTheCodePage"}, "WELD.JBI", "//NAME \xED\x95\x9C\xED\x95\x9C\r\n"},
-        NamelessRow{{"Utf16"}, "WELD.JBI", std::string("\xFF\xFE/\0/\0N\0A\0M\0E\0 \0A\0", 18)},
-        NamelessRow{{"Related"}, "WELD.JBR", "/JOB\r\nNOP\r\n"}),
+    testing::Values(NamelessRow{{"NoLine"}, "/JOB\r\nNOP\r\n"},
+                    NamelessRow{{"EmptyName"}, "//NAME \r\n"}, NamelessRow{{"EmptyFile"}, ""},
+                    NamelessRow{{"NotPlain"}, "//NAME A/B\r\n"},
+                    NamelessRow{{"Wildcard"}, "//NAME WELD*\r\n"},
+                    NamelessRow{{"TrailingPoint"}, "//NAME WELD.\r\n"},
+                    NamelessRow{{"TooLong"}, "//NAME " + std::string(252, 'A')},
+                    NamelessRow{{"NotInTheCodePage"}, "//NAME \xED\x95\x9C\xED\x95\x9C\r\n"},
+                    NamelessRow{{"Utf16"}, std::string("\xFF\xFE/\0/\0N\0A\0M\0E\0 \0A\0", 18)}),
     tests::rowName);
+
+TEST_F(JobSendTest, ANamelessRelatedJobDeletesNothingSoItIsTheControllersToJudge) {
+    world.controller().put("WELD.JBI", older);
+    world.pc.write("WELD.JBR", "/JOB\r\nNOP\r\n");
+    world.question.answers = {Answer::Yes};
+    EXPECT_FALSE(send("WELD.JBR"));
+    EXPECT_EQ(world.error(), "BscDownLoad 1310 0");
+    EXPECT_THAT(world.question.questions, ElementsAre("WELD.JBR already exists. Overwrite it?"));
+    EXPECT_EQ(world.library.callCount("BscSelectJob"), 0);
+}
 
 TEST_F(JobSendTest, ANamelessFileInNobodysWayIsTheControllersToJudge) {
     world.pc.write("NEW.JBI", "/JOB\r\nNOP\r\n");
@@ -334,6 +340,21 @@ TEST_F(JobSendTest, NamesReachTheLibraryInItsCodePage) {
     world.pc.write("\xE3\x82\xBD.JBI", SessionWorld::job("\xE3\x82\xBD"));
     EXPECT_TRUE(send("\xE3\x82\xBD.JBI"));
     EXPECT_TRUE(world.controller().has("\xE3\x82\xBD.JBI"));
+}
+
+TEST_F(JobSendTest, APressOfCancelIsLookedAtAfterTheFile) {
+    world.view.onYield = [this](int) { world.panel.pressCancel(); };
+    EXPECT_FALSE(send("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 3 0");
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
+}
+
+TEST_F(JobSendTest, ReadingTheDirectoryHidesWhatACommandShows) {
+    world.panel.show("command");
+    const auto shown = world.view.pictures.size();
+    EXPECT_TRUE(send("WELD.JBI"));
+    ASSERT_GT(world.view.pictures.size(), shown);
+    EXPECT_FALSE(world.view.pictures[shown].visible);
 }
 
 TEST_F(JobSendTest, ProgressShowsTheNameWithBarAndWithoutCancel) {

@@ -105,6 +105,25 @@ TEST_F(LocalJobListTest, GarbageIsTakenWithoutHarm) {
     EXPECT_TRUE(list.contains("WELD.JBI") || !list.entries().empty());
 }
 
+// Without patterns read once for all entries these would not end.
+TEST_F(LocalJobListTest, HostilePatternsCostNoTime) {
+    std::string patterns =
+        std::string(10'000'000, '*') + "Q\n*" + std::string(10'000'000, 'x') + "\n";
+    for (int i = 0; i < 10'000; ++i)
+        patterns += "J*" + std::to_string(i) + "\n*X" + std::to_string(i) + "\n";
+    read(patterns);
+    for (int i = 0; i < 1'000; ++i)
+        EXPECT_FALSE(list.contains("ABCDEFGH" + std::to_string(i) + ".JBI"));
+    EXPECT_TRUE(list.contains("J17"));
+    EXPECT_TRUE(list.contains("Q"));
+}
+
+TEST_F(LocalJobListTest, AnEntryThatNoFileCouldHaveForItsNameMatchesNoPattern) {
+    read("*A*B*\n*C*D*");
+    EXPECT_TRUE(list.contains("xAxBx"));
+    EXPECT_FALSE(list.contains(std::string(10'000'000, 'A') + "B"));
+}
+
 TEST_F(LocalJobListTest, ALineOfTenMegabytesIsOneEntry) {
     read(std::string(10'000'000, 'X') + "\nWELD");
     EXPECT_EQ(list.entries().size(), 2u);

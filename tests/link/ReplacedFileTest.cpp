@@ -44,6 +44,18 @@ TEST_F(ReplacedFileTest, WithoutSuccessAPartialNewFileGoes) {
     EXPECT_EQ(fileCount(), 0u);
 }
 
+TEST_F(ReplacedFileTest, WhatCannotBeRemovedOfANewFileIsAFailure) {
+    ReplacedFile file(folder.path(), "A.JBI");
+    folder.write("A.JBI/inside", "");
+    EXPECT_FALSE(file.putBack());
+    EXPECT_EQ(file.asideName(), "");
+}
+
+TEST_F(ReplacedFileTest, WithNothingArrivedThereIsNothingToRemove) {
+    ReplacedFile file(folder.path(), "A.JBI");
+    EXPECT_TRUE(file.putBack());
+}
+
 TEST_F(ReplacedFileTest, WithSuccessTheOldFileGoes) {
     folder.write("A.JBI", "old");
     {

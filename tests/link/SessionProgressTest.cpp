@@ -107,6 +107,32 @@ TEST_F(SessionProgressTest, AMarkInAVisibleWindowIsAPress) {
     EXPECT_TRUE(progress.isCancelled());
 }
 
+TEST_F(SessionProgressTest, WhatTheOperationShowedIsHiddenThoughTheMonitorIsOffByThen) {
+    progress.begin();
+    progress.open("first", true, true);
+    properties.DisplayMonitor = false;
+    progress.end();
+    EXPECT_FALSE(panel.isVisible());
+    panel.show("command");
+    progress.begin();
+    progress.end();
+    EXPECT_TRUE(panel.isVisible()) << "what a command shows is the command's";
+}
+
+TEST_F(SessionProgressTest, PassedOverItemsAreShownNowAndThenAndAtTheEnd) {
+    progress.begin();
+    progress.open("first", true, true);
+    const auto painted = view.pictures.size();
+    for (int item = 0; item < 9'999; ++item)
+        EXPECT_FALSE(progress.isCancelledPassingOver("A", item, 10'000));
+    EXPECT_LT(view.pictures.size(), painted + 20);
+    EXPECT_GT(view.yields, 5);
+    pressAtNextYield();
+    EXPECT_TRUE(progress.isCancelledPassingOver("LAST", 9'999, 10'000));
+    EXPECT_EQ(panel.message(), "Transferring LAST");
+    EXPECT_TRUE(progress.isCancelledPassingOver("A", 0, 2)) << "a press is kept";
+}
+
 TEST_F(SessionProgressTest, TextsCarryTheName) {
     EXPECT_EQ(progress.transferring(), "Transferring ");
     EXPECT_EQ(progress.transferring("A.JBI"), "Transferring A.JBI");

@@ -43,6 +43,7 @@ TEST(SessionValuesTest, TruthValues) {
     EXPECT_EQ(flagFrom(Text("TRUE")), true);
     EXPECT_EQ(flagFrom(Text("False")), false);
     EXPECT_EQ(flagFrom(Text("1")), true);
+    EXPECT_EQ(flagFrom(Text(" true\t")), true) << "as in the settings file";
     EXPECT_EQ(flagFrom(Text("maybe")), std::nullopt);
     EXPECT_EQ(flagFrom(std::numeric_limits<double>::quiet_NaN()), std::nullopt);
     EXPECT_EQ(toSessionValue(true), SessionValue(1.0));

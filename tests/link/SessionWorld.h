@@ -39,6 +39,7 @@ inline MessageTable sessionMessages() {
     add(51, "item ");
     add(52, " of ");
     add(61, " kept as ");
+    add(63, " incomplete");
     add(502, "already exists. Overwrite it?");
     add(504, "Transferring ");
     add(507, "Deleting ");

@@ -7,11 +7,17 @@
 namespace vantrel {
 namespace {
 
-std::string kanji(int count) {
+std::string repeated(const char* character, int count) {
     std::string text;
     for (int i = 0; i < count; ++i)
-        text += "\u6F22";
+        text += character;
     return text;
+}
+std::string kanji(int count) {
+    return repeated("\u6F22", count);
+}
+std::string replaced(int count) {
+    return repeated("\uFFFD", count);
 }
 
 struct TextRow : tests::NamedRow {
@@ -21,7 +27,7 @@ struct TextRow : tests::NamedRow {
 
 class ShownTextTest : public testing::TestWithParam<TextRow> {};
 
-TEST_P(ShownTextTest, IsCutAfterTwoHundredCharacters) {
+TEST_P(ShownTextTest, IsOneLineOfTwoHundredCharactersAtMost) {
     EXPECT_EQ(shownText(GetParam().text), GetParam().shown);
 }
 
@@ -33,6 +39,8 @@ INSTANTIATE_TEST_SUITE_P(
         TextRow{{"OneTooMany"}, std::string(201, 'x'), std::string(200, 'x') + "\u2026"},
         TextRow{{"TenMegabytes"}, std::string(10'000'000, 'x'), std::string(200, 'x') + "\u2026"},
         TextRow{{"CharactersOfManyBytes"}, kanji(200), kanji(200)},
+        TextRow{{"LineEnds"}, "A\r\nB\x1B.JBI", "A\uFFFD\uFFFDB\uFFFD.JBI"},
+        TextRow{{"ManyLineEnds"}, std::string(250, '\n'), replaced(200) + "\u2026"},
         TextRow{{"NoHalfCharacter"}, kanji(201), kanji(200) + "\u2026"}),
     tests::rowName);
 

@@ -196,9 +196,30 @@ INSTANTIATE_TEST_SUITE_P(
         OtherControllerRow{
             {"Address"}, [](tests::SessionWorld& world) { world.session->IPaddress = "10.0.0.2"; }},
         OtherControllerRow{{"Port"}, [](tests::SessionWorld& world) { world.session->port = 2; }},
+        OtherControllerRow{
+            {"Folder"},
+            [](tests::SessionWorld& world) { world.session->path = world.program.path(); }},
         OtherControllerRow{{"Mode"},
                            [](tests::SessionWorld& world) { world.session->SetTansMode(1); }}),
     tests::rowName);
+
+TEST_F(SnappyTest, AFolderThatChangesInTheMiddleOfAFetchEndsItBeforeAQuestionAboutTheOther) {
+    const tests::TemporaryFolder other;
+    other.write("B.JBI", "mine");
+    for (const char* name : {"A.JBI", "B.JBI"}) {
+        world.controller().put(name, tests::SessionWorld::job(name));
+        world.session->AddJobList(name);
+    }
+    world.library.onCall = [this, &other](const std::string& function) {
+        if (function == "BscUpLoad")
+            world.session->path = other.path();
+    };
+    EXPECT_FALSE(world.session->JobListUpLoad());
+    EXPECT_EQ(world.error(), " 29 1");
+    EXPECT_TRUE(world.pc.has("A.JBI"));
+    EXPECT_EQ(other.read("B.JBI"), "mine");
+    EXPECT_TRUE(world.question.questions.empty());
+}
 
 /// After a change of the address every operation goes to that robot and to no other.
 TEST_F(SnappyTest, OfTwoRobotsOnlyTheOneOfTheAddressIsReached) {

@@ -73,15 +73,55 @@ TEST_F(VariableBatchTest, AValueThatIsNoNumberEndsTheListWithItsIndexAndLeavesTh
     EXPECT_EQ(world.library.openLinks(), 0);
 }
 
-TEST_F(VariableBatchTest, AListThatIsClearedMeanwhileEndsThere) {
-    add({"B1=5", "B2=6"});
+TEST_F(VariableBatchTest, AListThatIsChangedMeanwhileIsWorkedThroughAsItWas) {
+    add({"B1=5", "B2=6", "B3=7"});
     world.view.onYield = [this](int at) {
         if (at == 2)
+            world.session->RemoveVarList(0);
+        if (at == 4)
             world.session->VarListClear();
     };
     EXPECT_TRUE(world.session->VarListDownLoad());
     EXPECT_THAT(list(), testing::IsEmpty());
-    EXPECT_EQ(world.library.callCount("BscPutVarData"), 1);
+    EXPECT_EQ((world.controller().variables[{0, 2}][0]), 6);
+    EXPECT_EQ((world.controller().variables[{0, 3}][0]), 7);
+    EXPECT_EQ(world.library.callCount("BscPutVarData"), 3);
+}
+
+TEST_F(VariableBatchTest, RefreshedEntriesOnlyReplaceTheTextThatWasRead) {
+    world.controller().variables[{0, 1}] = {7};
+    world.controller().variables[{0, 2}] = {8};
+    world.controller().variables[{0, 3}] = {9};
+    add({"B1=0", "B2=0", "B3=0"});
+    world.view.onYield = [this](int at) {
+        if (at == 2) { // after B1
+            world.session->RemoveVarList(1);
+            world.session->AddVarList("D9=1");
+        }
+    };
+    EXPECT_TRUE(world.session->VarListUpLoad());
+    EXPECT_THAT(list(), ElementsAre("B001=7", "B3=0", "D9=1"));
+}
+
+TEST_F(VariableBatchTest, ManyBlankLinesCostNoRepaintEachAndEndAtAPress) {
+    constexpr int count = 100'000;
+    world.pc.write("vars.lst", std::string(count, '\n'));
+    world.session->SetVarListFile("vars.lst");
+    ASSERT_TRUE(world.session->ReadVarListFile());
+    EXPECT_TRUE(world.session->VarListDownLoad());
+    EXPECT_LT(world.view.pictures.size(), count / 100u);
+    pressCancelAtYield(world.view.yields + 5);
+    EXPECT_FALSE(world.session->VarListDownLoad());
+    EXPECT_EQ(world.session->ErrorCode(), 3);
+    EXPECT_GT(world.session->ErrorIndex(), 0);
+    EXPECT_LT(world.session->ErrorIndex(), count / 10);
+}
+
+TEST_F(VariableBatchTest, APressIsSeenAfterBlankLinesAtTheEnd) {
+    add({"B1=5", "", ""});
+    pressCancelAtYield(3); // opened, after B1
+    EXPECT_FALSE(world.session->VarListDownLoad());
+    EXPECT_EQ(world.error(), " 3 2");
 }
 
 TEST_F(VariableBatchTest, APressEndsTheListAfterTheEntry) {

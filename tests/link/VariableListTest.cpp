@@ -43,6 +43,16 @@ TEST_F(VariableListTest, EveryLineIsAnEntryBlankOnesToo) {
     EXPECT_THAT(list(), ElementsAre("B1=1", "", "  ", "nonsense"));
 }
 
+// In the code page the last line alone would be taken for UTF-8.
+TEST_F(VariableListTest, ACodePageListThatWouldBeReadOtherwiseGoesOnInUtf8) {
+    EXPECT_TRUE(read("\x83\x7B\r\n\xD3\xB0\r\n"));
+    const std::string kept = world.session->VarList(1);
+    world.session->RemoveVarList(0);
+    EXPECT_TRUE(world.session->WriteVarListFile("vars.lst"));
+    EXPECT_TRUE(world.session->ReadVarListFile());
+    EXPECT_THAT(list(), ElementsAre(kept));
+}
+
 TEST_F(VariableListTest, AListThatCannotBeOpenedIsEmptyAndRecorded) {
     world.session->AddVarList("old");
     world.session->SetVarListFile("none.lst");

@@ -1,7 +1,6 @@
 #include "platform/Files.h"
+#include "support/FileSizeLimit.h"
 #include "support/TemporaryFolder.h"
-
-#include <csignal>
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -129,31 +128,13 @@ TEST(ReplaceFile, LeavesAWriteProtectedFileAlone) {
     EXPECT_EQ(folder.read("file"), "old");
 }
 
-/// Lets no file grow beyond a size, as a full disk does.
-class FileSizeLimit {
-  public:
-    explicit FileSizeLimit(rlim_t bytes) : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &old_);
-        const rlimit limited{bytes, old_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limited);
-    }
-    ~FileSizeLimit() {
-        ::setrlimit(RLIMIT_FSIZE, &old_);
-        std::signal(SIGXFSZ, oldHandler_);
-    }
-
-  private:
-    rlimit old_{};
-    void (*oldHandler_)(int);
-};
-
 TEST(ReplaceFile, KeepsTheOldFileWhenTheNewOneCannotBeWrittenWhole) {
     const TemporaryFolder folder;
     const std::string path = folder.write("file", "old");
     const std::string content(100'000, 'x');
     std::string reason;
     {
-        const FileSizeLimit limit(4096);
+        const tests::FileSizeLimit limit(4096);
         const auto outcome = replaceFile(path, content);
         reason = outcome ? "" : outcome.reason();
     }

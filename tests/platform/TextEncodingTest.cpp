@@ -179,6 +179,18 @@ TEST(CodePageText, IsWholeWhateverItsLength) {
     }
 }
 
+// In code page 932 the bytes D3 B0, two half-width katakana, are a letter of UTF-8 too.
+TEST(ReadableEncoding, NeverWritesWhatWouldBeReadOtherwise) {
+    const std::string looksLikeUtf8 = "\uFF93\uFF70";
+    EXPECT_EQ(encodeReadably(looksLikeUtf8, TextEncoding::CodePage), looksLikeUtf8);
+    EXPECT_EQ(encodeReadably("\u30DC" + looksLikeUtf8, TextEncoding::CodePage), "\x83\x7B\xD3\xB0");
+    EXPECT_EQ(encodeReadably("plain", TextEncoding::CodePage), "plain");
+    EXPECT_EQ(encodeReadably("\U0001F916", TextEncoding::CodePage), std::nullopt);
+    for (const auto encoding :
+         {TextEncoding::Utf8, TextEncoding::Utf8WithMark, TextEncoding::Utf16LittleEndian})
+        EXPECT_EQ(encodeReadably(looksLikeUtf8, encoding), encodeText(looksLikeUtf8, encoding));
+}
+
 TEST(TextFromGarbage, TakesTenMegabytesOfLeadBytes) {
     EXPECT_EQ(fromCodePage(std::string(10'000'000, '\x81')).size() % 3, 0u);
 }

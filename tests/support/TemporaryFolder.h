@@ -27,27 +27,35 @@ class TemporaryFolder {
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     /// Absolute, UTF-8, without a separator at the end.
-    std::string path() const { return path_.string(); }
-    std::string path(std::string_view name) const { return (path_ / name).string(); }
+    std::string path() const { return text(path_); }
+    std::string path(std::string_view name) const { return text(file(name)); }
 
     /// Writes a file, creating the folders above it; returns its path.
     std::string write(std::string_view name, std::string_view content) const {
-        const auto file = path_ / name;
-        std::filesystem::create_directories(file.parent_path());
-        std::ofstream(file, std::ios::binary) << content;
-        return file.string();
+        std::filesystem::create_directories(file(name).parent_path());
+        std::ofstream(file(name), std::ios::binary) << content;
+        return path(name);
     }
     std::string makeFolder(std::string_view name) const {
-        std::filesystem::create_directories(path_ / name);
+        std::filesystem::create_directories(file(name));
         return path(name);
     }
     std::string read(std::string_view name) const {
-        std::ifstream file(path_ / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        std::ifstream content(file(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(content), {}};
     }
-    bool has(std::string_view name) const { return std::filesystem::exists(path_ / name); }
+    bool has(std::string_view name) const { return std::filesystem::exists(file(name)); }
 
   private:
+    /// Names are UTF-8 whatever the system's own encoding.
+    std::filesystem::path file(std::string_view name) const {
+        return (path_ / std::u8string(name.begin(), name.end())).make_preferred();
+    }
+    static std::string text(const std::filesystem::path& path) {
+        const auto utf8 = path.u8string();
+        return {utf8.begin(), utf8.end()};
+    }
+
     std::filesystem::path path_;
 };
 

@@ -127,6 +127,14 @@ INSTANTIATE_TEST_SUITE_P(
                     PresetRow{{"VariablePattern"}, mark::saveVariables, "jobs.lst", "v?.lst", ""}),
     rowName);
 
+TEST_F(ListFileDraftTest, ButtonsHaveACaptionInEveryLanguage) {
+    EXPECT_EQ(draft(mark::saveJobs).okCaption(), "text 325");
+    EXPECT_EQ(draft(mark::saveJobs).cancelCaption(), "text 326");
+    messages.replace({});
+    EXPECT_EQ(draft(mark::saveJobs).okCaption(), "OK");
+    EXPECT_EQ(draft(mark::saveJobs).cancelCaption(), "ｷｬﾝｾﾙ(&C)");
+}
+
 TEST_F(ListFileDraftTest, ShowsALongFolderShortenedAndKnowsTheWholeOne) {
     state.PCPath = "/" + std::string(60, 'a') + "/robot jobs";
     EXPECT_EQ(draft(mark::saveJobs).shownFolder(), PathRules().shorten(state.PCPath, 48));

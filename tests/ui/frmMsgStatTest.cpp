@@ -80,6 +80,14 @@ TEST_P(frmMsgStatTest, ALongNameDoesNotWidenIt) {
     saveScreenshot(*window, "progress-long-" + language());
 }
 
+TEST_P(frmMsgStatTest, ALanguageWithoutACaptionLeavesTheButtonTheDesignedOne) {
+    messages.replace({});
+    panel.setCancelCaption("");
+    const WindowHolder<frmMsgStat> other{new frmMsgStat(panel, messages, state, [] {})};
+    panel.show("first");
+    EXPECT_EQ(labelOf(*other, "cmdCancel"), "ｷｬﾝｾﾙ(&C)");
+}
+
 TEST_P(frmMsgStatTest, HidesAndComesBackAsItWas) {
     panel.show("text");
     panel.pressCancel();

@@ -98,6 +98,13 @@ TEST_P(frmMsgYesNoTest, AmpersandsOfNamesAreShown) {
     EXPECT_EQ(label->GetLabelText(), "A&B.JBI ?");
 }
 
+TEST_P(frmMsgYesNoTest, ALanguageWithoutCaptionsLeavesNoButtonEmpty) {
+    messages.replace({});
+    frmMsgYesNo asked(nullptr, "Snappy", "?", messages, state);
+    EXPECT_EQ(labelOf(asked, "cmdYesNo0"), "はい(&Y)");
+    EXPECT_EQ(labelOf(asked, "cmdYesNo3"), "ｷｬﾝｾﾙ(&C)");
+}
+
 TEST_P(frmMsgYesNoTest, EachQuestionIsAskedByADialogOfItsOwn) {
     QuestionDialogs questions(messages, state);
     ModalScript operatorsHand;

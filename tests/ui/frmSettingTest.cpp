@@ -51,12 +51,12 @@ class frmSettingTest : public DialogInLanguage {
     frmSetting& dialog() {
         if (!window) {
             draft.emplace(state, messages, "/program");
-            window = new frmSetting(
-                nullptr, *draft,
-                {messages, state, boxes,
-                 FolderSources{[this] { return drives; }, subfolders, folderFiles,
-                               [](const std::string&) { return false; }},
-                 [this] { taken.push_back(draft->take()); }});
+            window =
+                new frmSetting(nullptr, *draft,
+                               {messages, state, boxes,
+                                FolderSources{[this] { return drives; }, subfolders, folderFiles,
+                                              [](const std::string&) { return false; }},
+                                [this] { taken.push_back(draft->take()); }});
         }
         return *window;
     }
@@ -124,12 +124,24 @@ struct Caption {
 
 TEST_P(frmSettingTest, ShowsItsCaptionsAndCutsNoneOff) {
     EXPECT_EQ(dialog().GetTitle().utf8_string(), messages.getMessage(300));
-    for (const auto& [name, number] : std::initializer_list<Caption>{
-             {"frmRgstRbt", 304}, {"cmdAdd0", 305},    {"cmdAdd1", 306},    {"cmdDel", 307},
-             {"frmSelRbt", 308},  {"lblRbtName", 309}, {"lblIPaddr", 310},  {"frmInitDir", 311},
-             {"fraPort", 312},    {"FrmRbCtrl", 318},  {"ChkRoboDir", 319}, {"chkJBR", 320},
-             {"chkHeadder", 321}, {"chkIniFile", 322}, {"cmdReturn", 323},  {"cmdRefresh", 324},
-             {"cmdOK", 325},      {"cmdCancel", 326}})
+    for (const auto& [name, number] : std::initializer_list<Caption>{{"frmRgstRbt", 304},
+                                                                     {"cmdAdd0", 305},
+                                                                     {"cmdAdd1", 306},
+                                                                     {"cmdDel", 307},
+                                                                     {"frmSelRbt", 308},
+                                                                     {"lblRbtName", 309},
+                                                                     {"lblIPaddr", 310},
+                                                                     {"frmInitDir", 311},
+                                                                     {"fraPort", 312},
+                                                                     {"FrmRbCtrl", 318},
+                                                                     {"ChkRoboDir", 319},
+                                                                     {"chkJBR", 320},
+                                                                     {"chkHeadder", 321},
+                                                                     {"chkIniFile", 322},
+                                                                     {"cmdReturn", 323},
+                                                                     {"cmdRefresh", 324},
+                                                                     {"cmdOK", 325},
+                                                                     {"cmdCancel", 326}})
         EXPECT_EQ(labelOf(dialog(), name), messages.getMessage(number)) << name;
     whileModal(dialog(), [&] {
         for (std::size_t page = 0; page < pages().GetPageCount(); ++page) {
@@ -528,15 +540,31 @@ TEST_P(frmSettingTest, AFaultIsToldAndTheOperatorLedThere) {
         EXPECT_TRUE(dialog().IsModal());
         click(dialog(), "cmdCancel");
     });
-    EXPECT_THAT(boxes.texts(), ElementsAre("[LINE2]" + messages.getMessage(333),
-                                           "[line1 weld]" + messages.getMessage(331),
-                                           messages.getMessage(330)));
+    EXPECT_THAT(boxes.texts(),
+                ElementsAre("[LINE2]" + messages.getMessage(333),
+                            "[line1 weld]" + messages.getMessage(331), messages.getMessage(330)));
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Exclamation);
     EXPECT_THAT(taken, IsEmpty());
 }
 
 TEST_P(frmSettingTest, OKIsTheDefaultButton) {
     EXPECT_EQ(dialog().GetDefaultItem(), &control<wxButton>(dialog(), "cmdOK"));
+}
+
+TEST_P(frmSettingTest, ControlWithPageAndTabKeysTurnsThePages) {
+    whileModal(dialog(), [&] {
+        ASSERT_TRUE(waitFor([&] { return dialog().IsActive() && robots().HasFocus(); }));
+        const auto turnsTo = [&](int key, int modifiers, int page) {
+            pressKey(key, modifiers);
+            return waitFor([&] { return pages().GetSelection() == page; });
+        };
+        EXPECT_TRUE(turnsTo(WXK_PAGEDOWN, wxMOD_CONTROL, 1));
+        EXPECT_TRUE(turnsTo(WXK_TAB, wxMOD_CONTROL, 2));
+        EXPECT_TRUE(turnsTo(WXK_TAB, wxMOD_CONTROL | wxMOD_SHIFT, 1));
+        EXPECT_TRUE(turnsTo(WXK_PAGEUP, wxMOD_CONTROL, 0));
+        click(dialog(), "cmdCancel");
+    });
+    EXPECT_FALSE(edited().isEdited());
 }
 
 TEST_P(frmSettingTest, F1IsSwallowed) {

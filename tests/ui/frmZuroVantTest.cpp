@@ -6,6 +6,7 @@
 #include "app/ModeCommands.h"
 #include "app/SettingsFile.h"
 #include "app/WindowLayout.h"
+#include "lang/MessageNumbers.h"
 #include "ui/FileListControl.h"
 #include "ui/KeyedToolBar.h"
 #include "ui/OperationGuard.h"
@@ -213,6 +214,33 @@ TEST_P(MainWindowTest, CloseIsRefusedSilentlyWhileLocked) {
     window.onClose = [&] { return ++asked, false; };
     EXPECT_FALSE(window.Close());
     EXPECT_EQ(asked, 1);
+}
+
+TEST_P(MainWindowTest, ACloseThatCannotBeRefusedWaitsForWhatRuns) {
+    int asked = 0;
+    window.onClose = [&] { return ADD_FAILURE() << "nobody is asked", false; };
+    window.onForcedClose = [&] { return ++asked, false; };
+    window.setLocked(true);
+    window.Close(true);
+    EXPECT_EQ(asked, 1);
+    EXPECT_FALSE(window.IsBeingDeleted());
+    window.setLocked(false);
+    EXPECT_TRUE(waitFor([&] { return asked == 2; })) << "it is made up for";
+}
+
+TEST_P(MainWindowTest, TheNoticeOfTheSimulationIsShownWhole) {
+    window.showNotice(messages.getMessage(message::simulationNotice));
+    wxRect panel;
+    constexpr int notice = 2;
+    ASSERT_TRUE(controls.stsFileInf->GetFieldRect(notice, panel));
+    EXPECT_LE(controls.stsFileInf->GetTextExtent(controls.stsFileInf->GetStatusText(notice)).x,
+              panel.width);
+}
+
+TEST_P(MainWindowTest, ARobotsWholeNameIsTheTipOfItsBox) {
+    window.add("A ROBOT WITH A VERY LONG NAME");
+    window.select(0);
+    EXPECT_EQ(controls.cmbRbtName->GetToolTipText(), "A ROBOT WITH A VERY LONG NAME");
 }
 
 TEST_P(MainWindowTest, AnOpenMenuLeavesTheCountsInPlace) {

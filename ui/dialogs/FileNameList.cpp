@@ -6,7 +6,7 @@ namespace vantrel {
 
 FileNameList::FileNameList(wxWindow* parent, const wxString& name)
     : wxListView(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                 wxLC_REPORT | wxLC_VIRTUAL | wxLC_NO_HEADER | wxLC_SINGLE_SEL | wxBORDER_THEME,
+                 wxLC_REPORT | wxLC_VIRTUAL | wxLC_NO_HEADER | wxLC_SINGLE_SEL | wxBORDER_SIMPLE,
                  wxDefaultValidator, name) {
     AppendColumn("");
     Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {

@@ -11,12 +11,12 @@ namespace vantrel {
 
 FirstPaint::FirstPaint(wxTopLevelWindow& window) {
     window.Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
-        painted_ = true;
+        isOver_ = true;
         event.Skip();
     });
 }
 
-void FirstPaint::await(wxTopLevelWindow& window, const FirstPaint& paint,
+void FirstPaint::await(wxTopLevelWindow& window, FirstPaint& paint,
                        const std::function<void()>& yield) {
     using Clock = std::chrono::steady_clock;
     constexpr std::chrono::milliseconds longest{250};
@@ -24,10 +24,12 @@ void FirstPaint::await(wxTopLevelWindow& window, const FirstPaint& paint,
     const wxWeakRef<wxTopLevelWindow> there(&window);
     const auto deadline = Clock::now() + longest;
     yield();
-    while (there && there->IsShown() && !paint.painted() && Clock::now() < deadline) {
+    while (there && there->IsShown() && !paint.isOver() && Clock::now() < deadline) {
         wxMilliSleep(1);
         yield();
     }
+    if (there && there->IsShown())
+        paint.isOver_ = true;
 }
 
 } // namespace vantrel

@@ -15,16 +15,18 @@ class FirstPaint {
     FirstPaint& operator=(const FirstPaint&) = delete;
 
     /// To be called when the window is shown.
-    void expect() { painted_ = false; }
-    bool painted() const { return painted_; }
+    void expect() { isOver_ = false; }
+    /// Painted, or given up.
+    bool isOver() const { return isOver_; }
 
     /// Yields at least once, and then until the window is painted or gone, for a quarter of a
-    /// second at most: without a window manager it may never come.
-    static void await(wxTopLevelWindow& window, const FirstPaint& paint,
+    /// second at most: without a window manager it may never come. Then it is given up until the
+    /// window is shown again, for this would cost a quarter of a second with every yield.
+    static void await(wxTopLevelWindow& window, FirstPaint& paint,
                       const std::function<void()>& yield);
 
   private:
-    bool painted_ = true;
+    bool isOver_ = true;
 };
 
 } // namespace vantrel

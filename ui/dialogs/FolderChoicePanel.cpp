@@ -2,6 +2,7 @@
 
 #include "link/ShownText.h"
 #include "ui/FolderImages.h"
+#include "ui/FolderNodes.h"
 #include "ui/SystemLook.h"
 #include "ui/dialogs/FileNameList.h"
 #include "ui/dialogs/WxText.h"
@@ -22,17 +23,6 @@ constexpr int treeWidth = 200;
 constexpr int fileListWidth = 150;
 constexpr int listHeight = 150;
 
-class NodeData : public wxTreeItemData {
-  public:
-    explicit NodeData(FolderTree::Id node) : id(node) {}
-    const FolderTree::Id id;
-};
-
-FolderTree::Id idOf(const wxTreeCtrl& tree, const wxTreeItemId& item) {
-    const auto* data = item.IsOk() ? dynamic_cast<NodeData*>(tree.GetItemData(item)) : nullptr;
-    return data ? data->id : FolderTree::none;
-}
-
 } // namespace
 
 FolderChoicePanel::FolderChoicePanel(wxWindow* parent, FolderSources sources,
@@ -51,16 +41,15 @@ wxSizer* FolderChoicePanel::buildControls(const std::string& caption) {
     lblDirName_->SetMinSize(FromDIP(wxSize(treeWidth, -1)));
     Drive1_ = new wxChoice(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(treeWidth, -1)),
                            drives, 0, wxDefaultValidator, "Drive1");
-    Dir1_ = new wxTreeCtrl(this, wxID_ANY, wxDefaultPosition,
-                           FromDIP(wxSize(treeWidth, listHeight)),
-                           wxTR_HAS_BUTTONS | wxTR_LINES_AT_ROOT | wxTR_NO_LINES | wxTR_HIDE_ROOT |
-                               wxTR_SINGLE | wxTR_FULL_ROW_HIGHLIGHT | wxBORDER_THEME,
-                           wxDefaultValidator, "Dir1");
+    Dir1_ =
+        new wxTreeCtrl(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(treeWidth, listHeight)),
+                       wxTR_HAS_BUTTONS | wxTR_LINES_AT_ROOT | wxTR_NO_LINES | wxTR_HIDE_ROOT |
+                           wxTR_SINGLE | wxTR_FULL_ROW_HIGHLIGHT | wxBORDER_SIMPLE,
+                       wxDefaultValidator, "Dir1");
     Dir1_->SetImages(folderImages());
     File1_ = new FileNameList(this, "File1");
     File1_->SetMinSize(FromDIP(wxSize(fileListWidth, listHeight)));
-    for (wxWindow* const control : {static_cast<wxWindow*>(Drive1_),
-                                    static_cast<wxWindow*>(Dir1_),
+    for (wxWindow* const control : {static_cast<wxWindow*>(Drive1_), static_cast<wxWindow*>(Dir1_),
                                     static_cast<wxWindow*>(File1_)})
         setAccessibleName(*control, toWx(caption));
 
@@ -83,7 +72,7 @@ void FolderChoicePanel::bindEvents() {
     });
     Dir1_->Bind(wxEVT_TREE_ITEM_EXPANDING, &FolderChoicePanel::expanding, this);
     Dir1_->Bind(wxEVT_TREE_SEL_CHANGED, [this](wxTreeEvent& event) {
-        const auto node = idOf(*Dir1_, event.GetItem());
+        const auto node = folderNode(*Dir1_, event.GetItem());
         if (filling_ || node == FolderTree::none)
             return;
         const wxBusyCursor busy;
@@ -93,7 +82,7 @@ void FolderChoicePanel::bindEvents() {
     // A tree that has no size yet cannot scroll.
     Dir1_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
         event.Skip();
-        showSelection();
+        showSelectedFolder(*Dir1_);
     });
     // Enter opens and closes a folder here; the dialog's button is not meant.
     Dir1_->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
@@ -125,45 +114,19 @@ void FolderChoicePanel::focusFolders() {
 void FolderChoicePanel::rebuildTree() {
     filling_ = true;
     Dir1_->DeleteAllItems();
-    addNodes(Dir1_->AddRoot(wxString()), choice_.tree().roots());
-    showSelection();
+    addFolderNodes(*Dir1_, Dir1_->AddRoot(wxString()), choice_.tree(), choice_.tree().roots());
+    showSelectedFolder(*Dir1_);
     filling_ = false;
-}
-
-/// With as much of what is below it as fits.
-void FolderChoicePanel::showSelection() {
-    const auto selected = Dir1_->GetSelection();
-    if (!selected.IsOk())
-        return;
-    if (const auto last = Dir1_->GetLastChild(selected); last.IsOk() && Dir1_->IsExpanded(selected))
-        Dir1_->EnsureVisible(last);
-    Dir1_->EnsureVisible(selected);
-}
-
-void FolderChoicePanel::addNodes(const wxTreeItemId& parent,
-                                 const std::vector<FolderTree::Id>& nodes) {
-    const FolderTree& tree = choice_.tree();
-    for (const auto id : nodes) {
-        const auto& node = tree.node(id);
-        const auto item = Dir1_->AppendItem(parent, toWx(shownText(node.text)),
-                                            folderImage(node.image), -1, new NodeData(id));
-        Dir1_->SetItemHasChildren(item, !node.childrenRead || !node.children.empty());
-        addNodes(item, node.children);
-        if (node.expanded && !node.children.empty())
-            Dir1_->Expand(item);
-        if (id == tree.selected())
-            Dir1_->SelectItem(item);
-    }
 }
 
 void FolderChoicePanel::expanding(wxTreeEvent& event) {
     const auto item = event.GetItem();
-    const auto node = idOf(*Dir1_, item);
+    const auto node = folderNode(*Dir1_, item);
     if (filling_ || node == FolderTree::none || Dir1_->GetChildrenCount(item, false) > 0)
         return;
     const wxBusyCursor busy;
     const auto nodes = choice_.open(node);
-    addNodes(item, nodes);
+    addFolderNodes(*Dir1_, item, choice_.tree(), nodes);
     if (!nodes.empty())
         return;
     Dir1_->SetItemHasChildren(item, false);

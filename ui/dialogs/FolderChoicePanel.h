@@ -11,7 +11,6 @@ class wxChoice;
 class wxStaticText;
 class wxTreeCtrl;
 class wxTreeEvent;
-class wxTreeItemId;
 
 namespace vantrel {
 
@@ -35,8 +34,6 @@ class FolderChoicePanel : public wxPanel {
     wxSizer* buildControls(const std::string& caption);
     void bindEvents();
     void rebuildTree();
-    void showSelection();
-    void addNodes(const wxTreeItemId& parent, const std::vector<FolderTree::Id>& nodes);
     void expanding(wxTreeEvent& event);
     void chosen();
     void refresh();

@@ -8,6 +8,7 @@
 #include "lang/MessageTable.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
+#include "ui/dialogs/AnswerCaptions.h"
 
 namespace vantrel {
 namespace {
@@ -60,11 +61,13 @@ const std::string& ListFileDraft::folder() const {
 }
 
 std::string ListFileDraft::okCaption() const {
-    return messages_.getMessage(message::ok);
+    const std::string caption = messages_.getMessage(message::ok);
+    return caption.empty() ? "OK" : caption;
 }
 
 std::string ListFileDraft::cancelCaption() const {
-    return messages_.getMessage(message::cancel);
+    const std::string caption = messages_.getMessage(message::cancel);
+    return caption.empty() ? answerCaption(messages_, Answer::Cancel) : caption;
 }
 
 bool ListFileDraft::canConfirm() const {

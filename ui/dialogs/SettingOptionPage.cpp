@@ -61,10 +61,9 @@ wxSizer* SettingOptionPage::buildModels(const MessageTable& messages) {
     auto* const grid = new wxFlexGridSizer(columns, FromDIP(wxSize(4 * gap, gap)));
     int index = 0;
     for (const auto& model : controllerModels()) {
-        auto* const button = new wxRadioButton(box, wxID_ANY, toWx(captionOf(model)),
-                                               wxDefaultPosition, wxDefaultSize, 0,
-                                               wxDefaultValidator,
-                                               "optCtrl" + std::to_string(index));
+        auto* const button = new wxRadioButton(
+            box, wxID_ANY, toWx(captionOf(model)), wxDefaultPosition, wxDefaultSize, 0,
+            wxDefaultValidator, "optCtrl" + std::to_string(index));
         if (index == draft_.controler())
             button->SetValue(true);
         button->Bind(wxEVT_RADIOBUTTON, [this, index](wxCommandEvent&) {
@@ -81,9 +80,9 @@ wxSizer* SettingOptionPage::buildModels(const MessageTable& messages) {
 wxSizer* SettingOptionPage::buildOptions(const MessageTable& messages) {
     auto* const column = new wxBoxSizer(wxVERTICAL);
     for (const auto& [option, name, caption] : optionRows) {
-        auto* const box = new wxCheckBox(this, wxID_ANY, toWx(messages.getMessage(caption)),
-                                         wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
-                                         name);
+        auto* const box =
+            new wxCheckBox(this, wxID_ANY, toWx(messages.getMessage(caption)), wxDefaultPosition,
+                           wxDefaultSize, 0, wxDefaultValidator, name);
         box->SetValue(draft_.isOn(option));
         box->Bind(wxEVT_CHECKBOX, [this, option = option](wxCommandEvent& event) {
             draft_.set(option, event.IsChecked());

@@ -29,11 +29,10 @@ struct ListRow {
     const char* name;
     std::int32_t caption;
 };
-constexpr std::array<ListRow, 4> listRows{
-    {{SerialList::Baudrate, "cmbBaudrate", message::baudRate},
-     {SerialList::Parity, "cmbParity", message::parity},
-     {SerialList::DataLen, "cmbDataLen", message::dataLength},
-     {SerialList::StopBit, "cmbStopBit", message::stopBits}}};
+constexpr std::array<ListRow, 4> listRows{{{SerialList::Baudrate, "cmbBaudrate", message::baudRate},
+                                           {SerialList::Parity, "cmbParity", message::parity},
+                                           {SerialList::DataLen, "cmbDataLen", message::dataLength},
+                                           {SerialList::StopBit, "cmbStopBit", message::stopBits}}};
 
 const ListRow& rowOf(SerialList list) {
     return *std::ranges::find(listRows, list, &ListRow::list);
@@ -48,8 +47,8 @@ wxStaticText* newLabel(wxWindow* box, const std::string& caption) {
 SettingPortPage::SettingPortPage(wxWindow* parent, SerialDraft& serial,
                                  const MessageTable& messages)
     : wxPanel(parent, wxID_ANY), serial_(serial) {
-    auto* const frame = new wxStaticBoxSizer(wxVERTICAL, this,
-                                             toWx(messages.getMessage(message::portSettings)));
+    auto* const frame =
+        new wxStaticBoxSizer(wxVERTICAL, this, toWx(messages.getMessage(message::portSettings)));
     auto* const box = frame->GetStaticBox();
     box->SetName("fraPort");
     const int border = FromDIP(gap);
@@ -87,8 +86,7 @@ wxSizer* SettingPortPage::buildPort(wxWindow* box, const MessageTable& messages)
     return row;
 }
 
-wxChoice* SettingPortPage::buildList(wxWindow* box, SerialList list,
-                                     const MessageTable& messages) {
+wxChoice* SettingPortPage::buildList(wxWindow* box, SerialList list, const MessageTable& messages) {
     wxArrayString entries;
     for (const auto entry : serialChoices(list))
         entries.Add(toWx(std::string(entry)));

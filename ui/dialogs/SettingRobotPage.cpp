@@ -65,11 +65,12 @@ SettingRobotPage::SettingRobotPage(wxWindow* parent, RobotListDraft& robots,
 }
 
 wxSizer* SettingRobotPage::buildList(const MessageTable& messages) {
-    auto* const frame = newFrame(this, messages.getMessage(message::registeredRobots), "frmRgstRbt");
+    auto* const frame =
+        newFrame(this, messages.getMessage(message::registeredRobots), "frmRgstRbt");
     auto* const box = frame->GetStaticBox();
-    lstRgstRbt_ = new wxListBox(box, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(listWidth, -1)), 0,
-                                nullptr, wxLB_SINGLE | wxLB_NEEDED_SB, wxDefaultValidator,
-                                "lstRgstRbt");
+    lstRgstRbt_ =
+        new wxListBox(box, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(listWidth, -1)), 0, nullptr,
+                      wxLB_SINGLE | wxLB_NEEDED_SB, wxDefaultValidator, "lstRgstRbt");
     setAccessibleName(*lstRgstRbt_, toWx(messages.getMessage(message::registeredRobots)));
     cmdAdd_ = {newCaptionButton(box, messages.getMessage(message::insertAfter), "cmdAdd0"),
                newCaptionButton(box, messages.getMessage(message::insertBefore), "cmdAdd1")};
@@ -91,8 +92,7 @@ wxSizer* SettingRobotPage::buildRobot(const MessageTable& messages, FolderSource
     auto* const folderFrame = newFrame(box, caption, "frmInitDir");
     folder_ = new FolderChoicePanel(folderFrame->GetStaticBox(), std::move(sources), caption);
     folderFrame->Add(folder_, wxSizerFlags(1).Expand().Border(wxALL, border));
-    frame->Add(folderFrame,
-               wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, border));
+    frame->Add(folderFrame, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, border));
     return frame;
 }
 
@@ -131,9 +131,8 @@ void SettingRobotPage::bindList() {
         refreshFields();
     });
     lstRgstRbt_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { focusName(); });
-    lstRgstRbt_->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
-        isEnter(event) ? focusName() : event.Skip();
-    });
+    lstRgstRbt_->Bind(wxEVT_CHAR_HOOK,
+                      [this](wxKeyEvent& event) { isEnter(event) ? focusName() : event.Skip(); });
     const auto onAdd = [this](void (RobotListDraft::*insert)()) {
         return [this, insert](wxCommandEvent&) {
             (robots_.*insert)();

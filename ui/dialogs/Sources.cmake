@@ -1,5 +1,6 @@
 # The dialogs' sources, relative to ui/.
 set(DIALOG_SOURCES
+    dialogs/AnswerCaptions.cpp
     dialogs/CaptionButton.cpp
     dialogs/PlainCaption.cpp
     dialogs/CentredPosition.cpp

@@ -1,9 +1,8 @@
 #include "ui/dialogs/frmMsgStat.h"
 
 #include "base/ApplicationState.h"
-#include "lang/MessageNumbers.h"
-#include "lang/MessageTable.h"
 #include "ui/IconSet.h"
+#include "ui/dialogs/AnswerCaptions.h"
 #include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogParent.h"
@@ -110,7 +109,7 @@ void frmMsgStat::bindEvents() {
 }
 
 void frmMsgStat::applyCaptions() {
-    cmdCancel_->SetLabel(toWx(messages_.resourceMessage(message::resource::cancel)));
+    cmdCancel_->SetLabel(toWx(answerCaption(messages_, Answer::Cancel)));
     applyCaptionFont(*this, state_);
     fitToContents(*this);
 }

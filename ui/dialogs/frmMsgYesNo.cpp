@@ -1,9 +1,8 @@
 #include "ui/dialogs/frmMsgYesNo.h"
 
 #include "base/ApplicationState.h"
-#include "lang/MessageNumbers.h"
-#include "lang/MessageTable.h"
 #include "ui/IconSet.h"
+#include "ui/dialogs/AnswerCaptions.h"
 #include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogParent.h"
@@ -26,8 +25,6 @@ namespace {
 constexpr int questionWidth = 380;
 
 constexpr std::size_t cancelIndex = std::size_t(Answer::Cancel);
-constexpr std::array captions{message::resource::yes, message::resource::no, message::resource::all,
-                              message::resource::cancel};
 
 } // namespace
 
@@ -71,7 +68,7 @@ wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const Applicati
 wxSizer* frmMsgYesNo::buildButtons(const MessageTable& messages) {
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     for (std::size_t index = 0; index < cmdYesNo_.size(); ++index) {
-        auto* const button = newCaptionButton(this, messages.resourceMessage(captions[index]),
+        auto* const button = newCaptionButton(this, answerCaption(messages, Answer(index)),
                                               "cmdYesNo" + std::to_string(index));
         button->Bind(wxEVT_BUTTON, [this, index](wxCommandEvent&) { press(index); });
         row->Add(button, wxSizerFlags().Border(wxLEFT, index == 0 ? 0 : FromDIP(8)));

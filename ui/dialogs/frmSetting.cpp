@@ -38,6 +38,10 @@ frmSetting::frmSetting(wxWindow* parent, SettingDraft& draft, SettingWindowServi
     SetSizer(column);
     bindEvents();
     applyCaptionFont(*this, services_.state);
+    // Pages get their size when the book is shown; until then they would keep one that is too small
+    // for what is in them, of which the system complains.
+    for (std::size_t page = 0; page < SSTab1_->GetPageCount(); ++page)
+        SSTab1_->GetPage(page)->Fit();
     fitToContents(*this);
     CentreOnParent();
     refreshButtons();
@@ -89,6 +93,14 @@ void frmSetting::bindEvents() {
     // The close box and Esc press this one too.
     onClick("cmdCancel", [this] { EndModal(wxID_CANCEL); });
     swallowF1(*this);
+    // Lists take these keys for themselves on some systems.
+    Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+        const int key = event.GetKeyCode();
+        const bool turns = key == WXK_PAGEUP || key == WXK_PAGEDOWN || key == WXK_TAB;
+        if (!turns || !event.ControlDown())
+            return event.Skip();
+        SSTab1_->AdvanceSelection(key == WXK_TAB ? !event.ShiftDown() : key == WXK_PAGEDOWN);
+    });
 }
 
 bool frmSetting::apply() {

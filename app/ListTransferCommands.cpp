@@ -1,0 +1,135 @@
+#include "app/ListTransferCommands.h"
+
+#include "app/ListFileWindow.h"
+#include "base/ApplicationState.h"
+#include "files/CommandOutcome.h"
+#include "files/CommandScopes.h"
+#include "files/PaneRefresh.h"
+#include "files/PaneWindow.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/OperatorDialog.h"
+#include "link/ShownText.h"
+#include "link/Snappy.h"
+
+#include <vector>
+
+namespace vantrel {
+
+namespace {
+
+/// The step of a directory that could not be read; its index counts what was read.
+constexpr const char* directoryStep = "BscFind";
+
+std::string inParentheses(std::int32_t number) {
+    return " ( " + std::to_string(number) + " )";
+}
+
+} // namespace
+
+void ListTransferCommands::mnuOpt(int index) {
+    constexpr int saveJobsEntry = 2, loadJobsEntry = 3, saveVariablesEntry = 4,
+                  loadVariablesEntry = 5;
+    switch (index) {
+    case saveJobsEntry:
+        return run("0", message::saveJobsTitle, &ListTransferCommands::saveJobs);
+    case loadJobsEntry:
+        return run("1", message::loadJobsTitle, &ListTransferCommands::loadJobs);
+    case saveVariablesEntry:
+        return run("2", message::saveVariablesTitle, &ListTransferCommands::saveVariables);
+    case loadVariablesEntry:
+        return run("3", message::loadVariablesTitle, &ListTransferCommands::loadVariables);
+    default:
+        return;
+    }
+}
+
+/// A list in a locked window cannot take the focus, so that comes after the lock.
+void ListTransferCommands::run(std::string_view mode, std::int32_t title, Transfer transfer) {
+    if (!dialog_.readList(mode))
+        return;
+    {
+        const PaneRefresh refresh(with_);
+        const WindowLock lock(with_.window);
+        refresh.refreshTouched(showProgress(title, transfer));
+    }
+    with_.window.list(with_.state.Active).focus();
+}
+
+CommandOutcome ListTransferCommands::showProgress(std::int32_t title, Transfer transfer) {
+    with_.session.DisplayMonitor = true;
+    with_.session.MonitorTitle = with_.messages.getMessage(title);
+    const CommandProgress progress(with_, with_.session.MonitorTitle,
+                                   with_.messages.resourceMessage(message::resource::transferring));
+    return (this->*transfer)(progress);
+}
+
+CommandOutcome ListTransferCommands::saveJobs(const CommandProgress& progress) {
+    return {.pcTouched = transferJobs(Direction::Receive, progress)};
+}
+
+/// After an unset address another attempt would only bring the same message again.
+CommandOutcome ListTransferCommands::loadJobs(const CommandProgress& progress) {
+    const bool called = transferJobs(Direction::Send, progress);
+    return {.controllerTouched = called && !with_.session.endedByUnsetAddress()};
+}
+
+bool ListTransferCommands::transferJobs(Direction direction, const CommandProgress& progress) {
+    keepPermitted(direction);
+    if (with_.session.JobListCount() == 0 || progress.isCancelled())
+        return false;
+    const bool succeeded = direction == Direction::Send ? with_.session.JobListDownLoad()
+                                                        : with_.session.JobListUpLoad();
+    if (!succeeded)
+        reportEntry(with_.session.JobList(with_.session.ErrorIndex()));
+    return true;
+}
+
+/// Each entry that is left out is named in a box of its own.
+void ListTransferCommands::keepPermitted(Direction direction) {
+    std::vector<SelectedItem> items;
+    for (std::int32_t index = 0; index < with_.session.JobListCount(); ++index)
+        items.push_back({with_.session.JobList(index), false});
+    const auto names = PermissionTests(with_, direction).permitted(items);
+    with_.session.JobListClear();
+    for (const auto& name : names)
+        with_.session.AddJobList(name);
+}
+
+CommandOutcome ListTransferCommands::saveVariables(const CommandProgress&) {
+    const std::string& file = with_.state.VarListFile;
+    if (!with_.session.VarListUpLoad())
+        reportEntry(with_.session.VarList(with_.session.ErrorIndex()));
+    else if (!with_.session.WriteVarListFile(file))
+        reportFailure("\n" + with_.messages.getMessage(message::listFileNotWritten) + "[" +
+                      shownText(file) + "] " + with_.session.systemReason());
+    return {.pcTouched = true};
+}
+
+CommandOutcome ListTransferCommands::loadVariables(const CommandProgress&) {
+    if (!with_.session.VarListDownLoad())
+        reportEntry(with_.session.VarList(with_.session.ErrorIndex()));
+    return {};
+}
+
+void ListTransferCommands::reportEntry(const std::string& entry) const {
+    const bool namesIt = !entry.empty() && with_.session.ErrorFunction() != directoryStep;
+    reportFailure(namesIt ? "\n[" + shownText(entry) + "]" : std::string());
+}
+
+/// An operator who pressed Cancel knows; an address that is not set has been told by the session.
+void ListTransferCommands::reportFailure(const std::string& details) const {
+    const auto& session = with_.session;
+    const bool cancelled =
+        session.ErrorFunction().empty() && session.ErrorCode() == session_code::cancelled;
+    if (cancelled || session.endedByUnsetAddress())
+        return;
+    with_.dialog.tell(with_.messages.getMessage(message::transferFailed) + session.ErrorFunction() +
+                          inParentheses(session.ErrorCode()) +
+                          with_.messages.errorText(session.ErrorCode()) +
+                          with_.messages.getMessage(message::listIndex) +
+                          inParentheses(session.ErrorIndex()) + details,
+                      BoxIcon::Exclamation);
+}
+
+} // namespace vantrel

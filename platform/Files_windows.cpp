@@ -1,0 +1,143 @@
+#include "platform/Files.h"
+#include "platform/System_windows.h"
+#include "platform/TextCase.h"
+
+#include <algorithm>
+#include <new>
+#include <stdexcept>
+
+namespace vantrel {
+
+namespace {
+
+constexpr DWORD sharedWithAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+/// Reads until the end, whatever size the system told beforehand. 0 or the error code.
+DWORD readAll(HANDLE file, std::size_t expectedSize, std::string& content) {
+    constexpr std::size_t block = 65536;
+    constexpr std::size_t mostAtOnce = std::size_t{1} << 30u;
+    content.resize(expectedSize + 1);
+    std::size_t used = 0;
+    while (true) {
+        if (used == content.size())
+            content.resize(content.size() + content.size() / 2 + block);
+        const auto room = static_cast<DWORD>(std::min(content.size() - used, mostAtOnce));
+        DWORD count = 0;
+        if (!::ReadFile(file, content.data() + used, room, &count, nullptr))
+            return ::GetLastError();
+        if (count == 0)
+            break;
+        used += count;
+    }
+    content.resize(used);
+    return 0;
+}
+
+Result<std::string> readOpenFile(const Handle& file) {
+    LARGE_INTEGER size{};
+    if (!::GetFileSizeEx(file.get(), &size))
+        return lastFailure();
+    if (static_cast<std::uint64_t>(size.QuadPart) >= std::string().max_size())
+        return systemFailure(ERROR_FILE_TOO_LARGE);
+    std::string content;
+    const DWORD error = readAll(file.get(), static_cast<std::size_t>(size.QuadPart), content);
+    if (error != 0)
+        return systemFailure(error);
+    return content;
+}
+
+/// One entry of that very name: what leads out of the folder or to itself is none, nor is what the
+/// system would take for a pattern.
+bool isEntryName(std::string_view name) {
+    return !name.empty() && name != "." && name != ".." && !hasNul(name) &&
+           name.find_first_of(R"(\/:*?"<>|)") == std::string_view::npos;
+}
+
+Outcome done(BOOL success) {
+    return success ? Outcome(Done{}) : Outcome(lastFailure());
+}
+
+} // namespace
+
+Result<std::string> readFile(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(ERROR_INVALID_NAME);
+    const std::wstring name = systemPath(path);
+    if (const auto details = readDetails(name); details.error == 0 && details.isFolder())
+        return Failure{"Is a folder"};
+    const Handle file(::CreateFileW(name.c_str(), GENERIC_READ, sharedWithAll, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!file.isOpen())
+        return lastFailure();
+    if (::GetFileType(file.get()) != FILE_TYPE_DISK)
+        return Failure{"Not a regular file"};
+    try {
+        return readOpenFile(file);
+    } catch (const std::bad_alloc&) {
+        return systemFailure(ERROR_NOT_ENOUGH_MEMORY);
+    } catch (const std::length_error&) {
+        return systemFailure(ERROR_FILE_TOO_LARGE);
+    }
+}
+
+Outcome renameFile(const std::string& from, const std::string& to) {
+    if (hasNul(from) || hasNul(to))
+        return systemFailure(ERROR_INVALID_NAME);
+    return done(::MoveFileExW(systemPath(from).c_str(), systemPath(to).c_str(),
+                              MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+}
+
+Outcome removeFile(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(ERROR_INVALID_NAME);
+    return done(::DeleteFileW(systemPath(path).c_str()));
+}
+
+bool isRegularFile(const std::string& path) {
+    if (hasNul(path))
+        return false;
+    const auto details = readDetails(systemPath(path));
+    constexpr DWORD others = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE;
+    return details.error == 0 && (details.attributes & others) == 0;
+}
+
+bool isFolder(const std::string& path) {
+    if (hasNul(path))
+        return false;
+    const auto details = readDetails(systemPath(path));
+    return details.error == 0 && details.isFolder();
+}
+
+bool anythingExists(const std::string& path) {
+    return !hasNul(path) &&
+           ::GetFileAttributesW(systemPath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+/// The system itself finds a name in any letter case; what is wanted is its own spelling. It also
+/// finds the short names that it gives to long ones, which are not meant.
+std::string findIgnoringCase(const std::string& folder, std::string_view name) {
+    if (!isEntryName(name) || hasNul(folder))
+        return {};
+    WIN32_FIND_DATAW found{};
+    const std::wstring path = systemPath(folder + '\\' + std::string(name));
+    const HANDLE search = ::FindFirstFileW(path.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return {};
+    ::FindClose(search);
+    const std::string spelling = narrow(found.cFileName);
+    return upperCase(spelling) == upperCase(name) ? spelling : std::string();
+}
+
+std::string currentFolder() {
+    std::wstring path(::GetCurrentDirectoryW(0, nullptr), L'\0');
+    const DWORD length = ::GetCurrentDirectoryW(static_cast<DWORD>(path.size()), path.data());
+    return length < path.size() ? narrow(std::wstring_view(path).substr(0, length)) : std::string();
+}
+
+Outcome changeCurrentFolder(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(ERROR_INVALID_NAME);
+    return done(::SetCurrentDirectoryW(wide(path).c_str()));
+}
+
+} // namespace vantrel

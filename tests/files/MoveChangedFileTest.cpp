@@ -1,0 +1,83 @@
+#include "CommandFixture.h"
+
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+namespace vantrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// The question of a move stays open as long as the operator likes, and somebody else works on the
+/// files meanwhile.
+class MoveChangedFileTest : public tests::CommandFixture {
+  protected:
+    MoveChangedFileTest() {
+        pcJob("A", "new");
+        robotJob("A", "old");
+        robotJob("B", "precious");
+    }
+    void TearDown() override { expectLeftInOrder(); }
+
+    /// Moves "A.JBI", with this done while its first question is open.
+    bool moveWhile(std::function<void()> change) {
+        selectOnPC({"A.JBI"});
+        question.whileOpen = [this, change = std::move(change)] {
+            if (question.questions.size() == 1)
+                change();
+        };
+        return commands.sendMove();
+    }
+};
+
+TEST_F(MoveChangedFileTest, AnotherJobThatItReplacesNowIsAskedForToo) {
+    question.answers = {Answer::Yes, Answer::No};
+    EXPECT_TRUE(moveWhile([this] { pc.write("A.JBI", job("B", "other")); }));
+    EXPECT_THAT(question.questions, ElementsAre("A.JBI already exists. Overwrite it?",
+                                                "B.JBI already exists. Overwrite it?"));
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "old"));
+    EXPECT_EQ(robot().bytes("B.JBI"), job("B", "precious"));
+    EXPECT_TRUE(pc.has("A.JBI"));
+}
+
+TEST_F(MoveChangedFileTest, WithBothAnswersItGoesOn) {
+    question.answers = {Answer::Yes, Answer::Yes};
+    EXPECT_TRUE(moveWhile([this] { pc.write("A.JBI", job("B", "other")); }));
+    EXPECT_THAT(robot().names(), ElementsAre("B.JBI"));
+    EXPECT_EQ(robot().bytes("B.JBI"), job("B", "other"));
+    EXPECT_FALSE(pc.has("A.JBI"));
+}
+
+TEST_F(MoveChangedFileTest, AJobThatCameToTheControllerMeanwhileIsAskedForToo) {
+    pc.write("A.JBI", job("C", "new"));
+    question.answers = {Answer::Yes, Answer::No};
+    EXPECT_TRUE(moveWhile([this] { robotJob("C", "somebody's"); }));
+    EXPECT_EQ(question.questions.size(), 2u);
+    EXPECT_EQ(robot().bytes("C.JBI"), job("C", "somebody's"));
+}
+
+TEST_F(MoveChangedFileTest, AFileThatIsGoneCostsTheControllerNothing) {
+    question.answers = {Answer::Yes};
+    EXPECT_FALSE(moveWhile([this] { std::filesystem::remove(pc.path("A.JBI")); }));
+    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed:  ( not readable )\n[A.JBI]"));
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "old"));
+}
+
+TEST_F(MoveChangedFileTest, AJobThatIsGoneFromTheControllerIsNotAskedForAgain) {
+    question.answers = {Answer::Yes};
+    EXPECT_TRUE(moveWhile([this] { robot().erase("A.JBI"); }));
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "new"));
+    EXPECT_THAT(boxes.texts(), IsEmpty());
+}
+
+TEST_F(MoveChangedFileTest, AllWasMeantForWhateverIsInTheWay) {
+    question.answers = {Answer::All};
+    EXPECT_TRUE(moveWhile([this] { pc.write("A.JBI", job("B", "other")); }));
+    EXPECT_EQ(question.questions.size(), 1u);
+    EXPECT_EQ(robot().bytes("B.JBI"), job("B", "other"));
+}
+
+} // namespace
+} // namespace vantrel

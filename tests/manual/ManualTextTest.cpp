@@ -1,0 +1,189 @@
+#include "base/Text.h"
+#include "lang/LanguageFile.h"
+#include "platform/Files.h"
+#include "support/NamedRow.h"
+
+#include <algorithm>
+#include <regex>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+namespace vantrel {
+namespace {
+
+using testing::Contains;
+using testing::IsEmpty;
+using tests::NamedRow;
+
+const std::string sources = VANTREL_SOURCE_FOLDER;
+
+std::string contentOf(const std::string& file) {
+    const auto bytes = readFile(sources + "/" + file);
+    EXPECT_TRUE(bytes) << file;
+    return bytes ? *bytes : std::string{};
+}
+
+/// Each match with its groups.
+std::vector<std::vector<std::string>> matches(const std::string& text, const char* pattern) {
+    const std::regex expression(pattern);
+    std::vector<std::vector<std::string>> found;
+    for (std::sregex_iterator match(text.begin(), text.end(), expression), end; match != end;
+         ++match)
+        found.emplace_back(match->begin(), match->end());
+    return found;
+}
+
+std::string replaced(std::string text, const char* pattern, const char* by) {
+    return std::regex_replace(text, std::regex(pattern), by);
+}
+
+/// A caption as it is read on the screen: without its key, the points of a dialog and the colon.
+std::string shown(const std::string& caption) {
+    return std::string(trimmed(replaced(caption, R"(\(&.\)|&|\.\.\.|:$)", "")));
+}
+
+/// The letter after "&" as a capital one, or nothing.
+std::string keyOf(const std::string& caption) {
+    const auto mark = caption.find('&');
+    return mark == std::string::npos ? std::string{} : asciiUpper(caption.substr(mark + 1, 1));
+}
+
+struct Manual : NamedRow {
+    const char* file;
+    const char* language;
+    const char* pictures;
+};
+
+constexpr Manual manuals[] = {{{"English"}, "Zurolink_us.adoc", "English.lng", "en"},
+                              {{"Japanese"}, "Zurolink_jp.adoc", "Japanese.lng", "ja"}};
+
+/// One of the manuals, with the texts of its language.
+class ManualText : public testing::TestWithParam<Manual> {
+  protected:
+    static std::string textOf(const Manual& manual) {
+        return contentOf(std::string("docs/manual/") + manual.file);
+    }
+
+    /// Words of the screen stand in bold, in Japanese within brackets.
+    static std::string unbracketed(const std::string& words) {
+        return replaced(words, "［|］", "");
+    }
+
+    /// What a table holds whose attributes begin with `role`, with all tables of that role joined.
+    std::string tables(const std::string& role) const {
+        std::string all;
+        const std::string begin = "[." + role;
+        for (auto place = text_.find(begin); place != std::string::npos;) {
+            const auto end = text_.find("\n|===", text_.find("|===", place) + 4);
+            all += text_.substr(place, end - place) + "\n";
+            place = text_.find(begin, end);
+        }
+        return all;
+    }
+
+    bool isKeyOf(const std::string& key, const std::string& words) const {
+        return std::ranges::any_of(entries_, [&](const MessageEntry& entry) {
+            return shown(entry.Text2) == words && keyOf(entry.Text2) == key;
+        });
+    }
+
+    std::string shownText(int number) const {
+        const auto found = std::ranges::find(entries_, number, &MessageEntry::MsgNo);
+        return found == entries_.end() ? std::string{} : shown(found->Text2);
+    }
+
+    const std::string text_ = textOf(GetParam());
+    const std::vector<MessageEntry> entries_ =
+        parseLanguageFile(contentOf(std::string("data/") + GetParam().language));
+};
+
+INSTANTIATE_TEST_SUITE_P(Languages, ManualText, testing::ValuesIn(manuals), tests::rowName);
+
+TEST_P(ManualText, QuotesOnlyCaptionsThatTheScreenShows) {
+    std::set<std::string> captions;
+    for (const auto& entry : entries_)
+        captions.insert(shown(entry.Text2));
+    const auto quoted = matches(text_, R"(\*\*([^*]+)\*\*)");
+    EXPECT_GT(quoted.size(), 100U);
+    for (const auto& words : quoted)
+        EXPECT_TRUE(captions.contains(unbracketed(words[1]))) << words[1];
+}
+
+TEST_P(ManualText, QuotesOnlyMessagesThatTheProgramGives) {
+    std::set<std::string> texts;
+    for (const auto& entry : entries_)
+        texts.emplace(trimmed(entry.Text2));
+    const auto quoted = matches(text_, R"(\[\.msg\]#+([^#]+)#)");
+    EXPECT_GT(quoted.size(), 20U);
+    for (const auto& words : quoted)
+        EXPECT_TRUE(texts.contains(replaced(words[1], "\"|「|」", ""))) << words[1];
+}
+
+TEST_P(ManualText, GivesEveryMenuEntryItsKeys) {
+    std::set<std::string> listed;
+    for (const auto& row :
+         matches(tables("keys"), R"(\|`Alt\+(.)` `(.)` \|\*\*([^*]+)\*\*[^*]+\*\*([^*]+)\*\*)")) {
+        EXPECT_TRUE(isKeyOf(row[1], unbracketed(row[3]))) << row[0];
+        EXPECT_TRUE(isKeyOf(row[2], unbracketed(row[4]))) << row[0];
+        listed.insert(unbracketed(row[4]));
+    }
+    for (const auto& [first, last] :
+         {std::pair(102, 108), {110, 113}, {115, 118}, {120, 125}, {128, 129}, {131, 132}})
+        for (int number = first; number <= last; ++number)
+            EXPECT_THAT(listed, Contains(shownText(number)));
+}
+
+TEST_P(ManualText, NamesEveryAcceleratorOfTheMenus) {
+    const auto menus = contentOf("ui/MainMenus.cpp");
+    const auto accelerators = matches(menus, R"-(\{Menu::\w+, \d+, "([^"]+)")-");
+    EXPECT_THAT(accelerators, testing::Not(IsEmpty()));
+    const auto listed = tables("keys");
+    for (const auto& accelerator : accelerators)
+        EXPECT_THAT(listed, testing::HasSubstr("|`" + accelerator[1] + "`"));
+}
+
+TEST_P(ManualText, ExplainsEveryErrorCodeOfOurOwn) {
+    std::set<int> explained;
+    for (const auto& row : matches(tables("codes"), R"(\|(\d+) \|\[\.msg\]#+([^#]+)#)")) {
+        const int code = std::stoi(row[1]);
+        EXPECT_EQ(row[2], shownText(code < 1000 ? code + 500 : code));
+        explained.insert(code);
+    }
+    for (const auto& entry : entries_) {
+        const int code = entry.MsgNo - 500;
+        const bool isButton = code >= 30 && code <= 33;
+        const bool isOurs = code >= 20 && code < 40 && !isButton;
+        EXPECT_TRUE(!isOurs || explained.contains(code)) << code;
+    }
+}
+
+TEST_P(ManualText, NamesOnlyPicturesThatAreThereAndSmall) {
+    const std::string folder = std::string("docs/manual/pictures/") + GetParam().pictures + "/";
+    std::set<std::string> named;
+    for (const auto& picture : matches(text_, R"((?:^|\n)image::([^\[]+)\[)")) {
+        named.insert(picture[1]);
+        EXPECT_LT(contentOf(folder + picture[1]).size(), 40'000U) << picture[1];
+    }
+    EXPECT_GE(named.size(), 9U);
+}
+
+TEST(Manuals, HaveTheSameStructureInBothLanguages) {
+    const auto structure = [](const Manual& manual) {
+        std::vector<std::string> parts;
+        const auto text = contentOf(std::string("docs/manual/") + manual.file);
+        for (const auto& part :
+             matches(text, R"((?:^|\n)(={2,} |\[#.+\]|\[.*%header|image::[^\[]+|\|\d+ ))"))
+            parts.push_back(part[1]);
+        return parts;
+    };
+    const auto english = structure(manuals[0]);
+    EXPECT_GT(english.size(), 100U);
+    EXPECT_EQ(structure(manuals[1]), english);
+}
+
+} // namespace
+} // namespace vantrel

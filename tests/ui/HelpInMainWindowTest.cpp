@@ -1,0 +1,128 @@
+#include "HelpWorld.h"
+#include "ui/FileViewer.h"
+#include "ui/FolderTreeDropDown.h"
+#include "ui/KeyedToolBar.h"
+
+#include <wx/bmpbuttn.h>
+#include <wx/choice.h>
+
+namespace vantrel::tests {
+namespace {
+
+class HelpInMainWindowTest : public testing::Test, public HelpWorld {
+  protected:
+    HelpInMainWindowTest() {
+        settings("TransMode=16\r\n");
+        pcJob("A");
+        robotJob("X");
+    }
+    ~HelpInMainWindowTest() override {
+        program.reset();
+        runEvents();
+    }
+
+    static constexpr const char* manual = "Zurolink_us.pdf";
+
+    /// A press of F1 at the keyboard, with the focus in this control.
+    void pressF1In(wxWindow& control) {
+        control.SetFocus();
+        ASSERT_TRUE(waitFor([&] { return control.HasFocus() || hasFocusWithin(control); }))
+            << control.GetName();
+        pressKey(WXK_F1);
+        ++presses_;
+        EXPECT_TRUE(waitFor([this] { return opened() == openings(manual, presses_); }))
+            << control.GetName() << '\n'
+            << opened();
+    }
+    static bool hasFocusWithin(wxWindow& control) {
+        return control.IsDescendant(wxWindow::FindFocus());
+    }
+    /// Opens a dialog by its menu entry, presses F1 in it and closes it.
+    void pressF1InDialogOf(MenuItem item, const std::string& closing) {
+        modal.act([&closing](wxDialog& dialog) {
+            EXPECT_TRUE(waitFor([&] { return dialog.IsActive(); })) << dialog.GetName();
+            pressKey(WXK_F1);
+            runEvents();
+            click(dialog, closing);
+        });
+        menu(item);
+        runEvents();
+    }
+
+  private:
+    int presses_ = 0;
+};
+
+TEST_F(HelpInMainWindowTest, TheMenuOpensTheManual) {
+    start(false);
+    menu({Menu::mnuHelp, 0});
+    EXPECT_TRUE(waitFor([this] { return opened() == openings(manual); })) << opened();
+}
+
+TEST_F(HelpInMainWindowTest, TheManualIsThatOfTheLanguage) {
+    settings("TransMode=1\r\n", "Japanese");
+    start(false);
+    menu({Menu::mnuHelp, 0});
+    EXPECT_TRUE(waitFor([this] { return opened() == openings("Zurolink_jp.pdf"); })) << opened();
+}
+
+TEST_F(HelpInMainWindowTest, AManualThatIsNotThereIsNotReported) {
+    std::filesystem::remove_all(folder.path("../ZUROLINKDLL"));
+    start(false);
+    menu({Menu::mnuHelp, 0});
+    runEvents();
+    EXPECT_EQ(opened(), "");
+}
+
+TEST_F(HelpInMainWindowTest, F1OpensItFromEveryControl) {
+    start(true);
+    const auto& all = controls();
+    for (wxWindow* control :
+         {static_cast<wxWindow*>(&pcList()), static_cast<wxWindow*>(&controllerList()),
+          static_cast<wxWindow*>(all.cmbRbtName), static_cast<wxWindow*>(all.cmbPCFileType),
+          static_cast<wxWindow*>(all.cmbCtrlFileType), static_cast<wxWindow*>(all.Command1)})
+        pressF1In(*control);
+}
+
+TEST_F(HelpInMainWindowTest, F1OpensItFromTheViewerAndTheFolderTree) {
+    start(true);
+    choose(*controls().lsvPC, {0});
+    menu({Menu::mnuFile, 5});
+    pressF1In(*controls().rtxFileDisp);
+    wxCommandEvent drop(wxEVT_BUTTON, controls().Command1->GetId());
+    controls().Command1->HandleWindowEvent(drop);
+    ASSERT_TRUE(waitFor([this] { return controls().trvFolderList->IsShown(); }));
+    pressF1In(*controls().trvFolderList);
+}
+
+TEST_F(HelpInMainWindowTest, F1IsConsumed) {
+    start(false);
+    EXPECT_TRUE(swallows(window(), WXK_F1));
+    EXPECT_FALSE(swallows(window(), WXK_F5));
+}
+
+TEST_F(HelpInMainWindowTest, F1IsRefusedWhileAnOperationRuns) {
+    start(false);
+    window().setLocked(true);
+    pressKey(WXK_F1);
+    swallows(window(), WXK_F1);
+    menu({Menu::mnuHelp, 0});
+    runEvents();
+    window().setLocked(false);
+    window().list(ActiveSide::PC).focus();
+    pressF1In(pcList());
+}
+
+TEST_F(HelpInMainWindowTest, F1InADialogOpensNothing) {
+    start(false);
+    pressF1InDialogOf({Menu::mnuOpt, 0}, "cmdCancel");
+    pressF1InDialogOf({Menu::mnuOpt, 2}, "cmdCancel");
+    pressF1InDialogOf({Menu::mnuOpt, 7}, "Command2");
+    pressF1InDialogOf({Menu::mnuVer, 0}, "Command1");
+    window().Raise();
+    window().list(ActiveSide::PC).focus();
+    pressF1In(pcList());
+}
+
+} // namespace
+} // namespace vantrel::tests

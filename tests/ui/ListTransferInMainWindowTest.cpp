@@ -1,0 +1,134 @@
+#include "DialogTest.h"
+#include "ProgramWorld.h"
+
+#include <wx/menu.h>
+#include <wx/msgdlg.h>
+
+namespace vantrel::tests {
+namespace {
+
+/// Entries of the option menu that transfer lists, through the whole program.
+class ListTransferInMainWindowTest : public testing::TestWithParam<const char*>,
+                                     public ProgramWorld {
+  protected:
+    ListTransferInMainWindowTest() {
+        settings("TransMode=1\r\n", GetParam());
+        EXPECT_TRUE(bool(LanguageFiles(VANTREL_DATA_FOLDER).readInto(GetParam(), messages)));
+        folder.write("jobs/jobs.lst", "A.JBI\r\nB.JBI\r\n");
+        folder.write("jobs/VARS.LST", "B001=5\r\n");
+    }
+    ~ListTransferInMainWindowTest() override {
+        program.reset();
+        runEvents();
+    }
+
+    static constexpr int saveJobs = 2, loadJobs = 3, saveVariables = 4, loadVariables = 5;
+
+    /// Names a list file in the entry's dialog, which has this title and this label of its field.
+    void run(int entry, const std::string& file, int title, int field) {
+        modal.act([&, title, field](wxDialog& dialog) {
+            EXPECT_EQ(dialog.GetTitle().utf8_string(), messages.getMessage(title));
+            EXPECT_EQ(labelOf(dialog, "lblFile"), messages.getMessage(field));
+            EXPECT_EQ(dialog.GetParent(), &window());
+            expectNothingCutOff(dialog);
+            saveScreenshot(dialog, "list-transfer-" + std::to_string(title) + "-" + GetParam());
+            type(dialog, "txtFile", file);
+            click(dialog, "cmdOK");
+        });
+        menu({Menu::mnuOpt, entry});
+        runEvents();
+        EXPECT_TRUE(window().menus().find({Menu::mnuOpt, entry})->IsEnabled());
+    }
+    std::vector<std::string> names(wxListView& list) {
+        std::vector<std::string> shown;
+        for (long item = 0; item < list.GetItemCount(); ++item)
+            shown.push_back(list.GetItemText(item).utf8_string());
+        return shown;
+    }
+
+    MessageTable messages;
+};
+
+INSTANTIATE_TEST_SUITE_P(In, ListTransferInMainWindowTest, bothLanguages, languageName);
+
+TEST_P(ListTransferInMainWindowTest, SavesJobsToThePCAndShowsThem) {
+    robotJob("A");
+    robotJob("B");
+    start(false);
+    run(saveJobs, "jobs", 19, 23);
+    EXPECT_EQ(folder.read("jobs/A.JBI"), job("A"));
+    EXPECT_EQ(folder.read("jobs/B.JBI"), job("B"));
+    EXPECT_EQ(names(pcList()), (std::vector<std::string>{"A.JBI", "B.JBI"}));
+}
+
+TEST_P(ListTransferInMainWindowTest, LoadsJobsIntoTheControllerAndShowsThem) {
+    pcJob("A");
+    pcJob("B");
+    start(false);
+    run(loadJobs, "jobs.lst", 20, 23);
+    EXPECT_EQ(folder.read("robot/A.JBI"), job("A"));
+    EXPECT_EQ(folder.read("robot/B.JBI"), job("B"));
+    const auto shown = names(controllerList());
+    ASSERT_GE(shown.size(), 2u);
+    EXPECT_EQ(shown[0], "A.JBI");
+    EXPECT_EQ(shown[1], "B.JBI");
+}
+
+TEST_P(ListTransferInMainWindowTest, LoadsVariablesIntoTheControllerAndSavesThemBack) {
+    start(false);
+    run(loadVariables, "VARS.LST", 22, 24);
+    EXPECT_NE(folder.read("robot/variables.txt").find("B001=5"), std::string::npos);
+    folder.write("jobs/OTHER.LST", "B001=0\r\n");
+    run(saveVariables, "OTHER.LST", 21, 24);
+    EXPECT_EQ(folder.read("jobs/OTHER.LST"), "B001=5\r\n");
+}
+
+TEST_P(ListTransferInMainWindowTest, ACancelledDialogChangesNothing) {
+    robotJob("A");
+    start(false);
+    for (const int entry : {saveJobs, loadJobs, saveVariables, loadVariables}) {
+        modal.act([](wxDialog& dialog) {
+            type(dialog, "txtFile", "jobs.lst");
+            swallows(dialog, WXK_ESCAPE);
+        });
+        menu({Menu::mnuOpt, entry});
+    }
+    EXPECT_FALSE(folder.has("jobs/A.JBI"));
+    EXPECT_FALSE(folder.has("robot/variables.txt"));
+}
+
+TEST_P(ListTransferInMainWindowTest, TheNameThatWorkedIsOfferedAgainAndSavedAtTheEnd) {
+    start(false);
+    run(loadVariables, "VARS.LST", 22, 24);
+    modal.act([](wxDialog& dialog) {
+        EXPECT_EQ(control<wxTextCtrl>(dialog, "txtFile").GetValue(), "VARS.LST");
+        click(dialog, "cmdCancel");
+    });
+    menu({Menu::mnuOpt, saveVariables});
+    modal.answer([](wxDialog&) { return wxID_OK; });
+    menu({Menu::mnuEnd, 0});
+    ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
+    EXPECT_NE(folder.read("Vantrel.ini").find("VarListFile=VARS.LST"), std::string::npos)
+        << folder.read("Vantrel.ini");
+}
+
+TEST_P(ListTransferInMainWindowTest, AFailureIsReportedAndTheWindowUsableAgain) {
+    start(false);
+    modal.act([](wxDialog& dialog) {
+        type(dialog, "txtFile", "jobs.lst");
+        click(dialog, "cmdOK");
+    });
+    modal.act([this](wxDialog& box) {
+        const auto text = dynamic_cast<wxMessageDialogBase&>(box).GetMessage().utf8_string();
+        EXPECT_TRUE(text.starts_with(messages.getMessage(5) + "BscUpLoad ( 1200 )")) << text;
+        EXPECT_TRUE(text.ends_with("[A.JBI]")) << text;
+        saveScreenshot(box, std::string("list-report-") + GetParam());
+        swallows(box, WXK_ESCAPE);
+    });
+    menu({Menu::mnuOpt, saveJobs});
+    EXPECT_TRUE(controls().fraPC.panel->IsEnabled());
+    EXPECT_TRUE(window().menus().find({Menu::mnuOpt, saveJobs})->IsEnabled());
+}
+
+} // namespace
+} // namespace vantrel::tests

@@ -1,0 +1,15 @@
+#include "ui/ListFileDialogs.h"
+
+#include "ui/dialogs/ListFileDraft.h"
+#include "ui/dialogs/frmListFile.h"
+
+namespace vantrel {
+
+bool ListFileDialogs::readList(std::string_view mode) {
+    ListFileDraft draft(state_, session_, boxes_, messages_, mode);
+    frmListFile dialog(&parent_, draft, state_);
+    dialog.ShowModal();
+    return draft.mark() == list_file_mark::listRead;
+}
+
+} // namespace vantrel

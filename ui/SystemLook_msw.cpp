@@ -1,0 +1,37 @@
+#include "ui/SystemLook.h"
+
+#include <wx/msw/private.h>
+#include <wx/msw/private/comptr.h>
+#include <wx/window.h>
+
+// The identifiers of the accessibility interfaces are made here.
+#include <initguid.h>
+#include <oleacc.h>
+
+namespace vantrel {
+
+// No library is ever taken from the current directory, which is an operator's folder at times, and
+// a drive without a medium is an error for us, not for a box of the system's.
+void prepareSystem() {
+    ::SetDllDirectoryW(L"");
+    ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+}
+
+// The system's own controls are as dense as the main window wants them.
+void applySystemLook() {}
+void allowNarrow(wxWindow& /*button*/) {}
+
+void bringToFront(wxWindow& control) {
+    control.Raise();
+}
+
+// A window's own text would be drawn by some controls; the annotation is for screen readers only.
+void setAccessibleName(wxWindow& control, const wxString& name) {
+    wxCOMPtr<IAccPropServices> services;
+    if (SUCCEEDED(::CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER,
+                                     IID_IAccPropServices, reinterpret_cast<void**>(&services))))
+        services->SetHwndPropStr(GetHwndOf(&control), static_cast<DWORD>(OBJID_CLIENT),
+                                 CHILDID_SELF, PROPID_ACC_NAME, name.wc_str());
+}
+
+} // namespace vantrel
