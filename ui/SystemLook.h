@@ -18,6 +18,9 @@ void allowNarrow(wxWindow& button);
 /// Brings a control that is shown before the siblings that it overlaps.
 void bringToFront(wxWindow& control);
 
+/// Whether a window that was shown has got as far as the screen, where a window manager has a say.
+bool isOnScreen(const wxWindow& window);
+
 /// What a screen reader calls a control that shows no text of its own.
 void setAccessibleName(wxWindow& control, const wxString& name);
 

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 #include <wx/window.h>
 
@@ -52,6 +53,17 @@ void bringToFront(wxWindow& control) {
     GtkAllocation allocation{place.x, place.y, place.width, place.height};
     gtk_widget_get_preferred_size(widget, nullptr, nullptr);
     gtk_widget_size_allocate(widget, &allocation);
+}
+
+bool isOnScreen(const wxWindow& window) {
+    auto* const shown = gtk_widget_get_window(window.GetHandle());
+    if (!shown || !gdk_window_is_viewable(shown))
+        return false;
+    if (!GDK_IS_X11_WINDOW(shown))
+        return true;
+    XWindowAttributes attributes;
+    return XGetWindowAttributes(GDK_WINDOW_XDISPLAY(shown), GDK_WINDOW_XID(shown), &attributes) &&
+           attributes.map_state == IsViewable;
 }
 
 void setAccessibleName(wxWindow& control, const wxString& name) {

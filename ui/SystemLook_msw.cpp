@@ -25,6 +25,10 @@ void bringToFront(wxWindow& control) {
     control.Raise();
 }
 
+bool isOnScreen(const wxWindow& window) {
+    return window.IsShown();
+}
+
 // A window's own text would be drawn by some controls; the annotation is for screen readers only.
 void setAccessibleName(wxWindow& control, const wxString& name) {
     wxCOMPtr<IAccPropServices> services;

@@ -1,5 +1,7 @@
 #include "ui/dialogs/FirstPaint.h"
 
+#include "ui/SystemLook.h"
+
 #include <chrono>
 
 #include <wx/event.h>
@@ -10,8 +12,10 @@
 namespace vantrel {
 
 FirstPaint::FirstPaint(wxTopLevelWindow& window) {
-    window.Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
-        isOver_ = true;
+    // A window that comes back is painted at once, and the picture is lost when the window manager
+    // has not put it on the screen yet.
+    window.Bind(wxEVT_PAINT, [this, &window](wxPaintEvent& event) {
+        isOver_ = isOver_ || isOnScreen(window);
         event.Skip();
     });
 }
