@@ -12,7 +12,7 @@ KeyedToolBar::KeyedToolBar(wxWindow* parent, const wxString& name,
                            const std::vector<Button>& buttons)
     : wxToolBar(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                 wxTB_FLAT | wxTB_NODIVIDER | wxTB_HORIZONTAL, name) {
-    SetToolBitmapSize(wxSize(iconSize, iconSize));
+    SetToolBitmapSize(icon(buttons.front().key, wxSize(iconSize, iconSize)).GetDefaultSize());
     for (const auto& button : buttons) {
         if (button.kind == Kind::Separator) {
             AddSeparator();

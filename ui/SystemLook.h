@@ -1,6 +1,7 @@
 #pragma once
 
 class wxString;
+class wxTreeCtrl;
 class wxWindow;
 
 namespace vantrel {
@@ -12,8 +13,15 @@ void prepareSystem();
 /// is laid out for controls as dense as on the PCs that stand beside robots.
 void applySystemLook();
 
+/// How much larger than usual the operator has texts shown, beyond the scale of the whole desktop;
+/// 1 for not at all.
+double textScale();
+
 /// Lets a button be as small as its image, where the system would give it a margin.
 void allowNarrow(wxWindow& button);
+
+/// Keeps scroll bars from a tree that shows one line only, which they would cover.
+void hideScrollBars(wxTreeCtrl& tree);
 
 /// Brings a control that is shown before the siblings that it overlaps.
 void bringToFront(wxWindow& control);

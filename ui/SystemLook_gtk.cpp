@@ -4,6 +4,7 @@
 
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
+#include <wx/treectrl.h>
 #include <wx/window.h>
 
 namespace vantrel {
@@ -39,8 +40,18 @@ void applySystemLook() {
     g_object_unref(provider);
 }
 
+double textScale() {
+    constexpr double usual = 96; // dots per inch
+    const double resolution = gdk_screen_get_resolution(gdk_screen_get_default());
+    return resolution > 0 ? resolution / usual : 1;
+}
+
 void allowNarrow(wxWindow& button) {
     gtk_style_context_add_class(gtk_widget_get_style_context(button.GetHandle()), "narrow");
+}
+
+void hideScrollBars(wxTreeCtrl& tree) {
+    tree.ShowScrollbars(wxSHOW_SB_NEVER, wxSHOW_SB_NEVER);
 }
 
 // A control that scrolls has a window around its own, which the toolkit's Raise() leaves where it

@@ -1,10 +1,11 @@
 #include "ui/SystemLook.h"
 
 #include <wx/msw/private.h>
-#include <wx/msw/private/comptr.h>
+#include <wx/treectrl.h>
 #include <wx/window.h>
 
 // The identifiers of the accessibility interfaces are made here.
+#include <commctrl.h>
 #include <initguid.h>
 #include <oleacc.h>
 
@@ -19,7 +20,18 @@ void prepareSystem() {
 
 // The system's own controls are as dense as the main window wants them.
 void applySystemLook() {}
+// The resolution of a window says it already.
+double textScale() {
+    return 1;
+}
+
 void allowNarrow(wxWindow& /*button*/) {}
+
+void hideScrollBars(wxTreeCtrl& tree) {
+    const HWND window = GetHwndOf(&tree);
+    const auto style = ::GetWindowLongPtrW(window, GWL_STYLE);
+    ::SetWindowLongPtrW(window, GWL_STYLE, style | TVS_NOSCROLL);
+}
 
 void bringToFront(wxWindow& control) {
     control.Raise();
@@ -31,11 +43,13 @@ bool isOnScreen(const wxWindow& window) {
 
 // A window's own text would be drawn by some controls; the annotation is for screen readers only.
 void setAccessibleName(wxWindow& control, const wxString& name) {
-    wxCOMPtr<IAccPropServices> services;
-    if (SUCCEEDED(::CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER,
-                                     IID_IAccPropServices, reinterpret_cast<void**>(&services))))
-        services->SetHwndPropStr(GetHwndOf(&control), static_cast<DWORD>(OBJID_CLIENT),
-                                 CHILDID_SELF, PROPID_ACC_NAME, name.wc_str());
+    IAccPropServices* services = nullptr;
+    if (FAILED(::CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER,
+                                  IID_IAccPropServices, reinterpret_cast<void**>(&services))))
+        return;
+    services->SetHwndPropStr(GetHwndOf(&control), static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
+                             PROPID_ACC_NAME, name.wc_str());
+    services->Release();
 }
 
 } // namespace vantrel

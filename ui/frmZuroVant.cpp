@@ -25,6 +25,7 @@
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
 
+#include <cmath>
 #include <utility>
 
 #include <wx/choice.h>
@@ -83,9 +84,10 @@ wxChoice& frmZuroVant::filter(ActiveSide side) const {
 }
 
 int frmZuroVant::dpi() const {
-    // Device-independent pixels are 96 to the inch; a scaled desktop counts in them already.
+    // Device-independent pixels are 96 to the inch; a scaled desktop counts in them already. Larger
+    // texts need as much more room: an inch is what the operator's texts take it for.
     constexpr int designResolution = 96;
-    return FromDIP(designResolution);
+    return int(std::lround(FromDIP(designResolution) * textScale()));
 }
 
 void frmZuroVant::bindEvents() {

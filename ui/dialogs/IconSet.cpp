@@ -1,18 +1,32 @@
 #include "ui/IconSet.h"
 
+#include "ui/SystemLook.h"
 #include "ui/dialogs/IconDrawings.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <wx/icon.h>
 #include <wx/iconbndl.h>
 
 namespace vantrel {
 
+namespace {
+
+wxSize besideTexts(wxSize size) {
+    const auto scaled = [scale = textScale()](int length) {
+        return int(std::lround(length * scale));
+    };
+    return {scaled(size.x), scaled(size.y)};
+}
+
+} // namespace
+
 wxBitmapBundle icon(std::string_view key, wxSize size) {
     const auto all = iconDrawings();
     const auto found = std::ranges::find(all, key, &IconDrawing::key);
-    return found == all.end() ? wxBitmapBundle() : wxBitmapBundle::FromSVG(found->svg, size);
+    return found == all.end() ? wxBitmapBundle()
+                              : wxBitmapBundle::FromSVG(found->svg, besideTexts(size));
 }
 
 wxIconBundle programIcons() {
