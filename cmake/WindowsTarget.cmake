@@ -15,3 +15,5 @@ if(NOT wxWidgets_CONFIG_EXECUTABLE)
     set(wxWidgets_CONFIG_EXECUTABLE "${toolkit}/bin/wx-config" CACHE FILEPATH
         "The configuration program of the cross-built toolkit")
 endif()
+get_filename_component(toolkit "${wxWidgets_CONFIG_EXECUTABLE}/../.." ABSOLUTE)
+list(APPEND CMAKE_FIND_ROOT_PATH "${toolkit}")

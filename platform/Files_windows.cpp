@@ -116,7 +116,7 @@ bool anythingExists(const std::string& path) {
 /// The system itself finds a name in any letter case; what is wanted is its own spelling. It also
 /// finds the short names that it gives to long ones, which are not meant.
 std::string findIgnoringCase(const std::string& folder, std::string_view name) {
-    if (!isEntryName(name) || hasNul(folder))
+    if (!isEntryName(name) || folder.empty() || hasNul(folder))
         return {};
     WIN32_FIND_DATAW found{};
     const std::wstring path = systemPath(folder + '\\' + std::string(name));

@@ -1,3 +1,4 @@
+#include "base/Text.h"
 #include "platform/Files.h"
 #include "platform/ProfileFile.h"
 #include "platform/ProfileText.h"
@@ -33,6 +34,16 @@ std::wstring profileString(const std::wstring& path, const std::wstring& section
         }
         value.resize(value.size() * 4);
     }
+}
+
+/// The system takes outer blanks off a name, but not in all of its functions.
+std::wstring profileName(std::string_view name) {
+    return wide(trimmed(name, " "));
+}
+
+/// Without trailing blanks, as the system gives it.
+std::wstring profileDefault(std::string_view value) {
+    return wide(value.substr(0, value.find_last_not_of(' ') + 1));
 }
 
 struct Entry {
@@ -101,9 +112,10 @@ ProfileFile& ProfileFile::operator=(ProfileFile&&) noexcept = default;
 std::string ProfileFile::text(std::string_view section, std::string_view key,
                               std::string_view defaultValue, std::size_t bufferSize) const {
     const auto pending = content_->pending.value(section, key);
-    return cutToBuffer(pending ? *pending
-                               : narrow(profileString(content_->path, wide(section), wide(key),
-                                                      wide(defaultValue))),
+    return cutToBuffer(pending
+                           ? *pending
+                           : narrow(profileString(content_->path, profileName(section),
+                                                  profileName(key), profileDefault(defaultValue))),
                        bufferSize);
 }
 
@@ -111,8 +123,9 @@ std::int32_t ProfileFile::integer(std::string_view section, std::string_view key
                                   std::int32_t defaultValue) const {
     if (const auto pending = content_->pending.value(section, key))
         return profileInteger(*pending);
-    return static_cast<std::int32_t>(::GetPrivateProfileIntW(
-        wide(section).c_str(), wide(key).c_str(), defaultValue, content_->path.c_str()));
+    return static_cast<std::int32_t>(::GetPrivateProfileIntW(profileName(section).c_str(),
+                                                             profileName(key).c_str(), defaultValue,
+                                                             content_->path.c_str()));
 }
 
 std::int16_t ProfileFile::shortInteger(std::string_view section, std::string_view key,
@@ -125,7 +138,7 @@ std::int16_t ProfileFile::shortInteger(std::string_view section, std::string_vie
 Outcome ProfileFile::set(std::string_view section, std::string_view key, std::string_view value) {
     auto outcome = content_->pending.set(section, key, value);
     if (outcome)
-        content_->entries.push_back({wide(section), wide(key), wide(value)});
+        content_->entries.push_back({profileName(section), profileName(key), wide(value)});
     return outcome;
 }
 

@@ -46,6 +46,9 @@ template <typename Visit>
 Outcome visitEntries(const std::string& path, const Visit& visit) {
     if (hasNul(path))
         return systemFailure(ERROR_INVALID_NAME);
+    // With the separator below it no folder at all would become the root of the current drive.
+    if (path.empty())
+        return systemFailure(ERROR_PATH_NOT_FOUND);
     FolderSearch search(systemPath(path + "\\*"));
     if (!search.isOpen()) {
         // An empty drive has not even an entry for itself.

@@ -50,8 +50,8 @@ Composition::Commands::Commands(Composition& owner, frmZuroVant& window)
       main(services),
       folderTree(services, main, *window.controls().trvFolderList, {listDrives, subfolders}),
       robots({owner.state_, *owner.session_, panes, owner.messages_, owner.boxes_, owner}),
-      settings({owner.state_, *owner.session_, panes, owner.registry_, window, robots, window,
-                main}),
+      settings(
+          {owner.state_, *owner.session_, panes, owner.registry_, window, robots, window, main}),
       listFiles(window, owner.state_, *owner.session_, owner.boxes_, owner.messages_),
       lists(transferServices, listFiles), help(owner.state_, owner.programFolder_, openDocument),
       shutdown({owner.state_, owner.settings_, owner.registry_, *owner.session_, owner.messages_,

@@ -2,6 +2,7 @@
 
 #include "ui/FieldBorder.h"
 #include "ui/FolderImages.h"
+#include "ui/SystemLook.h"
 
 namespace vantrel {
 
@@ -11,8 +12,11 @@ PathDisplay::PathDisplay(wxWindow* parent, const wxString& name)
                  wxDefaultValidator, name) {
     SetIndent(0);
     SetImages(folderImages());
-    // One line is all there ever is; scroll bars would cover it.
-    ShowScrollbars(wxSHOW_SB_NEVER, wxSHOW_SB_NEVER);
+    hideScrollBars(*this);
+}
+
+wxSize PathDisplay::DoGetBestSize() const {
+    return oneLineSize(*this, wxTreeCtrl::DoGetBestSize());
 }
 
 void PathDisplay::showFolder(const wxString& nodeText, std::string_view image,

@@ -14,6 +14,9 @@ class PathDisplay : public wxTreeCtrl {
     /// `image` is "drive" or "open"; the full path becomes the tool tip.
     void showFolder(const wxString& nodeText, std::string_view image, const wxString& fullPath);
     wxString nodeText() const;
+
+  protected:
+    wxSize DoGetBestSize() const override;
 };
 
 } // namespace vantrel

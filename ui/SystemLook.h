@@ -1,5 +1,6 @@
 #pragma once
 
+class wxSize;
 class wxString;
 class wxTreeCtrl;
 class wxWindow;
@@ -22,6 +23,9 @@ void allowNarrow(wxWindow& button);
 
 /// Keeps scroll bars from a tree that shows one line only, which they would cover.
 void hideScrollBars(wxTreeCtrl& tree);
+
+/// How large such a tree wants to be, where the toolkit would have it be `best`.
+wxSize oneLineSize(const wxTreeCtrl& tree, const wxSize& best);
 
 /// Brings a control that is shown before the siblings that it overlaps.
 void bringToFront(wxWindow& control);

@@ -54,6 +54,10 @@ void hideScrollBars(wxTreeCtrl& tree) {
     tree.ShowScrollbars(wxSHOW_SB_NEVER, wxSHOW_SB_NEVER);
 }
 
+wxSize oneLineSize(const wxTreeCtrl& /*tree*/, const wxSize& best) {
+    return best;
+}
+
 // A control that scrolls has a window around its own, which the toolkit's Raise() leaves where it
 // is. One that was placed while hidden does not go to its place by itself.
 void bringToFront(wxWindow& control) {

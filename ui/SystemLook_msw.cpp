@@ -33,7 +33,19 @@ void hideScrollBars(wxTreeCtrl& tree) {
     ::SetWindowLongPtrW(window, GWL_STYLE, style | TVS_NOSCROLL);
 }
 
+// The toolkit asks for room for several lines.
+wxSize oneLineSize(const wxTreeCtrl& tree, const wxSize& best) {
+    const auto line = static_cast<int>(::SendMessageW(GetHwndOf(&tree), TVM_GETITEMHEIGHT, 0, 0));
+    return {best.x, line + tree.GetWindowBorderSize().y};
+}
+
+// The siblings draw over what lies above them unless they are told not to.
 void bringToFront(wxWindow& control) {
+    for (const wxWindow* sibling : control.GetParent()->GetChildren()) {
+        const HWND window = GetHwndOf(sibling);
+        const auto style = ::GetWindowLongPtrW(window, GWL_STYLE);
+        ::SetWindowLongPtrW(window, GWL_STYLE, style | WS_CLIPSIBLINGS);
+    }
     control.Raise();
 }
 

@@ -1,4 +1,5 @@
 #include "CommandFixture.h"
+#include "base/PathRules.h"
 #include "platform/Files.h"
 
 #include <gmock/gmock.h>
@@ -56,7 +57,7 @@ TEST_F(CopyCommandTest, TheSessionIsGivenThePCFolderAndTheTitleOfACopy) {
         }
     };
     EXPECT_TRUE(commands.sendCopy());
-    EXPECT_EQ(session.path, pc.path() + "/");
+    EXPECT_EQ(session.path, PathRules().withSeparator(pc.path()));
 }
 
 TEST_F(CopyCommandTest, TheWindowIsLockedUntilEverythingIsUpToDate) {
@@ -283,7 +284,8 @@ TEST_F(CopyCommandTest, AFailureIsReportedWithFunctionCodeTextAndIndex) {
     selectOnPC({"A.JBI", "B.JBI", "C.JBI"});
     library.disturb({"BscDownLoad", 2, false, false, 2000});
     EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed: BscDownLoad ( line broken ) (1)\n[B.JBI]"));
+    EXPECT_THAT(boxes.texts(),
+                ElementsAre("Transfer failed: BscDownLoad ( line broken ) (1)\n[B.JBI]"));
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Exclamation);
     EXPECT_THAT(robot().names(), ElementsAre("A.JBI")) << "a copy ends at its first failure";
     EXPECT_THAT(window.controller.names, ElementsAre("A.JBI"));
@@ -323,8 +325,9 @@ TEST_F(CopyCommandTest, ALineThatStaysDownIsReportedForTheTransferAndForTheList)
     selectOnPC({"A.JBI"});
     library.disturb({"BscConnect", 1, true, false, 2000});
     EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(),
-                ElementsAre("Transfer failed: BscConnect ( line broken ) (0)\n[A.JBI]", "not read"));
+    EXPECT_THAT(
+        boxes.texts(),
+        ElementsAre("Transfer failed: BscConnect ( line broken ) (0)\n[A.JBI]", "not read"));
     EXPECT_THAT(window.controller.names, ElementsAre("OLD.JBI")) << "the old list stays";
     EXPECT_EQ(window.controllerStatus, "Controller: 1 items");
 }

@@ -1,6 +1,7 @@
 #include "link/JobListStore.h"
 
 #include "SessionWorld.h"
+#include "support/SystemReasons.h"
 
 namespace vantrel {
 namespace {
@@ -88,7 +89,7 @@ TEST_F(JobListStoreTest, AListThatCannotBeOpenedKeepsTheOldOne) {
     world.session->AddJobList("OLD.JBI");
     EXPECT_FALSE(world.session->SetJobListFile("none.lst"));
     EXPECT_EQ(world.error(), " 6 0");
-    EXPECT_THAT(world.session->systemReason(), testing::HasSubstr("No such file"));
+    EXPECT_THAT(world.session->systemReason(), testing::HasSubstr(tests::noSuchFile()));
     EXPECT_THAT(list(), ElementsAre("OLD.JBI"));
 }
 

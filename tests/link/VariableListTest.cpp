@@ -2,6 +2,7 @@
 
 #include "SessionWorld.h"
 #include "support/NamedRow.h"
+#include "support/SystemReasons.h"
 
 namespace vantrel {
 namespace {
@@ -103,7 +104,7 @@ TEST_F(VariableListTest, WhatTheSystemSaidIsKeptUntilTheNextFailure) {
     world.pc.makeFolder("folder.lst");
     world.session->SetVarListFile("none.lst");
     EXPECT_FALSE(world.session->ReadVarListFile());
-    EXPECT_THAT(world.session->systemReason(), testing::HasSubstr("No such file"));
+    EXPECT_THAT(world.session->systemReason(), testing::HasSubstr(tests::noSuchFile()));
     EXPECT_FALSE(world.session->WriteVarListFile("good.lst"));
     EXPECT_EQ(world.session->systemReason(), "");
     world.session->AddVarList("B1=1");

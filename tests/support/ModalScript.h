@@ -26,6 +26,8 @@ class ModalScript : public wxModalDialogHook {
     void answer(std::function<int(wxDialog&)> look) { steps_.push_back({std::move(look), {}}); }
     /// Acts while the dialog is really open, and has to end it.
     void act(std::function<void(wxDialog&)> action) { steps_.push_back({{}, std::move(action)}); }
+    /// From now on the dialogs that nobody expects are all right, and are acted on in this way.
+    void actOnOthers(std::function<void(wxDialog&)> action) { others_ = std::move(action); }
 
   private:
     struct Step {
@@ -57,6 +59,8 @@ class ModalScript : public wxModalDialogHook {
         // Some dialogs announce themselves twice.
         if (dialog == open_)
             return wxID_NONE;
+        if (steps_.empty() && others_)
+            steps_.push_back({{}, others_});
         if (steps_.empty()) {
             ADD_FAILURE() << "unexpected dialog: " << dialog->GetTitle();
             return wxID_CANCEL;
@@ -78,6 +82,7 @@ class ModalScript : public wxModalDialogHook {
     }
 
     std::deque<Step> steps_;
+    std::function<void(wxDialog&)> others_;
     Opened opened_;
     wxDialog* open_ = nullptr; ///< the innermost dialog that is being acted on
 };

@@ -8,12 +8,9 @@ namespace vantrel::tests {
 namespace {
 
 /// Entries of the option menu that transfer lists, through the whole program.
-class ListTransferInMainWindowTest : public testing::TestWithParam<const char*>,
-                                     public ProgramWorld {
+class ListTransferInMainWindowTest : public testing::Test, public ProgramWorld {
   protected:
     ListTransferInMainWindowTest() {
-        settings("TransMode=1\r\n", GetParam());
-        EXPECT_TRUE(bool(LanguageFiles(VANTREL_DATA_FOLDER).readInto(GetParam(), messages)));
         folder.write("jobs/jobs.lst", "A.JBI\r\nB.JBI\r\n");
         folder.write("jobs/VARS.LST", "B001=5\r\n");
     }
@@ -24,14 +21,10 @@ class ListTransferInMainWindowTest : public testing::TestWithParam<const char*>,
 
     static constexpr int saveJobs = 2, loadJobs = 3, saveVariables = 4, loadVariables = 5;
 
-    /// Names a list file in the entry's dialog, which has this title and this label of its field.
-    void run(int entry, const std::string& file, int title, int field) {
-        modal.act([&, title, field](wxDialog& dialog) {
-            EXPECT_EQ(dialog.GetTitle().utf8_string(), messages.getMessage(title));
-            EXPECT_EQ(labelOf(dialog, "lblFile"), messages.getMessage(field));
+    /// Names a list file in the entry's dialog.
+    void run(int entry, const std::string& file) {
+        modal.act([&](wxDialog& dialog) {
             EXPECT_EQ(dialog.GetParent(), &window());
-            expectNothingCutOff(dialog);
-            saveScreenshot(dialog, "list-transfer-" + std::to_string(title) + "-" + GetParam());
             type(dialog, "txtFile", file);
             click(dialog, "cmdOK");
         });
@@ -45,27 +38,23 @@ class ListTransferInMainWindowTest : public testing::TestWithParam<const char*>,
             shown.push_back(list.GetItemText(item).utf8_string());
         return shown;
     }
-
-    MessageTable messages;
 };
 
-INSTANTIATE_TEST_SUITE_P(In, ListTransferInMainWindowTest, bothLanguages, languageName);
-
-TEST_P(ListTransferInMainWindowTest, SavesJobsToThePCAndShowsThem) {
+TEST_F(ListTransferInMainWindowTest, SavesJobsToThePCAndShowsThem) {
     robotJob("A");
     robotJob("B");
     start(false);
-    run(saveJobs, "jobs", 19, 23);
+    run(saveJobs, "jobs");
     EXPECT_EQ(folder.read("jobs/A.JBI"), job("A"));
     EXPECT_EQ(folder.read("jobs/B.JBI"), job("B"));
     EXPECT_EQ(names(pcList()), (std::vector<std::string>{"A.JBI", "B.JBI"}));
 }
 
-TEST_P(ListTransferInMainWindowTest, LoadsJobsIntoTheControllerAndShowsThem) {
+TEST_F(ListTransferInMainWindowTest, LoadsJobsIntoTheControllerAndShowsThem) {
     pcJob("A");
     pcJob("B");
     start(false);
-    run(loadJobs, "jobs.lst", 20, 23);
+    run(loadJobs, "jobs.lst");
     EXPECT_EQ(folder.read("robot/A.JBI"), job("A"));
     EXPECT_EQ(folder.read("robot/B.JBI"), job("B"));
     const auto shown = names(controllerList());
@@ -74,20 +63,39 @@ TEST_P(ListTransferInMainWindowTest, LoadsJobsIntoTheControllerAndShowsThem) {
     EXPECT_EQ(shown[1], "B.JBI");
 }
 
-TEST_P(ListTransferInMainWindowTest, LoadsVariablesIntoTheControllerAndSavesThemBack) {
+TEST_F(ListTransferInMainWindowTest, LoadsVariablesIntoTheControllerAndSavesThemBack) {
     start(false);
-    run(loadVariables, "VARS.LST", 22, 24);
+    run(loadVariables, "VARS.LST");
     EXPECT_NE(folder.read("robot/variables.txt").find("B001=5"), std::string::npos);
     folder.write("jobs/OTHER.LST", "B001=0\r\n");
-    run(saveVariables, "OTHER.LST", 21, 24);
+    run(saveVariables, "OTHER.LST");
     EXPECT_EQ(folder.read("jobs/OTHER.LST"), "B001=5\r\n");
 }
 
-TEST_P(ListTransferInMainWindowTest, ACancelledDialogChangesNothing) {
+/// The same in each language, for what the dialogs show.
+class ListFileOfEntry : public ListTransferInMainWindowTest,
+                        public testing::WithParamInterface<const char*> {
+  protected:
+    ListFileOfEntry() {
+        settings("TransMode=1\r\n", GetParam());
+        EXPECT_TRUE(bool(LanguageFiles(VANTREL_DATA_FOLDER).readInto(GetParam(), messages)));
+    }
+
+    MessageTable messages;
+};
+
+TEST_P(ListFileOfEntry, IsAskedForInWordsOfItsOwnAndCancelChangesNothing) {
     robotJob("A");
     start(false);
+    constexpr int jobListField = 23, variableListField = 24;
+    int title = 19;
     for (const int entry : {saveJobs, loadJobs, saveVariables, loadVariables}) {
-        modal.act([](wxDialog& dialog) {
+        modal.act([&](wxDialog& dialog) {
+            const int field = entry < saveVariables ? jobListField : variableListField;
+            EXPECT_EQ(dialog.GetTitle().utf8_string(), messages.getMessage(title++));
+            EXPECT_EQ(labelOf(dialog, "lblFile"), messages.getMessage(field));
+            expectNothingCutOff(dialog);
+            saveScreenshot(dialog, "list-file-" + std::to_string(entry) + "-" + GetParam());
             type(dialog, "txtFile", "jobs.lst");
             swallows(dialog, WXK_ESCAPE);
         });
@@ -97,22 +105,7 @@ TEST_P(ListTransferInMainWindowTest, ACancelledDialogChangesNothing) {
     EXPECT_FALSE(folder.has("robot/variables.txt"));
 }
 
-TEST_P(ListTransferInMainWindowTest, TheNameThatWorkedIsOfferedAgainAndSavedAtTheEnd) {
-    start(false);
-    run(loadVariables, "VARS.LST", 22, 24);
-    modal.act([](wxDialog& dialog) {
-        EXPECT_EQ(control<wxTextCtrl>(dialog, "txtFile").GetValue(), "VARS.LST");
-        click(dialog, "cmdCancel");
-    });
-    menu({Menu::mnuOpt, saveVariables});
-    modal.answer([](wxDialog&) { return wxID_OK; });
-    menu({Menu::mnuEnd, 0});
-    ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
-    EXPECT_NE(folder.read("Vantrel.ini").find("VarListFile=VARS.LST"), std::string::npos)
-        << folder.read("Vantrel.ini");
-}
-
-TEST_P(ListTransferInMainWindowTest, AFailureIsReportedAndTheWindowUsableAgain) {
+TEST_P(ListFileOfEntry, GivesAReportInFullWhenItsTransferFails) {
     start(false);
     modal.act([](wxDialog& dialog) {
         type(dialog, "txtFile", "jobs.lst");
@@ -128,6 +121,23 @@ TEST_P(ListTransferInMainWindowTest, AFailureIsReportedAndTheWindowUsableAgain) 
     menu({Menu::mnuOpt, saveJobs});
     EXPECT_TRUE(controls().fraPC.panel->IsEnabled());
     EXPECT_TRUE(window().menus().find({Menu::mnuOpt, saveJobs})->IsEnabled());
+}
+
+INSTANTIATE_TEST_SUITE_P(In, ListFileOfEntry, bothLanguages, languageName);
+
+TEST_F(ListTransferInMainWindowTest, TheNameThatWorkedIsOfferedAgainAndSavedAtTheEnd) {
+    start(false);
+    run(loadVariables, "VARS.LST");
+    modal.act([](wxDialog& dialog) {
+        EXPECT_EQ(control<wxTextCtrl>(dialog, "txtFile").GetValue(), "VARS.LST");
+        click(dialog, "cmdCancel");
+    });
+    menu({Menu::mnuOpt, saveVariables});
+    modal.answer([](wxDialog&) { return wxID_OK; });
+    menu({Menu::mnuEnd, 0});
+    ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
+    EXPECT_NE(folder.read("Vantrel.ini").find("VarListFile=VARS.LST"), std::string::npos)
+        << folder.read("Vantrel.ini");
 }
 
 } // namespace

@@ -5,19 +5,24 @@
 #include <chrono>
 
 #include <wx/event.h>
-#include <wx/toplevel.h>
 #include <wx/utils.h>
-#include <wx/weakref.h>
 
 namespace vantrel {
 
-FirstPaint::FirstPaint(wxTopLevelWindow& window) {
+FirstPaint::FirstPaint(wxTopLevelWindow& window) : window_(&window) {
     // A window that comes back is painted at once, and the picture is lost when the window manager
     // has not put it on the screen yet.
-    window.Bind(wxEVT_PAINT, [this, &window](wxPaintEvent& event) {
-        isOver_ = isOver_ || isOnScreen(window);
-        event.Skip();
-    });
+    window.Bind(wxEVT_PAINT, &FirstPaint::painted, this);
+}
+
+FirstPaint::~FirstPaint() {
+    if (window_)
+        window_->Unbind(wxEVT_PAINT, &FirstPaint::painted, this);
+}
+
+void FirstPaint::painted(wxPaintEvent& event) {
+    isOver_ = isOver_ || isOnScreen(*window_);
+    event.Skip();
 }
 
 void FirstPaint::await(wxTopLevelWindow& window, FirstPaint& paint,

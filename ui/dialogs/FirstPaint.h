@@ -2,7 +2,8 @@
 
 #include <functional>
 
-class wxTopLevelWindow;
+#include <wx/toplevel.h>
+#include <wx/weakref.h>
 
 namespace vantrel {
 
@@ -10,7 +11,9 @@ namespace vantrel {
 /// shown is on the screen only some events later, and the work that follows may not let any run.
 class FirstPaint {
   public:
+    /// The window may be gone before this object, and the other way round.
     explicit FirstPaint(wxTopLevelWindow& window);
+    ~FirstPaint();
     FirstPaint(const FirstPaint&) = delete;
     FirstPaint& operator=(const FirstPaint&) = delete;
 
@@ -26,6 +29,9 @@ class FirstPaint {
                       const std::function<void()>& yield);
 
   private:
+    void painted(wxPaintEvent& event);
+
+    wxWeakRef<wxTopLevelWindow> window_;
     bool isOver_ = true;
 };
 

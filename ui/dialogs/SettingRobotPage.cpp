@@ -123,6 +123,12 @@ wxSizer* SettingRobotPage::buildFields(wxWindow* box, const MessageTable& messag
     return fields;
 }
 
+void SettingRobotPage::showInserted() {
+    refresh();
+    edited();
+    focusName();
+}
+
 void SettingRobotPage::bindList() {
     lstRgstRbt_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent& event) {
         if (event.GetSelection() == wxNOT_FOUND)
@@ -133,16 +139,14 @@ void SettingRobotPage::bindList() {
     lstRgstRbt_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { focusName(); });
     lstRgstRbt_->Bind(wxEVT_CHAR_HOOK,
                       [this](wxKeyEvent& event) { isEnter(event) ? focusName() : event.Skip(); });
-    const auto onAdd = [this](void (RobotListDraft::*insert)()) {
-        return [this, insert](wxCommandEvent&) {
-            (robots_.*insert)();
-            refresh();
-            edited();
-            focusName();
-        };
-    };
-    cmdAdd_[0]->Bind(wxEVT_BUTTON, onAdd(&RobotListDraft::insertAfter));
-    cmdAdd_[1]->Bind(wxEVT_BUTTON, onAdd(&RobotListDraft::insertBefore));
+    cmdAdd_[0]->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+        robots_.insertAfter();
+        showInserted();
+    });
+    cmdAdd_[1]->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+        robots_.insertBefore();
+        showInserted();
+    });
     cmdDel_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
         robots_.remove();
         // A button that goes off would leave the keyboard nowhere.

@@ -37,6 +37,7 @@ class SettingRobotPage : public wxPanel {
     wxSizer* buildRobot(const MessageTable& messages, FolderSources sources);
     wxSizer* buildFields(wxWindow* box, const MessageTable& messages);
     void bindList();
+    void showInserted();
     void bindFields();
     void bindAddress(std::size_t part);
     void focusAfterAddress(std::size_t part);

@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Checks what a Windows build asks of the system and what it offers:
+#   scripts/windows-tables.sh BUILD
+# Program and stand-in library may need libraries of the system only, and the library has to export
+# its functions under their plain names, and nothing else.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+build=$1
+dump=x86_64-w64-mingw32-objdump # reads the tables of both machines
+
+system_libraries='advapi32 comctl32 comdlg32 gdi32 kernel32 mpr msvcrt ole32 oleacc oleaut32 shell32
+    shlwapi user32 uxtheme version winspool.drv'
+failed=0
+fail() {
+    echo "FAILED: $*"
+    failed=1
+}
+
+# Lower case, without ".dll".
+imports() { "$dump" -p "$1" | sed -n 's/.*DLL Name: //p' | tr '[:upper:]' '[:lower:]' | sed 's/\.dll$//'; }
+exports() { "$dump" -p "$1" | sed -n '/\[Ordinal\/Name Pointer\]/,/^$/s/^\t\[ *[0-9]*\]\( +base\[ *[0-9]*\] *[0-9a-f]*\)\{0,1\} \(.*\)$/\2/p' | sort; }
+# The names in the definition file.
+wanted() { sed -n 's/^    \([A-Za-z]*\)$/\1/p' simulator/Zurolink.def | sort; }
+
+for file in "$build/ui/Vantrel.exe" "$build/simulator/Zurolink.dll"; do
+    for library in $(imports "$file"); do
+        case " $(echo $system_libraries) " in
+        *" $library "*) ;;
+        *) fail "$file needs $library, which is no library of every system" ;;
+        esac
+    done
+done
+difference=$(diff <(wanted) <(exports "$build/simulator/Zurolink.dll")) ||
+    fail "the export table of Zurolink.dll: $difference"
+[ "$failed" -eq 0 ] && echo "Import and export tables of $build are as they should be."
+exit "$failed"

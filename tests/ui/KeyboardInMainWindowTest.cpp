@@ -1,0 +1,148 @@
+#include "DialogTest.h"
+#include "ProgramWorld.h"
+#include "ui/FileViewer.h"
+#include "ui/FolderTreeDropDown.h"
+#include "ui/KeyedToolBar.h"
+
+#include <gtk/gtk.h>
+#include <wx/bmpbuttn.h>
+#include <wx/choice.h>
+#include <wx/menu.h>
+
+namespace vantrel::tests {
+namespace {
+
+/// The whole program with nothing but a keyboard.
+class KeyboardInMainWindowTest : public testing::Test, public ProgramWorld {
+  protected:
+    KeyboardInMainWindowTest() {
+        settings("TransMode=16\r\n");
+        pcJob("A");
+        pcJob("B");
+        robotJob("X");
+        start(true);
+        controls().lsvPC->focus();
+        EXPECT_TRUE(waitFor([this] { return pcList().HasFocus() && window().IsActive(); }));
+    }
+    ~KeyboardInMainWindowTest() override {
+        program.reset();
+        runEvents();
+    }
+
+    void focus(wxWindow& control) {
+        control.SetFocus();
+        ASSERT_TRUE(waitFor([&] { return control.HasFocus(); })) << control.GetName();
+    }
+    /// The name of the control that the keyboard works in; its own parts have none.
+    std::string focused() {
+        auto* part = gtk_window_get_focus(GTK_WINDOW(window().GetHandle()));
+        for (; part; part = gtk_widget_get_parent(part))
+            if (const auto* const control = controlOf(window(), part);
+                control && control->GetName() != wxPanelNameStr)
+                return control->GetName().utf8_string();
+        return {};
+    }
+
+  private:
+    static const wxWindow* controlOf(const wxWindow& window, const GtkWidget* widget) {
+        for (const wxWindow* const child : window.GetChildren()) {
+            if (child->GetHandle() == widget)
+                return child;
+            if (const auto* const found = controlOf(*child, widget))
+                return found;
+        }
+        return nullptr;
+    }
+};
+
+/// Adds the visible buttons for which a screen reader has no name; the text of a choice is its own.
+void addNameless(GtkWidget* widget, void* nameless) {
+    const bool isOfChoice = gtk_widget_get_ancestor(widget, GTK_TYPE_COMBO_BOX);
+    if (GTK_IS_BUTTON(widget) && gtk_widget_get_mapped(widget) && !isOfChoice) {
+        const auto* const name = atk_object_get_name(gtk_widget_get_accessible(widget));
+        if (!name || !*name)
+            static_cast<std::vector<std::string>*>(nameless)->emplace_back(
+                gtk_widget_get_name(gtk_widget_get_parent(widget)));
+    }
+    if (GTK_IS_CONTAINER(widget))
+        gtk_container_forall(GTK_CONTAINER(widget), addNameless, nameless);
+}
+
+TEST_F(KeyboardInMainWindowTest, EveryButtonWithAnIconOnlyHasANameForScreenReaders) {
+    std::vector<std::string> nameless;
+    addNameless(window().GetHandle(), &nameless);
+    EXPECT_EQ(nameless, std::vector<std::string>());
+}
+
+TEST_F(KeyboardInMainWindowTest, TabGoesFromPaneToPaneAndComesBack) {
+    std::vector<std::string> way{focused()};
+    do {
+        pressKey(WXK_TAB);
+        ASSERT_TRUE(waitFor([&] { return focused() != way.back(); })) << way.back();
+        way.push_back(focused());
+    } while (way.back() != way.front() && way.size() < 20);
+    EXPECT_EQ(way, (std::vector<std::string>{"lsvPC", "cmbPCFileType", "lsvCtrl", "cmbCtrlFileType",
+                                             "cmbRbtName", "trvFolderName", "Command1", "lsvPC"}));
+}
+
+TEST_F(KeyboardInMainWindowTest, F5ReadsTheActivePaneAnewFromEverywhere) {
+    menu({Menu::mnuFile, 5});
+    int files = 2;
+    const auto expectRefresh = [&](wxWindow& control) {
+        pcJob("NEW" + std::to_string(++files));
+        focus(control);
+        pressKey(WXK_F5);
+        EXPECT_TRUE(waitFor([&] { return pcList().GetItemCount() == files; })) << control.GetName();
+    };
+    expectRefresh(pcList());
+    expectRefresh(*controls().rtxFileDisp);
+    expectRefresh(*controls().cmbPCFileType);
+    expectRefresh(*controls().Command1);
+    wxCommandEvent drop(wxEVT_BUTTON, controls().Command1->GetId());
+    controls().Command1->HandleWindowEvent(drop);
+    ASSERT_TRUE(waitFor([this] { return controls().trvFolderList->IsShown(); }));
+    expectRefresh(*controls().trvFolderList);
+}
+
+TEST_F(KeyboardInMainWindowTest, KeysOfTheListsDoNothingElsewhere) {
+    for (wxWindow* control : {static_cast<wxWindow*>(controls().cmbPCFileType),
+                              static_cast<wxWindow*>(controls().Command1)}) {
+        focus(*control);
+        pressKey(WXK_DELETE);
+        pressKey('A', wxMOD_CONTROL);
+        pressKey(WXK_BACK);
+        runEvents();
+    }
+    EXPECT_TRUE(folder.has("jobs/A.JBI"));
+    EXPECT_EQ(controls().lsvPC->selectedRows().size(), 1u);
+    EXPECT_EQ(pcList().GetItemText(0), "A.JBI");
+}
+
+TEST_F(KeyboardInMainWindowTest, TheListsHaveTheirKeys) {
+    pressKey('A', wxMOD_CONTROL);
+    EXPECT_TRUE(waitFor([this] { return controls().lsvPC->selectedRows().size() == 2; }));
+    pressKey(WXK_BACK);
+    EXPECT_TRUE(waitFor([this] { return pcList().FindItem(-1, "jobs") >= 0; }));
+    choose(*controls().lsvPC, {std::size_t(pcList().FindItem(-1, "jobs"))});
+    pressKey(WXK_RETURN);
+    EXPECT_TRUE(waitFor([this] { return pcList().FindItem(-1, "A.JBI") == 0; }));
+    modal.act([](wxDialog& question) { click(question, "cmdYesNo0"); });
+    pressKey(WXK_DELETE);
+    EXPECT_TRUE(waitFor([this] { return !folder.has("jobs/A.JBI"); }));
+}
+
+TEST_F(KeyboardInMainWindowTest, EveryMenuOpensByItsKey) {
+    const auto& bar = *window().GetMenuBar();
+    std::string keys;
+    for (std::size_t top = 0; top < bar.GetMenuCount(); ++top) {
+        const auto label = bar.GetMenuLabel(top);
+        const auto mark = label.find('&');
+        ASSERT_NE(mark, std::string::npos) << label;
+        keys += char(label[mark + 1].GetValue());
+    }
+    std::sort(keys.begin(), keys.end());
+    EXPECT_EQ(std::adjacent_find(keys.begin(), keys.end()), keys.end()) << keys;
+}
+
+} // namespace
+} // namespace vantrel::tests

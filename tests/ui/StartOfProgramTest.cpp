@@ -1,0 +1,230 @@
+#include "ProgramWorld.h"
+#include "support/ReadOnlyFolder.h"
+#include "ui/PathDisplay.h"
+
+#include <wx/choice.h>
+#include <wx/listbox.h>
+#include <wx/menu.h>
+#include <wx/msgdlg.h>
+#include <wx/stattext.h>
+#include <wx/statusbr.h>
+
+namespace vantrel::tests {
+namespace {
+
+/// The whole program from its start to its end, with whatever files are there.
+class StartOfProgramTest : public testing::Test, public ProgramWorld {
+  protected:
+    ~StartOfProgramTest() override {
+        program.reset();
+        runEvents();
+    }
+
+    void remove(const std::string& name) { std::filesystem::remove(folder.path(name)); }
+    StartResult startProgram() {
+        program = std::make_unique<Composition>(folder.path("Vantrel"), std::vector<std::string>{});
+        return program->start();
+    }
+    /// The next dialog is a box whose text begins like this; boxes break their lines.
+    void expectBox(const std::string& start) {
+        modal.answer([start](wxDialog& dialog) {
+            auto text = dynamic_cast<wxMessageDialogBase&>(dialog).GetMessage();
+            text.Replace("\n", " ");
+            EXPECT_TRUE(text.StartsWith(wxString::FromUTF8(start))) << text;
+            return wxID_OK;
+        });
+    }
+    void expectDirectoryQuestion(bool yes) {
+        modal.answer([yes](wxDialog&) { return yes ? wxID_YES : wxID_NO; });
+    }
+    /// The next dialog is that of the languages; `language` is chosen there.
+    void chooseLanguage(const std::string& language) {
+        modal.act([language](wxDialog& dialog) {
+            ASSERT_EQ(dialog.GetName(), "frmLanguage");
+            auto& list = control<wxListBox>(dialog, "List1");
+            ASSERT_TRUE(list.SetStringSelection(language));
+            wxCommandEvent event(wxEVT_LISTBOX, list.GetId());
+            event.SetInt(list.GetSelection());
+            event.SetEventObject(&list);
+            list.HandleWindowEvent(event);
+            click(dialog, "Command1");
+        });
+    }
+    void end() {
+        expectBox("Exit Vantrel?");
+        menu({Menu::mnuEnd, 0});
+        ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
+    }
+    wxString count(int panel) { return window().GetStatusBar()->GetStatusText(panel); }
+    wxWindow* versionWindow() { return wxWindow::FindWindowByName("frmVers"); }
+};
+
+TEST_F(StartOfProgramTest, WithoutAnyLanguageFileItTellsSoAndEnds) {
+    for (const char* name :
+         {"English.lng", "Japanese.lng", "System.lng", "Vantrel.ini", "robot.ini", "FileTable.tbl"})
+        remove(name);
+    expectBox("Language File Read Error.(System.lng)");
+    EXPECT_EQ(startProgram(), StartResult::NoLanguage);
+    EXPECT_FALSE(program->mainWindow());
+    EXPECT_FALSE(folder.has("Vantrel.ini"));
+    EXPECT_FALSE(folder.has("robot.ini"));
+}
+
+TEST_F(StartOfProgramTest, TheFirstStartAsksForTheLanguageAndMakesItsFiles) {
+    remove("Vantrel.ini");
+    remove("robot.ini");
+    chooseLanguage("English");
+    expectDirectoryQuestion(false);
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    runEvents();
+    EXPECT_TRUE(folder.has("robot.ini"));
+    EXPECT_NE(folder.read("Vantrel.ini").find("Language=English\r\n"), std::string::npos);
+    EXPECT_EQ(controls().cmbRbtName->GetStringSelection(), "DEFAULT");
+    EXPECT_TRUE(window().GetTitle().Contains("BSC"));
+    EXPECT_EQ(pcList().GetItemCount(), 3) << "what the program's own folder shows";
+    end();
+    EXPECT_NE(folder.read("Vantrel.ini").find("Path=" + folder.path() + "\r\n"), std::string::npos);
+    EXPECT_TRUE(folder.read("robot.ini").starts_with("[Boot]\r\nName=DEFAULT\r\n"));
+}
+
+TEST_F(StartOfProgramTest, WithNothingButTheSystemsLanguageItWorks) {
+    for (const char* name :
+         {"English.lng", "Japanese.lng", "Vantrel.ini", "robot.ini", "FileTable.tbl"})
+        remove(name);
+    remove(libraryFileName());
+    chooseLanguage("System");
+    expectDirectoryQuestion(false);
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    runEvents();
+    menu({Menu::mnuRefresh, 0});
+    EXPECT_EQ(pcList().GetItemCount(), 3);
+    choose(*controls().lsvCtrl, {});
+    expectBox("The communication library cannot be used");
+    expectBox("The file list of the controller could not be read.");
+    menu({Menu::mnuRefresh, 0});
+    expectBox("The file list of the controller could not be read.");
+    menu({Menu::mnuRefresh, 0});
+    end();
+    EXPECT_TRUE(folder.has("robot.ini"));
+}
+
+TEST_F(StartOfProgramTest, ACancelledLanguageDialogEndsItAndWritesNothing) {
+    remove("Vantrel.ini");
+    remove("robot.ini");
+    modal.act([](wxDialog& dialog) { click(dialog, "Command2"); });
+    EXPECT_EQ(startProgram(), StartResult::LanguageCancelled);
+    EXPECT_FALSE(program->mainWindow());
+    EXPECT_FALSE(folder.has("Vantrel.ini"));
+    EXPECT_FALSE(folder.has("robot.ini"));
+}
+
+TEST_F(StartOfProgramTest, ARecordedLanguageIsUsedWithoutADialog) {
+    settings("TransMode=1\r\n", "Japanese");
+    expectDirectoryQuestion(false);
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    EXPECT_EQ(window().GetMenuBar()->GetMenuLabelText(0), wxString::FromUTF8("ファイル"));
+    EXPECT_TRUE(count(0).StartsWith(wxString::FromUTF8("PC： "))) << count(0);
+}
+
+TEST_F(StartOfProgramTest, ARecordedLanguageThatIsGoneIsNamedAndAskedFor) {
+    settings("TransMode=1\r\n", "Klingon");
+    expectBox("Language file [Klingon.lng] was not found. Please select a language.");
+    chooseLanguage("Japanese");
+    expectDirectoryQuestion(false);
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    EXPECT_EQ(window().GetMenuBar()->GetMenuLabelText(0), wxString::FromUTF8("ファイル"));
+    EXPECT_NE(folder.read("Vantrel.ini").find("Language=Japanese\r\n"), std::string::npos);
+}
+
+TEST_F(StartOfProgramTest, TheLanguageIsAskedForAtEveryStartThatIsToldTo) {
+    folder.write("Vantrel.ini", "[Language Info]\r\nLanguage=English\r\nLangSelect=1\r\n");
+    chooseLanguage("English");
+    expectDirectoryQuestion(false);
+    EXPECT_EQ(startProgram(), StartResult::Running);
+}
+
+TEST_F(StartOfProgramTest, YesReadsTheDirectoryAndShowsTheVersion) {
+    robotJob("X");
+    expectDirectoryQuestion(true);
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    EXPECT_EQ(controllerList().GetItemText(0), "X.JBI");
+    EXPECT_EQ(count(1), "Controller: 1 items");
+    ASSERT_TRUE(versionWindow());
+    EXPECT_TRUE(versionWindow()->IsShown());
+}
+
+TEST_F(StartOfProgramTest, NoConnectsToNothingAndCountsNothing) {
+    robotJob("X");
+    script("1=BscOpen 1+ fail 2030");
+    expectDirectoryQuestion(false);
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    EXPECT_EQ(controllerList().GetItemCount(), 0);
+    EXPECT_EQ(count(1), "Controller: 0 items");
+    EXPECT_FALSE(versionWindow());
+}
+
+TEST_F(StartOfProgramTest, ADirectoryThatCannotBeReadIsToldAndTheProgramStarts) {
+    robotJob("X");
+    pcJob("A");
+    script("1=BscConnect 1 fail 2010");
+    expectDirectoryQuestion(true);
+    expectBox("The file list of the controller could not be read.");
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    EXPECT_EQ(count(1), "Controller: 0 items");
+    EXPECT_EQ(pcList().GetItemCount(), 1);
+    choose(*controls().lsvCtrl, {});
+    menu({Menu::mnuRefresh, 0});
+    EXPECT_EQ(count(1), "Controller: 1 items");
+}
+
+TEST_F(StartOfProgramTest, RobotsWhoseFoldersAreGoneAreListedAndNamedWhenChosen) {
+    settings("TransMode=16\r\nSyncroRobotDir=1\r\n");
+    pcJob("A");
+    folder.write("robot.ini", "[Boot]\r\nName=SECOND\r\n\r\n[Robot]\r\nName=FIRST\r\n"
+                              "IPaddr=10.0.0.1\r\nPath=nowhere\r\n\r\n[Robot]\r\nName=SECOND\r\n"
+                              "IPaddr=10.0.0.2\r\nPath=nowhere either\r\n\r\n");
+    expectDirectoryQuestion(false);
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    EXPECT_EQ(controls().cmbRbtName->GetCount(), 2u);
+    EXPECT_EQ(controls().cmbRbtName->GetStringSelection(), "SECOND");
+    EXPECT_EQ(pcList().GetItemText(0), "A.JBI");
+    expectBox("[FIRST] The folder of this robot could not be opened. The folder shown stays.");
+    window().onRobotChosen(0);
+    EXPECT_EQ(pcList().GetItemText(0), "A.JBI");
+    EXPECT_EQ(controls().lblIPAddr2->GetLabel(), "10.0.0.1");
+}
+
+TEST_F(StartOfProgramTest, AStoredFolderThatIsGoneOpensTheOneAbove) {
+    folder.write("jobs/inner.txt", "");
+    folder.write("Vantrel.ini", "[Vantrel]\r\nPath=" + folder.path("jobs/gone/deeper") +
+                                    "\r\n[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n");
+    expectDirectoryQuestion(false);
+    expectBox("[" + folder.path("jobs/gone/deeper") + "] This folder ");
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    EXPECT_EQ(controls().trvFolderName->GetToolTipText(), folder.path("jobs"));
+}
+
+TEST_F(StartOfProgramTest, InAFolderThatCannotBeWrittenItWorksAndTellsOfTheRobotsOnce) {
+    pcJob("A");
+    robotJob("X");
+    const auto settingsBefore = folder.read("Vantrel.ini");
+    const auto robotsBefore = folder.read("robot.ini");
+    {
+        const ReadOnlyFolder readOnly(folder.path());
+        expectDirectoryQuestion(true);
+        ASSERT_EQ(startProgram(), StartResult::Running);
+        runEvents();
+        choose(*controls().lsvPC, {0});
+        menu({Menu::mnuFile, 0});
+        EXPECT_EQ(folder.read("robot/A.JBI"), job("A"));
+        expectBox("Exit Vantrel?");
+        expectBox("The robot list could not be saved: ");
+        menu({Menu::mnuEnd, 0});
+        ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
+    }
+    EXPECT_EQ(folder.read("Vantrel.ini"), settingsBefore);
+    EXPECT_EQ(folder.read("robot.ini"), robotsBefore);
+}
+
+} // namespace
+} // namespace vantrel::tests
