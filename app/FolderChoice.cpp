@@ -1,6 +1,6 @@
 #include "app/FolderChoice.h"
 
-#include "platform/TextCase.h"
+#include "base/TextCase.h"
 
 #include <utility>
 

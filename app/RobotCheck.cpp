@@ -5,10 +5,10 @@
 #include "app/RobotFileWriter.h"
 #include "app/RobotListDraft.h"
 #include "base/Text.h"
+#include "base/TextCase.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/ShownText.h"
-#include "platform/TextCase.h"
 
 #include <algorithm>
 #include <string_view>
@@ -35,12 +35,11 @@ class NameCount {
   public:
     explicit NameCount(std::span<const RobotEntry> robots) {
         for (const RobotEntry& entry : robots)
-            ++times_[upperCase_.of(entry.robot.Name)];
+            ++times_[upperCase(entry.robot.Name)];
     }
-    bool isTaken(const std::string& name) { return times_[upperCase_.of(name)] > 1; }
+    bool isTaken(const std::string& name) { return times_[upperCase(name)] > 1; }
 
   private:
-    UpperCaseMapping upperCase_;
     std::unordered_map<std::string, int> times_;
 };
 

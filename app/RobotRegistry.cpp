@@ -7,12 +7,12 @@
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
 #include "base/Text.h"
+#include "base/TextCase.h"
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "platform/Files.h"
 #include "platform/ProfileText.h"
-#include "platform/TextCase.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,9 +1,9 @@
 #include "files/AmbiguousNames.h"
 
 #include "base/ApplicationState.h"
+#include "base/TextCase.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
-#include "platform/TextCase.h"
 
 #include <unordered_map>
 

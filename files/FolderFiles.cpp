@@ -1,10 +1,9 @@
 #include "files/FolderFiles.h"
 
 #include "base/PathRules.h"
+#include "files/NameOrder.h"
 #include "platform/Files.h"
-#include "platform/TextCase.h"
 
-#include <algorithm>
 #include <string_view>
 #include <unordered_set>
 #include <utility>
@@ -16,18 +15,12 @@ std::vector<std::string> folderFiles(const std::string& folder) {
     const std::string path = PathRules().withSeparator(folder);
     std::unordered_set<std::string> folders;
     (void)visitSubfolders(path, [&folders](std::string_view name) { folders.emplace(name); });
-    UpperCaseMapping upperCase;
-    std::vector<std::pair<std::string, std::string>> found; // sort key, name
+    std::vector<std::string> found;
     (void)visitNames(path, [&](std::string_view name) {
         if (std::string file(name); !folders.contains(file))
-            found.emplace_back(upperCase.of(name), std::move(file));
+            found.push_back(std::move(file));
     });
-    std::ranges::sort(found);
-    std::vector<std::string> files;
-    files.reserve(found.size());
-    for (auto& [key, name] : found)
-        files.push_back(std::move(name));
-    return files;
+    return inNameOrder(std::move(found));
 }
 
 } // namespace vantrel

@@ -1,6 +1,6 @@
 #include "files/FolderTree.h"
 
-#include "platform/TextCase.h"
+#include "base/TextCase.h"
 
 #include <algorithm>
 #include <utility>

@@ -69,15 +69,14 @@ bool MoveCommand::move(const std::string& name) {
 }
 
 MoveCommand::Arrival MoveCommand::transfer(const std::string& name) {
-    const std::string arrives = arrivalName(name);
     // All was not meant for what the command itself has brought: its source is gone already.
-    const bool replacesOwn = hasArrived(name) || hasArrived(arrives);
+    const bool replacesOwn = hasArrived(name) || hasArrived(arrivalName(name));
     const bool overwrite = overwriteAll_ && !replacesOwn;
     Arrival arrival = Arrival::Arrived;
     if (!callSession(name, overwrite))
         arrival = overwrite || !existsAlready() ? failed(name) : askAndTransfer(name);
     if (arrival == Arrival::Arrived)
-        arrived_.insert(arrives);
+        arrived_.insert(arrivalName(name));
     return arrival;
 }
 
@@ -124,24 +123,24 @@ bool MoveCommand::hasArrived(const std::string& name) const {
                                                                 : arrived_.hasFile(name);
 }
 
-/// While the questions were open, the file may have been saved under another name line, or another
-/// job have come to the controller. So a send is tried once more without leave, and what is in its
-/// way by now has to be what the operator was asked about. "Exists already" is a failure in the
-/// end: asking for the same again would not end.
+/// "Exists already" is a failure now: asking for the same again would not end. Only what has come
+/// into the way of a send while the questions were open, by a file that was saved under another
+/// name line or a job that came to the controller, is asked for as well.
 MoveCommand::Arrival MoveCommand::transferOver(const std::string& name,
                                                const std::vector<std::string>& asked) {
     if (progress_.isCancelled())
         return Arrival::EndOfCommand;
-    if (direction_ == Direction::Send && !overwriteAll_) {
-        if (callSession(name, false))
-            return Arrival::Arrived;
-        if (!existsAlready())
-            return failed(name);
-        if (!std::ranges::all_of(with_.session.jobsInTheWay(),
-                                 [&asked](const std::string& job) { return holds(asked, job); }))
-            return askAndTransfer(name, asked);
-    }
-    return callSession(name, true) ? Arrival::Arrived : failed(name);
+    if (direction_ == Direction::Receive || overwriteAll_)
+        return callSession(name, true) ? Arrival::Arrived : failed(name);
+    touchBothSides();
+    if (with_.session.replaceJobs(name, asked))
+        return Arrival::Arrived;
+    return somethingElseIsInTheWay() ? askAndTransfer(name, asked) : failed(name);
+}
+
+bool MoveCommand::somethingElseIsInTheWay() const {
+    return !with_.session.endedByUnsetAddress() && with_.session.ErrorFunction().empty() &&
+           with_.session.ErrorCode() == session_code::fileChanged;
 }
 
 bool MoveCommand::callSession(const std::string& name, bool overwrite) {

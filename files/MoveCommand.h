@@ -38,6 +38,7 @@ class MoveCommand {
     Arrival transferOver(const std::string& name, const std::vector<std::string>& asked);
     bool callSession(const std::string& name, bool overwrite);
     bool existsAlready() const;
+    bool somethingElseIsInTheWay() const;
     Answer askOverwrite(const std::string& name) const;
     /// The name under which the file ends up at its destination.
     std::string arrivalName(const std::string& name) const;

@@ -1,7 +1,7 @@
 #include "files/RowKeys.h"
 
 #include "base/Text.h"
-#include "platform/TextCase.h"
+#include "base/TextCase.h"
 
 namespace vantrel {
 

@@ -1,27 +1,19 @@
 #include "files/Subfolders.h"
 
 #include "base/PathRules.h"
+#include "files/NameOrder.h"
 #include "platform/Files.h"
-#include "platform/TextCase.h"
 
-#include <algorithm>
 #include <string_view>
-#include <utility>
 
 namespace vantrel {
 
 std::vector<std::string> subfolders(const std::string& folder) {
-    UpperCaseMapping upperCase;
-    std::vector<std::pair<std::string, std::string>> found; // sort key, name
-    const auto keep = [&](std::string_view name) { found.emplace_back(upperCase.of(name), name); };
+    std::vector<std::string> found;
     // Names that were read before a failure are as good as any.
-    (void)visitSubfolders(PathRules().withSeparator(folder), keep);
-    std::ranges::sort(found);
-    std::vector<std::string> names;
-    names.reserve(found.size());
-    for (auto& [key, name] : found)
-        names.push_back(std::move(name));
-    return names;
+    (void)visitSubfolders(PathRules().withSeparator(folder),
+                          [&found](std::string_view name) { found.emplace_back(name); });
+    return inNameOrder(std::move(found));
 }
 
 } // namespace vantrel

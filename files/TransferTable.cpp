@@ -3,9 +3,9 @@
 #include "base/PathRules.h"
 #include "base/Result.h"
 #include "base/Text.h"
+#include "base/TextCase.h"
 #include "files/TransferTableLine.h"
 #include "platform/Files.h"
-#include "platform/TextCase.h"
 #include "platform/TextEncoding.h"
 
 namespace vantrel {

@@ -2,7 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "platform/TextCase.h"
+#include "base/TextCase.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,9 +1,9 @@
 #include "link/JobDeletion.h"
 
+#include "base/TextCase.h"
 #include "link/LinkConnection.h"
 #include "link/SessionProgress.h"
 #include "link/Zurolink.h"
-#include "platform/TextCase.h"
 
 namespace vantrel {
 

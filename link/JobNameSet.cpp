@@ -1,7 +1,7 @@
 #include "link/JobNameSet.h"
 
 #include "base/Text.h"
-#include "platform/TextCase.h"
+#include "base/TextCase.h"
 
 namespace vantrel {
 namespace {

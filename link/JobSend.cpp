@@ -25,7 +25,8 @@ bool isUsableJobName(const std::string& name) {
 
 } // namespace
 
-TransferOutcome JobSend::send(const std::string& file, std::int32_t index, bool overwriteAll) {
+TransferOutcome JobSend::send(const std::string& file, std::int32_t index,
+                              const ReplaceConsent& consent) {
     tools_.inTheWay.clear();
     const auto libraryName = tools_.link.libraryFileName(file, "BscDownLoad", index);
     if (!libraryName || !tools_.link.isAsBegun())
@@ -33,7 +34,7 @@ TransferOutcome JobSend::send(const std::string& file, std::int32_t index, bool 
     const auto inside = readNameInside(file, index);
     if (!inside)
         return TransferOutcome::Failed;
-    const TransferOutcome outcome = prepare(file, *inside, index, overwriteAll);
+    const TransferOutcome outcome = prepare(file, *inside, index, consent);
     if (!goesOn(outcome))
         return outcome;
     if (!transmit(file, *libraryName, index))
@@ -56,7 +57,7 @@ std::optional<std::string> JobSend::readNameInside(const std::string& file, std:
 // was. A file that the controller could give no name to would cost it the old job for nothing; when
 // none is in the way, the judgement is the controller's.
 TransferOutcome JobSend::prepare(const std::string& file, const std::string& nameInside,
-                                 std::int32_t index, bool overwriteAll) {
+                                 std::int32_t index, const ReplaceConsent& consent) {
     if (!isJobFileName(file))
         return TransferOutcome::Done;
     const auto jobs = jobsInTheWay(file, nameInside);
@@ -66,12 +67,30 @@ TransferOutcome JobSend::prepare(const std::string& file, const std::string& nam
         return TransferOutcome::Failed;
     }
     tools_.inTheWay = shownNames(file, jobs);
-    const TransferOutcome outcome = overwriteAll ? TransferOutcome::Done : askAll(tools_.inTheWay);
-    if (!goesOn(outcome) || jobs.empty())
+    if (jobs.empty())
+        return TransferOutcome::Done;
+    const TransferOutcome outcome = agree(file, nameInside, index, consent);
+    if (!goesOn(outcome))
         return outcome;
-    if (!overwriteAll && !isAsAsked(file, nameInside, index))
-        return TransferOutcome::Failed;
     return !deletes || removeAll(jobs) ? outcome : TransferOutcome::Failed;
+}
+
+TransferOutcome JobSend::agree(const std::string& file, const std::string& nameInside,
+                               std::int32_t index, const ReplaceConsent& consent) {
+    if (consent.toAll)
+        return TransferOutcome::Done;
+    if (consent.toThese) {
+        const auto& asked = *consent.toThese;
+        const bool isAsked = std::ranges::all_of(tools_.inTheWay, [&asked](const auto& name) {
+            return std::ranges::find(asked, name) != asked.end();
+        });
+        if (!isAsked)
+            tools_.error.set(session_code::fileChanged, "", index);
+        return isAsked ? TransferOutcome::Done : TransferOutcome::Failed;
+    }
+    const TransferOutcome outcome = askAll(tools_.inTheWay);
+    const bool goesWrong = goesOn(outcome) && !isAsAsked(file, nameInside, index);
+    return goesWrong ? TransferOutcome::Failed : outcome;
 }
 
 bool JobSend::isAsAsked(const std::string& file, const std::string& nameInside,

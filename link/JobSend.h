@@ -12,6 +12,13 @@ namespace vantrel {
 
 class JobDeletion;
 
+/// What the operator has agreed to replace before a send begins; everything else is asked for.
+struct ReplaceConsent {
+    bool toAll = false;
+    /// These jobs only, by the names of the questions: anything else in the way ends the send.
+    const std::vector<std::string>* toThese = nullptr;
+};
+
 /// Sends one file of the PC folder into the controller.
 class JobSend {
   public:
@@ -19,7 +26,8 @@ class JobSend {
         : tools_(tools), deletion_(deletion) {}
 
     /// `index` is the file's place among several, for the error record.
-    TransferOutcome send(const std::string& file, std::int32_t index, bool overwriteAll);
+    TransferOutcome send(const std::string& file, std::int32_t index,
+                         const ReplaceConsent& consent);
 
   private:
     /// The name by the file's "//NAME" line, empty for a file that is no job; nothing, with the
@@ -27,7 +35,10 @@ class JobSend {
     std::optional<std::string> readNameInside(const std::string& file, std::int32_t index);
     /// Asks and deletes whatever stands in the file's way.
     TransferOutcome prepare(const std::string& file, const std::string& nameInside,
-                            std::int32_t index, bool overwriteAll);
+                            std::int32_t index, const ReplaceConsent& consent);
+    /// Asks for what stands in the file's way, unless the operator has agreed to it.
+    TransferOutcome agree(const std::string& file, const std::string& nameInside,
+                          std::int32_t index, const ReplaceConsent& consent);
     /// The jobs on the controller that the file would replace: the one of its own name, and the
     /// one that its "//NAME" line names.
     std::vector<std::string> jobsInTheWay(const std::string& file,

@@ -2,8 +2,8 @@
 
 #include "base/PathRules.h"
 #include "base/Text.h"
+#include "base/TextCase.h"
 #include "platform/Files.h"
-#include "platform/TextCase.h"
 #include "platform/TextEncoding.h"
 
 #include <algorithm>

@@ -48,6 +48,7 @@ struct Snappy::Parts {
     bool readDirectory();
     /// Works through the job list; `transfer` does one entry.
     bool transferList(const SessionProperties& properties, JobBatch::Transfer transfer);
+    bool sendSingle(const std::string& file, const ReplaceConsent& consent);
     /// Hides the progress and turns the outcome of a single transfer into record and result.
     bool concludeSingle(TransferOutcome outcome);
 
@@ -168,6 +169,17 @@ bool Snappy::Parts::readDirectory() {
     return read;
 }
 
+bool Snappy::Parts::sendSingle(const std::string& file, const ReplaceConsent& consent) {
+    return operate([&] {
+        inTheWay.clear();
+        // A name that will be refused opens no link, not even the directory's.
+        if (!link.libraryFileName(file, "BscDownLoad", 0) || !readDirectory())
+            return false;
+        progress.open(progress.transferring(file), false, true);
+        return concludeSingle(sending.send(file, 0, consent));
+    });
+}
+
 bool Snappy::Parts::concludeSingle(TransferOutcome outcome) {
     progress.hide();
     if (goesOn(outcome) && progress.isCancelled())
@@ -204,14 +216,11 @@ bool Snappy::ReadDirectory(std::vector<std::string>& list) {
 }
 
 bool Snappy::JobDownLoad(const std::string& file, bool overwriteAll) {
-    return parts_->operate([&] {
-        parts_->inTheWay.clear();
-        // A name that will be refused opens no link, not even the directory's.
-        if (!parts_->link.libraryFileName(file, "BscDownLoad", 0) || !parts_->readDirectory())
-            return false;
-        parts_->progress.open(parts_->progress.transferring(file), false, true);
-        return parts_->concludeSingle(parts_->sending.send(file, 0, overwriteAll));
-    });
+    return parts_->sendSingle(file, {.toAll = overwriteAll});
+}
+
+bool Snappy::replaceJobs(const std::string& file, const std::vector<std::string>& asked) {
+    return parts_->sendSingle(file, {.toThese = &asked});
 }
 
 bool Snappy::JobDelete(const std::string& name) {
@@ -238,7 +247,7 @@ bool Snappy::JobListDownLoad() {
             return false;
         return parts_->transferList(
             *this, [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
-                return parts_->sending.send(entry, index, overwriteAll);
+                return parts_->sending.send(entry, index, {.toAll = overwriteAll});
             });
     });
 }

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdint>
 
 #include <iconv.h>
 
@@ -26,8 +27,8 @@ class Converter {
     Converter& operator=(const Converter&) = delete;
 
     bool isOpen() const {
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): how iconv_open says that it failed
-        return state_ != reinterpret_cast<iconv_t>(-1);
+        // A failed opening gives the pointer that is -1 as a number.
+        return reinterpret_cast<std::intptr_t>(state_) != -1;
     }
 
     /// Appends what is valid; what is left of the input begins with the offending byte. The input

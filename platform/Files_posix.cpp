@@ -1,7 +1,7 @@
 #include "base/Text.h"
+#include "base/TextCase.h"
 #include "platform/Descriptor_posix.h"
 #include "platform/Files.h"
-#include "platform/TextCase.h"
 
 #include <cstdio>
 #include <cstdlib>

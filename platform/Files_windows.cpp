@@ -1,6 +1,6 @@
+#include "base/TextCase.h"
 #include "platform/Files.h"
 #include "platform/System_windows.h"
-#include "platform/TextCase.h"
 
 #include <algorithm>
 #include <new>

@@ -3,8 +3,6 @@
 #include "platform/ProfileFile.h"
 #include "platform/ProfileText.h"
 
-#include <algorithm>
-#include <limits>
 #include <optional>
 
 namespace vantrel {
@@ -53,13 +51,6 @@ std::int32_t ProfileFile::integer(std::string_view section, std::string_view key
                                   std::int32_t defaultValue) const {
     const auto value = content_->text.value(section, key);
     return value ? profileInteger(*value) : defaultValue;
-}
-
-std::int16_t ProfileFile::shortInteger(std::string_view section, std::string_view key,
-                                       std::int16_t defaultValue) const {
-    using Limits = std::numeric_limits<std::int16_t>;
-    const auto value = integer(section, key, defaultValue);
-    return static_cast<std::int16_t>(std::clamp<std::int32_t>(value, Limits::min(), Limits::max()));
 }
 
 Outcome ProfileFile::set(std::string_view section, std::string_view key, std::string_view value) {

@@ -4,8 +4,6 @@
 #include "platform/ProfileText.h"
 #include "platform/TemporaryFile_windows.h"
 
-#include <algorithm>
-#include <limits>
 #include <optional>
 #include <vector>
 
@@ -126,13 +124,6 @@ std::int32_t ProfileFile::integer(std::string_view section, std::string_view key
     return static_cast<std::int32_t>(::GetPrivateProfileIntW(profileName(section).c_str(),
                                                              profileName(key).c_str(), defaultValue,
                                                              content_->path.c_str()));
-}
-
-std::int16_t ProfileFile::shortInteger(std::string_view section, std::string_view key,
-                                       std::int16_t defaultValue) const {
-    using Limits = std::numeric_limits<std::int16_t>;
-    const auto value = integer(section, key, defaultValue);
-    return static_cast<std::int16_t>(std::clamp<std::int32_t>(value, Limits::min(), Limits::max()));
 }
 
 Outcome ProfileFile::set(std::string_view section, std::string_view key, std::string_view value) {

@@ -1,8 +1,8 @@
 #include "platform/ProfileText.h"
 
 #include "base/Text.h"
+#include "base/TextCase.h"
 #include "platform/CodePage.h"
-#include "platform/TextCase.h"
 #include "platform/TextEncoding.h"
 
 #include <algorithm>
@@ -18,8 +18,8 @@ constexpr std::string_view lineEnd = "\r\n";
 /// A name that is looked for among many, whatever its letter case.
 class SoughtName {
   public:
-    SoughtName(std::string_view name, UpperCaseMapping& mapping)
-        : name_(name), mapping_(mapping), isAscii_(isAscii(name)), upper_(mapping.of(name)) {}
+    explicit SoughtName(std::string_view name)
+        : name_(name), isAscii_(isAscii(name)), upper_(upperCase(name)) {}
 
     /// An ASCII name is found by ASCII letters only: a dotless i (U+0131) or long s (U+017F),
     /// though its capital is an ASCII letter, and the Kelvin sign (U+212A) make another name.
@@ -29,12 +29,11 @@ class SoughtName {
         if (isAscii_)
             return equalsIgnoringAsciiCase(found, name_);
         // A name is at most four times as long in its other case; a longer line costs nothing.
-        return found.size() <= name_.size() * 4 && mapping_.of(found) == upper_;
+        return found.size() <= name_.size() * 4 && upperCase(found) == upper_;
     }
 
   private:
     std::string_view name_;
-    UpperCaseMapping& mapping_;
     bool isAscii_;
     std::string upper_;
 };
@@ -195,9 +194,8 @@ bool ProfileText::isWide() const {
 
 /// Of equal sections and of equal keys the first counts.
 ProfileText::Place ProfileText::find(std::string_view section, std::string_view key) const {
-    UpperCaseMapping mapping;
-    const SoughtName soughtSection(section, mapping);
-    const SoughtName soughtKey(key, mapping);
+    const SoughtName soughtSection(section);
+    const SoughtName soughtKey(key);
     Place place;
     std::string_view rest = text_;
     for (std::size_t number = 0; !rest.empty(); ++number) {

@@ -56,7 +56,8 @@ Result<mode_t> permissionsFor(const std::string& path) {
         return systemFailure(EISDIR);
     if (!S_ISREG(old.st_mode))
         return Failure{"Not a regular file"};
-    if (::access(path.c_str(), W_OK) != 0)
+    // Asked for the identity that would write, which may be another than the one logged in.
+    if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0)
         return systemFailure(errno);
     return old.st_mode & permissionBits;
 }

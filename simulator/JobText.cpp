@@ -1,7 +1,7 @@
 #include "simulator/JobText.h"
 
 #include "base/Text.h"
-#include "platform/TextCase.h"
+#include "base/TextCase.h"
 #include "platform/TextEncoding.h"
 #include "simulator/ControllerFileName.h"
 #include "simulator/ResultCodes.h"

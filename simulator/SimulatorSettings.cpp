@@ -2,7 +2,7 @@
 
 #include "base/PathRules.h"
 #include "base/Text.h"
-#include "platform/TextCase.h"
+#include "base/TextCase.h"
 #include "platform/TextEncoding.h"
 #include "simulator/IniText.h"
 

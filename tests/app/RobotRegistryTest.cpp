@@ -93,9 +93,9 @@ TEST_F(RobotRegistryTest, TheBaseFolderIsInLowerCaseWhereThatFolderExists) {
 
 TEST_F(RobotRegistryTest, TheBaseFolderKeepsItsSpellingWhereTheLowerCaseOneDoesNotExist) {
     const std::string mixed = folder_.makeFolder("Mixed");
-    if (isFolder(folder_.path("mixed")))
-        GTEST_SKIP() << "letter case does not count here";
-    EXPECT_EQ(robotBaseFolder(mixed), mixed);
+    // A system to which letter case does not matter has the folder in lower case as well.
+    const std::string lower = folder_.path("mixed");
+    EXPECT_EQ(robotBaseFolder(mixed), isFolder(lower) ? lower : mixed);
 }
 
 TEST_F(RobotRegistryTest, ReadingTakesTheCurrentFolderInLowerCaseForTheBaseFolder) {

@@ -32,6 +32,17 @@ class MoveChangedFileTest : public tests::CommandFixture {
     }
 };
 
+TEST_F(MoveChangedFileTest, WithoutAnyChangeOneFurtherTransferFollowsTheAnswer) {
+    question.answers = {Answer::Yes};
+    selectOnPC({"A.JBI"});
+    const int readBefore = library.callCount("BscFindFirst");
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "new"));
+    // One directory for each of the two transfers, and one for the pane at the end.
+    EXPECT_EQ(library.callCount("BscFindFirst") - readBefore, 3);
+    EXPECT_EQ(library.callCount("BscDownLoad"), 1);
+}
+
 TEST_F(MoveChangedFileTest, AnotherJobThatItReplacesNowIsAskedForToo) {
     question.answers = {Answer::Yes, Answer::No};
     EXPECT_TRUE(moveWhile([this] { pc.write("A.JBI", job("B", "other")); }));

@@ -26,12 +26,5 @@ TEST(Subfolders, OfAFolderThatCannotBeReadAreNone) {
     EXPECT_THAT(subfolders(""), IsEmpty());
 }
 
-TEST(Subfolders, OfALinkThatLeadsBackAreReadOneLevelAtATime) {
-    const TemporaryFolder folder;
-    folder.makeFolder("a");
-    std::filesystem::create_symlink(folder.path(), folder.path("loop"));
-    EXPECT_THAT(subfolders(folder.path("loop")), ElementsAre("a", "loop"));
-}
-
 } // namespace
 } // namespace vantrel::tests

@@ -1,6 +1,7 @@
 #include "link/JobBatch.h"
 
 #include "JobBatchFixture.h"
+#include "base/TextCase.h"
 #include "link/JobDeletion.h"
 #include "link/JobNameSet.h"
 #include "link/JobSend.h"
@@ -8,7 +9,6 @@
 #include "link/LocalJobList.h"
 #include "link/OverwriteQuestion.h"
 #include "link/SessionProgress.h"
-#include "platform/TextCase.h"
 
 namespace vantrel {
 namespace {
@@ -270,7 +270,7 @@ TEST_F(JobBatchTest, TenThousandEntriesAgainstTenThousandJobsAreLinear) {
     const LocalJobList local;
     JobBatch batch({*world.session, link, progress, error, local, world.messages, world.dialog},
                    [&send](const std::string& entry, std::int32_t index, bool overwriteAll) {
-                       return send.send(entry, index, overwriteAll);
+                       return send.send(entry, index, {.toAll = overwriteAll});
                    });
     EXPECT_TRUE(batch.run(entries));
     EXPECT_EQ(world.controller().names().size(), count);

@@ -1,6 +1,6 @@
 #include "link/JobNameSet.h"
 
-#include "platform/TextCase.h"
+#include "base/TextCase.h"
 #include "support/NamedRow.h"
 
 #include <gtest/gtest.h>

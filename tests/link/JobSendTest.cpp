@@ -115,6 +115,23 @@ TEST_F(JobSendTest, ASilentCallerLearnsWhatIsInTheWay) {
     EXPECT_THAT(world.session->jobsInTheWay(), IsEmpty());
 }
 
+TEST_F(JobSendTest, ReplacesTheJobsThatWereAskedAboutWithoutAnotherQuestion) {
+    world.controller().put("WELD.JBI", older);
+    EXPECT_TRUE(world.session->replaceJobs("WELD.JBI", {"WELD.JBI"}));
+    EXPECT_NE(world.controller().bytes("WELD.JBI"), older);
+    EXPECT_THAT(world.question.questions, IsEmpty());
+}
+
+TEST_F(JobSendTest, LeavesTheControllerAsItIsWhenSomethingElseIsInTheWay) {
+    world.controller().put("WELD.JBI", older);
+    EXPECT_FALSE(world.session->replaceJobs("WELD.JBI", {"OTHER.JBI"}));
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), older);
+    EXPECT_EQ(world.session->ErrorCode(), session_code::fileChanged);
+    EXPECT_EQ(world.session->ErrorFunction(), "");
+    EXPECT_THAT(world.session->jobsInTheWay(), ElementsAre("WELD.JBI"));
+    EXPECT_THAT(world.question.questions, IsEmpty());
+}
+
 TEST_F(JobSendTest, WhatIsInTheWayOfOneFileIsForgottenWhenTheNextOneFailsEarly) {
     world.session->DisplayMonitor = false;
     world.controller().put("WELD.JBI", older);

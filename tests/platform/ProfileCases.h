@@ -182,27 +182,30 @@ inline const ProfileWriteCase profileWriteCases[] = {
      wide("[S]\r\nk=") + "\xAC\x20"},
 };
 
-/// Cases in which the functions that Wine puts in the system's place are known to do otherwise.
-inline constexpr std::array<std::string_view, 17> differsUnderWine{
-    "ParametersKeepTabs",
-    "SectionParameterKeepsTabs",
-    "HeaderEndsAtItsFirstBracket",
-    "TextBehindTheHeaderIsIgnored",
-    "HeaderWithoutBracketRunsToTheLineEnd",
-    "Utf8MarkHidesASectionOnTheFirstLine",
-    "NewKeyGoesBeforeTheBlankLine",
-    "CommentsAndBlankLinesStay",
-    "BlanksOfOtherLinesStay",
-    // It writes every line of the file anew: with CR LF, and what it made of each byte.
-    "ValueIsWrittenAsGiven",
-    "LastLineIsChangedWithoutAnEnd",
-    "LineEndsStay",
-    "BytesWithoutMeaningStay",
-    "WideFileTakesAnyCharacter",
-    // It reads on where the system stops.
-    "LinesBeforeTheFirstSectionAreUnreachable",
-    "CommentMayBeIndented",
-    "JapaneseKeyInAnyLetterCase",
+/// A case in which the functions that Wine puts in the system's place do otherwise, and what they
+/// do.
+struct WineDifference {
+    std::string_view name, reason;
+};
+
+inline constexpr WineDifference differsUnderWine[] = {
+    {"ParametersKeepTabs", "strips tabs from names that are asked for"},
+    {"SectionParameterKeepsTabs", "strips tabs from names that are asked for"},
+    {"HeaderEndsAtItsFirstBracket", "takes a header's last bracket for its end"},
+    {"TextBehindTheHeaderIsIgnored", "takes no header with text behind it"},
+    {"HeaderWithoutBracketRunsToTheLineEnd", "takes no header without its bracket"},
+    {"Utf8MarkHidesASectionOnTheFirstLine", "knows the mark of UTF-8"},
+    {"NewKeyGoesBeforeTheBlankLine", "writes a new key behind the blank line"},
+    {"CommentsAndBlankLinesStay", "writes every line anew"},
+    {"BlanksOfOtherLinesStay", "writes every line anew"},
+    {"ValueIsWrittenAsGiven", "writes every line anew, with what it made of each byte"},
+    {"LastLineIsChangedWithoutAnEnd", "ends every line, the last one too"},
+    {"LineEndsStay", "ends every line with CR LF"},
+    {"BytesWithoutMeaningStay", "writes every line anew, with what it made of each byte"},
+    {"WideFileTakesAnyCharacter", "writes every line anew, with what it made of each byte"},
+    {"LinesBeforeTheFirstSectionAreUnreachable", "reads on where the system stops"},
+    {"CommentMayBeIndented", "reads on where the system stops"},
+    {"JapaneseKeyInAnyLetterCase", "knows the letter case of ASCII only"},
 };
 
 } // namespace vantrel::tests

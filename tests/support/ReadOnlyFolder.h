@@ -1,15 +1,16 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
+#include "support/BoundByPermissions.h"
 
-#include <sys/fsuid.h>
-#include <unistd.h>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace vantrel::tests {
 
-/// Nothing can be created, replaced or removed in a folder while this lives; its subfolders stay as
-/// they are. Permissions do not bind root, so as root the files are those of nobody meanwhile.
+/// Nothing can be created, replaced or removed in a folder while this lives; its subfolders stay
+/// open to everybody.
 class ReadOnlyFolder {
   public:
     explicit ReadOnlyFolder(std::string folder) : folder_(std::move(folder)) {
@@ -17,26 +18,20 @@ class ReadOnlyFolder {
         for (const auto& entry : std::filesystem::directory_iterator(folder_))
             if (entry.is_directory())
                 std::filesystem::permissions(entry, perms::all);
-        std::filesystem::permissions(folder_, perms::owner_all | perms::others_exec |
-                                                  perms::others_read | perms::group_read |
-                                                  perms::group_exec);
-        if (isRoot_)
-            ::setfsuid(nobody);
-        else
-            std::filesystem::permissions(folder_, perms::owner_read | perms::owner_exec);
+        std::filesystem::permissions(folder_, readAndEnter);
+        bound_.emplace();
     }
     ~ReadOnlyFolder() {
-        if (isRoot_)
-            ::setfsuid(0);
+        bound_.reset();
         std::filesystem::permissions(folder_, std::filesystem::perms::owner_all);
     }
     ReadOnlyFolder(const ReadOnlyFolder&) = delete;
     ReadOnlyFolder& operator=(const ReadOnlyFolder&) = delete;
 
   private:
-    static constexpr uid_t nobody = 65534;
+    static constexpr auto readAndEnter = static_cast<std::filesystem::perms>(0555);
     std::string folder_;
-    bool isRoot_ = ::geteuid() == 0;
+    std::optional<BoundByPermissions> bound_;
 };
 
 } // namespace vantrel::tests

@@ -1,4 +1,4 @@
-#include "platform/TextCase.h"
+#include "base/TextCase.h"
 
 #include "base/Text.h"
 #include "support/EnvironmentVariable.h"
@@ -45,13 +45,6 @@ class TextCase : public testing::TestWithParam<CaseRow> {};
 TEST_P(TextCase, IsMappedOneToOne) {
     EXPECT_EQ(upperCase(GetParam().text), GetParam().upper);
     EXPECT_EQ(lowerCase(GetParam().text), GetParam().lower);
-}
-
-TEST(UpperCaseMappingOfManyTexts, GivesWhatEachAloneWouldGive) {
-    UpperCaseMapping mapping;
-    for (int round = 0; round < 2; ++round)
-        for (const auto& row : rows)
-            EXPECT_EQ(mapping.of(row.text), row.upper) << row.name;
 }
 
 TEST_P(TextCase, IsNormalisedForJobNames) {

@@ -1,4 +1,4 @@
-#include "platform/CaseRanges_windows.h"
+#include "base/CaseRanges.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,0 +1,34 @@
+#include "files/FolderScan.h"
+#include "files/Subfolders.h"
+#include "support/TemporaryFolder.h"
+
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+// Links are made by everybody on this system; elsewhere only administrators may.
+
+namespace vantrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+
+TEST(FolderScan, ADanglingLinkDoesNotStopTheScan) {
+    const tests::TemporaryFolder folder;
+    folder.write("A.JBI", "");
+    std::filesystem::create_symlink(folder.path("MISSING"), folder.path("LINK.JBI"));
+    const auto listing = scanFolder(folder.path());
+    ASSERT_TRUE(listing);
+    EXPECT_THAT(listing->Names, UnorderedElementsAre("A.JBI", "LINK.JBI"));
+}
+
+TEST(Subfolders, OfALinkThatLeadsBackAreReadOneLevelAtATime) {
+    const tests::TemporaryFolder folder;
+    folder.makeFolder("a");
+    std::filesystem::create_symlink(folder.path(), folder.path("loop"));
+    EXPECT_THAT(subfolders(folder.path("loop")), ElementsAre("a", "loop"));
+}
+
+} // namespace
+} // namespace vantrel
