@@ -44,7 +44,7 @@ function(write_settings)
     endif()
     string(LENGTH "${jobs}" length)
     set(path_line "Path=${jobs}\r\n")
-    if(NOT TRIAL_FOLDER_IS_USED_HERE OR NOT jobs MATCHES "^[ -~]+$" OR length GREATER 127)
+    if(NOT TRIAL_FOLDER_IS_USED_HERE OR NOT "$ENV{DESTDIR}" STREQUAL "" OR NOT jobs MATCHES "^[ -~]+$" OR length GREATER 127)
         set(path_line "")
     endif()
     file(WRITE "${folder}/Vantrel.ini"

@@ -8,6 +8,10 @@ namespace vantrel {
 
 /// The running program's own file, absolute, as the system knows it.
 std::string executablePath();
+/// The program's place as far as its files are concerned: they stand beside it. That is where it
+/// runs, unless VANTREL_FOLDER names another absolute folder: the launcher of an installation for
+/// all users gives each of them a folder that he may write into.
+std::string programPath();
 
 /// The English name of the user's default locale's language: "Japanese", "English", "German".
 /// Elsewhere than on Windows it is taken from LC_ALL, LC_MESSAGES or LANG; "English" when unset.

@@ -1,3 +1,4 @@
+#include "base/PathRules.h"
 #include "platform/Descriptor_posix.h"
 #include "platform/DetachedProgram_posix.h"
 #include "platform/Environment.h"
@@ -34,6 +35,14 @@ std::string executablePath() {
             return path.substr(0, static_cast<std::size_t>(length));
         path.resize(path.size() * 2);
     }
+}
+
+std::string programPath() {
+    const std::string executable = executablePath();
+    const char* folder = std::getenv("VANTREL_FOLDER");
+    if (!folder || *folder != '/')
+        return executable;
+    return PathRules().join(folder, executable.substr(executable.rfind('/') + 1));
 }
 
 std::string localeLanguageName() {

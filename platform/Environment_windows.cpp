@@ -51,6 +51,11 @@ std::string executablePath() {
     }
 }
 
+/// A program is installed for one user, in a folder of his own.
+std::string programPath() {
+    return executablePath();
+}
+
 std::string localeLanguageName() {
     std::array<wchar_t, 128> name{};
     const int length = ::GetLocaleInfoW(::GetUserDefaultLCID(), LOCALE_SENGLANGUAGE, name.data(),

@@ -1,10 +1,12 @@
 # Which Debian packages the build, the tests and the virtual display need, and how to get them.
 # Sourced by ./run and ./test.
 
+# For scripts/linux-packages.sh.
+linux_packages=(dpkg-dev librsvg2-bin)
 build_packages=(g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev pkg-config librsvg2-common fonts-vlgothic
     ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils adwaita-icon-theme)
-test_packages=(libgtest-dev libgmock-dev poppler-utils)
+test_packages=(libgtest-dev libgmock-dev poppler-utils "${linux_packages[@]}" desktop-file-utils appstream)
 fuzz_packages=(clang cmake ninja-build ccache)
 # For the Windows build and its tests under Wine; the source package of the toolkit is fetched by
 # scripts/windows-toolkit.sh.

@@ -31,7 +31,7 @@ closes() {
 }
 
 trial_start() {
-    env LC_ALL=C.UTF-8 "$trial/Vantrel" >"$work/program.log" 2>&1 &
+    env LC_ALL=C.UTF-8 "${launcher:-$trial/Vantrel}" >"$work/program.log" 2>&1 &
     program=$!
     trap 'kill "$program" 2>/dev/null || true' EXIT
     until_true "the question at start" asks Vantrel

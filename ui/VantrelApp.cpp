@@ -29,7 +29,7 @@ class VantrelApp : public wxApp {
         std::vector<std::string> arguments;
         for (int index = 1; index < argc; ++index)
             arguments.push_back(fromWx(argv[index]));
-        root_ = std::make_unique<Composition>(executablePath(), arguments);
+        root_ = std::make_unique<Composition>(programPath(), arguments);
         result_ = root_->start();
         return true;
     }

@@ -17,6 +17,23 @@ TEST(ExecutablePath, IsThisProgramsOwn) {
     EXPECT_TRUE(std::filesystem::exists(path));
 }
 
+TEST(ProgramPath, IsWhereTheProgramRuns) {
+    const EnvironmentVariable folder("VANTREL_FOLDER", std::nullopt);
+    EXPECT_EQ(programPath(), executablePath());
+}
+
+TEST(ProgramPath, IsInTheFolderThatTheLauncherNames) {
+    const EnvironmentVariable folder("VANTREL_FOLDER", "/home/operator/vantrel");
+    EXPECT_EQ(programPath(), "/home/operator/vantrel/platform_tests");
+}
+
+TEST(ProgramPath, OfNoAbsoluteFolderIsWhereTheProgramRuns) {
+    for (const char* named : {"", "vantrel", "./vantrel"}) {
+        const EnvironmentVariable folder("VANTREL_FOLDER", named);
+        EXPECT_EQ(programPath(), executablePath()) << named;
+    }
+}
+
 TEST(LocaleLanguage, ComesFromTheFirstVariableThatIsSet) {
     const EnvironmentVariable all("LC_ALL", "ja_JP.UTF-8");
     const EnvironmentVariable messages("LC_MESSAGES", "de_DE.UTF-8");

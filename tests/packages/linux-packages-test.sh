@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# Makes the packages for Linux and uses what they put down:
+#   tests/packages/linux-packages-test.sh BUILD_FOLDER WORK_FOLDER
+# The .deb is unpacked, not installed, and its program is started through its launcher, for a user
+# whose home is in the work folder.
+set -euo pipefail
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+source "$here/../../scripts/trial.sh"
+
+rm -rf "$2"
+mkdir -p "$2"
+work=$(cd "$2" && pwd)
+screenshots=$work
+"$here/../../scripts/linux-packages.sh" "$1" "$work"
+
+say "The archive has the program, the trial and the manuals."
+tar --extract --file "$work"/Vantrel-linux-*.tar.gz --directory "$work"
+for file in Vantrel/Vantrel Vantrel/English.lng Vantrel/LICENSE.txt Trial/Vantrel Trial/libZurolink.so \
+    Trial/jobs/TRIAL1.JBI ZUROLINKDLL/Help/Zurolink_us.pdf ZUROLINKDLL/Help/Zurolink_jp.pdf; do
+    [ -s "$work"/Vantrel-linux-*/"$file" ] || give_up "not in the archive: $file"
+done
+! ls "$work"/Vantrel-linux-*/Vantrel/libZurolink.so 2>/dev/null || give_up "the simulator is beside the real program"
+! grep -rlF "$work" "$work"/Vantrel-linux-* || give_up "a path of this machine is in the archive"
+
+say "The .deb has what a desktop looks for."
+root=$work/root
+dpkg-deb --extract "$work"/vantrel_*.deb "$root"
+desktop-file-validate "$root/usr/share/applications/vantrel.desktop"
+appstreamcli validate --no-net "$root/usr/share/metainfo/org.vantrel.Vantrel.metainfo.xml"
+for size in 16 24 32 48 64 128 256; do
+    icon=$root/usr/share/icons/hicolor/${size}x$size/apps/vantrel.png
+    [ "$(identify -format '%wx%h' "$icon")" = "${size}x$size" ] || give_up "no icon of $size pixels"
+done
+[ "$(readlink "$root/usr/bin/vantrel")" = /opt/vantrel/vantrel ] || give_up "no launcher among the programs"
+dpkg-deb --field "$work"/vantrel_*.deb Depends | grep -q libwxgtk3.2 || give_up "the toolkit is not asked for"
+! grep -rlF "$work" "$root" || give_up "a path of this machine is in the package"
+
+say "Its program works in the user's folder and leaves what is installed alone."
+as_installed() { (cd "$root" && find . -type f -newer "$work/installed" -printf 'changed: %p\n'); }
+touch "$work/installed"
+export XDG_DATA_HOME=$work/home
+launcher=$root/opt/vantrel/vantrel
+trial=$XDG_DATA_HOME/vantrel/Vantrel
+trial_start
+jobs=$trial/jobs
+controller=$trial/controllers/line1-weld
+select_on_controller CALIB.JBI
+import -window root "$work/window.png"
+keys alt+f c
+until_true "CALIB.JBI in the user's folder" same_bytes "$jobs/CALIB.JBI" "$controller/CALIB.JBI"
+until_true "the progress window to close" is_gone 'File transfer'
+trial_close
+[ -z "$(as_installed)" ] || give_up "$(as_installed)"
+grep -q "^Path=$jobs" "$trial/Vantrel.ini" || give_up "the settings are not in the user's folder"
+say "Packages passed."
