@@ -1,0 +1,15 @@
+# At install time: a text or table in the program's folder that is not the one about to be installed
+# may have been changed by the operator. It stays beside the new one as ".old".
+get_filename_component(prefix "${CMAKE_INSTALL_PREFIX}" ABSOLUTE)
+foreach(name IN LISTS TEXTS)
+    set(installed "$ENV{DESTDIR}${prefix}/${name}")
+    if(NOT EXISTS "${installed}")
+        continue()
+    endif()
+    file(SHA256 "${installed}" there)
+    file(SHA256 "${TEXTS_FOLDER}/${name}" coming)
+    if(NOT there STREQUAL coming)
+        message(STATUS "Kept as .old: ${installed}")
+        file(COPY_FILE "${installed}" "${installed}.old")
+    endif()
+endforeach()
