@@ -1,6 +1,4 @@
 #include "ManyJobs.h"
-#include "files/FolderScan.h"
-#include "files/PaneRows.h"
 #include "ui/FileListControl.h"
 #include "ui/SystemLook.h"
 
@@ -39,6 +37,10 @@ class PaneWindow {
     PaneWindow(const PaneWindow&) = delete;
     PaneWindow& operator=(const PaneWindow&) = delete;
 
+    void show(const PaneRows& rows) {
+        list.show(rows);
+        paint();
+    }
     void paint() {
         frame.Update();
         auto* const loop = wxEventLoopBase::GetActive();
@@ -56,38 +58,33 @@ void openFolderInDetails(benchmark::State& state) {
     PaneWindow window(ListView::Details);
     manyJobs();
     for (auto _ : state) {
-        const FolderListing listing = *scanFolder(manyJobs().path());
-        PaneRows rows(listing);
-        rows.fill(isAmongAllFiles);
-        rows.sort();
-        window.list.show(rows);
-        window.paint();
+        ManyRows jobs;
+        jobs.rows.sort();
+        window.show(jobs.rows);
     }
 }
 BENCHMARK(openFolderInDetails)->Unit(benchmark::kMillisecond);
 
-/// A click on a column header, painted.
-void sortInDetails(benchmark::State& state) {
-    PaneWindow window(ListView::Details);
-    FolderListing listing = *scanFolder(manyJobs().path());
-    PaneRows rows(listing);
-    rows.fill(isAmongAllFiles);
+/// A click on a column header with so many files in this view, painted.
+void sortAndShow(benchmark::State& state, ListView view, int files) {
+    PaneWindow window(view);
+    ManyRows jobs(files);
     for (auto _ : state) {
-        listing.SortDir = static_cast<std::int16_t>(1 - listing.SortDir);
-        rows.sort();
-        window.list.show(rows);
-        window.paint();
+        jobs.sortTheOtherWay();
+        window.show(jobs.rows);
     }
+}
+
+void sortInDetails(benchmark::State& state) {
+    sortAndShow(state, ListView::Details, manyFiles);
 }
 BENCHMARK(sortInDetails)->Unit(benchmark::kMillisecond);
 
 void selectAllInDetails(benchmark::State& state) {
     PaneWindow window(ListView::Details);
-    const FolderListing listing = *scanFolder(manyJobs().path());
-    PaneRows rows(listing);
-    rows.fill(isAmongAllFiles);
+    ManyRows jobs;
     for (auto _ : state) {
-        window.list.show(rows);
+        window.list.show(jobs.rows);
         window.list.selectAll();
         window.paint();
     }
@@ -96,17 +93,7 @@ BENCHMARK(selectAllInDetails)->Unit(benchmark::kMillisecond);
 
 /// A tenth of the files in a view of icons, whose items are laid out one by one.
 void showIcons(benchmark::State& state) {
-    PaneWindow window(ListView::LargeIcons);
-    FolderListing listing = *scanFolder(manyJobs().path());
-    listing.Count = manyFiles / 10;
-    PaneRows rows(listing);
-    rows.fill(isAmongAllFiles);
-    for (auto _ : state) {
-        listing.SortDir = static_cast<std::int16_t>(1 - listing.SortDir);
-        rows.sort();
-        window.list.show(rows);
-        window.paint();
-    }
+    sortAndShow(state, ListView::LargeIcons, manyFiles / 10);
 }
 BENCHMARK(showIcons)->Unit(benchmark::kMillisecond);
 

@@ -2,6 +2,8 @@
 
 #include "files/ControllerModels.h"
 #include "files/FileFilters.h"
+#include "files/FolderScan.h"
+#include "files/PaneRows.h"
 #include "support/TemporaryFolder.h"
 
 #include <memory>
@@ -33,6 +35,23 @@ inline bool isAmongAllFiles(std::string_view upperName) {
     return matchesFilter(upperName, allFiles, pcModel());
 }
 
+/// The first of the many jobs in a pane's rows, read and filtered but not sorted yet.
+struct ManyRows {
+    explicit ManyRows(int count = manyFiles) {
+        listing.Count = count;
+        rows.fill(isAmongAllFiles);
+    }
+
+    /// As a second click on a column's header does.
+    void sortTheOtherWay() {
+        listing.SortDir = static_cast<std::int16_t>(1 - listing.SortDir);
+        rows.sort();
+    }
+
+    FolderListing listing = *scanFolder(manyJobs().path());
+    PaneRows rows{listing};
+};
+
 /// The yardstick: the least that reading a folder with sizes and dates can cost.
 inline void bareReadAndStat(benchmark::State& state) {
     const std::string path = manyJobs().path();
@@ -48,4 +67,5 @@ inline void bareReadAndStat(benchmark::State& state) {
         benchmark::DoNotOptimize(bytes);
     }
 }
+
 } // namespace vantrel::bench

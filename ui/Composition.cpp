@@ -232,6 +232,13 @@ void Composition::openVersionWindow() {
     versionWindow_->openModal();
 }
 
+/// The version window of the start has no parent, so it may stand before every other window: a
+/// dialog behind it could not be answered, nor could the version window be closed.
+void Composition::closeVersionWindowFor(wxDialog& dialog) {
+    if (versionWindow_ && versionWindow_.get() != &dialog && !versionWindow_->IsModal())
+        versionWindow_.unload();
+}
+
 void Composition::changeLanguage() {
     showLanguageDialog();
     commands_->settings.recaption();

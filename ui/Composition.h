@@ -27,6 +27,7 @@
 #include "ui/OperationGuard.h"
 #include "ui/WxFilePrinter.h"
 #include "ui/dialogs/FrmMessage.h"
+#include "ui/dialogs/ModalWatch.h"
 #include "ui/dialogs/WindowHolder.h"
 #include "ui/dialogs/WxMessageBoxes.h"
 #include "ui/dialogs/frmDumy.h"
@@ -107,6 +108,7 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
     void openOption(int index);
     void openSettings();
     void openVersionWindow();
+    void closeVersionWindowFor(wxDialog& dialog);
     void changeLanguage();
     void showSimulationNotice();
     void reportLibrary(const LibraryProblem& problem);
@@ -135,6 +137,7 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
     WindowHolder<frmDumy> dummyWindow_;
     WindowHolder<FrmMessage> startMessage_;
     WindowHolder<frmVers> versionWindow_;
+    ModalWatch modalWatch_{[this](wxDialog& dialog) { closeVersionWindowFor(dialog); }};
     WindowHolder<frmZuroVant> window_;
     std::unique_ptr<Commands> commands_;
     std::string helpFile_;

@@ -1,14 +1,11 @@
 #include "ui/frmZuroVant.h"
 
-#include "app/CommandStates.h"
 #include "app/MainCommands.h"
 #include "app/ModeCommands.h"
 #include "app/SettingsFile.h"
 #include "app/Twips.h"
 #include "app/WindowLayout.h"
 #include "files/FolderPath.h"
-#include "files/PaneRows.h"
-#include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/ShownText.h"
 #include "ui/ChoiceKeys.h"
@@ -18,6 +15,7 @@
 #include "ui/IconSet.h"
 #include "ui/KeyedToolBar.h"
 #include "ui/MainWindowCaptions.h"
+#include "ui/MainWindowLook.h"
 #include "ui/MainWindowPlaces.h"
 #include "ui/OperationGuard.h"
 #include "ui/PathDisplay.h"
@@ -30,8 +28,6 @@
 
 #include <wx/choice.h>
 #include <wx/iconbndl.h>
-#include <wx/statbmp.h>
-#include <wx/statbox.h>
 #include <wx/stattext.h>
 #include <wx/statusbr.h>
 #include <wx/utils.h>
@@ -44,13 +40,6 @@ namespace {
 constexpr int panelPC = 0;
 constexpr int panelController = 1;
 constexpr int panelNotice = 2;
-const wxSize arrowIcon{32, 32};
-
-wxColour colour(std::uint32_t redGreenBlue) {
-    return {static_cast<unsigned char>(redGreenBlue >> 16),
-            static_cast<unsigned char>(redGreenBlue >> 8),
-            static_cast<unsigned char>(redGreenBlue)};
-}
 
 } // namespace
 
@@ -293,49 +282,17 @@ WindowPlacement frmZuroVant::placement() const {
 
 void frmZuroVant::showStates(const CommandStates& states) {
     menus_.applyStates(states);
-    const auto apply = [](KeyedToolBar& bar, std::string_view key, const CommandState& state) {
-        bar.setEnabled(key, state.enabled);
-        bar.setPressed(key, state.checked);
-    };
-    for (const auto& button : states.tlbMain)
-        apply(*controls_.tlbMain, button.key, button.state);
-    for (const auto& button : states.tlbPC)
-        apply(*controls_.tlbPC, button.key, button.state);
-    apply(*controls_.tlbPCButton, states.tlbPCButton.key, states.tlbPCButton.state);
-    apply(*controls_.tlbCtrlButton, states.tlbCtrlButton.key, states.tlbCtrlButton.state);
-    static constexpr std::array<std::string_view, 4> fileKeys{"FileCopy", "FileMove", "FileDelete",
-                                                              "AllSelect"};
-    for (std::size_t index = 0; index < fileKeys.size(); ++index)
-        apply(*controls_.tlbFile, fileKeys.at(index), states.tlbFile.at(index));
-    for (wxWindow* part :
-         {static_cast<wxWindow*>(controls_.tlbMain), static_cast<wxWindow*>(controls_.fraPC.panel),
-          static_cast<wxWindow*>(controls_.fraCtrl.panel),
-          static_cast<wxWindow*>(controls_.fraFile.panel),
-          static_cast<wxWindow*>(controls_.cmbRbtName)})
-        part->Enable(states.unlocked);
+    showCommandStates(controls_, states);
 }
 
 void frmZuroVant::showMode(const ModeLook& look) {
     SetTitle(toWx(look.caption));
-    controls_.lblSerial->Show(look.showsSerialLine);
-    controls_.lbl232CParam->Show(look.showsSerialLine);
-    for (wxWindow* part :
-         {static_cast<wxWindow*>(controls_.lblRbtName),
-          static_cast<wxWindow*>(controls_.cmbRbtName), static_cast<wxWindow*>(controls_.lblIPaddr),
-          static_cast<wxWindow*>(controls_.lblIPAddr2)})
-        part->Show(look.showsRobot);
-    for (auto* shape : {controls_.pcHighlight, controls_.controllerHighlight}) {
-        shape->SetBackgroundColour(colour(look.shapeColour));
-        shape->Refresh();
-    }
+    showTransferMode(controls_, look);
     lay(); // a control that was placed while hidden may not stand where it was told
 }
 
 void frmZuroVant::showActiveSide(ActiveSide side) {
-    const bool pc = side == ActiveSide::PC;
-    controls_.pctDirectArrow->SetBitmap(icon(pc ? "arrowToController" : "arrowToPC", arrowIcon));
-    controls_.pcHighlight->Show(pc);
-    controls_.controllerHighlight->Show(!pc);
+    showActivePane(controls_, side);
     lay();
 }
 

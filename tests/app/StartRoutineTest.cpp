@@ -79,7 +79,12 @@ class StartRoutineTest : public testing::Test {
     void write(const std::string& settings) { desk_.folder.write("Vantrel.ini", settings); }
     void addSettings(const std::string& more) { write(desk_.folder.read("Vantrel.ini") + more); }
     StartResult start(CommandLine commandLine = {}) {
-        const SettingsFile settings(desk_.folder.path(), "Vantrel.ini");
+        return startAs(desk_.folder.path("Vantrel"), desk_.folder.path(), "Vantrel.ini",
+                       commandLine);
+    }
+    StartResult startAs(const std::string& executable, const std::string& programFolder,
+                        const std::string& settingsFile, CommandLine commandLine = {}) {
+        const SettingsFile settings(desk_.folder.path(), settingsFile);
         return StartRoutine({.state = desk_.state,
                              .table = desk_.table,
                              .language = language_,
@@ -89,8 +94,8 @@ class StartRoutineTest : public testing::Test {
                              .registry = registry_,
                              .windows = windows_,
                              .commandLine = commandLine,
-                             .executable = desk_.folder.path("Vantrel"),
-                             .programFolder = desk_.folder.path()})
+                             .executable = executable,
+                             .programFolder = programFolder})
             .Main();
     }
     bool logged(const std::string& entry) const {
@@ -289,21 +294,10 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& test) { return test.param.name; });
 
 TEST_F(StartRoutineTest, ARenamedExecutableHasItsOwnSettings) {
-    const SettingsFile settings(desk_.folder.path(), settingsFileName("tool.exe"));
     desk_.folder.write("tool.ini", "[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n"
                                    "[Vantrel]\r\nPort=9\r\n");
-    StartRoutine routine({.state = desk_.state,
-                          .table = desk_.table,
-                          .language = language_,
-                          .messages = desk_.messages,
-                          .boxes = desk_.boxes,
-                          .settings = settings,
-                          .registry = registry_,
-                          .windows = windows_,
-                          .commandLine = {},
-                          .executable = "C:\\Vantrel\\tool.exe",
-                          .programFolder = desk_.folder.path()});
-    EXPECT_EQ(routine.Main(), StartResult::Running);
+    EXPECT_EQ(startAs("C:\\Vantrel\\tool.exe", desk_.folder.path(), settingsFileName("tool.exe")),
+              StartResult::Running);
     EXPECT_EQ(desk_.state.IniFileName, "tool.ini");
     EXPECT_EQ(desk_.state.Port, 9);
 }
@@ -324,20 +318,8 @@ TEST_F(StartRoutineTest, AnErrorInTheLastStepIsTrappedToo) {
 }
 
 TEST_F(StartRoutineTest, AFolderThatCannotBeEnteredIsTold) {
-    const SettingsFile settings(desk_.folder.path(), "Vantrel.ini");
     const std::string gone = desk_.folder.path("gone");
-    StartRoutine routine({.state = desk_.state,
-                          .table = desk_.table,
-                          .language = language_,
-                          .messages = desk_.messages,
-                          .boxes = desk_.boxes,
-                          .settings = settings,
-                          .registry = registry_,
-                          .windows = windows_,
-                          .commandLine = {},
-                          .executable = gone + "/Vantrel",
-                          .programFolder = gone});
-    EXPECT_EQ(routine.Main(), StartResult::Trapped);
+    EXPECT_EQ(startAs(gone + "/Vantrel", gone, "Vantrel.ini"), StartResult::Trapped);
     EXPECT_TRUE(desk_.boxes.texts()[0].starts_with("m43" + gone + ": "));
     EXPECT_TRUE(desk_.state.NoSave);
 }

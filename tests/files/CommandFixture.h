@@ -164,4 +164,10 @@ class CommandFixture : public testing::Test {
     TransferCommands commands{{state, session, panes, window, table, messages, progress, dialog}};
 };
 
+/// A single command, which leaves everything in order.
+class CommandTest : public CommandFixture {
+  protected:
+    void TearDown() override { expectLeftInOrder(); }
+};
+
 } // namespace vantrel::tests

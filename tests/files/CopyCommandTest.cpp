@@ -1,23 +1,18 @@
+#include "files/CopyCommand.h"
+
 #include "CommandFixture.h"
 #include "base/PathRules.h"
-#include "platform/Files.h"
 
 #include <gmock/gmock.h>
 
 namespace vantrel {
 namespace {
 
-using testing::Contains;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-using testing::StartsWith;
 
-class CopyCommandTest : public tests::CommandFixture {
-  protected:
-    void TearDown() override { expectLeftInOrder(); }
-};
+class CopyCommandTest : public tests::CommandTest {};
 
 TEST_F(CopyCommandTest, SentJobsArriveByteForByteAndStayOnThePC) {
     pcJob("A");
@@ -144,89 +139,6 @@ TEST_F(CopyCommandTest, WithoutASelectionNothingHappens) {
     EXPECT_THAT(progressView.pictures, IsEmpty());
 }
 
-TEST_F(CopyCommandTest, RejectedFilesOnlyGiveOneMessageEachAndLeaveTheSessionAlone) {
-    pc.write("A.TXT", "");
-    pc.write("B.CND", "");
-    robot();
-    selectOnPC({"A.TXT", "B.CND"});
-    EXPECT_TRUE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("[A.TXT] refused", "[B.CND] refused"));
-    for (const auto& box : boxes.shown)
-        EXPECT_EQ(box.icon, BoxIcon::Exclamation);
-    EXPECT_EQ(library.callCount(), 0);
-    EXPECT_EQ(window.pc.focuses, 1);
-}
-
-TEST_F(CopyCommandTest, ARejectedFileDoesNotStopTheOthers) {
-    pcJob("A");
-    pc.write("B.TXT", "");
-    pcJob("C");
-    robot();
-    selectOnPC({"A.JBI", "B.TXT", "C.JBI"});
-    EXPECT_TRUE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("[B.TXT] refused"));
-    EXPECT_THAT(robot().names(), ElementsAre("A.JBI", "C.JBI"));
-}
-
-TEST_F(CopyCommandTest, TheProgressStepsAsideForEveryMessage) {
-    pc.write("A.TXT", "");
-    robot();
-    selectOnPC({"A.TXT"});
-    std::vector<bool> visible;
-    commands.sendCopy();
-    for (const auto& picture : progressView.pictures)
-        visible.push_back(picture.visible);
-    EXPECT_THAT(visible, ElementsAre(true, false, true, false));
-}
-
-TEST_F(CopyCommandTest, ReceivingIsTestedByTheModelsUploadFlag) {
-    robot().put("A.DAT", "x");
-    showPanes();
-    window.controllerFilter = 1;
-    panes.fill(ActiveSide::Controller);
-    window.controller.click({"A.DAT"});
-    state.Controler = 1;
-    EXPECT_TRUE(commands.receiveCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("[A.DAT] refused"));
-    EXPECT_FALSE(pc.has("A.DAT"));
-    state.Controler = cygna;
-    EXPECT_TRUE(commands.receiveCopy());
-    EXPECT_TRUE(pc.has("A.DAT"));
-}
-
-TEST_F(CopyCommandTest, AFolderIsNamedAndPassedOver) {
-    pc.makeFolder("OLD.JBI");
-    pcJob("A");
-    robot();
-    selectOnPC({"OLD.JBI", "A.JBI"});
-    EXPECT_TRUE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("[OLD.JBI] is a folder"));
-    EXPECT_THAT(robot().names(), ElementsAre("A.JBI"));
-}
-
-TEST_F(CopyCommandTest, AControllersNameWithAPathInItIsRefusedByName) {
-    robot().put("C:EVIL.JBI", "x");
-    robotJob("GOOD");
-    selectOnController({"C:EVIL.JBI", "GOOD.JBI"});
-    EXPECT_TRUE(commands.receiveCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("[C:EVIL.JBI] unusable name"));
-    EXPECT_TRUE(pc.has("GOOD.JBI"));
-    EXPECT_FALSE(pc.has("C:EVIL.JBI"));
-}
-
-TEST_F(CopyCommandTest, ANameThatTheControllerCannotHaveIsRefusedByName) {
-    pc.write("한글.JBI", job("X"));
-    pc.write("A:B.JBI", job("Y"));
-    pcJob("GOOD");
-    robot();
-    selectOnPC({"한글.JBI", "A:B.JBI", "GOOD.JBI"});
-    EXPECT_TRUE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(),
-                testing::UnorderedElementsAre("[한글.JBI] not expressible",
-                                              "Transfer failed: [A:B.JBI] ( unusable name )"));
-    EXPECT_THAT(robot().names(), ElementsAre("GOOD.JBI"));
-}
-
 TEST_F(CopyCommandTest, TheSessionAsksBeforeItReplacesAJobAndNoKeepsIt) {
     pcJob("A", "new");
     pcJob("B", "new");
@@ -277,121 +189,6 @@ TEST_F(CopyCommandTest, CancelPressedBeforeTheSessionBeginsSendsNothing) {
     EXPECT_THAT(boxes.texts(), IsEmpty());
 }
 
-TEST_F(CopyCommandTest, AFailureIsReportedWithFunctionCodeTextAndIndex) {
-    for (const char* name : {"A", "B", "C"})
-        pcJob(name);
-    robot();
-    selectOnPC({"A.JBI", "B.JBI", "C.JBI"});
-    library.disturb({"BscDownLoad", 2, false, false, 2000});
-    EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(),
-                ElementsAre("Transfer failed: BscDownLoad ( line broken ) (1)\n[B.JBI]"));
-    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Exclamation);
-    EXPECT_THAT(robot().names(), ElementsAre("A.JBI")) << "a copy ends at its first failure";
-    EXPECT_THAT(window.controller.names, ElementsAre("A.JBI"));
-}
-
-TEST_F(CopyCommandTest, ACodeWithoutATextIsReportedAsItsNumber) {
-    pcJob("A");
-    robot();
-    selectOnPC({"A.JBI"});
-    library.disturb({"BscDownLoad", 1, false, false, -7});
-    EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed: BscDownLoad ( -7 ) (0)\n[A.JBI]"));
-}
-
-TEST_F(CopyCommandTest, AFailureOfOurOwnIsReportedThoughItHasNoFunction) {
-    pcJob("A");
-    robot();
-    selectOnPC({"A.JBI"});
-    ASSERT_TRUE(removeFile(pc.path("A.JBI")));
-    EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed:  ( not readable ) (0)\n[A.JBI]"));
-}
-
-TEST_F(CopyCommandTest, ADirectoryThatCannotBeReadIsReportedAsNoSuchFile) {
-    pcJob("A");
-    robotJob("OLD");
-    selectOnPC({"A.JBI"});
-    library.disturb({"BscFindFirst", 1, false, false, 2000});
-    EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("no such file"));
-    EXPECT_THAT(window.controller.names, ElementsAre("OLD.JBI"));
-}
-
-TEST_F(CopyCommandTest, ALineThatStaysDownIsReportedForTheTransferAndForTheList) {
-    pcJob("A");
-    robotJob("OLD");
-    selectOnPC({"A.JBI"});
-    library.disturb({"BscConnect", 1, true, false, 2000});
-    EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(
-        boxes.texts(),
-        ElementsAre("Transfer failed: BscConnect ( line broken ) (0)\n[A.JBI]", "not read"));
-    EXPECT_THAT(window.controller.names, ElementsAre("OLD.JBI")) << "the old list stays";
-    EXPECT_EQ(window.controllerStatus, "Controller: 1 items");
-}
-
-TEST_F(CopyCommandTest, AFailedRereadAfterAGoodTransferIsReported) {
-    pcJob("A");
-    robot();
-    selectOnPC({"A.JBI"});
-    library.disturb({"BscFindFirst", 2, false, false, 2000});
-    EXPECT_TRUE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("not read"));
-    EXPECT_TRUE(robot().has("A.JBI"));
-}
-
-TEST_F(CopyCommandTest, AnUnsetAddressGivesTheSessionsOwnMessageAndNoOther) {
-    pcJob("A");
-    robotJob("OLD");
-    selectOnPC({"A.JBI"});
-    state.TransMode = TransferMode::HispeedLink;
-    session.IPaddress = "0.0.0.0";
-    EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("address unset"));
-    window.controller.click({"OLD.JBI"});
-    EXPECT_FALSE(commands.receiveCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("address unset", "address unset"));
-}
-
-TEST_F(CopyCommandTest, AnUnsetAddressBringsUpNoStaleFailure) {
-    pcJob("A");
-    robot();
-    selectOnPC({"A.JBI"});
-    library.disturb({"BscDownLoad", 1, false, false, 2000});
-    EXPECT_FALSE(commands.sendCopy());
-    boxes.shown.clear();
-    state.TransMode = TransferMode::HispeedLink;
-    session.IPaddress = "0.0.0.0";
-    window.pc.click({"A.JBI"});
-    EXPECT_FALSE(commands.sendCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("address unset"));
-}
-
-TEST_F(CopyCommandTest, AJobThatIsGoneFromTheControllerIsAFailureOfItsUpload) {
-    robotJob("A");
-    robotJob("B");
-    selectOnController({"A.JBI", "B.JBI"});
-    robot().erase("B.JBI");
-    EXPECT_FALSE(commands.receiveCopy());
-    EXPECT_THAT(boxes.texts(),
-                ElementsAre("Transfer failed: BscUpLoad ( not on the controller ) (1)\n[B.JBI]"));
-    EXPECT_TRUE(pc.has("A.JBI"));
-    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
-}
-
-TEST_F(CopyCommandTest, AFailedReceiveLeavesTheOldPCFileAsItWas) {
-    pcJob("A", "old");
-    robotJob("A", "new");
-    selectOnController({"A.JBI"});
-    question.answers = {Answer::Yes};
-    library.disturb({"BscUpLoad", 1, false, false, 2000});
-    EXPECT_FALSE(commands.receiveCopy());
-    EXPECT_EQ(pc.read("A.JBI"), job("A", "old"));
-    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI")) << "nothing is left beside it";
-}
-
 TEST_F(CopyCommandTest, WithRelatedJobsOnEachJobIsAskedForAsOne) {
     state.JBR = true;
     robotJob("A");
@@ -405,17 +202,6 @@ TEST_F(CopyCommandTest, WithRelatedJobsOnEachJobIsAskedForAsOne) {
     EXPECT_FALSE(pc.has("A.JBI"));
     EXPECT_TRUE(pc.has("B.CND"));
     EXPECT_EQ(session.JobList(0), "A.JBR");
-}
-
-TEST_F(CopyCommandTest, TheChangedNameIsTheOneThatIsTested) {
-    program.write("FileTable.tbl", "*.JBI,1,1,1,1,1,1,1,1,1\n");
-    ASSERT_TRUE(table.load(program.path()));
-    state.JBR = true;
-    robotJob("A");
-    selectOnController({"A.JBI"});
-    EXPECT_TRUE(commands.receiveCopy());
-    EXPECT_THAT(boxes.texts(), ElementsAre("[A.JBR] refused"));
-    EXPECT_EQ(library.callCount(), 0);
 }
 
 TEST_F(CopyCommandTest, OnlyTheFirstPlaceOfTheNameIsChanged) {
@@ -435,20 +221,6 @@ TEST_F(CopyCommandTest, SendingIsNotTouchedByTheRelatedJobSetting) {
     selectOnPC({"A.JBI"});
     EXPECT_TRUE(commands.sendCopy());
     EXPECT_EQ(session.JobList(0), "A.JBI");
-}
-
-TEST_F(CopyCommandTest, APCFolderThatIsGoneIsReportedAtTheEnd) {
-    pc.write("SUB/X.TXT", "");
-    robotJob("A");
-    selectOnController({"A.JBI"});
-    ASSERT_TRUE(panes.scanPC(pc.path("SUB")));
-    panes.fill(ActiveSide::PC);
-    ASSERT_TRUE(removeFile(pc.path("SUB/X.TXT")));
-    std::filesystem::remove(pc.path("SUB"));
-    EXPECT_FALSE(commands.receiveCopy());
-    ASSERT_EQ(boxes.shown.size(), 2u);
-    EXPECT_THAT(boxes.shown[0].text, StartsWith("Transfer failed: "));
-    EXPECT_EQ(boxes.shown[1].text, "File Get Error!!");
 }
 
 } // namespace

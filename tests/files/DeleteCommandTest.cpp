@@ -10,10 +10,8 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using testing::StartsWith;
 
-class DeleteCommandTest : public tests::CommandFixture {
+class DeleteCommandTest : public tests::CommandTest {
   protected:
-    void TearDown() override { expectLeftInOrder(); }
-
     void robotJobs() {
         for (const char* name : {"A", "B", "C"})
             robotJob(name);

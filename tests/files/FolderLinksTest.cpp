@@ -1,3 +1,4 @@
+#include "files/FolderFiles.h"
 #include "files/FolderScan.h"
 #include "files/Subfolders.h"
 #include "support/TemporaryFolder.h"
@@ -21,6 +22,14 @@ TEST(FolderScan, ADanglingLinkDoesNotStopTheScan) {
     const auto listing = scanFolder(folder.path());
     ASSERT_TRUE(listing);
     EXPECT_THAT(listing->Names, UnorderedElementsAre("A.JBI", "LINK.JBI"));
+}
+
+TEST(FolderFiles, ALinkToAFolderIsNone) {
+    const tests::TemporaryFolder folder;
+    folder.write("A.JBI", "");
+    folder.makeFolder("AB");
+    std::filesystem::create_directory_symlink(folder.path("AB"), folder.path("link"));
+    EXPECT_THAT(folderFiles(folder.path()), ElementsAre("A.JBI"));
 }
 
 TEST(Subfolders, OfALinkThatLeadsBackAreReadOneLevelAtATime) {

@@ -11,10 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class MoveCommandTest : public tests::CommandFixture {
-  protected:
-    void TearDown() override { expectLeftInOrder(); }
-};
+class MoveCommandTest : public tests::CommandTest {};
 
 TEST_F(MoveCommandTest, ASentFileLeavesThePC) {
     pcJob("A");

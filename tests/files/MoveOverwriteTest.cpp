@@ -8,10 +8,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class MoveOverwriteTest : public tests::CommandFixture {
-  protected:
-    void TearDown() override { expectLeftInOrder(); }
-};
+class MoveOverwriteTest : public tests::CommandTest {};
 
 /// "COPY.JBI" replaces two jobs: the one of its own name and "A", which its name line names.
 class MoveOverTwoJobs : public MoveOverwriteTest {

@@ -8,10 +8,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class RefreshTest : public tests::CommandFixture {
-  protected:
-    void TearDown() override { expectLeftInOrder(); }
-};
+class RefreshTest : public tests::CommandTest {};
 
 TEST_F(RefreshTest, ShowsWhatIsNewOnThePCAndKeepsTheSelection) {
     pcJob("B");

@@ -192,7 +192,6 @@ inline constexpr WineDifference differsUnderWine[] = {
     {"ParametersKeepTabs", "strips tabs from names that are asked for"},
     {"SectionParameterKeepsTabs", "strips tabs from names that are asked for"},
     {"HeaderEndsAtItsFirstBracket", "takes a header's last bracket for its end"},
-    {"TextBehindTheHeaderIsIgnored", "takes no header with text behind it"},
     {"HeaderWithoutBracketRunsToTheLineEnd", "takes no header without its bracket"},
     {"Utf8MarkHidesASectionOnTheFirstLine", "knows the mark of UTF-8"},
     {"NewKeyGoesBeforeTheBlankLine", "writes a new key behind the blank line"},

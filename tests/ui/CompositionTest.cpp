@@ -1,12 +1,10 @@
 #include "ui/Composition.h"
 
 #include "ProgramWorld.h"
-#include "ui/FolderTreeDropDown.h"
 #include "ui/KeyedToolBar.h"
 #include "ui/PaneDrag.h"
 
 #include <wx/bmpbuttn.h>
-#include <wx/choice.h>
 #include <wx/menu.h>
 #include <wx/statusbr.h>
 
@@ -15,16 +13,8 @@ namespace {
 
 class CompositionTest : public testing::Test {
   protected:
-    ~CompositionTest() override {
-        world.program.reset();
-        runEvents();
-    }
-
     std::vector<std::string> names(FileListControl& list) {
-        std::vector<std::string> shown;
-        for (long item = 0; item < list.native().GetItemCount(); ++item)
-            shown.push_back(list.native().GetItemText(item).utf8_string());
-        return shown;
+        return ProgramWorld::namesIn(list.native());
     }
     FileListControl& pc() { return *world.controls().lsvPC; }
     FileListControl& controller() { return *world.controls().lsvCtrl; }
@@ -51,7 +41,8 @@ class EverythingAtOnce {
                 command(*bar, wxEVT_TOOL, tool->GetId());
         for (auto* list : {controls.lsvPC, controls.lsvCtrl})
             actOn(list->native());
-        for (auto* choice : {controls.cmbRbtName, controls.cmbPCFileType, controls.cmbCtrlFileType}) {
+        for (auto* choice :
+             {controls.cmbRbtName, controls.cmbPCFileType, controls.cmbCtrlFileType}) {
             choice->SetSelection(1);
             command(*choice, wxEVT_CHOICE, choice->GetId());
         }

@@ -7,7 +7,6 @@
 #include <map>
 
 #include <wx/menu.h>
-#include <wx/radiobut.h>
 #include <wx/statusbr.h>
 
 namespace vantrel::tests {
@@ -27,10 +26,8 @@ class EveryCommandTest : public testing::TestWithParam<const char*>, public Help
         start(true);
         modal.actOnOthers([this](wxDialog& dialog) { lookAt(dialog); });
     }
-    ~EveryCommandTest() override {
-        program.reset();
-        runEvents();
-    }
+    /// While what looks at the dialogs is still there.
+    ~EveryCommandTest() override { endProgram(); }
 
     /// Makes things so that the entry has something to do.
     void prepare(MenuItem item);

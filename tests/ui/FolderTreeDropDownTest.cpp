@@ -27,10 +27,6 @@ class FolderTreeDropDownTest : public testing::Test {
         world.folder.makeFolder("jobs/beta");
         world.start(false);
     }
-    ~FolderTreeDropDownTest() override {
-        world.program.reset();
-        runEvents();
-    }
 
     FolderTreeDropDown& tree() { return *world.controls().trvFolderList; }
     wxWindow& button() { return *world.controls().Command1; }
@@ -38,11 +34,7 @@ class FolderTreeDropDownTest : public testing::Test {
         return waitFor([&] { return wxWindow::FindFocus() == &window; });
     }
 
-    void drop() {
-        click(world.window(), "Command1");
-        runEvents();
-        ASSERT_TRUE(tree().IsShownOnScreen());
-    }
+    void drop() { world.dropFolderTree(); }
     std::vector<std::string> childrenOf(const wxTreeItemId& item) {
         std::vector<std::string> texts;
         wxTreeItemIdValue cookie = nullptr;
@@ -60,12 +52,7 @@ class FolderTreeDropDownTest : public testing::Test {
         throw std::runtime_error("no such node: " + text);
     }
     std::string selected() { return tree().GetItemText(tree().GetSelection()).utf8_string(); }
-    std::vector<std::string> pcNames() {
-        std::vector<std::string> names;
-        for (long item = 0; item < world.pcList().GetItemCount(); ++item)
-            names.push_back(world.pcList().GetItemText(item).utf8_string());
-        return names;
-    }
+    std::vector<std::string> pcNames() { return ProgramWorld::namesIn(world.pcList()); }
     std::string pathShown() { return world.controls().trvFolderName->nodeText().utf8_string(); }
 
     void mouse(const wxEventTypeTag<wxMouseEvent>& type, wxPoint at) {

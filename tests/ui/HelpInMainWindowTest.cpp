@@ -1,10 +1,7 @@
 #include "HelpWorld.h"
 #include "ui/FileViewer.h"
-#include "ui/FolderTreeDropDown.h"
-#include "ui/KeyedToolBar.h"
 
 #include <wx/bmpbuttn.h>
-#include <wx/choice.h>
 
 namespace vantrel::tests {
 namespace {
@@ -16,26 +13,17 @@ class HelpInMainWindowTest : public testing::Test, public HelpWorld {
         pcJob("A");
         robotJob("X");
     }
-    ~HelpInMainWindowTest() override {
-        program.reset();
-        runEvents();
-    }
 
     static constexpr const char* manual = "Zurolink_us.pdf";
 
     /// A press of F1 at the keyboard, with the focus in this control.
     void pressF1In(wxWindow& control) {
-        control.SetFocus();
-        ASSERT_TRUE(waitFor([&] { return control.HasFocus() || hasFocusWithin(control); }))
-            << control.GetName();
+        ASSERT_NO_FATAL_FAILURE(focus(control));
         pressKey(WXK_F1);
         ++presses_;
         EXPECT_TRUE(waitFor([this] { return opened() == openings(manual, presses_); }))
             << control.GetName() << '\n'
             << opened();
-    }
-    static bool hasFocusWithin(wxWindow& control) {
-        return control.IsDescendant(wxWindow::FindFocus());
     }
     /// Opens a dialog by its menu entry, presses F1 in it and closes it.
     void pressF1InDialogOf(MenuItem item, const std::string& closing) {
@@ -89,15 +77,14 @@ TEST_F(HelpInMainWindowTest, F1OpensItFromTheViewerAndTheFolderTree) {
     choose(*controls().lsvPC, {0});
     menu({Menu::mnuFile, 5});
     pressF1In(*controls().rtxFileDisp);
-    wxCommandEvent drop(wxEVT_BUTTON, controls().Command1->GetId());
-    controls().Command1->HandleWindowEvent(drop);
-    ASSERT_TRUE(waitFor([this] { return controls().trvFolderList->IsShown(); }));
+    ASSERT_NO_FATAL_FAILURE(dropFolderTree());
     pressF1In(*controls().trvFolderList);
 }
 
 TEST_F(HelpInMainWindowTest, F1IsConsumed) {
     start(false);
     EXPECT_TRUE(swallows(window(), WXK_F1));
+    EXPECT_TRUE(waitFor([this] { return opened() == openings(manual); })) << opened();
     EXPECT_FALSE(swallows(window(), WXK_F5));
 }
 

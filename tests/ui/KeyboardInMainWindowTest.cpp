@@ -1,12 +1,9 @@
 #include "DialogTest.h"
 #include "ProgramWorld.h"
 #include "ui/FileViewer.h"
-#include "ui/FolderTreeDropDown.h"
-#include "ui/KeyedToolBar.h"
 
 #include <gtk/gtk.h>
 #include <wx/bmpbuttn.h>
-#include <wx/choice.h>
 #include <wx/menu.h>
 
 namespace vantrel::tests {
@@ -24,15 +21,7 @@ class KeyboardInMainWindowTest : public testing::Test, public ProgramWorld {
         controls().lsvPC->focus();
         EXPECT_TRUE(waitFor([this] { return pcList().HasFocus() && window().IsActive(); }));
     }
-    ~KeyboardInMainWindowTest() override {
-        program.reset();
-        runEvents();
-    }
 
-    void focus(wxWindow& control) {
-        control.SetFocus();
-        ASSERT_TRUE(waitFor([&] { return control.HasFocus(); })) << control.GetName();
-    }
     /// The name of the control that the keyboard works in; its own parts have none.
     std::string focused() {
         auto* part = gtk_window_get_focus(GTK_WINDOW(window().GetHandle()));
@@ -98,9 +87,7 @@ TEST_F(KeyboardInMainWindowTest, F5ReadsTheActivePaneAnewFromEverywhere) {
     expectRefresh(*controls().rtxFileDisp);
     expectRefresh(*controls().cmbPCFileType);
     expectRefresh(*controls().Command1);
-    wxCommandEvent drop(wxEVT_BUTTON, controls().Command1->GetId());
-    controls().Command1->HandleWindowEvent(drop);
-    ASSERT_TRUE(waitFor([this] { return controls().trvFolderList->IsShown(); }));
+    ASSERT_NO_FATAL_FAILURE(dropFolderTree());
     expectRefresh(*controls().trvFolderList);
 }
 

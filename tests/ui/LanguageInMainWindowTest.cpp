@@ -6,8 +6,6 @@
 #include <algorithm>
 
 #include <wx/bmpbuttn.h>
-#include <wx/choice.h>
-#include <wx/listbox.h>
 #include <wx/menu.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
@@ -22,10 +20,6 @@ class LanguageInMainWindowTest : public testing::Test, public ProgramWorld {
         pcJob("A");
         robotJob("X");
     }
-    ~LanguageInMainWindowTest() override {
-        program.reset();
-        runEvents();
-    }
 
     void startIn(const std::string& language) {
         settings("TransMode=16\r\n", language);
@@ -35,16 +29,8 @@ class LanguageInMainWindowTest : public testing::Test, public ProgramWorld {
             << "the notice of the simulation";
     }
     /// Chooses a language in the dialog of the menu and leaves it by a button.
-    void chooseLanguage(const std::string& language, const std::string& button) {
-        modal.act([&](wxDialog& dialog) {
-            auto& list = control<wxListBox>(dialog, "List1");
-            ASSERT_TRUE(list.SetStringSelection(language));
-            wxCommandEvent event(wxEVT_LISTBOX, list.GetId());
-            event.SetInt(list.GetSelection());
-            event.SetEventObject(&list);
-            list.HandleWindowEvent(event);
-            click(dialog, button);
-        });
+    void changeLanguage(const std::string& language, const std::string& button = "Command1") {
+        chooseLanguage(language, button);
         menu({Menu::mnuOpt, 7});
         runEvents();
     }
@@ -102,11 +88,10 @@ class LanguageInMainWindowTest : public testing::Test, public ProgramWorld {
 TEST_F(LanguageInMainWindowTest, AnotherLanguageLooksAsIfTheProgramHadStartedInIt) {
     startIn("Japanese");
     const auto japanese = texts();
-    program.reset();
-    runEvents();
+    endProgram();
     startIn("English");
     ASSERT_NE(changes(japanese), "");
-    chooseLanguage("Japanese", "Command1");
+    changeLanguage("Japanese");
     EXPECT_EQ(changes(japanese), "");
 }
 
@@ -115,7 +100,7 @@ TEST_F(LanguageInMainWindowTest, TheViewersHeadingFollows) {
     menu({Menu::mnuFile, 5});
     const auto heading = controls().lblFile->GetLabel();
     const auto frame = controls().fraFile.box->GetLabel();
-    chooseLanguage("Japanese", "Command1");
+    changeLanguage("Japanese");
     EXPECT_NE(controls().lblFile->GetLabel(), heading);
     EXPECT_NE(controls().fraFile.box->GetLabel(), frame);
     EXPECT_TRUE(controls().fraFile.panel->IsShown());
@@ -123,7 +108,7 @@ TEST_F(LanguageInMainWindowTest, TheViewersHeadingFollows) {
 
 TEST_F(LanguageInMainWindowTest, WindowsThatOpenLaterSpeakIt) {
     startIn("English");
-    chooseLanguage("Japanese", "Command1");
+    changeLanguage("Japanese");
     for (const auto& [item, title] : {std::pair{MenuItem{Menu::mnuOpt, 0}, "設定"},
                                       {{Menu::mnuOpt, 2}, "ジョブの一括セーブ"},
                                       {{Menu::mnuVer, 0}, "バージョン情報"},
@@ -144,7 +129,7 @@ TEST_F(LanguageInMainWindowTest, WindowsThatOpenLaterSpeakIt) {
 TEST_F(LanguageInMainWindowTest, TheModeAndTheListsStayAsTheyAre) {
     startIn("English");
     const auto selected = controls().lsvPC->selectedRows();
-    chooseLanguage("Japanese", "Command1");
+    changeLanguage("Japanese");
     EXPECT_EQ(window().GetTitle(), "Vantrel  -- Hispeed Link --");
     EXPECT_EQ(controllerList().GetItemText(0), "X.JBI") << "a mode command would empty the pane";
     EXPECT_EQ(controls().lsvPC->selectedRows(), selected);
@@ -154,7 +139,7 @@ TEST_F(LanguageInMainWindowTest, TheModeAndTheListsStayAsTheyAre) {
 TEST_F(LanguageInMainWindowTest, FontsAreAppliedAgain) {
     startIn("English");
     folder.write("Vantrel.ini", folder.read("Vantrel.ini") + "[Font Info]\r\nFontSize=12\r\n");
-    chooseLanguage("English", "Command1");
+    changeLanguage("English");
     for (wxWindow* part :
          {static_cast<wxWindow*>(controls().lblFolder), static_cast<wxWindow*>(&pcList()),
           static_cast<wxWindow*>(controls().rtxFileDisp)})
@@ -165,7 +150,7 @@ TEST_F(LanguageInMainWindowTest, CancelChangesNothing) {
     startIn("English");
     const auto before = texts();
     const auto file = folder.read("Vantrel.ini");
-    chooseLanguage("Japanese", "Command2");
+    changeLanguage("Japanese", "Command2");
     EXPECT_EQ(changes(before), "");
     EXPECT_EQ(folder.read("Vantrel.ini"), file);
     EXPECT_TRUE(program->mainWindow());

@@ -14,10 +14,6 @@ class ListTransferInMainWindowTest : public testing::Test, public ProgramWorld {
         folder.write("jobs/jobs.lst", "A.JBI\r\nB.JBI\r\n");
         folder.write("jobs/VARS.LST", "B001=5\r\n");
     }
-    ~ListTransferInMainWindowTest() override {
-        program.reset();
-        runEvents();
-    }
 
     static constexpr int saveJobs = 2, loadJobs = 3, saveVariables = 4, loadVariables = 5;
 
@@ -32,12 +28,6 @@ class ListTransferInMainWindowTest : public testing::Test, public ProgramWorld {
         runEvents();
         EXPECT_TRUE(window().menus().find({Menu::mnuOpt, entry})->IsEnabled());
     }
-    std::vector<std::string> names(wxListView& list) {
-        std::vector<std::string> shown;
-        for (long item = 0; item < list.GetItemCount(); ++item)
-            shown.push_back(list.GetItemText(item).utf8_string());
-        return shown;
-    }
 };
 
 TEST_F(ListTransferInMainWindowTest, SavesJobsToThePCAndShowsThem) {
@@ -47,7 +37,7 @@ TEST_F(ListTransferInMainWindowTest, SavesJobsToThePCAndShowsThem) {
     run(saveJobs, "jobs");
     EXPECT_EQ(folder.read("jobs/A.JBI"), job("A"));
     EXPECT_EQ(folder.read("jobs/B.JBI"), job("B"));
-    EXPECT_EQ(names(pcList()), (std::vector<std::string>{"A.JBI", "B.JBI"}));
+    EXPECT_EQ(namesIn(pcList()), (std::vector<std::string>{"A.JBI", "B.JBI"}));
 }
 
 TEST_F(ListTransferInMainWindowTest, LoadsJobsIntoTheControllerAndShowsThem) {
@@ -57,7 +47,7 @@ TEST_F(ListTransferInMainWindowTest, LoadsJobsIntoTheControllerAndShowsThem) {
     run(loadJobs, "jobs.lst");
     EXPECT_EQ(folder.read("robot/A.JBI"), job("A"));
     EXPECT_EQ(folder.read("robot/B.JBI"), job("B"));
-    const auto shown = names(controllerList());
+    const auto shown = namesIn(controllerList());
     ASSERT_GE(shown.size(), 2u);
     EXPECT_EQ(shown[0], "A.JBI");
     EXPECT_EQ(shown[1], "B.JBI");

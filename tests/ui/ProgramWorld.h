@@ -1,21 +1,23 @@
 #pragma once
 
 #include "platform/Environment.h"
+#include "support/Choices.h"
 #include "support/ModalScript.h"
 #include "support/TemporaryFolder.h"
 #include "support/Windows.h"
 #include "ui/Composition.h"
 #include "ui/FileListControl.h"
+#include "ui/FolderTreeDropDown.h"
 #include "ui/MainWindowControls.h"
 #include "ui/frmZuroVant.h"
-
-#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 namespace vantrel::tests {
 
@@ -36,6 +38,9 @@ class ProgramWorld {
                                   "IPaddr=10.0.0.1\r\nPath=jobs\r\n\r\n[Robot]\r\nName=SECOND\r\n"
                                   "IPaddr=10.0.0.2\r\nPath=jobs\r\n\r\n");
     }
+    ~ProgramWorld() { endProgram(); }
+    ProgramWorld(const ProgramWorld&) = delete;
+    ProgramWorld& operator=(const ProgramWorld&) = delete;
 
     static std::string job(std::string_view name) {
         return "/JOB\r\n//NAME " + std::string(name) + "\r\nNOP\r\nEND\r\n";
@@ -57,15 +62,27 @@ class ProgramWorld {
                                         language + "\r\nLangSelect=0\r\n");
     }
 
+    StartResult startProgram() {
+        program = std::make_unique<Composition>(folder.path("Vantrel"), std::vector<std::string>{});
+        return program->start();
+    }
+    /// The next dialog asks whether to read the controller's directory.
+    void answerDirectoryQuestion(bool yes) {
+        modal.answer([yes](wxDialog&) { return yes ? wxID_YES : wxID_NO; });
+    }
     /// Starts the program and reads the controller's directory, or not, as the operator is asked.
     void start(bool readController) {
-        program = std::make_unique<Composition>(folder.path("Vantrel"), std::vector<std::string>{});
-        modal.answer([readController](wxDialog&) { return readController ? wxID_YES : wxID_NO; });
-        ASSERT_EQ(program->start(), StartResult::Running);
+        answerDirectoryQuestion(readController);
+        ASSERT_EQ(startProgram(), StartResult::Running);
         ASSERT_TRUE(waitFor([this] { return window().IsShownOnScreen(); }));
         for (wxWindow* const other : wxTopLevelWindows)
             if (other->IsShown() && other != &window())
                 other->Close(); // the version window
+        runEvents();
+    }
+    /// Without the operator's exit, and so without its questions.
+    void endProgram() {
+        program.reset();
         runEvents();
     }
 
@@ -73,6 +90,12 @@ class ProgramWorld {
     const MainWindowControls& controls() { return window().controls(); }
     wxListView& pcList() { return controls().lsvPC->native(); }
     wxListView& controllerList() { return controls().lsvCtrl->native(); }
+    static std::vector<std::string> namesIn(const wxListView& list) {
+        std::vector<std::string> names;
+        for (long item = 0; item < list.GetItemCount(); ++item)
+            names.push_back(list.GetItemText(item).utf8_string());
+        return names;
+    }
 
     /// Selects these items of a list and no others, as clicks do.
     static void choose(FileListControl& list, const std::vector<std::size_t>& rows) {
@@ -86,6 +109,29 @@ class ProgramWorld {
         wxCommandEvent event(wxEVT_MENU, MainMenus::idOf(item));
         event.SetEventObject(&window());
         window().HandleWindowEvent(event);
+    }
+    /// Gives a control the keyboard.
+    static void focus(wxWindow& control) {
+        control.SetFocus();
+        ASSERT_TRUE(waitFor([&] { return control.HasFocus(); })) << control.GetName();
+    }
+    /// Presses the button beside the path, which shows the tree of folders.
+    void dropFolderTree() {
+        click(window(), "Command1");
+        runEvents();
+        ASSERT_TRUE(controls().trvFolderList->IsShownOnScreen());
+    }
+    /// The next dialog is that of the languages: `language` is chosen there, and it is left by
+    /// `button`, OK or Cancel.
+    void chooseLanguage(const std::string& language, const std::string& button = "Command1") {
+        modal.act([language, button](wxDialog& dialog) {
+            ASSERT_EQ(dialog.GetName(), "frmLanguage");
+            auto& list = control<wxListBox>(dialog, "List1");
+            const int index = list.FindString(wxString::FromUTF8(language), true);
+            ASSERT_NE(index, wxNOT_FOUND) << language;
+            pick(list, index);
+            click(dialog, button);
+        });
     }
 
     TemporaryFolder folder;

@@ -1,9 +1,6 @@
 #include "ProgramWorld.h"
 
-#include <wx/choice.h>
-#include <wx/listbox.h>
 #include <wx/menu.h>
-#include <wx/radiobut.h>
 
 namespace vantrel::tests {
 namespace {
@@ -17,10 +14,6 @@ class SettingInMainWindowTest : public testing::Test, public ProgramWorld {
         folder.write("other/Y.JBI", job("Y"));
         pcJob("MINE");
     }
-    ~SettingInMainWindowTest() override {
-        program.reset();
-        runEvents();
-    }
 
     void openSettings(const std::function<void(wxDialog&)>& action) {
         modal.act(action);
@@ -31,31 +24,17 @@ class SettingInMainWindowTest : public testing::Test, public ProgramWorld {
         choose(*controls().lsvCtrl, {});
         menu({Menu::mnuRefresh, 0});
     }
-    std::vector<std::string> onController() {
-        std::vector<std::string> names;
-        for (long item = 0; item < controllerList().GetItemCount(); ++item)
-            names.push_back(controllerList().GetItemText(item).utf8_string());
-        return names;
-    }
+    std::vector<std::string> onController() { return namesIn(controllerList()); }
     bool showsJob(const std::string& name) {
         const auto names = onController();
         return std::find(names.begin(), names.end(), name) != names.end();
     }
     wxChoice& robots() { return *controls().cmbRbtName; }
     static void select(wxDialog& dialog, int index) {
-        auto& list = control<wxListBox>(dialog, "lstRgstRbt");
-        list.SetSelection(index);
-        wxCommandEvent event(wxEVT_LISTBOX, list.GetId());
-        event.SetInt(index);
-        event.SetEventObject(&list);
-        list.HandleWindowEvent(event);
+        pick(control<wxListBox>(dialog, "lstRgstRbt"), index);
     }
     static void model(wxDialog& dialog, int index) {
-        auto& button = control<wxRadioButton>(dialog, "optCtrl" + std::to_string(index));
-        button.SetValue(true);
-        wxCommandEvent event(wxEVT_RADIOBUTTON, button.GetId());
-        event.SetEventObject(&button);
-        button.HandleWindowEvent(event);
+        pick(control<wxRadioButton>(dialog, "optCtrl" + std::to_string(index)));
     }
 };
 

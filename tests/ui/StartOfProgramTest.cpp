@@ -2,8 +2,6 @@
 #include "support/ReadOnlyFolder.h"
 #include "ui/PathDisplay.h"
 
-#include <wx/choice.h>
-#include <wx/listbox.h>
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
 #include <wx/stattext.h>
@@ -15,16 +13,7 @@ namespace {
 /// The whole program from its start to its end, with whatever files are there.
 class StartOfProgramTest : public testing::Test, public ProgramWorld {
   protected:
-    ~StartOfProgramTest() override {
-        program.reset();
-        runEvents();
-    }
-
     void remove(const std::string& name) { std::filesystem::remove(folder.path(name)); }
-    StartResult startProgram() {
-        program = std::make_unique<Composition>(folder.path("Vantrel"), std::vector<std::string>{});
-        return program->start();
-    }
     /// The next dialog is a box whose text begins like this; boxes break their lines.
     void expectBox(const std::string& start) {
         modal.answer([start](wxDialog& dialog) {
@@ -32,22 +21,6 @@ class StartOfProgramTest : public testing::Test, public ProgramWorld {
             text.Replace("\n", " ");
             EXPECT_TRUE(text.StartsWith(wxString::FromUTF8(start))) << text;
             return wxID_OK;
-        });
-    }
-    void expectDirectoryQuestion(bool yes) {
-        modal.answer([yes](wxDialog&) { return yes ? wxID_YES : wxID_NO; });
-    }
-    /// The next dialog is that of the languages; `language` is chosen there.
-    void chooseLanguage(const std::string& language) {
-        modal.act([language](wxDialog& dialog) {
-            ASSERT_EQ(dialog.GetName(), "frmLanguage");
-            auto& list = control<wxListBox>(dialog, "List1");
-            ASSERT_TRUE(list.SetStringSelection(language));
-            wxCommandEvent event(wxEVT_LISTBOX, list.GetId());
-            event.SetInt(list.GetSelection());
-            event.SetEventObject(&list);
-            list.HandleWindowEvent(event);
-            click(dialog, "Command1");
         });
     }
     void end() {
@@ -74,7 +47,7 @@ TEST_F(StartOfProgramTest, TheFirstStartAsksForTheLanguageAndMakesItsFiles) {
     remove("Vantrel.ini");
     remove("robot.ini");
     chooseLanguage("English");
-    expectDirectoryQuestion(false);
+    answerDirectoryQuestion(false);
     ASSERT_EQ(startProgram(), StartResult::Running);
     runEvents();
     EXPECT_TRUE(folder.has("robot.ini"));
@@ -93,7 +66,7 @@ TEST_F(StartOfProgramTest, WithNothingButTheSystemsLanguageItWorks) {
         remove(name);
     remove(libraryFileName());
     chooseLanguage("System");
-    expectDirectoryQuestion(false);
+    answerDirectoryQuestion(false);
     ASSERT_EQ(startProgram(), StartResult::Running);
     runEvents();
     menu({Menu::mnuRefresh, 0});
@@ -120,7 +93,7 @@ TEST_F(StartOfProgramTest, ACancelledLanguageDialogEndsItAndWritesNothing) {
 
 TEST_F(StartOfProgramTest, ARecordedLanguageIsUsedWithoutADialog) {
     settings("TransMode=1\r\n", "Japanese");
-    expectDirectoryQuestion(false);
+    answerDirectoryQuestion(false);
     ASSERT_EQ(startProgram(), StartResult::Running);
     EXPECT_EQ(window().GetMenuBar()->GetMenuLabelText(0), wxString::FromUTF8("ファイル"));
     EXPECT_TRUE(count(0).StartsWith(wxString::FromUTF8("PC： "))) << count(0);
@@ -130,7 +103,7 @@ TEST_F(StartOfProgramTest, ARecordedLanguageThatIsGoneIsNamedAndAskedFor) {
     settings("TransMode=1\r\n", "Klingon");
     expectBox("Language file [Klingon.lng] was not found. Please select a language.");
     chooseLanguage("Japanese");
-    expectDirectoryQuestion(false);
+    answerDirectoryQuestion(false);
     ASSERT_EQ(startProgram(), StartResult::Running);
     EXPECT_EQ(window().GetMenuBar()->GetMenuLabelText(0), wxString::FromUTF8("ファイル"));
     EXPECT_NE(folder.read("Vantrel.ini").find("Language=Japanese\r\n"), std::string::npos);
@@ -139,13 +112,13 @@ TEST_F(StartOfProgramTest, ARecordedLanguageThatIsGoneIsNamedAndAskedFor) {
 TEST_F(StartOfProgramTest, TheLanguageIsAskedForAtEveryStartThatIsToldTo) {
     folder.write("Vantrel.ini", "[Language Info]\r\nLanguage=English\r\nLangSelect=1\r\n");
     chooseLanguage("English");
-    expectDirectoryQuestion(false);
+    answerDirectoryQuestion(false);
     EXPECT_EQ(startProgram(), StartResult::Running);
 }
 
 TEST_F(StartOfProgramTest, YesReadsTheDirectoryAndShowsTheVersion) {
     robotJob("X");
-    expectDirectoryQuestion(true);
+    answerDirectoryQuestion(true);
     ASSERT_EQ(startProgram(), StartResult::Running);
     EXPECT_EQ(controllerList().GetItemText(0), "X.JBI");
     EXPECT_EQ(count(1), "Controller: 1 items");
@@ -156,7 +129,7 @@ TEST_F(StartOfProgramTest, YesReadsTheDirectoryAndShowsTheVersion) {
 TEST_F(StartOfProgramTest, NoConnectsToNothingAndCountsNothing) {
     robotJob("X");
     script("1=BscOpen 1+ fail 2030");
-    expectDirectoryQuestion(false);
+    answerDirectoryQuestion(false);
     ASSERT_EQ(startProgram(), StartResult::Running);
     EXPECT_EQ(controllerList().GetItemCount(), 0);
     EXPECT_EQ(count(1), "Controller: 0 items");
@@ -167,7 +140,7 @@ TEST_F(StartOfProgramTest, ADirectoryThatCannotBeReadIsToldAndTheProgramStarts) 
     robotJob("X");
     pcJob("A");
     script("1=BscConnect 1 fail 2010");
-    expectDirectoryQuestion(true);
+    answerDirectoryQuestion(true);
     expectBox("The file list of the controller could not be read.");
     ASSERT_EQ(startProgram(), StartResult::Running);
     EXPECT_EQ(count(1), "Controller: 0 items");
@@ -183,7 +156,7 @@ TEST_F(StartOfProgramTest, RobotsWhoseFoldersAreGoneAreListedAndNamedWhenChosen)
     folder.write("robot.ini", "[Boot]\r\nName=SECOND\r\n\r\n[Robot]\r\nName=FIRST\r\n"
                               "IPaddr=10.0.0.1\r\nPath=nowhere\r\n\r\n[Robot]\r\nName=SECOND\r\n"
                               "IPaddr=10.0.0.2\r\nPath=nowhere either\r\n\r\n");
-    expectDirectoryQuestion(false);
+    answerDirectoryQuestion(false);
     ASSERT_EQ(startProgram(), StartResult::Running);
     EXPECT_EQ(controls().cmbRbtName->GetCount(), 2u);
     EXPECT_EQ(controls().cmbRbtName->GetStringSelection(), "SECOND");
@@ -198,7 +171,7 @@ TEST_F(StartOfProgramTest, AStoredFolderThatIsGoneOpensTheOneAbove) {
     folder.write("jobs/inner.txt", "");
     folder.write("Vantrel.ini", "[Vantrel]\r\nPath=" + folder.path("jobs/gone/deeper") +
                                     "\r\n[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n");
-    expectDirectoryQuestion(false);
+    answerDirectoryQuestion(false);
     expectBox("[" + folder.path("jobs/gone/deeper") + "] This folder ");
     ASSERT_EQ(startProgram(), StartResult::Running);
     EXPECT_EQ(controls().trvFolderName->GetToolTipText(), folder.path("jobs"));
@@ -211,7 +184,7 @@ TEST_F(StartOfProgramTest, InAFolderThatCannotBeWrittenItWorksAndTellsOfTheRobot
     const auto robotsBefore = folder.read("robot.ini");
     {
         const ReadOnlyFolder readOnly(folder.path());
-        expectDirectoryQuestion(true);
+        answerDirectoryQuestion(true);
         ASSERT_EQ(startProgram(), StartResult::Running);
         runEvents();
         choose(*controls().lsvPC, {0});

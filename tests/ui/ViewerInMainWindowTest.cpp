@@ -2,7 +2,6 @@
 #include "ui/FileViewer.h"
 #include "ui/KeyedToolBar.h"
 
-#include <wx/choice.h>
 #include <wx/menu.h>
 #include <wx/statbox.h>
 
@@ -12,11 +11,6 @@ namespace {
 /// The program with a folder, a job, a data file and a plain file in its PC pane, in this order.
 class ViewerInMainWindowTest : public testing::Test, public ProgramWorld {
   protected:
-    ~ViewerInMainWindowTest() override {
-        program.reset();
-        runEvents();
-    }
-
     static constexpr std::size_t folderRow = 0, jobRow = 1, dataRow = 2, plainRow = 3;
 
     void startWithFiles(const std::string& language = "English") {
@@ -26,10 +20,8 @@ class ViewerInMainWindowTest : public testing::Test, public ProgramWorld {
         folder.write("jobs/C.TXT", "plain");
         settings("TransMode=1\r\n", language);
         start(true);
-        controls().cmbPCFileType->SetSelection(int(controls().cmbPCFileType->GetCount()) - 1);
-        wxCommandEvent chosen(wxEVT_CHOICE, controls().cmbPCFileType->GetId());
-        chosen.SetEventObject(controls().cmbPCFileType);
-        controls().cmbPCFileType->HandleWindowEvent(chosen);
+        auto& filter = *controls().cmbPCFileType;
+        pick(filter, int(filter.GetCount()) - 1);
         choose(*controls().lsvPC, {jobRow});
     }
     void press() {

@@ -2,11 +2,11 @@
 
 #include "DialogTest.h"
 #include "LanguageWorld.h"
+#include "support/Choices.h"
 #include "support/ModalScript.h"
 
 #include <gmock/gmock.h>
 #include <wx/fontdlg.h>
-#include <wx/listbox.h>
 #include <wx/statbmp.h>
 
 namespace vantrel::tests {
@@ -36,13 +36,6 @@ class frmLanguageTest : public DialogInLanguage {
 
     wxListBox& list() { return control<wxListBox>(dialog, "List1"); }
     bool hasPicture() { return control<wxStaticBitmap>(dialog, "Picture1").GetBitmap().IsOk(); }
-    void choose(int index, wxEventType how = wxEVT_LISTBOX) {
-        list().SetSelection(index);
-        wxCommandEvent event(how, list().GetId());
-        event.SetInt(index);
-        event.SetEventObject(&list());
-        list().HandleWindowEvent(event);
-    }
     LanguageWorld world;
     LanguageDraft draft = [this] {
         world.state.LanguageName = language();
@@ -71,7 +64,7 @@ TEST_P(frmLanguageTest, ShowsTheLanguagesAndTheCurrentOne) {
 
 TEST_P(frmLanguageTest, AClickChoosesAndOKTakesIt) {
     whileModal(dialog, [&] {
-        choose(0);
+        pick(list(), 0);
         EXPECT_EQ(world.state.LanguageName, "English");
         tick(dialog, "Check1", true);
         click(dialog, "Command1");
@@ -83,8 +76,8 @@ TEST_P(frmLanguageTest, AClickChoosesAndOKTakesIt) {
 
 TEST_P(frmLanguageTest, ADoubleClickIsOK) {
     whileModal(dialog, [&] {
-        choose(1);
-        choose(1, wxEVT_LISTBOX_DCLICK);
+        pick(list(), 1);
+        pick(list(), 1, wxEVT_LISTBOX_DCLICK);
     });
     EXPECT_EQ(world.messages.getMessage(1), "Japanese");
 }
@@ -93,7 +86,7 @@ TEST_P(frmLanguageTest, CancelEscAndCloseBoxPutTheLanguageBack) {
     for (const int way : {0, 1, 2}) {
         world.state.LangCancelled = false;
         whileModal(dialog, [&] {
-            choose(2);
+            pick(list(), 2);
             if (way == 0)
                 click(dialog, "Command2");
             else if (way == 1)
@@ -108,7 +101,7 @@ TEST_P(frmLanguageTest, CancelEscAndCloseBoxPutTheLanguageBack) {
 
 TEST_P(frmLanguageTest, ALanguageThatCannotBeReadKeepsTheDialogOpen) {
     whileModal(dialog, [&] {
-        choose(0);
+        pick(list(), 0);
         std::filesystem::remove(world.program.path("English.lng"));
         click(dialog, "Command1");
         EXPECT_TRUE(dialog.IsModal());
@@ -118,22 +111,22 @@ TEST_P(frmLanguageTest, ALanguageThatCannotBeReadKeepsTheDialogOpen) {
 }
 
 TEST_P(frmLanguageTest, ALanguageWithoutAnIconShowsAnEmptyPicture) {
-    choose(2);
+    pick(list(), 2);
     EXPECT_EQ(world.state.LanguageName, "Klingon");
     EXPECT_FALSE(hasPicture());
-    choose(0);
+    pick(list(), 0);
     EXPECT_TRUE(hasPicture());
 }
 
 TEST_P(frmLanguageTest, AnIconFileBesideTheLanguageIsItsPicture) {
     world.program.write("Klingon.ico", smallIcon());
-    choose(2);
+    pick(list(), 2);
     EXPECT_TRUE(hasPicture());
 }
 
 TEST_P(frmLanguageTest, ADamagedIconIsNoPicture) {
     world.program.write("Klingon.ico", "no icon at all");
-    choose(2);
+    pick(list(), 2);
     EXPECT_FALSE(hasPicture());
 }
 

@@ -36,7 +36,7 @@ long styleOf(BoxIcon icon) {
     case BoxIcon::None:
         break;
     }
-    return wxICON_NONE;
+    return noIconStyle;
 }
 
 } // namespace

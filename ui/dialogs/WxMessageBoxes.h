@@ -14,8 +14,12 @@ class MessageTable;
 // The native box of GTK 3 shows no icon, so there the toolkit's own is taken.
 #ifdef __WXGTK__
 using MessageBox = wxGenericMessageDialog;
+/// Style of a box without an icon. The toolkit's own box asks for an icon of any style that it has,
+/// the one of none included.
+inline constexpr long noIconStyle = 0;
 #else
 using MessageBox = wxMessageDialog;
+inline constexpr long noIconStyle = wxICON_NONE;
 #endif
 
 /// The system's own message boxes, with the language's words on their buttons. They work before

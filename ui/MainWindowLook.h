@@ -1,0 +1,22 @@
+#pragma once
+
+#include "base/ApplicationState.h"
+
+namespace vantrel {
+
+struct CommandStates;
+struct MainWindowControls;
+struct ModeLook;
+
+/// Dims and presses the tool bars' buttons, and dims all that a running operation locks; the menus
+/// have their own states.
+void showCommandStates(const MainWindowControls& controls, const CommandStates& states);
+
+/// Shows the heading of the serial line or of the robot, and colours the highlights. What was
+/// placed while it was hidden is to be placed again.
+void showTransferMode(const MainWindowControls& controls, const ModeLook& look);
+
+/// Turns the arrow from the active pane to the other one, and highlights the active one only.
+void showActivePane(const MainWindowControls& controls, ActiveSide side);
+
+} // namespace vantrel
