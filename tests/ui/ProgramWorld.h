@@ -2,6 +2,7 @@
 
 #include "platform/Environment.h"
 #include "support/Choices.h"
+#include "support/CurrentFolderKept.h"
 #include "support/ModalScript.h"
 #include "support/TemporaryFolder.h"
 #include "support/Windows.h"
@@ -134,6 +135,7 @@ class ProgramWorld {
         });
     }
 
+    CurrentFolderKept currentFolder;
     TemporaryFolder folder;
     ModalScript modal;
     std::unique_ptr<Composition> program;
