@@ -2,6 +2,7 @@
 
 #include "app/ListFileWindow.h"
 #include "base/ApplicationState.h"
+#include "base/Text.h"
 #include "files/CommandOutcome.h"
 #include "files/CommandScopes.h"
 #include "files/PaneRefresh.h"
@@ -21,6 +22,14 @@ namespace {
 /// The step of a directory that could not be read; its index counts what was read.
 constexpr const char* directoryStep = "BscFind";
 
+/// Blank lines of a variable list are entries as well.
+bool holdsVariables(const Snappy& session) {
+    for (std::int32_t index = 0; index < session.VarListCount(); ++index)
+        if (!trimmed(session.VarList(index)).empty())
+            return true;
+    return false;
+}
+
 std::string inParentheses(std::int32_t number) {
     return " ( " + std::to_string(number) + " )";
 }
@@ -32,13 +41,17 @@ void ListTransferCommands::mnuOpt(int index) {
                   loadVariablesEntry = 5;
     switch (index) {
     case saveJobsEntry:
-        return run("0", message::saveJobsTitle, &ListTransferCommands::saveJobs);
+        return run(list_file_mark::saveJobs, message::saveJobsTitle,
+                   &ListTransferCommands::saveJobs);
     case loadJobsEntry:
-        return run("1", message::loadJobsTitle, &ListTransferCommands::loadJobs);
+        return run(list_file_mark::loadJobs, message::loadJobsTitle,
+                   &ListTransferCommands::loadJobs);
     case saveVariablesEntry:
-        return run("2", message::saveVariablesTitle, &ListTransferCommands::saveVariables);
+        return run(list_file_mark::saveVariables, message::saveVariablesTitle,
+                   &ListTransferCommands::saveVariables);
     case loadVariablesEntry:
-        return run("3", message::loadVariablesTitle, &ListTransferCommands::loadVariables);
+        return run(list_file_mark::loadVariables, message::loadVariablesTitle,
+                   &ListTransferCommands::loadVariables);
     default:
         return;
     }
@@ -46,7 +59,7 @@ void ListTransferCommands::mnuOpt(int index) {
 
 /// A list in a locked window cannot take the focus, so that comes after the lock.
 void ListTransferCommands::run(std::string_view mode, std::int32_t title, Transfer transfer) {
-    if (!dialog_.readList(mode))
+    if (!dialog_.readList(mode) || !holdsSomething(mode))
         return;
     {
         const PaneRefresh refresh(with_);
@@ -54,6 +67,17 @@ void ListTransferCommands::run(std::string_view mode, std::int32_t title, Transf
         refresh.refreshTouched(showProgress(title, transfer));
     }
     with_.window.list(with_.state.Active).focus();
+}
+
+bool ListTransferCommands::holdsSomething(std::string_view mode) const {
+    const bool isForJobs = mode == list_file_mark::saveJobs || mode == list_file_mark::loadJobs;
+    if (isForJobs ? with_.session.JobListCount() > 0 : holdsVariables(with_.session))
+        return true;
+    const auto& file = isForJobs ? with_.state.JobListFile : with_.state.VarListFile;
+    with_.dialog.tell(with_.messages.getMessage(message::listFileEmpty) + '[' + shownText(file) +
+                          ']',
+                      BoxIcon::Exclamation);
+    return false;
 }
 
 CommandOutcome ListTransferCommands::showProgress(std::int32_t title, Transfer transfer) {

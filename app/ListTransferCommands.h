@@ -29,6 +29,8 @@ class ListTransferCommands {
     using Transfer = CommandOutcome (ListTransferCommands::*)(const CommandProgress&);
 
     void run(std::string_view mode, std::int32_t title, Transfer transfer);
+    /// Tells the operator of a list without entries.
+    bool holdsSomething(std::string_view mode) const;
     CommandOutcome showProgress(std::int32_t title, Transfer transfer);
     CommandOutcome saveJobs(const CommandProgress& progress);
     CommandOutcome loadJobs(const CommandProgress& progress);

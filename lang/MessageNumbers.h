@@ -19,7 +19,7 @@ inline constexpr std::int32_t kindRefused = 8;            ///< after [name]
 inline constexpr std::int32_t deleteFailed = 9;           ///< then the function that failed
 inline constexpr std::int32_t askDeleteOnPC = 10;         ///< after [name]
 inline constexpr std::int32_t askDeleteOnController = 11; ///< after [name]
-inline constexpr std::int32_t folderNotOpened = 12; ///< then [folder]
+inline constexpr std::int32_t folderNotOpened = 12;       ///< then [folder]
 inline constexpr std::int32_t askExit = 13;
 inline constexpr std::int32_t countPC = 14;         ///< then the count, then `countEnd`
 inline constexpr std::int32_t countController = 15; ///< then the count, then `countEnd`
@@ -58,12 +58,13 @@ inline constexpr std::int32_t listFileNotWritten = 54; ///< then [file name] or 
 inline constexpr std::int32_t folderGone = 55;         ///< after [folder]
 inline constexpr std::int32_t localJobPassedOver = 56; ///< after [name]
 inline constexpr std::int32_t nothingToPrint = 57;
-inline constexpr std::int32_t printFailed = 58; ///< then [name]
+inline constexpr std::int32_t printFailed = 58;             ///< then [name]
 inline constexpr std::int32_t editorNotStarted = 59;        ///< after [file name]
 inline constexpr std::int32_t libraryFunctionsMissing = 60; ///< then the names
 inline constexpr std::int32_t oldFileKept = 61;             ///< after [name], then [other name]
 inline constexpr std::int32_t nameIsAmbiguous = 62;         ///< after [name]
 inline constexpr std::int32_t partialFileKept = 63;         ///< after [name]
+inline constexpr std::int32_t listFileEmpty = 64;           ///< then [file name]
 
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;
@@ -159,7 +160,6 @@ inline constexpr std::int32_t applySettings = 324;
 // Buttons that several windows share; none has a mnemonic.
 inline constexpr std::int32_t ok = 325;
 inline constexpr std::int32_t cancel = 326;
-inline constexpr std::int32_t close = 327;
 
 // What the settings dialog's check finds.
 inline constexpr std::int32_t robotWithoutName = 330;
@@ -173,8 +173,7 @@ inline constexpr std::int32_t languageTitle = 340;
 inline constexpr std::int32_t ignoreLanguageSelection = 341;
 inline constexpr std::int32_t editLanguageFile = 342;
 inline constexpr std::int32_t chooseFont = 343;
-inline constexpr std::int32_t languageFileNotRead = 344; ///< then the reason
-inline constexpr std::int32_t languageNotRecorded = 345; ///< then the reason
+inline constexpr std::int32_t languageFileNotRead = 344; ///< then [file name] and the reason
 
 // Other windows.
 inline constexpr std::int32_t executionMessage = 350; ///< the start message's title

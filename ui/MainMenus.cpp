@@ -163,8 +163,10 @@ wxMenuItem* MainMenus::find(MenuItem item) const {
 }
 
 void MainMenus::applyCaptions(const MessageTable& messages) {
+    // The toolkit takes an empty caption for a mistake.
     const auto caption = [&messages](MenuItem item) {
-        return toWx(messages.getMessage(menuMessage(item).value_or(-1)));
+        const auto text = messages.getMessage(menuMessage(item).value_or(-1));
+        return text.empty() ? wxString(" ") : toWx(text);
     };
     for (std::size_t index = 0; index < tops_.size(); ++index)
         bar_->SetMenuLabel(index, caption(tops_[index].item));

@@ -101,6 +101,18 @@ TEST_P(EachListTransfer, AsksInItsModeBeforeTheWindowIsLocked) {
     EXPECT_THAT(boxes.texts(), IsEmpty());
 }
 
+TEST_P(EachListTransfer, AListThatHoldsNothingIsTold) {
+    for (const std::string lines : {"", "\r\n  \r\n\r\n"}) {
+        boxes.shown.clear();
+        list(lines);
+        run(GetParam().entry);
+        EXPECT_THAT(boxes.texts(), ElementsAre(messages.getMessage(64) + "[LIST.LST]"));
+        EXPECT_EQ(pc.read("LIST.LST"), lines);
+    }
+    EXPECT_THAT(library.trace(), IsEmpty());
+    EXPECT_EQ(window.locks, 0);
+}
+
 TEST_P(EachListTransfer, ACancelledDialogTransfersNothing) {
     list(GetParam().lines);
     listFile.name.clear();

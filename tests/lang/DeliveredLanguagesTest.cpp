@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <set>
@@ -67,6 +68,42 @@ std::set<std::int32_t> constantsIn(std::string_view header) {
     for (auto at = header.find(start); at != header.npos; at = header.find(start, at + 1))
         values.insert(leadingInteger32(header.substr(header.find('=', at) + 1)));
     return values;
+}
+
+/// The names of the whole-number constants that a header defines.
+std::vector<std::string> constantNamesIn(std::string_view header) {
+    constexpr std::string_view start = "inline constexpr std::int32_t ";
+    std::vector<std::string> names;
+    for (auto at = header.find(start); at != header.npos; at = header.find(start, at + 1)) {
+        const auto name = header.substr(at + start.size());
+        names.emplace_back(name.substr(0, name.find(' ')));
+    }
+    return names;
+}
+
+/// The program's own sources, one text.
+std::string programSources() {
+    std::string sources;
+    for (const char* room : {"lang", "link", "files", "app", "ui"})
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(
+                 std::filesystem::path(VANTREL_SOURCE_FOLDER) / room))
+            if (entry.path().extension() == ".cpp")
+                sources += contentOf(entry.path().string());
+    return sources;
+}
+
+TEST(MessageNumbers, AreAllUsedByTheProgram) {
+    const auto sources = programSources();
+    const auto names = constantNamesIn(header("lang/MessageNumbers.h"));
+    EXPECT_GT(names.size(), 100U);
+    for (const auto& name : names) {
+        auto at = sources.find("::" + name);
+        while (at != sources.npos &&
+               std::isalnum(static_cast<unsigned char>(
+                   sources[std::min(at + 2 + name.size(), sources.size() - 1)])))
+            at = sources.find("::" + name, at + 1);
+        EXPECT_NE(at, sources.npos) << name;
+    }
 }
 
 /// Every number that has a name in the program; the names are read from the header itself, so that

@@ -1,5 +1,6 @@
 #include "base/Text.h"
 #include "lang/LanguageFile.h"
+#include "lang/MessageNumbers.h"
 #include "platform/Files.h"
 #include "support/NamedRow.h"
 
@@ -16,6 +17,7 @@ namespace vantrel {
 namespace {
 
 using testing::Contains;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using tests::NamedRow;
 
@@ -58,6 +60,63 @@ struct Manual : NamedRow {
     const char* pictures;
 };
 
+constexpr int resourceOffset = 500;
+constexpr int firstControllerCode = 1000;
+
+/// Every number that has a name in the program, as it stands in the language files.
+std::set<int> namedNumbers() {
+    const auto header = contentOf("lang/MessageNumbers.h");
+    const auto resources = header.find("namespace resource {");
+    EXPECT_NE(resources, header.npos);
+    std::set<int> numbers;
+    const auto add = [&numbers](const std::string& part, int offset) {
+        for (const auto& constant : matches(part, R"(constexpr std::int32_t \w+ = (\d+);)"))
+            numbers.insert(std::stoi(constant[1]) + offset);
+    };
+    add(header.substr(0, resources), 0);
+    add(header.substr(resources), resourceOffset);
+    return numbers;
+}
+
+constexpr int ofResource(int number) {
+    return number + resourceOffset;
+}
+
+/// From the first number to the last: what stands in windows, menus and title bars. Every other
+/// number is told in a message box or asked in one, a new one too until it is listed here.
+constexpr std::pair<int, int> captionNumbers[] = {
+    {message::title, message::title},
+    {message::transferTitle, message::transferTitle},
+    {message::countPC, message::countEnd},
+    {message::saveJobsTitle, message::versionHeading},
+    {message::simulationNotice, message::simulationNotice},
+    {message::listFileHint, message::listFileHint},
+    {message::waitingForController, message::progressOf},
+    {message::menuFile, message::applySettings},
+    {message::ok, message::cancel},
+    {message::languageTitle, message::chooseFont},
+    {message::executionMessage, message::tipFolderTree},
+    {ofResource(message::resource::transferring), ofResource(message::resource::deleting)},
+    {ofResource(message::resource::yes), ofResource(message::resource::cancel)}};
+
+bool isCaption(int number) {
+    return std::ranges::any_of(captionNumbers, [number](const auto& range) {
+        return number >= range.first && number <= range.second;
+    });
+}
+
+/// The start of a message that no language file holds, and where the program has it.
+struct FixedMessage {
+    const char* text;
+    const char* source;
+};
+
+constexpr FixedMessage fixedMessages[] = {{"File Get Error!!", "files/PaneErrors.h"},
+                                          {"File Dispaly Error!!", "files/PaneErrors.h"},
+                                          {"Start Error.", "app/StartRoutine.cpp"},
+                                          {"Language File Read Error.", "lang/LanguageChoice.cpp"},
+                                          {"Error(", "app/RobotFileReader.cpp"}};
+
 constexpr Manual manuals[] = {{{"English"}, "Zurolink_us.adoc", "English.lng", "en"},
                               {{"Japanese"}, "Zurolink_jp.adoc", "Japanese.lng", "ja"}};
 
@@ -85,16 +144,26 @@ class ManualText : public testing::TestWithParam<Manual> {
         return all;
     }
 
+    /// What stands there as a message of the program, without the quotation marks around it.
+    std::set<std::string> quotedMessages() const {
+        std::set<std::string> quoted;
+        for (const auto& words : matches(text_, R"(\[\.msg\]#+([^#]+)#)"))
+            quoted.insert(replaced(words[1], "\"|「|」", ""));
+        return quoted;
+    }
+
     bool isKeyOf(const std::string& key, const std::string& words) const {
         return std::ranges::any_of(entries_, [&](const MessageEntry& entry) {
             return shown(entry.Text2) == words && keyOf(entry.Text2) == key;
         });
     }
 
-    std::string shownText(int number) const {
+    std::string messageText(int number) const {
         const auto found = std::ranges::find(entries_, number, &MessageEntry::MsgNo);
-        return found == entries_.end() ? std::string{} : shown(found->Text2);
+        return found == entries_.end() ? std::string{} : found->Text2;
     }
+
+    std::string shownText(int number) const { return shown(messageText(number)); }
 
     const std::string text_ = textOf(GetParam());
     const std::vector<MessageEntry> entries_ =
@@ -117,10 +186,27 @@ TEST_P(ManualText, QuotesOnlyMessagesThatTheProgramGives) {
     std::set<std::string> texts;
     for (const auto& entry : entries_)
         texts.emplace(trimmed(entry.Text2));
-    const auto quoted = matches(text_, R"(\[\.msg\]#+([^#]+)#)");
-    EXPECT_GT(quoted.size(), 20U);
+    for (const auto& message : fixedMessages)
+        texts.emplace(message.text);
+    const auto quoted = quotedMessages();
+    EXPECT_GT(quoted.size(), 80U);
     for (const auto& words : quoted)
-        EXPECT_TRUE(texts.contains(replaced(words[1], "\"|「|」", ""))) << words[1];
+        EXPECT_TRUE(texts.contains(words)) << words;
+}
+
+TEST_P(ManualText, QuotesEveryMessageThatIsToldInABox) {
+    const auto quoted = quotedMessages();
+    for (const auto number : namedNumbers())
+        EXPECT_TRUE(isCaption(number) || quoted.contains(std::string(trimmed(messageText(number)))))
+            << number;
+}
+
+TEST_P(ManualText, QuotesTheMessagesThatHaveNoTranslation) {
+    const auto quoted = quotedMessages();
+    for (const auto& message : fixedMessages) {
+        EXPECT_THAT(contentOf(message.source), HasSubstr(std::string("\"") + message.text));
+        EXPECT_THAT(quoted, Contains(message.text));
+    }
 }
 
 TEST_P(ManualText, GivesEveryMenuEntryItsKeys) {
@@ -143,22 +229,42 @@ TEST_P(ManualText, NamesEveryAcceleratorOfTheMenus) {
     EXPECT_THAT(accelerators, testing::Not(IsEmpty()));
     const auto listed = tables("keys");
     for (const auto& accelerator : accelerators)
-        EXPECT_THAT(listed, testing::HasSubstr("|`" + accelerator[1] + "`"));
+        EXPECT_THAT(listed, HasSubstr("|`" + accelerator[1] + "`"));
 }
 
-TEST_P(ManualText, ExplainsEveryErrorCodeOfOurOwn) {
+TEST_P(ManualText, NamesEveryKeyOfTheSettings) {
+    const auto listed = tables("keys");
+    for (const int number :
+         {message::receiveRelatedJobs, message::showJobHeader, message::keepNoSettings}) {
+        const auto row =
+            replaced(listed, "［|］", "")
+                .find("|`Alt+" + keyOf(messageText(number)) + "` |**" + shownText(number) + "**\n");
+        EXPECT_NE(row, std::string::npos) << number;
+    }
+    const auto models =
+        matches(contentOf("files/ControllerModels.cpp"), R"-(\{"(\w)(\w*)", false)-");
+    EXPECT_THAT(models, testing::SizeIs(6));
+    for (const auto& model : models)
+        EXPECT_THAT(listed, HasSubstr("`Alt+" + model[1] + "` " + model[1] + model[2]));
+    for (const char* key : {"`Ctrl+Tab`", "`Ctrl+Shift+Tab`", "`Ctrl+PageDown`", "`Ctrl+PageUp`"})
+        EXPECT_THAT(listed, HasSubstr(key));
+}
+
+TEST_P(ManualText, ExplainsEveryErrorCodeThatHasAText) {
     std::set<int> explained;
-    for (const auto& row : matches(tables("codes"), R"(\|(\d+) \|\[\.msg\]#+([^#]+)#)")) {
+    for (const auto& row : matches(tables("codes"), R"(\|(-?\d+) \|\[\.msg\]#+([^#]+)#+ \|\S)")) {
         const int code = std::stoi(row[1]);
-        EXPECT_EQ(row[2], shownText(code < 1000 ? code + 500 : code));
+        EXPECT_EQ(row[2], messageText(code < firstControllerCode ? ofResource(code) : code));
         explained.insert(code);
     }
-    for (const auto& entry : entries_) {
-        const int code = entry.MsgNo - 500;
-        const bool isButton = code >= 30 && code <= 33;
-        const bool isOurs = code >= 20 && code < 40 && !isButton;
-        EXPECT_TRUE(!isOurs || explained.contains(code)) << code;
-    }
+    const auto named = namedNumbers();
+    std::set<int> codes;
+    for (const auto& entry : entries_)
+        if (entry.MsgNo >= firstControllerCode)
+            codes.insert(entry.MsgNo);
+        else if (!named.contains(entry.MsgNo))
+            codes.insert(entry.MsgNo - resourceOffset);
+    EXPECT_EQ(explained, codes);
 }
 
 TEST_P(ManualText, NamesOnlyPicturesThatAreThereAndSmall) {
@@ -176,7 +282,7 @@ TEST(Manuals, HaveTheSameStructureInBothLanguages) {
         std::vector<std::string> parts;
         const auto text = contentOf(std::string("docs/manual/") + manual.file);
         for (const auto& part :
-             matches(text, R"((?:^|\n)(={2,} |\[#.+\]|\[.*%header|image::[^\[]+|\|\d+ ))"))
+             matches(text, R"((?:^|\n)(={2,} |\[#.+\]|\[.*%header|image::[^\[]+|\|-?\d+ ))"))
             parts.push_back(part[1]);
         return parts;
     };

@@ -36,10 +36,7 @@ constexpr const char* requiredKeys[] = {"FileCopy",
                                         "open",
                                         "vantrel",
                                         "arrowToController",
-                                        "arrowToPC",
-                                        "languageEnglish",
-                                        "languageJapanese",
-                                        "languageSystem"};
+                                        "arrowToPC"};
 
 /// How many pixels of an icon differ clearly from a tool bar of this grey.
 int visiblePixels(const wxBitmap& bitmap, unsigned char grey) {

@@ -81,6 +81,17 @@ TEST_F(StartOfProgramTest, WithNothingButTheSystemsLanguageItWorks) {
     EXPECT_TRUE(folder.has("robot.ini"));
 }
 
+TEST_F(StartOfProgramTest, ALanguageFileWithoutTextsLeavesTheCaptionsEmpty) {
+    folder.write("English.lng", "no text at all\r\n");
+    pcJob("A");
+    answerDirectoryQuestion(false);
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    runEvents();
+    const auto* const copy = window().menus().find({Menu::mnuFile, 0});
+    EXPECT_EQ(copy->GetItemLabelText().Strip(wxString::both), "");
+    ProgramWorld::choose(*controls().lsvPC, {0});
+}
+
 TEST_F(StartOfProgramTest, ACancelledLanguageDialogEndsItAndWritesNothing) {
     remove("Vantrel.ini");
     remove("robot.ini");

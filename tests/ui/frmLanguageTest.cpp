@@ -2,11 +2,13 @@
 
 #include "DialogTest.h"
 #include "LanguageWorld.h"
+#include "platform/Files.h"
 #include "support/Choices.h"
 #include "support/ModalScript.h"
 
 #include <gmock/gmock.h>
 #include <wx/fontdlg.h>
+#include <wx/iconbndl.h>
 #include <wx/statbmp.h>
 
 namespace vantrel::tests {
@@ -40,6 +42,8 @@ class frmLanguageTest : public DialogInLanguage {
     LanguageDraft draft = [this] {
         world.state.LanguageName = language();
         world.program.write("Klingon.lng", "Start:\n");
+        for (const char* icon : {"English.ico", "Japanese.ico", "System.ico"})
+            world.program.write(icon, *readFile(std::string(VANTREL_DATA_FOLDER "/") + icon));
         return LanguageDraft(world.services());
     }();
     frmLanguage dialog{nullptr, draft, messages, world.state};
@@ -116,6 +120,19 @@ TEST_P(frmLanguageTest, ALanguageWithoutAnIconShowsAnEmptyPicture) {
     EXPECT_FALSE(hasPicture());
     pick(list(), 0);
     EXPECT_TRUE(hasPicture());
+    std::filesystem::remove(world.program.path("Japanese.ico"));
+    pick(list(), 1);
+    EXPECT_FALSE(hasPicture());
+}
+
+TEST_P(frmLanguageTest, TheDeliveredLanguagesHaveCrispPictures) {
+    for (const int index : {0, 1, 3}) {
+        pick(list(), index);
+        ASSERT_TRUE(hasPicture()) << world.state.LanguageName;
+        const wxIconBundle sizes(wxString::FromUTF8(draft.iconPath()), wxBITMAP_TYPE_ICO);
+        for (const int size : {48, 72, 96}) // at 100, 150 and 200 %
+            EXPECT_TRUE(sizes.GetIconOfExactSize(size).IsOk()) << size;
+    }
 }
 
 TEST_P(frmLanguageTest, AnIconFileBesideTheLanguageIsItsPicture) {

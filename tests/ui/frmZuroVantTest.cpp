@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, MainWindowTest, bothLanguages, languageName)
 TEST_P(MainWindowTest, EveryCaptionHasAText) {
     for (const auto& caption : menuCaptions()) {
         const auto* entry = window.menus().find(caption.item);
-        EXPECT_TRUE(!entry || !entry->GetItemLabelText().empty()) << caption.message;
+        EXPECT_TRUE(!entry || !entry->GetItemLabelText().Strip().empty()) << caption.message;
     }
     for (std::size_t top = 0; top < window.GetMenuBar()->GetMenuCount(); ++top)
         EXPECT_GT(window.GetMenuBar()->GetMenuLabelText(top).length(), 1u) << top;

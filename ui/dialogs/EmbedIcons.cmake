@@ -1,6 +1,6 @@
-# Writes OUTPUT, a C++ source with one raw string literal per drawing of the folder ICONS, sorted by
-# key; see ui/dialogs/IconDrawings.h.
-file(GLOB drawings "${ICONS}/*.svg")
+# Writes OUTPUT, a C++ source with one raw string literal per file of DRAWINGS, a list with "|"
+# between, sorted by key; see ui/dialogs/IconDrawings.h.
+string(REPLACE "|" ";" drawings "${DRAWINGS}")
 list(SORT drawings)
 
 set(rows "")

@@ -5,11 +5,11 @@
 set(VANTREL_EMBED_ICONS_SCRIPT "${CMAKE_CURRENT_LIST_DIR}/EmbedIcons.cmake")
 
 function(vantrel_embed_icons target)
-    set(icons "${PROJECT_SOURCE_DIR}/data/icons")
     set(generated "${CMAKE_CURRENT_BINARY_DIR}/IconDrawings.cpp")
-    file(GLOB drawings CONFIGURE_DEPENDS "${icons}/*.svg")
+    file(GLOB drawings CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/data/icons/*.svg")
+    list(JOIN drawings "|" names)
     add_custom_command(OUTPUT "${generated}"
-        COMMAND "${CMAKE_COMMAND}" "-DICONS=${icons}" "-DOUTPUT=${generated}"
+        COMMAND "${CMAKE_COMMAND}" "-DDRAWINGS=${names}" "-DOUTPUT=${generated}"
                 -P "${VANTREL_EMBED_ICONS_SCRIPT}"
         DEPENDS ${drawings} "${VANTREL_EMBED_ICONS_SCRIPT}"
         COMMENT "Embedding the icons"

@@ -100,33 +100,28 @@ bool LanguageDraft::confirm() {
     auto& state = services_.state;
     const auto read = services_.files.readInto(state.LanguageName, services_.messages);
     if (!read) {
-        services_.boxes.tell(bracketed(state.LanguageName + ".lng") + ' ' + read.reason(),
+        services_.boxes.tell(services_.messages.getMessage(message::languageFileNotRead) +
+                                 bracketed(state.LanguageName + ".lng") + ' ' + read.reason(),
                              BoxIcon::Exclamation);
         return false;
     }
     state.LangSelect = ignoreAtStart_ ? 0 : 1;
-    if (const auto recorded = record(); !recorded)
-        services_.boxes.tell(bracketed(services_.settingsPath) + ' ' + recorded.reason(),
-                             BoxIcon::Exclamation);
+    record();
     return true;
 }
 
-/// A value that the settings file cannot express does not keep the others out of it.
-Outcome LanguageDraft::record() const {
+/// As everywhere, settings that cannot be written are not reported: the choice counts until the
+/// program ends. A value that the file cannot express does not keep the others out of it.
+void LanguageDraft::record() const {
     const auto& state = services_.state;
     ProfileFile settings(services_.settingsPath);
-    const std::array outcomes{
-        settings.set("Language Info", "Language", state.LanguageName),
-        settings.set("Language Info", "LangSelect", std::to_string(state.LangSelect)),
-        settings.set("Font Info", "FontName", state.FontName),
-        settings.set("Font Info", "FontBOLD", booleanText(state.FontBold)),
-        settings.set("Font Info", "FontItalic", booleanText(state.FontItalic)),
-        settings.set("Font Info", "FontSize", std::to_string(state.FontSize)),
-        settings.save()};
-    for (const auto& outcome : outcomes)
-        if (!outcome)
-            return outcome;
-    return Done{};
+    settings.set("Language Info", "Language", state.LanguageName);
+    settings.set("Language Info", "LangSelect", std::to_string(state.LangSelect));
+    settings.set("Font Info", "FontName", state.FontName);
+    settings.set("Font Info", "FontBOLD", booleanText(state.FontBold));
+    settings.set("Font Info", "FontItalic", booleanText(state.FontItalic));
+    settings.set("Font Info", "FontSize", std::to_string(state.FontSize));
+    settings.save();
 }
 
 void LanguageDraft::abandon() {

@@ -65,13 +65,13 @@ class LanguageDraft {
     void edit() const;
 
     /// Reads the chosen language and records the choice. False, after telling why, when the
-    /// language file cannot be read; a choice that cannot be recorded is told but still counts.
+    /// language file cannot be read.
     bool confirm();
     void abandon();
 
   private:
     void pickInitialLanguage();
-    Outcome record() const;
+    void record() const;
 
     LanguageServices services_;
     std::vector<std::string> languages_;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/ListFileWindow.h"
+
 #include <string>
 #include <string_view>
 
@@ -10,13 +12,8 @@ class MessageBoxes;
 class MessageTable;
 class Snappy;
 
-/// Marks of the list-file dialog: what its list is for ("0" to "3", set by the caller), and how it
-/// ended.
+/// How the list-file dialog ended.
 namespace list_file_mark {
-inline constexpr std::string_view saveJobs = "0";      ///< from the controller to the PC
-inline constexpr std::string_view loadJobs = "1";      ///< from the PC to the controller
-inline constexpr std::string_view saveVariables = "2"; ///< from the controller to the PC
-inline constexpr std::string_view loadVariables = "3"; ///< from the PC to the controller
 inline constexpr std::string_view listRead = "1";
 inline constexpr std::string_view listNotRead = "0";
 } // namespace list_file_mark

@@ -143,9 +143,7 @@ void frmLanguage::refresh() {
 
 void frmLanguage::refreshIcon() {
     const auto path = draft_.iconPath();
-    const wxSize size(pictureSize, pictureSize);
-    Picture1_->SetBitmap(path.empty() ? icon("language" + state_.LanguageName, size)
-                                      : bitmapOf(path));
+    Picture1_->SetBitmap(path.empty() ? wxBitmapBundle() : bitmapOf(path));
     Layout();
 }
 
