@@ -1,9 +1,10 @@
 #include "ui/FileListControl.h"
 
 #include "files/PaneRows.h"
-#include "ui/FieldBorder.h"
 #include "ui/IconSet.h"
 
+#include <wx/dcclient.h>
+#include <wx/renderer.h>
 #include <wx/sizer.h>
 #include <wx/wupdlock.h>
 
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int largeIconSize = 32;
 constexpr int smallIconSize = 16;
+constexpr int edgeWidth = 2; ///< around a sunken list, device-independent pixels
 // In pixels at 96 dpi; what the settings' default column widths come to.
 constexpr std::array<int, FileListControl::columnCount> builtInWidths{93, 47, 100};
 
@@ -80,10 +82,13 @@ ListView listView(std::int16_t displayType) {
 }
 
 FileListControl::FileListControl(wxWindow* parent, const wxString& name)
-    : wxPanel(parent), listName_(name) {
+    : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+              wxTAB_TRAVERSAL | wxFULL_REPAINT_ON_RESIZE),
+      listName_(name) {
     for (std::size_t column = 0; column < columnCount; ++column)
         widths_[column] = FromDIP(builtInWidths[column]);
     SetSizer(new wxBoxSizer(wxVERTICAL));
+    Bind(wxEVT_PAINT, &FileListControl::paintEdge, this);
     createList();
 }
 
@@ -96,15 +101,24 @@ FileListControl::~FileListControl() {
 }
 
 void FileListControl::createList() {
-    list_ =
-        new NativeList(this, viewStyle(view_) | wxLC_AUTOARRANGE | fieldBorder, listName_, rows_);
+    const bool isFlat = appearance_ == Appearance::Flat;
+    const long border = isFlat ? wxBORDER_SIMPLE : wxBORDER_NONE;
+    list_ = new NativeList(this, viewStyle(view_) | wxLC_AUTOARRANGE | border, listName_, rows_);
     list_->SetFont(GetFont());
     list_->SetNormalImages(kindIcons(largeIconSize));
     list_->SetSmallImages(kindIcons(smallIconSize));
     addColumns();
     bindEvents();
-    GetSizer()->Add(list_, 1, wxEXPAND);
+    GetSizer()->Add(list_, 1, wxEXPAND | wxALL, isFlat ? 0 : FromDIP(edgeWidth));
     Layout();
+}
+
+/// The systems' lists have no border of their own that looks sunken in every theme; their text
+/// fields have.
+void FileListControl::paintEdge(wxPaintEvent&) {
+    wxPaintDC dc(this);
+    if (appearance_ == Appearance::ThreeDimensional)
+        wxRendererNative::Get().DrawTextCtrl(this, dc, GetClientRect());
 }
 
 void FileListControl::addColumns() {
@@ -116,8 +130,8 @@ void FileListControl::addColumns() {
     }
 }
 
-void FileListControl::setView(ListView view) {
-    if (view == view_)
+void FileListControl::setView(ListView view, Appearance appearance) {
+    if (view == view_ && appearance == appearance_)
         return;
     const auto selected = selectedRows();
     const bool hadFocus = list_->HasFocus();
@@ -125,6 +139,7 @@ void FileListControl::setView(ListView view) {
     const wxWindowUpdateLocker frozen(this);
     list_->Destroy();
     view_ = view;
+    appearance_ = appearance;
     createList();
     fillItems();
     select(selected);

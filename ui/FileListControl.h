@@ -13,6 +13,9 @@
 
 namespace vantrel {
 
+/// How a list's border looks.
+enum class Appearance { Flat = 0, ThreeDimensional = 1 };
+
 /// The views of a pane's list, by the number that the settings store.
 enum class ListView { LargeIcons = 0, SmallIcons = 1, List = 2, Details = 3 };
 
@@ -30,8 +33,10 @@ class FileListControl : public wxPanel, public PaneList {
     FileListControl(wxWindow* parent, const wxString& name);
     ~FileListControl() override;
 
-    void setView(ListView view);
+    void setView(ListView view) { setView(view, appearance_); }
+    void setView(ListView view, Appearance appearance);
     ListView view() const { return view_; }
+    Appearance appearance() const { return appearance_; }
     void setColumnTitles(const std::array<wxString, columnCount>& titles);
     /// Pixels; a width of 0 keeps the built-in one.
     void setColumnWidths(const std::array<int, columnCount>& widths);
@@ -69,6 +74,7 @@ class FileListControl : public wxPanel, public PaneList {
 
   private:
     void createList();
+    void paintEdge(wxPaintEvent& event);
     void bindEvents();
     void bindPresses(wxWindow& window);
     void addColumns();
@@ -82,6 +88,7 @@ class FileListControl : public wxPanel, public PaneList {
     wxListView* list_ = nullptr;
     wxString listName_;
     ListView view_ = ListView::List;
+    Appearance appearance_ = Appearance::ThreeDimensional;
     std::array<wxString, columnCount> titles_;
     std::array<int, columnCount> widths_;
     bool filling_ = false;

@@ -313,7 +313,13 @@ void frmZuroVant::showFolder(const std::string& path) {
 }
 
 void frmZuroVant::showView(ActiveSide side, std::int16_t displayType) {
-    pane(side).setView(listView(displayType));
+    const ListView view = listView(displayType);
+    // The controller's list keeps its appearance in every view.
+    if (side == ActiveSide::PC)
+        pane(side).setView(view, view == ListView::Details ? Appearance::Flat
+                                                           : Appearance::ThreeDimensional);
+    else
+        pane(side).setView(view);
 }
 
 void frmZuroVant::selectAll(ActiveSide side) {

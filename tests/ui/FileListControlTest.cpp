@@ -45,6 +45,18 @@ TEST_P(FileListControlTest, ShowsTheRowsInTheirOrder) {
     EXPECT_EQ(list.native().GetItemText(3), "C.TXT");
 }
 
+TEST_P(FileListControlTest, KeepsItsRowsWhenItsAppearanceChanges) {
+    list.select({1, 2});
+    for (const auto appearance : {Appearance::Flat, Appearance::ThreeDimensional}) {
+        list.setView(GetParam(), appearance);
+        EXPECT_EQ(list.appearance(), appearance);
+        const bool fillsThePanel = list.native().GetSize() == list.GetClientSize();
+        EXPECT_EQ(fillsThePanel, appearance == Appearance::Flat);
+        EXPECT_EQ(list.view(), GetParam());
+        EXPECT_THAT(list.selectedRows(), ElementsAre(1u, 2u));
+    }
+}
+
 TEST_P(FileListControlTest, SelectsTheFirstRowAfterAFill) {
     EXPECT_THAT(list.selectedRows(), ElementsAre(0u));
     EXPECT_EQ(list.focusedRow(), 0);

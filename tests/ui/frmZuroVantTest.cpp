@@ -75,6 +75,16 @@ TEST_P(MainWindowTest, EveryCaptionHasAText) {
         EXPECT_FALSE(label->GetLabel().empty()) << label->GetName();
 }
 
+TEST_P(MainWindowTest, OnlyThePCsDetailsAreFlat) {
+    for (const std::int16_t view : {3, 0, 3, 1, 3, 2, 3}) {
+        window.showView(ActiveSide::PC, view);
+        EXPECT_EQ(controls.lsvPC->appearance(),
+                  view == 3 ? Appearance::Flat : Appearance::ThreeDimensional);
+        window.showView(ActiveSide::Controller, view);
+        EXPECT_EQ(controls.lsvCtrl->appearance(), Appearance::ThreeDimensional);
+    }
+}
+
 TEST_P(MainWindowTest, NoLabelIsCutOff) {
     for (auto* label : {controls.lblPCFileType, controls.lblCtrlFileType, controls.lblFolder,
                         controls.lblSerial, controls.lblRbtName, controls.lblIPaddr})
