@@ -9,6 +9,8 @@
 #include "ui/MainWindowControls.h"
 #include "ui/PathDisplay.h"
 
+#include <algorithm>
+
 #include <wx/bmpbuttn.h>
 #include <wx/choice.h>
 #include <wx/statbmp.h>
@@ -38,7 +40,8 @@ class Placer {
     /// For a control whose height is the system's: centred in its row.
     void inRow(wxWindow* control, const Rectangle& place) const {
         auto row = pixels(place);
-        const int height = control->GetBestSize().GetHeight();
+        // A control that has only just been shown may still ask for the height of its last font.
+        const int height = std::max(control->GetBestSize().y, control->GetCharHeight());
         row.y += (row.height - height) / 2;
         row.height = height;
         control->SetSize(row);

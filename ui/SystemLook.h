@@ -1,5 +1,6 @@
 #pragma once
 
+class wxBitmapBundle;
 class wxSize;
 class wxString;
 class wxTreeCtrl;
@@ -13,6 +14,9 @@ void prepareSystem();
 /// Adjusts the system's look for the whole program, once, before the first window: the main window
 /// is laid out for controls as dense as on the PCs that stand beside robots.
 void applySystemLook();
+
+/// The picture that the system's own boxes show beside a question.
+wxBitmapBundle questionPicture();
 
 /// How much larger than usual the operator has texts shown, beyond the scale of the whole desktop;
 /// 1 for not at all.

@@ -4,6 +4,7 @@
 
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
+#include <wx/artprov.h>
 #include <wx/treectrl.h>
 #include <wx/window.h>
 
@@ -44,6 +45,10 @@ double textScale() {
     constexpr double usual = 96; // dots per inch
     const double resolution = gdk_screen_get_resolution(gdk_screen_get_default());
     return resolution > 0 ? resolution / usual : 1;
+}
+
+wxBitmapBundle questionPicture() {
+    return wxArtProvider::GetBitmapBundle(wxART_QUESTION, wxART_MESSAGE_BOX);
 }
 
 void allowNarrow(wxWindow& button) {

@@ -1,5 +1,7 @@
 #include "ui/SystemLook.h"
 
+#include <wx/bmpbndl.h>
+#include <wx/iconbndl.h>
 #include <wx/msw/private.h>
 #include <wx/treectrl.h>
 #include <wx/window.h>
@@ -23,6 +25,13 @@ void applySystemLook() {}
 // The resolution of a window says it already.
 double textScale() {
     return 1;
+}
+
+// The toolkit takes the system's picture for help, which is another one on some systems.
+wxBitmapBundle questionPicture() {
+    wxIcon icon;
+    icon.CreateFromHICON(::CopyIcon(::LoadIconW(nullptr, IDI_QUESTION)));
+    return wxBitmapBundle::FromIconBundle(wxIconBundle(icon));
 }
 
 void allowNarrow(wxWindow& /*button*/) {}

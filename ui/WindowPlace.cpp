@@ -5,6 +5,8 @@
 #include "app/Twips.h"
 #include "app/WindowLayout.h"
 
+#include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include <wx/display.h>
@@ -26,28 +28,69 @@ wxRect onAScreen(const wxRect& wished) {
     return {place.left, place.top, place.width, place.height};
 }
 
+wxRect withinItsScreen(const wxTopLevelWindow& window, wxRect rect) {
+    const int index = wxDisplay::GetFromWindow(&window);
+    if (index == wxNOT_FOUND)
+        return rect;
+    const wxRect screen = wxDisplay(unsigned(index)).GetClientArea();
+    rect.width = std::min(rect.width, screen.width);
+    rect.height = std::min(rect.height, screen.height);
+    rect.x = std::clamp(rect.x, screen.x, screen.GetRight() + 1 - rect.width);
+    rect.y = std::clamp(rect.y, screen.y, screen.GetBottom() + 1 - rect.height);
+    return rect;
+}
+
+wxSize pixels(WindowSize twips, int resolution) {
+    return {pixelsFromTwips(twips.width, resolution), pixelsFromTwips(twips.height, resolution)};
+}
+
 } // namespace
 
-WindowPlace::WindowPlace(wxTopLevelWindow& window, const std::array<std::int32_t, 8>& stored)
-    : window_(window), stored_(stored) {
+WindowPlace::WindowPlace(wxTopLevelWindow& window) : window_(window) {
     settleTimer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
-        settled_ = Settled{window_.ClientToScreen(wxPoint(0, 0)), window_.GetSize()};
+        if (window_.IsShown())
+            settled_ = Settled{window_.ClientToScreen(wxPoint(0, 0)), window_.GetSize()};
     });
 }
 
-void WindowPlace::put(int resolution) {
-    const auto pixels = [resolution](double twips) { return pixelsFromTwips(twips, resolution); };
-    const auto size = [&pixels](WindowSize twips) {
-        return wxSize(pixels(twips.width), pixels(twips.height));
+void WindowPlace::put(const std::array<std::int32_t, 8>& stored, int resolution) {
+    stored_ = stored;
+    const wxPoint corner(pixelsFromTwips(stored[0], resolution),
+                         pixelsFromTwips(stored[1], resolution));
+    putAt({corner, pixels(atLeastMinimum({double(stored[2]), double(stored[3])}), resolution)},
+          resolution);
+}
+
+void WindowPlace::resize(const WindowPlacement& now, int resolution) {
+    if (!now.isNormal)
+        return;
+    const wxRect wished(window_.GetPosition(),
+                        pixels(atLeastMinimum({now.width, now.height}), resolution));
+    const wxRect outer = withinItsScreen(window_, wished);
+    const auto twips = [resolution](int length) {
+        return std::int32_t(std::lround(twipsFromPixels(length, resolution)));
     };
-    window_.SetMinSize(size(minimumSize));
-    const wxSize wished = size(atLeastMinimum({double(stored_[2]), double(stored_[3])}));
-    const wxRect stored(wxPoint(pixels(stored_[0]), pixels(stored_[1])), wished);
-    const wxRect outer = onAScreen(stored);
+    const auto whole = [](double width) { return std::int32_t(std::lround(width)); };
+    stored_ = {twips(outer.x),
+               twips(outer.y),
+               outer.width == wished.width ? whole(now.width) : twips(outer.width),
+               outer.height == wished.height ? whole(now.height) : twips(outer.height),
+               whole(now.columnWidths[0]),
+               whole(now.columnWidths[1]),
+               whole(now.columnWidths[2]),
+               stored_[7]};
+    putAt(outer, resolution);
+}
+
+void WindowPlace::putAt(const wxRect& place, int resolution) {
+    settled_.reset();
+    settleTimer_.Stop();
+    window_.SetMinSize(pixels(minimumSize, resolution));
+    const wxRect outer = onAScreen(place);
     moveTo(outer);
     // From a place that was brought back no change is counted: what is seen is what is stored.
     constexpr int settleTime = 1000; // milliseconds
-    if (outer == stored)
+    if (outer == place)
         settleTimer_.StartOnce(settleTime);
 }
 
@@ -67,6 +110,9 @@ WindowPlacement WindowPlace::placement(int resolution,
     // What only the window manager has adjusted is nobody's wish: the stored numbers stay, or the
     // window would drift with every start.
     const auto wished = [&](int change, int now, std::size_t index) {
+        // Until then the numbers of the window itself may be those of before.
+        if (settleTimer_.IsRunning())
+            return double(stored_.at(index));
         if (!settled_)
             return twips(now, index);
         return stored_.at(index) + twipsFromPixels(change, resolution);

@@ -16,12 +16,14 @@ struct WindowPlacement;
 /// Where a window stands: puts it at its stored place and says where the operator has moved it.
 class WindowPlace {
   public:
-    /// `stored` in twips: left, top, width, height and three column widths; it outlives this.
-    WindowPlace(wxTopLevelWindow& window, const std::array<std::int32_t, 8>& stored);
+    explicit WindowPlace(wxTopLevelWindow& window);
 
-    /// At the stored place, on a screen that is there, not smaller than a window may be.
-    /// `resolution` in pixels per inch.
-    void put(int resolution);
+    /// At the stored place, on a screen that is there, not smaller than a window may be. `stored`
+    /// in twips: left, top, width, height and three column widths; `resolution` in pixels per inch.
+    void put(const std::array<std::int32_t, 8>& stored, int resolution);
+    /// The size in twips stays while the resolution changes, and so does the upper left corner, as
+    /// far as the screen has room.
+    void resize(const WindowPlacement& now, int resolution);
     /// The place in twips, with these widths of columns in pixels. Numbers that nobody changed are
     /// the stored ones.
     WindowPlacement placement(int resolution, const std::array<int, 3>& columnWidths) const;
@@ -34,10 +36,11 @@ class WindowPlace {
         wxSize size;
     };
 
+    void putAt(const wxRect& place, int resolution);
     void moveTo(const wxRect& outer);
 
     wxTopLevelWindow& window_;
-    const std::array<std::int32_t, 8>& stored_;
+    std::array<std::int32_t, 8> stored_{};
     std::optional<Settled> settled_;
     wxTimer settleTimer_;
 };

@@ -8,6 +8,7 @@
 #include "files/FolderPath.h"
 #include "lang/MessageTable.h"
 #include "link/ShownText.h"
+#include "ui/CaptionRoom.h"
 #include "ui/ChoiceKeys.h"
 #include "ui/FileListControl.h"
 #include "ui/FileViewer.h"
@@ -48,7 +49,7 @@ frmZuroVant::frmZuroVant(ApplicationState& state, const MessageTable& messages,
     : wxFrame(nullptr, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
               wxDEFAULT_FRAME_STYLE, "frmZuroVant"),
       state_(state), messages_(messages), guard_(guard), controls_(*this), menus_(*this),
-      drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard), place_(*this, state.WindowPos) {
+      drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard), place_(*this) {
     SetIcons(programIcons());
     // No help for menu entries in the panel that shows the PC's count.
     SetStatusBarPane(-1);
@@ -73,10 +74,26 @@ wxChoice& frmZuroVant::filter(ActiveSide side) const {
 }
 
 int frmZuroVant::dpi() const {
+    return int(std::lround(designDpi() * captionRoom_));
+}
+
+int frmZuroVant::designDpi() const {
     // Device-independent pixels are 96 to the inch; a scaled desktop counts in them already. Larger
     // texts need as much more room: an inch is what the operator's texts take it for.
     constexpr int designResolution = 96;
     return int(std::lround(FromDIP(designResolution) * textScale()));
+}
+
+void frmZuroVant::makeRoomForCaptions() {
+    const double room = captionRoom(controls_, designDpi());
+    const bool isResized = room != captionRoom_ && placed_;
+    const WindowPlacement now = isResized ? placement() : WindowPlacement{};
+    captionRoom_ = room;
+    if (isResized) {
+        place_.resize(now, dpi());
+        setColumnWidths(now.columnWidths);
+    }
+    lay();
 }
 
 void frmZuroVant::bindEvents() {
@@ -255,25 +272,30 @@ void frmZuroVant::yield() {
 void frmZuroVant::applyFont() {
     applyCaptionFont(*this, state_);
     controls_.rtxFileDisp->setFontSize(captionFont(state_).GetPointSize());
+    makeRoomForCaptions();
 }
 
 void frmZuroVant::applyCaptions() {
     const wxWindowUpdateLocker frozen(this);
     menus_.applyCaptions(messages_);
     captionControls(controls_, messages_);
-    lay();
+    makeRoomForCaptions();
 }
 
 void frmZuroVant::place(const std::array<std::int32_t, 8>& positions) {
-    const int resolution = dpi();
-    place_.put(resolution);
-    std::array<int, FileListControl::columnCount> widths{};
+    place_.put(positions, dpi());
     constexpr std::size_t firstWidth = 4;
-    for (std::size_t column = 0; column < widths.size(); ++column)
-        widths.at(column) = pixelsFromTwips(positions.at(firstWidth + column), resolution);
-    pane(ActiveSide::PC).setColumnWidths(widths);
+    setColumnWidths({double(positions[firstWidth]), double(positions[firstWidth + 1]),
+                     double(positions[firstWidth + 2])});
     placed_ = true;
     lay();
+}
+
+void frmZuroVant::setColumnWidths(const std::array<double, 3>& twips) {
+    std::array<int, FileListControl::columnCount> pixels{};
+    for (std::size_t column = 0; column < pixels.size(); ++column)
+        pixels.at(column) = pixelsFromTwips(twips.at(column), dpi());
+    pane(ActiveSide::PC).setColumnWidths(pixels);
 }
 
 WindowPlacement frmZuroVant::placement() const {

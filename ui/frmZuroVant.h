@@ -84,7 +84,12 @@ class frmZuroVant : public wxFrame,
   private:
     FileListControl& pane(ActiveSide side) const;
     wxChoice& filter(ActiveSide side) const;
+    /// Pixels per inch that the window is laid out with.
     int dpi() const;
+    int designDpi() const;
+    /// Larger captions get a larger window, as far as the screen goes.
+    void makeRoomForCaptions();
+    void setColumnWidths(const std::array<double, 3>& twips);
     void bindEvents();
     void close(wxCloseEvent& event);
     void bindPane(ActiveSide side);
@@ -104,6 +109,7 @@ class frmZuroVant : public wxFrame,
     WindowPlace place_;
     MainCommands* commands_ = nullptr;
     bool placed_ = false;
+    double captionRoom_ = 1; ///< what the design's lengths are multiplied by
     bool closesWhenUnlocked_ = false;
 };
 

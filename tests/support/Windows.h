@@ -118,7 +118,11 @@ inline std::string cutOffCaptions(wxWindow& window) {
         const bool shortensItself = child->HasFlag(wxST_ELLIPSIZE_MIDDLE | wxST_ELLIPSIZE_END);
         const bool hasCaption = dynamic_cast<wxStaticText*>(child) ||
                                 dynamic_cast<wxButton*>(child) || dynamic_cast<wxCheckBox*>(child);
-        const auto best = child->GetBestSize(), size = child->GetSize();
+        auto best = child->GetBestSize();
+        // The toolkit may still ask for the size of the last font; it measures a little otherwise.
+        if (const auto* const text = dynamic_cast<wxStaticText*>(child))
+            best.IncTo(text->GetTextExtent(text->GetLabelText().BeforeFirst('\n')) * 9 / 10);
+        const auto size = child->GetSize();
         const bool tooSmall = best.x > size.x || best.y > size.y;
         // A page is placed by its book, in the book's own coordinates.
         const bool sticksOut =

@@ -53,6 +53,33 @@ TEST_P(frmSettingTest, ShowsItsCaptionsAndCutsNoneOff) {
     });
 }
 
+class frmSettingFontTest : public frmSettingTest {
+  protected:
+    bool showsWhole(const char* name, const char* text) {
+        const auto& field = box(name);
+        return field.GetSizeFromTextSize(field.GetTextExtent(text)).x <= field.GetSize().x;
+    }
+};
+
+TEST_P(frmSettingFontTest, LargerCaptionsCutNothingOff) {
+    state.FontSize = 16;
+    state.FontBold = true;
+    state.Port = 256;
+    whileModal(dialog(), [&] {
+        for (std::size_t page = 0; page < pages().GetPageCount(); ++page) {
+            pages().SetSelection(page);
+            expectNothingCutOff(dialog());
+            saveScreenshot(dialog(), "settings-large-" + std::to_string(page) + "-" + language());
+            for (const char* name : {"txtIP1", "txtIP2", "txtIP3", "txtIP4"})
+                EXPECT_TRUE(page > 0 || showsWhole(name, "255")) << name;
+            EXPECT_TRUE(page != 1 || showsWhole("txtPort", "COM256"));
+        }
+        click(dialog(), "cmdCancel");
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(In, frmSettingFontTest, bothLanguages, languageName);
+
 TEST_P(frmSettingTest, OpensWithTheCurrentRobotAndNothingEdited) {
     EXPECT_THAT(robotNames(), ElementsAre("LINE1 WELD", "LINE2"));
     EXPECT_EQ(robots().GetSelection(), 0);

@@ -1,6 +1,7 @@
 #include "ui/dialogs/DialogSize.h"
 
 #include <wx/sizer.h>
+#include <wx/textctrl.h>
 #include <wx/toplevel.h>
 
 namespace vantrel {
@@ -11,6 +12,11 @@ void fitToContents(wxTopLevelWindow& window) {
     // The smallest size is set as well, not only the size: on X11 the window manager's frame is
     // known after the window is shown, and its height would be taken off the contents.
     window.GetSizer()->SetSizeHints(&window);
+}
+
+void makeRoomFor(wxTextCtrl& field, const char* longestText) {
+    const int text = field.GetTextExtent(longestText).x + field.GetCharWidth();
+    field.SetMinSize(wxSize(field.GetSizeFromTextSize(text).x, -1));
 }
 
 } // namespace vantrel

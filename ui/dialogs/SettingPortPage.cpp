@@ -5,6 +5,7 @@
 #include "lang/MessageTable.h"
 #include "ui/SystemLook.h"
 #include "ui/dialogs/CaptionButton.h"
+#include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/WxText.h"
 
 #include <algorithm>
@@ -21,7 +22,6 @@ namespace vantrel {
 namespace {
 
 /// Device-independent pixels.
-constexpr int fieldWidth = 120;
 constexpr int gap = 8;
 
 struct ListRow {
@@ -72,8 +72,12 @@ SettingPortPage::SettingPortPage(wxWindow* parent, SerialDraft& serial,
     refresh();
 }
 
+void SettingPortPage::fitFields() {
+    makeRoomFor(*txtPort_, "COM32767"); // what a settings file may hold
+}
+
 wxSizer* SettingPortPage::buildPort(wxWindow* box, const MessageTable& messages) {
-    txtPort_ = new wxTextCtrl(box, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(fieldWidth, -1)),
+    txtPort_ = new wxTextCtrl(box, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
                               wxTE_READONLY | wxTE_PROCESS_ENTER, wxDefaultValidator, "txtPort");
     udcPort_ = new wxSpinButton(box, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                                 wxSP_VERTICAL | wxSP_ARROW_KEYS, "udcPort");

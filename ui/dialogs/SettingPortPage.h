@@ -26,6 +26,9 @@ class SettingPortPage : public wxPanel {
     /// Called after every edit of the operator.
     std::function<void()> onEdited;
 
+    /// Gives the port's box the width that its text asks for in its font.
+    void fitFields();
+
   private:
     wxSizer* buildPort(wxWindow* box, const MessageTable& messages);
     wxChoice* buildList(wxWindow* box, SerialList list, const MessageTable& messages);

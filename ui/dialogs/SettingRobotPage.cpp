@@ -7,6 +7,7 @@
 #include "link/ShownText.h"
 #include "ui/SystemLook.h"
 #include "ui/dialogs/CaptionButton.h"
+#include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/FolderChoicePanel.h"
 #include "ui/dialogs/WxText.h"
 
@@ -23,8 +24,7 @@ namespace vantrel {
 namespace {
 
 /// Device-independent pixels.
-constexpr int listWidth = 150;
-constexpr int partWidth = 44;
+constexpr int listCharacters = 22; ///< of a robot's name, as wide as an average one
 constexpr int gap = 8;
 
 bool isEnter(const wxKeyEvent& event) {
@@ -43,9 +43,9 @@ wxStaticBoxSizer* newFrame(wxWindow* parent, const std::string& caption, const c
     return frame;
 }
 
-wxTextCtrl* newBox(wxWindow* parent, const char* name, const wxSize& size) {
-    return new wxTextCtrl(parent, wxID_ANY, "", wxDefaultPosition, size, wxTE_PROCESS_ENTER,
-                          wxDefaultValidator, name);
+wxTextCtrl* newBox(wxWindow* parent, const char* name) {
+    return new wxTextCtrl(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                          wxTE_PROCESS_ENTER, wxDefaultValidator, name);
 }
 
 } // namespace
@@ -64,13 +64,19 @@ SettingRobotPage::SettingRobotPage(wxWindow* parent, RobotListDraft& robots,
     refresh();
 }
 
+void SettingRobotPage::fitFields() {
+    lstRgstRbt_->SetMinSize(wxSize(listCharacters * lstRgstRbt_->GetCharWidth(), -1));
+    for (auto* const part : txtIP_)
+        makeRoomFor(*part, "000");
+}
+
 wxSizer* SettingRobotPage::buildList(const MessageTable& messages) {
     auto* const frame =
         newFrame(this, messages.getMessage(message::registeredRobots), "frmRgstRbt");
     auto* const box = frame->GetStaticBox();
-    lstRgstRbt_ =
-        new wxListBox(box, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(listWidth, -1)), 0, nullptr,
-                      wxLB_SINGLE | wxLB_NEEDED_SB, wxDefaultValidator, "lstRgstRbt");
+    lstRgstRbt_ = new wxListBox(
+        box, wxID_ANY, wxDefaultPosition, wxSize(listCharacters * GetCharWidth(), -1), 0, nullptr,
+        wxLB_SINGLE | wxLB_NEEDED_SB | wxLB_HSCROLL, wxDefaultValidator, "lstRgstRbt");
     setAccessibleName(*lstRgstRbt_, toWx(messages.getMessage(message::registeredRobots)));
     cmdAdd_ = {newCaptionButton(box, messages.getMessage(message::insertAfter), "cmdAdd0"),
                newCaptionButton(box, messages.getMessage(message::insertBefore), "cmdAdd1")};
@@ -104,7 +110,7 @@ wxSizer* SettingRobotPage::buildFields(wxWindow* box, const MessageTable& messag
     auto* const fields = new wxFlexGridSizer(2, FromDIP(wxSize(gap, gap)));
     fields->AddGrowableCol(1);
     fields->Add(label(message::settingsRobotName, "lblRbtName"), wxSizerFlags().CentreVertical());
-    txtRbtName_ = newBox(box, "txtRbtName", wxDefaultSize);
+    txtRbtName_ = newBox(box, "txtRbtName");
     fields->Add(txtRbtName_, wxSizerFlags().Expand());
     fields->Add(label(message::settingsIPAddress, "lblIPaddr"), wxSizerFlags().CentreVertical());
 
@@ -114,7 +120,7 @@ wxSizer* SettingRobotPage::buildFields(wxWindow* box, const MessageTable& messag
         if (part > 0)
             address->Add(new wxStaticText(box, wxID_ANY, "."),
                          wxSizerFlags().Bottom().Border(wxLEFT | wxRIGHT, FromDIP(3)));
-        txtIP_[part] = newBox(box, names[part], FromDIP(wxSize(partWidth, -1)));
+        txtIP_[part] = newBox(box, names[part]);
         setAccessibleName(*txtIP_[part], toWx(messages.getMessage(message::settingsIPAddress) +
                                               " " + std::to_string(part + 1)));
         address->Add(txtIP_[part]);

@@ -27,6 +27,8 @@ class SettingRobotPage : public wxPanel {
     /// Called after every edit of the operator.
     std::function<void()> onEdited;
 
+    /// Gives the list and the address boxes the widths that their texts ask for in their font.
+    void fitFields();
     /// Shows the draft: list, selection and the selected robot's fields.
     void refresh();
     /// Turns the operator to what has to be mended.

@@ -5,6 +5,8 @@
 #include <wx/msgdlg.h>
 #ifdef __WXGTK__
 #include <wx/generic/msgdlgg.h>
+#else
+#include "ui/dialogs/QuestionBox_msw.h"
 #endif
 
 namespace vantrel {
@@ -18,7 +20,7 @@ using MessageBox = wxGenericMessageDialog;
 /// the one of none included.
 inline constexpr long noIconStyle = 0;
 #else
-using MessageBox = wxMessageDialog;
+using MessageBox = QuestionBox;
 inline constexpr long noIconStyle = wxICON_NONE;
 #endif
 

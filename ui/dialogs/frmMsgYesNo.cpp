@@ -2,6 +2,7 @@
 
 #include "base/ApplicationState.h"
 #include "ui/IconSet.h"
+#include "ui/SystemLook.h"
 #include "ui/dialogs/AnswerCaptions.h"
 #include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
@@ -11,7 +12,7 @@
 #include "ui/dialogs/WrappedText.h"
 #include "ui/dialogs/WxText.h"
 
-#include <wx/artprov.h>
+#include <wx/bmpbndl.h>
 #include <wx/button.h>
 #include <wx/iconbndl.h>
 #include <wx/sizer.h>
@@ -47,8 +48,7 @@ frmMsgYesNo::frmMsgYesNo(wxWindow* parent, const std::string& title, const std::
 
 wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const ApplicationState& state) {
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
-    auto* const picture = new wxStaticBitmap(
-        this, wxID_ANY, wxArtProvider::GetBitmapBundle(wxART_QUESTION, wxART_MESSAGE_BOX));
+    auto* const picture = new wxStaticBitmap(this, wxID_ANY, questionPicture());
     row->Add(picture, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(16)));
 
     const wxFont font = captionFont(state);

@@ -38,6 +38,8 @@ frmSetting::frmSetting(wxWindow* parent, SettingDraft& draft, SettingWindowServi
     SetSizer(column);
     bindEvents();
     applyCaptionFont(*this, services_.state);
+    robotPage_->fitFields();
+    portPage_->fitFields();
     // Pages get their size when the book is shown; until then they would keep one that is too small
     // for what is in them, of which the system complains.
     for (std::size_t page = 0; page < SSTab1_->GetPageCount(); ++page)
@@ -61,8 +63,8 @@ void frmSetting::buildPages() {
     robotPage_ = addPage(
         new SettingRobotPage(SSTab1_, draft_.robots(), messages, std::move(services_.folders)),
         message::settingsRobotPage);
-    addPage(new SettingPortPage(SSTab1_, draft_.serial(), messages),
-            message::settingsCommunicationPage);
+    portPage_ = addPage(new SettingPortPage(SSTab1_, draft_.serial(), messages),
+                        message::settingsCommunicationPage);
     addPage(new SettingOptionPage(SSTab1_, draft_, messages), message::settingsOptionsPage);
 }
 

@@ -15,6 +15,7 @@ namespace vantrel {
 class MessageBoxes;
 class MessageTable;
 class SettingDraft;
+class SettingPortPage;
 class SettingRobotPage;
 struct ApplicationState;
 
@@ -46,6 +47,7 @@ class frmSetting : public wxDialog {
     SettingWindowServices services_;
     wxNotebook* SSTab1_ = nullptr;
     SettingRobotPage* robotPage_ = nullptr;
+    SettingPortPage* portPage_ = nullptr;
     wxButton* cmdRefresh_ = nullptr;
     bool applying_ = false;
 };

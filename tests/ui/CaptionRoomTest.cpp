@@ -1,0 +1,79 @@
+#include "ui/CaptionRoom.h"
+
+#include "MainWindowTest.h"
+#include "app/SettingsFile.h"
+
+#include <wx/display.h>
+#include <wx/stattext.h>
+
+namespace vantrel::tests {
+namespace {
+
+class CaptionRoomTest : public MainWindowTest {
+  protected:
+    CaptionRoomTest() { window.showAddress("255.255.255.255"); }
+
+    void chooseFont(int size, bool bold) {
+        state.FontSize = std::int16_t(size);
+        state.FontBold = bold;
+        window.applyFont();
+        runEvents();
+    }
+    void expectRoomForTexts() {
+        for (auto* label :
+             {controls.lblPCFileType, controls.lblCtrlFileType, controls.lblFolder,
+              controls.lblSerial, controls.lblRbtName, controls.lblIPaddr, controls.lblIPAddr2}) {
+            if (!label->IsShown())
+                continue;
+            const wxSize text = label->GetTextExtent(label->GetLabelText());
+            EXPECT_LE(text.x, label->GetSize().x) << label->GetLabel();
+            EXPECT_LE(text.y, label->GetSize().y) << label->GetLabel();
+        }
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Languages, CaptionRoomTest, bothLanguages, languageName);
+
+TEST_P(CaptionRoomTest, LargerCaptionsAreNotCutOff) {
+    for (const int size : {9, 11, 12, 14, 16}) {
+        chooseFont(size, true);
+        for (const auto mode : {TransferMode::Bsc, TransferMode::HispeedLink}) {
+            window.showMode(modeLook(mode, messages));
+            expectRoomForTexts();
+        }
+        saveScreenshot(window, "captions-" + language() + "-" + std::to_string(size));
+    }
+}
+
+TEST_P(CaptionRoomTest, TheWindowGrowsWithItsCaptionsAndShrinksAgain) {
+    const wxSize before = window.GetSize();
+    const auto size = state.FontSize;
+    const auto bold = state.FontBold;
+    const auto changeOfSize = [&] { return window.GetSize() - before; };
+    chooseFont(14, true);
+    EXPECT_TRUE(waitFor([&] { return changeOfSize().x > 0 && changeOfSize().y > 0; }));
+    chooseFont(size, bold);
+    EXPECT_TRUE(waitFor(
+        [&] { return std::abs(changeOfSize().x) <= 2 && std::abs(changeOfSize().y) <= 2; }));
+}
+
+TEST_P(CaptionRoomTest, WhatIsStoredStaysTheSame) {
+    for (const int size : {12, 9, 11})
+        chooseFont(size, true);
+    const auto placement = window.placement();
+    EXPECT_EQ(placement.width, 9720);
+    EXPECT_EQ(placement.height, 7000);
+    EXPECT_NEAR(placement.columnWidths[0], 1400, 15);
+}
+
+TEST_P(CaptionRoomTest, TheWindowStaysOnItsScreen) {
+    chooseFont(24, true);
+    const wxRect screen = wxDisplay(&window).GetClientArea();
+    EXPECT_LE(window.GetSize().x, screen.width);
+    EXPECT_LE(window.GetSize().y, screen.height);
+    EXPECT_LE(window.GetMinSize().x, screen.width);
+    EXPECT_LE(window.GetMinSize().y, screen.height);
+}
+
+} // namespace
+} // namespace vantrel::tests
