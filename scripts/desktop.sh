@@ -55,5 +55,13 @@ keys() { xdotool key --clearmodifiers --delay 20 "$@"; }
 # click WINDOW X Y: pixels from the window's upper left corner.
 click() { xdotool mousemove --window "$1" "$2" "$3" click 1; }
 
+# Whether nothing in a window changes for a while.
+is_still() {
+    local before
+    before=$(import -window "$1" rgba:- | md5sum)
+    read -r -t 0.2 <> <(:) || true
+    [ "$(import -window "$1" rgba:- | md5sum)" = "$before" ]
+}
+
 has_ended() { ! kill -0 "$program" 2>/dev/null; }
 same_bytes() { cmp -s "$1" "$2"; }

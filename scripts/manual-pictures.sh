@@ -88,7 +88,7 @@ main_window() {
     activate "$(question_titled "$(text 0)")"
     keys alt+y
     opened "$(text 129)"
-    dismiss "$(text 129)" Return
+    dismiss "$(text 129)" Escape
     opened "$title"
     main=$window
     # shellcheck disable=SC2046
