@@ -249,7 +249,8 @@ void MainCommands::mnuEnd() {
 
 void MainCommands::activate(ActiveSide side) {
     const bool isCovered = side == ActiveSide::Controller && with_.state.ViewerShown;
-    if (with_.state.Active == side || isCovered)
+    // A pane that is locked with the focus in it gives the focus up, on Windows to the other pane.
+    if (with_.state.Busy || with_.state.Active == side || isCovered)
         return;
     with_.state.Active = side;
     with_.view.showActiveSide(side);

@@ -22,6 +22,15 @@ TEST_F(MainCommandsTest, CopyFollowsTheActivePane) {
     EXPECT_EQ(pc.read("OLD.JBI"), job("OLD"));
 }
 
+TEST_F(MainCommandsTest, APaneThatGetsTheFocusDuringAnOperationDoesNotBecomeTheActiveOne) {
+    state.Busy = true;
+    main.activate(ActiveSide::Controller);
+    EXPECT_EQ(state.Active, ActiveSide::PC);
+    state.Busy = false;
+    main.activate(ActiveSide::Controller);
+    EXPECT_EQ(state.Active, ActiveSide::Controller);
+}
+
 TEST_F(MainCommandsTest, ToolButtonsForwardByTheirKeys) {
     showPanes();
     main.tool("AllSelect");
