@@ -51,9 +51,10 @@ Outcome visitEntries(const std::string& path, const Visit& visit) {
         return systemFailure(ERROR_PATH_NOT_FOUND);
     FolderSearch search(systemPath(path + "\\*"));
     if (!search.isOpen()) {
-        // An empty drive has not even an entry for itself.
         const DWORD error = ::GetLastError();
-        return error == ERROR_FILE_NOT_FOUND ? Outcome(Done{}) : Outcome(systemFailure(error));
+        // An empty drive has not even an entry for itself.
+        const bool isEmptyDrive = error == ERROR_FILE_NOT_FOUND && isFolder(path);
+        return isEmptyDrive ? Outcome(Done{}) : Outcome(systemFailure(error));
     }
     do {
         if (!isOneself(search.entry().cFileName))

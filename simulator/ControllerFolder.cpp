@@ -19,7 +19,7 @@ CodeOr<std::vector<std::string>> ControllerFolder::list() const {
     std::vector<std::string> data;
     const auto visited = visitNames(path_, [&](std::string_view entry) {
         const auto name = controllerFileName(entry);
-        if (!name || name->stored() != entry || !has(*name))
+        if (!name || name->stored() != entry || !isPlainFile(pathOf(*name)))
             return;
         (name->kind == ControllerFileName::Kind::Data ? data : jobs).emplace_back(entry);
     });
@@ -32,8 +32,9 @@ CodeOr<std::vector<std::string>> ControllerFolder::list() const {
     return jobs;
 }
 
+// A system to which letter case does not matter would find one Greek letter for another.
 bool ControllerFolder::has(const ControllerFileName& name) const {
-    return isPlainFile(pathOf(name));
+    return isPlainFile(pathOf(name)) && findIgnoringCase(path_, name.stored()) == name.stored();
 }
 
 CodeOr<std::string> ControllerFolder::read(const ControllerFileName& name) const {
@@ -47,7 +48,9 @@ CodeOr<std::string> ControllerFolder::read(const ControllerFileName& name) const
 
 std::int16_t ControllerFolder::store(const ControllerFileName& name,
                                      std::string_view content) const {
-    return writePlainFile(pathOf(name), content) ? code::done : fault();
+    // On such a system the file of another name would take the content, and not be this one.
+    const bool isFree = has(name) || !anythingExists(pathOf(name));
+    return isFree && writePlainFile(pathOf(name), content) ? code::done : fault();
 }
 
 std::int16_t ControllerFolder::remove(const ControllerFileName& name) const {
