@@ -30,9 +30,9 @@ function(copy_missing from name)
     file(COPY "${from}/${name}" DESTINATION "${destination}")
 endfunction()
 
-# The PC folder of the first start has to be absolute. The file is in the code page of the system,
+# The PC folder of the first start is absolute. The file is in the code page of the system,
 # and its reader takes 127 characters, so a folder that is not plain ASCII or too long is left out:
-# the program then starts in its own folder.
+# the program then starts in its own folder. One that is carried elsewhere counts from there.
 function(write_settings)
     if(EXISTS "${folder}/Vantrel.ini")
         message(STATUS "Kept: ${folder}/Vantrel.ini")
@@ -44,7 +44,9 @@ function(write_settings)
     endif()
     string(LENGTH "${jobs}" length)
     set(path_line "Path=${jobs}\r\n")
-    if(NOT TRIAL_FOLDER_IS_USED_HERE OR NOT "$ENV{DESTDIR}" STREQUAL "" OR NOT jobs MATCHES "^[ -~]+$" OR length GREATER 127)
+    if(NOT TRIAL_FOLDER_IS_USED_HERE)
+        set(path_line "Path=jobs\r\n")
+    elseif(NOT "$ENV{DESTDIR}" STREQUAL "" OR NOT jobs MATCHES "^[ -~]+$" OR length GREATER 127)
         set(path_line "")
     endif()
     file(WRITE "${folder}/Vantrel.ini"

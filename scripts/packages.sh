@@ -11,7 +11,8 @@ fuzz_packages=(clang cmake ninja-build ccache)
 # For the Windows build and its tests under Wine; the source package of the toolkit is fetched by
 # scripts/windows-toolkit.sh.
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build ccache make dpkg-dev
-    libgtest-dev libgmock-dev librsvg2-bin icoutils nsis zip wine wine64 locales fonts-vlgothic)
+    libgtest-dev libgmock-dev librsvg2-bin icoutils nsis zip wine wine64 locales fonts-vlgothic
+    ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic poppler-utils)
 
 is_debian_like() {
     command -v dpkg-query >/dev/null && command -v apt-get >/dev/null

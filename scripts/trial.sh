@@ -18,10 +18,13 @@ trial_lay_out() {
 }
 
 # A key that comes before a new window has the keyboard is lost: after a second without an effect it
-# is pressed again.
+# is pressed again. It is one that the window behind does nothing with, should it get the second.
 closes() {
-    activate "$(window_titled "$1")"
-    keys Return
+    local window
+    window=$(window_titled "$1") || return 0
+    # It may be closing by the last press.
+    becomes_active "$window" || return 1
+    keys Escape
     local i
     for ((i = 0; i < 20; i++)); do
         is_gone "$1" && return
@@ -30,9 +33,13 @@ closes() {
     return 1
 }
 
-trial_start() {
+launch() {
     env LC_ALL=C.UTF-8 "${launcher:-$trial/Vantrel}" >"$work/program.log" 2>&1 &
     program=$!
+}
+
+trial_start() {
+    launch
     trap 'kill "$program" 2>/dev/null || true' EXIT
     until_true "the question at start" asks Vantrel
     activate "$(question_titled Vantrel)"

@@ -13,6 +13,7 @@ Vantrel-win32 | Vantrel-win64) ;;
     ;;
 esac
 
+build=$(cd "$build" && pwd)
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt")
 mkdir -p "$output"
 output=$(cd "$output" && pwd)

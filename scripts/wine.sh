@@ -30,11 +30,18 @@ prepare_wine() {
     touch "$WINEPREFIX/complete"
 }
 
+# The first program starts services that outlive it. They would keep its output open, and whoever
+# reads that waiting.
+start_services() {
+    wineserver -k0 2>/dev/null || in_locale wine cmd /c exit </dev/null >/dev/null 2>&1 9>&-
+}
+
 export WINEPREFIX=$cache/$locale WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d"
 exec 9>"$cache/lock"
 flock 9
 prepare_locale
 prepare_wine
+start_services
 exec 9>&-
 exec env LOCPATH="$cache/locales" LC_ALL="$locale" wine "$@"

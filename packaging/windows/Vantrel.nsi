@@ -2,10 +2,16 @@
 ;   /S           asks nothing
 ;   /D=FOLDER    another folder than the usual one; the last argument, without quotes
 ; An installation over an older one keeps the settings, the robots and the library that is there.
+; What goes at the end is what was installed: the operator's own files stay unless he says otherwise.
+; On a system of the other kind the installer does not start, as the program would not.
+!if "${NAME}" == "Vantrel-win64"
+    Target amd64-unicode
+!else
+    Target x86-unicode
+!endif
 Unicode true
 !include MUI2.nsh
 !include LogicLib.nsh
-!include x64.nsh
 
 !define KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Vantrel"
 
@@ -34,10 +40,8 @@ LangString TrialSection ${LANG_ENGLISH} "Trial with simulated controllers"
 LangString TrialSection ${LANG_JAPANESE} "シミュレータによる体験版"
 LangString TrialLink ${LANG_ENGLISH} "Vantrel (trial)"
 LangString TrialLink ${LANG_JAPANESE} "Vantrel (体験版)"
-LangString Needs64Bit ${LANG_ENGLISH} "This is the program for 64-bit Windows."
-LangString Needs64Bit ${LANG_JAPANESE} "このプログラムは64ビット版Windows用です。"
-LangString KeepSettings ${LANG_ENGLISH} "Keep the settings and the list of robots?"
-LangString KeepSettings ${LANG_JAPANESE} "設定とロボットの一覧を残しますか？"
+LangString KeepData ${LANG_ENGLISH} "Keep the settings, the list of robots and the files of the trial?"
+LangString KeepData ${LANG_JAPANESE} "設定、ロボットの一覧、体験版のファイルを残しますか？"
 
 VIProductVersion "${VERSION}.0"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "ProductName" "Vantrel"
@@ -45,36 +49,83 @@ VIAddVersionKey /LANG=${LANG_ENGLISH} "FileDescription" "Installer of Vantrel"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "FileVersion" "${VERSION}"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "LegalCopyright" "Copyright (c) 2026 The Vantrel maintainers"
 
-Function .onInit
-    !if "${NAME}" == "Vantrel-win64"
-        ${IfNot} ${RunningX64}
-            MessageBox MB_OK|MB_ICONSTOP "$(Needs64Bit)" /SD IDOK
-            Abort
+; Sets $R0 to 1 when two files hold the same bytes, else to 0.
+!macro CompareFiles FIRST SECOND
+    Push $0
+    Push $1
+    Push $2
+    Push $3
+    StrCpy $R0 0
+    FileOpen $0 "${FIRST}" r
+    FileOpen $1 "${SECOND}" r
+    ${Do}
+        ClearErrors
+        FileReadByte $0 $2
+        ${If} ${Errors}
+            StrCpy $2 "end"
         ${EndIf}
-    !endif
-FunctionEnd
+        ClearErrors
+        FileReadByte $1 $3
+        ${If} ${Errors}
+            StrCpy $3 "end"
+        ${EndIf}
+        ${If} $2 != $3
+            ${ExitDo}
+        ${EndIf}
+        ${If} $2 == "end"
+            StrCpy $R0 1
+            ${ExitDo}
+        ${EndIf}
+    ${Loop}
+    FileClose $0
+    FileClose $1
+    Pop $3
+    Pop $2
+    Pop $1
+    Pop $0
+!macroend
+
+; The operator may have changed a text: then his stays beside the new one.
+!macro InstallText FILE
+    File "/oname=$PLUGINSDIR\${FILE}" "${CONTENT}\Vantrel\${FILE}"
+    ${If} ${FileExists} "$OUTDIR\${FILE}"
+        !insertmacro CompareFiles "$PLUGINSDIR\${FILE}" "$OUTDIR\${FILE}"
+        ${If} $R0 == 0
+            Delete "$OUTDIR\${FILE}.old"
+            Rename "$OUTDIR\${FILE}" "$OUTDIR\${FILE}.old"
+        ${EndIf}
+    ${EndIf}
+    File "${CONTENT}\Vantrel\${FILE}"
+!macroend
+
+; The program and its texts into the folder that is set.
+!macro InstallProgram
+    SetOverwrite on
+    File "${CONTENT}\Vantrel\Vantrel.exe"
+    File "${CONTENT}\Vantrel\*.ico"
+    InitPluginsDir
+    !insertmacro InstallText "English.lng"
+    !insertmacro InstallText "Japanese.lng"
+    !insertmacro InstallText "System.lng"
+    !insertmacro InstallText "FileTable.tbl"
+    !insertmacro InstallText "FileTable.dat"
+!macroend
+
+; A folder of the trial belongs to the operator once it is there: what he deleted stays deleted.
+!macro InstallMissing FOLDER
+    ${IfNot} ${FileExists} "$INSTDIR\Trial\${FOLDER}\*.*"
+        SetOutPath "$INSTDIR\Trial\${FOLDER}"
+        File /r "${CONTENT}\Trial\${FOLDER}\*"
+    ${EndIf}
+!macroend
 
 Section "$(ProgramSection)" SectionProgram
     SectionIn RO
     SetOutPath "$INSTDIR\Vantrel"
-    SetOverwrite on
-    File "${CONTENT}\Vantrel\Vantrel.exe"
+    !insertmacro InstallProgram
     File "${CONTENT}\Vantrel\LICENSE.txt"
-    ; The operator may have changed these; his stay beside the new ones.
-    !macro KeepOld FILE
-        ${If} ${FileExists} "$INSTDIR\Vantrel\${FILE}"
-            Delete "$INSTDIR\Vantrel\${FILE}.old"
-            Rename "$INSTDIR\Vantrel\${FILE}" "$INSTDIR\Vantrel\${FILE}.old"
-        ${EndIf}
-        File "${CONTENT}\Vantrel\${FILE}"
-    !macroend
-    !insertmacro KeepOld "English.lng"
-    !insertmacro KeepOld "Japanese.lng"
-    !insertmacro KeepOld "System.lng"
-    !insertmacro KeepOld "FileTable.tbl"
-    !insertmacro KeepOld "FileTable.dat"
     SetOutPath "$INSTDIR\ZUROLINKDLL\Help"
-    File /nonfatal "${CONTENT}\ZUROLINKDLL\Help\*.pdf"
+    File "${CONTENT}\ZUROLINKDLL\Help\*.pdf"
 
     WriteUninstaller "$INSTDIR\Uninstall.exe"
     SetOutPath "$INSTDIR\Vantrel"
@@ -90,39 +141,85 @@ Section "$(ProgramSection)" SectionProgram
     WriteRegDWORD HKCU "${KEY}" "NoRepair" 1
 SectionEnd
 
+; Sets $R0 to 1 when the trial's library is the simulator that was installed, as told by its size, or
+; is not there; the maker's own may stand in its place, and then belongs to the operator.
+!macro IsOwnSimulator
+    Push $0
+    Push $1
+    Push $2
+    StrCpy $R0 1
+    ${If} ${FileExists} "$INSTDIR\Trial\Zurolink.dll"
+        ReadRegDWORD $0 HKCU "${KEY}" "SimulatorSize"
+        FileOpen $1 "$INSTDIR\Trial\Zurolink.dll" r
+        FileSeek $1 0 END $2
+        FileClose $1
+        ${If} $0 != $2
+            StrCpy $R0 0
+        ${EndIf}
+    ${EndIf}
+    Pop $2
+    Pop $1
+    Pop $0
+!macroend
+
 Section "$(TrialSection)" SectionTrial
-    ; What an operator did in the trial stays; the program and its simulator are renewed.
     SetOutPath "$INSTDIR\Trial"
+    !insertmacro InstallProgram
+    !insertmacro IsOwnSimulator
+    ${If} $R0 == 1
+        File "${CONTENT}\Trial\Zurolink.dll"
+        FileOpen $0 "$INSTDIR\Trial\Zurolink.dll" r
+        FileSeek $0 0 END $1
+        FileClose $0
+        WriteRegDWORD HKCU "${KEY}" "SimulatorSize" $1
+    ${EndIf}
     SetOverwrite off
-    File /r /x Vantrel.exe /x Zurolink.dll "${CONTENT}\Trial\*"
+    File "${CONTENT}\Trial\Vantrel.ini"
+    File "${CONTENT}\Trial\robot.ini"
+    File "${CONTENT}\Trial\simulator.ini"
+    !insertmacro InstallMissing "jobs"
+    !insertmacro InstallMissing "controllers"
     SetOverwrite on
-    File "${CONTENT}\Trial\Vantrel.exe"
-    File "${CONTENT}\Trial\Zurolink.dll"
+    SetOutPath "$INSTDIR\Trial"
     CreateShortcut "$SMPROGRAMS\$(TrialLink).lnk" "$INSTDIR\Trial\Vantrel.exe"
 SectionEnd
 
+; What a folder holds of the program itself.
+!macro RemoveProgram FOLDER
+    Delete "${FOLDER}\Vantrel.exe"
+    Delete "${FOLDER}\LICENSE.txt"
+    Delete "${FOLDER}\English.lng"
+    Delete "${FOLDER}\Japanese.lng"
+    Delete "${FOLDER}\System.lng"
+    Delete "${FOLDER}\English.ico"
+    Delete "${FOLDER}\Japanese.ico"
+    Delete "${FOLDER}\System.ico"
+    Delete "${FOLDER}\FileTable.tbl"
+    Delete "${FOLDER}\FileTable.dat"
+!macroend
+
 Section "Uninstall"
+    SetOutPath "$TEMP" ; no folder that is current can be removed
     Delete "$SMPROGRAMS\Vantrel.lnk"
     Delete "$SMPROGRAMS\$(TrialLink).lnk"
-    RMDir /r "$INSTDIR\Trial"
-    RMDir /r "$INSTDIR\ZUROLINKDLL\Help"
+    Delete "$INSTDIR\ZUROLINKDLL\Help\Zurolink_us.pdf"
+    Delete "$INSTDIR\ZUROLINKDLL\Help\Zurolink_jp.pdf"
+    RMDir "$INSTDIR\ZUROLINKDLL\Help"
     RMDir "$INSTDIR\ZUROLINKDLL"
-    !macro RemoveProgramFile FILE
-        Delete "$INSTDIR\Vantrel\${FILE}"
-    !macroend
-    !insertmacro RemoveProgramFile "Vantrel.exe"
-    !insertmacro RemoveProgramFile "LICENSE.txt"
-    !insertmacro RemoveProgramFile "English.lng"
-    !insertmacro RemoveProgramFile "Japanese.lng"
-    !insertmacro RemoveProgramFile "System.lng"
-    !insertmacro RemoveProgramFile "FileTable.tbl"
-    !insertmacro RemoveProgramFile "FileTable.dat"
-    MessageBox MB_YESNO|MB_ICONQUESTION "$(KeepSettings)" /SD IDYES IDYES keep
+    !insertmacro RemoveProgram "$INSTDIR\Vantrel"
+    !insertmacro RemoveProgram "$INSTDIR\Trial"
+    !insertmacro IsOwnSimulator
+    ${If} $R0 == 1
+        Delete "$INSTDIR\Trial\Zurolink.dll"
+    ${EndIf}
+    MessageBox MB_YESNO|MB_ICONQUESTION "$(KeepData)" /SD IDYES IDYES keep
     Delete "$INSTDIR\Vantrel\Vantrel.ini"
     Delete "$INSTDIR\Vantrel\robot.ini"
     Delete "$INSTDIR\Vantrel\*.old"
+    RMDir /r "$INSTDIR\Trial"
 keep:
     ; Folders that still hold something, such as the maker's library, stay.
+    RMDir "$INSTDIR\Trial"
     RMDir "$INSTDIR\Vantrel"
     Delete "$INSTDIR\Uninstall.exe"
     RMDir "$INSTDIR"

@@ -1,6 +1,7 @@
 #include "app/PCFolder.h"
 
 #include "MainCommandsFixture.h"
+#include "base/PathRules.h"
 
 #include <gmock/gmock.h>
 
@@ -44,7 +45,10 @@ TEST_F(PCFolderTest, AFolderThatCannotBeOpenedChangesNothing) {
 TEST_F(PCFolderTest, UpShowsTheDriveAndTheFolderBelowIt) {
     state.PCPath = pc.makeFolder("inner");
     main.upFolder();
-    EXPECT_THAT(tree.nodes, ElementsAre("+/ drive", pc.path().substr(1) + " open"));
+    const PathRules rules;
+    const std::string drive = rules.drive(pc.path());
+    const std::string way = pc.path().substr(rules.withSeparator(drive).size());
+    EXPECT_THAT(tree.nodes, ElementsAre("+" + drive + " drive", way + " open"));
 }
 
 TEST_F(PCFolderTest, ADoubleClickShowsTheFolderAlone) {

@@ -37,7 +37,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"TitleBelowTheScreen", {40, 990, 640, 480}, {0, 0, 640, 480}},
         Row{"AtTheEndOfTheWorld", {farAway, farAway, 640, 480}, {0, 0, 640, 480}},
         Row{"LargerThanTheScreenItComesBackTo", {9000, 0, 4000, 3000}, {0, 0, 1280, 1000}}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& test) { return test.param.name; });
 
 TEST(ScreenPlaceTest, WithoutScreensTheWishStands) {
     EXPECT_EQ(placeOnScreens({9000, 0, 640, 480}, {}), (ScreenRect{9000, 0, 640, 480}));

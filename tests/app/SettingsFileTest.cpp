@@ -231,7 +231,7 @@ TEST_F(SettingsFileTest, AMaximisedWindowKeepsThePlacementOfTheStart) {
 }
 
 TEST_F(SettingsFileTest, ForeignSectionsAndCommentsStay) {
-    const std::string foreign = "; mine\r\n[Font Info]\r\nFontSize=9\r\n\r\n";
+    const std::string foreign = "; mine\r\n[Font Info]\r\nFontSize=9\r\n";
     ApplicationState state = read(foreign + "[Vantrel]\r\nPort=2\r\n");
     const std::string after = written(state);
     EXPECT_EQ(after.substr(0, foreign.size()), foreign);

@@ -2,6 +2,7 @@
 
 #include "AppFakes.h"
 #include "app/SettingsFile.h"
+#include "base/PathRules.h"
 #include "lang/LanguageChoice.h"
 
 #include <functional>
@@ -121,10 +122,11 @@ TEST_F(StartRoutineTest, ExitReadsAndShowsAndWritesNothing) {
 TEST_F(StartRoutineTest, StepsRunInTheirOrder) {
     addSettings("[Vantrel]\r\nPort=3\r\n");
     EXPECT_EQ(start(), StartResult::Running);
-    EXPECT_EQ(desk_.log, (tests::Log{"session in " + elsewhere_.path(), "help /Vantrel.hlp",
-                                     "help /Vantrel.hlp", "show message", "build main, port 1",
-                                     "robot box, port 3", "unload message", "askYesNo m1",
-                                     "status Ctrl m150m16", "show main", "focus", "start main"}));
+    const std::string help = std::string("help ") + PathRules().separator() + "Vantrel.hlp";
+    EXPECT_EQ(desk_.log, (tests::Log{"session in " + elsewhere_.path(), help, help, "show message",
+                                     "build main, port 1", "robot box, port 3", "unload message",
+                                     "askYesNo m1", "status Ctrl m150m16", "show main", "focus",
+                                     "start main"}));
     EXPECT_FALSE(desk_.state.Busy);
     EXPECT_TRUE(desk_.state.StartupDone);
     EXPECT_FALSE(desk_.state.NoSave);

@@ -7,8 +7,6 @@
 
 #include <gmock/gmock.h>
 
-// Links are made by everybody on this system; elsewhere only administrators may.
-
 namespace vantrel {
 namespace {
 
@@ -37,6 +35,13 @@ TEST(Subfolders, OfALinkThatLeadsBackAreReadOneLevelAtATime) {
     folder.makeFolder("a");
     std::filesystem::create_symlink(folder.path(), folder.path("loop"));
     EXPECT_THAT(subfolders(folder.path("loop")), ElementsAre("a", "loop"));
+}
+
+TEST(Subfolders, NamesThatDifferInLetterCaseOnlyAreInByteOrder) {
+    const tests::TemporaryFolder folder;
+    for (const char* name : {"b", "A", "C", "B"})
+        folder.makeFolder(name);
+    EXPECT_THAT(subfolders(folder.path()), ElementsAre("A", "B", "b", "C"));
 }
 
 } // namespace

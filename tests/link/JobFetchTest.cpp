@@ -1,6 +1,6 @@
 #include "link/JobFetch.h"
 
-#include "SessionWorld.h"
+#include "JobFetchFixture.h"
 #include "support/NamedRow.h"
 
 #include <filesystem>
@@ -10,23 +10,8 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using tests::JobFetchTest;
 using tests::SessionWorld;
-
-struct JobFetchTest : testing::Test {
-    SessionWorld world;
-    const std::string weld = SessionWorld::job("WELD");
-
-    JobFetchTest() { world.controller().put("WELD.JBI", weld); }
-
-    bool fetch(const std::string& name, bool overwriteAll = false) {
-        return world.session->JobUpLoad(name, overwriteAll);
-    }
-
-    std::size_t fileCount() const {
-        const std::filesystem::directory_iterator files(world.pc.path());
-        return static_cast<std::size_t>(std::distance(begin(files), end(files)));
-    }
-};
 
 TEST_F(JobFetchTest, AJobArrivesByteForByteWithoutReadingTheDirectory) {
     EXPECT_TRUE(fetch("WELD.JBI"));
@@ -163,50 +148,18 @@ TEST_F(JobFetchTest, AFileOfTheLongestNameIsReplacedToo) {
     EXPECT_EQ(fileCount(), 1u);
 }
 
-struct BlockedRow : tests::NamedRow {
-    void (*block)(const tests::TemporaryFolder&);
-    const char* bytes;
-};
-
-class BlockedFetchTest : public JobFetchTest, public testing::WithParamInterface<BlockedRow> {};
-
-TEST_P(BlockedFetchTest, TransfersNothingAndLeavesWhatIsThere) {
-    GetParam().block(world.pc);
-    const auto before = fileCount();
-    EXPECT_FALSE(fetch("WELD.JBI", true));
-    EXPECT_EQ(world.error(), " 26 0");
-    EXPECT_EQ(world.library.callCount("BscUpLoad"), 0);
-    EXPECT_EQ(world.library.openLinks(), 0);
-    EXPECT_EQ(fileCount(), before);
-    if (!std::filesystem::is_directory(world.pc.path("WELD.JBI"))) {
-        EXPECT_EQ(world.pc.read("WELD.JBI"), GetParam().bytes);
-    }
+TEST_F(JobFetchTest, AWriteProtectedFileIsNotFetchedOver) {
+    const std::filesystem::path file(world.pc.write("WELD.JBI", "old"));
+    std::filesystem::permissions(file, std::filesystem::perms(0444));
+    expectBlocked();
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+    std::filesystem::permissions(file, std::filesystem::perms::owner_all);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Targets, BlockedFetchTest,
-    testing::Values(BlockedRow{{"WriteProtected"},
-                               [](const tests::TemporaryFolder& pc) {
-                                   std::filesystem::permissions(pc.write("WELD.JBI", "old"),
-                                                                std::filesystem::perms(0444));
-                               },
-                               "old"},
-                    BlockedRow{{"SymbolicLink"},
-                               [](const tests::TemporaryFolder& pc) {
-                                   pc.write("elsewhere", "linked");
-                                   std::filesystem::create_symlink("elsewhere",
-                                                                   pc.path("WELD.JBI"));
-                               },
-                               "linked"},
-                    BlockedRow{{"DanglingLink"},
-                               [](const tests::TemporaryFolder& pc) {
-                                   std::filesystem::create_symlink("nowhere", pc.path("WELD.JBI"));
-                               },
-                               ""},
-                    BlockedRow{{"Folder"},
-                               [](const tests::TemporaryFolder& pc) { pc.makeFolder("WELD.JBI"); },
-                               ""}),
-    tests::rowName);
+TEST_F(JobFetchTest, AFolderIsNotFetchedOver) {
+    world.pc.makeFolder("WELD.JBI");
+    expectBlocked();
+}
 
 TEST_F(JobFetchTest, AFileThatAppearsDuringTheListIsAskedFor) {
     world.controller().put("PICK.JBI", SessionWorld::job("PICK"));

@@ -3,6 +3,7 @@
 #include "platform/LocalDates_windows.h"
 #include "platform/NetworkFolders.h"
 #include "platform/System_windows.h"
+#include "platform/TextEncoding.h"
 #include "support/NamedRow.h"
 #include "support/SystemReasons.h"
 #include "support/TemporaryFolder.h"
@@ -18,6 +19,12 @@ TEST(WindowsExecutablePath, IsThisProgramsOwn) {
     const std::string path = executablePath();
     EXPECT_EQ(path.substr(1, 2), ":\\") << path;
     EXPECT_TRUE(path.ends_with("platform_tests.exe")) << path;
+}
+
+/// What the cases of text encodings and profile files are written for.
+TEST(WindowsCodePage, IsTheOneThatTheTestsAreWrittenFor) {
+    EXPECT_EQ(::GetACP(), 932u);
+    EXPECT_EQ(toCodePage("\u8868"), "\x95\x5C");
 }
 
 TEST(WindowsLocaleLanguage, IsAnEnglishName) {

@@ -2,9 +2,9 @@
 
 #include "simulator/ResultCodes.h"
 
-#include <gtest/gtest.h>
-
 #include <ostream>
+
+#include <gtest/gtest.h>
 
 namespace vantrel::simulator {
 namespace {

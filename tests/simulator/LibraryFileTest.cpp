@@ -1,11 +1,12 @@
 #include "platform/DynamicLibrary.h"
+#include "platform/Environment.h"
 #include "simulator/ResultCodes.h"
 #include "simulator/ZurolinkExports.h"
 #include "support/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
+
+#include <gtest/gtest.h>
 
 namespace vantrel::simulator {
 namespace {
@@ -17,8 +18,8 @@ class LibraryFile : public testing::Test {
         folder.makeFolder("robot");
         folder.makeFolder("pc");
         folder.write("simulator.ini", "[Controller1]\nFolder=robot\nPort=3\n");
-        std::filesystem::copy_file(ZUROLINK_LIBRARY, folder.path("library"));
-        auto loaded = DynamicLibrary::load(folder.path("library"));
+        std::filesystem::copy_file(ZUROLINK_LIBRARY, folder.path(libraryFileName()));
+        auto loaded = DynamicLibrary::load(folder.path(libraryFileName()));
         EXPECT_TRUE(loaded) << loaded.reason();
         library = std::move(*loaded);
     }
@@ -91,7 +92,7 @@ TEST_F(LibraryFile, LoadedAgainItStartsAnew) {
     const auto handle = open(folder.path("pc"));
     ASSERT_EQ(setCom(handle), 1);
     library.reset();
-    auto again = DynamicLibrary::load(folder.path("library"));
+    auto again = DynamicLibrary::load(folder.path(libraryFileName()));
     ASSERT_TRUE(again);
     library = std::move(*again);
 

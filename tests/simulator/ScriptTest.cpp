@@ -1,10 +1,10 @@
 #include "simulator/Script.h"
 
-#include <gtest/gtest.h>
-
 #include <chrono>
 #include <ostream>
 #include <string>
+
+#include <gtest/gtest.h>
 
 namespace vantrel::simulator {
 namespace {

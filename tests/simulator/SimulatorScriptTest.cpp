@@ -1,9 +1,9 @@
 #include "SimulatorFixture.h"
 
-#include <gmock/gmock.h>
-
 #include <algorithm>
 #include <functional>
+
+#include <gmock/gmock.h>
 
 namespace vantrel::simulator {
 namespace {

@@ -1,11 +1,17 @@
 #include "simulator/SimulatorSettings.h"
 
+#include "base/PathRules.h"
+
 #include <gtest/gtest.h>
 
 namespace vantrel::simulator {
 namespace {
 
 constexpr const char* folder = "/program";
+
+std::string below(const std::string& way) {
+    return PathRules().join(folder, way);
+}
 
 TEST(SimulatorSettings, ReadsAController) {
     const auto settings = parseSettings("[Controller1]\r\n"
@@ -22,7 +28,7 @@ TEST(SimulatorSettings, ReadsAController) {
 
     ASSERT_EQ(settings.controllers.size(), 1u);
     const auto& controller = settings.controllers[0];
-    EXPECT_EQ(controller.folder, "/program/controllers/line1");
+    EXPECT_EQ(controller.folder, below("controllers/line1"));
     EXPECT_EQ(controller.port, 1);
     EXPECT_EQ(controller.address, "192.168.0.11");
     EXPECT_EQ(controller.hidden, (std::set<std::string>{"ALLPARA.PRM", "SYSTEM.SYS"}));
@@ -37,7 +43,7 @@ TEST(SimulatorSettings, FoldersAreBelowTheLibraryOrAbsolute) {
                                         folder);
 
     ASSERT_EQ(settings.controllers.size(), 2u);
-    EXPECT_EQ(settings.controllers[0].folder, "/program/a/b");
+    EXPECT_EQ(settings.controllers[0].folder, below(PathRules().join("a", "b")));
     EXPECT_EQ(settings.controllers[1].folder, "/srv/robot");
 }
 
@@ -85,7 +91,7 @@ TEST(SimulatorSettings, ReadsTheScriptsRowsInOrder) {
 TEST(SimulatorSettings, ReadsTheCodePageToo) {
     const auto settings = parseSettings("[Controller1]\nFolder=\x83\x5c\x82\xdd\n", folder);
 
-    EXPECT_EQ(settings.controllers[0].folder, "/program/ソみ");
+    EXPECT_EQ(settings.controllers[0].folder, below("ソみ"));
 }
 
 TEST(SimulatorSettings, GarbageGivesNoControllers) {

@@ -1,8 +1,8 @@
 #include "SimulatorFixture.h"
 
-#include <gmock/gmock.h>
-
 #include <limits>
+
+#include <gmock/gmock.h>
 
 namespace vantrel::simulator {
 namespace {

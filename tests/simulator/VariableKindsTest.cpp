@@ -2,11 +2,11 @@
 
 #include "simulator/ResultCodes.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
 #include <ostream>
 #include <string>
+
+#include <gtest/gtest.h>
 
 namespace vantrel::simulator {
 namespace {

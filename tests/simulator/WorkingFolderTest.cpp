@@ -6,8 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/stat.h>
-
 namespace vantrel::simulator {
 namespace {
 
@@ -17,13 +15,6 @@ TEST(WorkingFolder, ReadsAndWritesFilesOfTheFolder) {
 
     EXPECT_EQ(working.write("A.JBI", std::string("a\0b\r\n", 5)), code::done);
     EXPECT_EQ(*working.read("A.JBI"), std::string("a\0b\r\n", 5));
-}
-
-TEST(WorkingFolder, NeverWaitsForAPipe) {
-    const tests::TemporaryFolder folder;
-    ASSERT_EQ(mkfifo(folder.path("A.JBI").c_str(), 0600), 0);
-
-    EXPECT_EQ(WorkingFolder(folder.path()).read("A.JBI").code(), code::pcFileNotFound);
 }
 
 TEST(WorkingFolder, SaysWhatIsWrong) {

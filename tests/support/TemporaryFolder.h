@@ -21,6 +21,9 @@ class TemporaryFolder {
     }
     ~TemporaryFolder() {
         std::error_code ignored;
+        // A session enters its program's folder, and Windows removes no folder that somebody is in.
+        if (std::filesystem::current_path(ignored) == path_)
+            std::filesystem::current_path(path_.parent_path(), ignored);
         std::filesystem::remove_all(path_, ignored);
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
