@@ -30,27 +30,14 @@ function(copy_missing from name)
     file(COPY "${from}/${name}" DESTINATION "${destination}")
 endfunction()
 
-# The PC folder of the first start is absolute. The file is in the code page of the system,
-# and its reader takes 127 characters, so a folder that is not plain ASCII or too long is left out:
-# the program then starts in its own folder. One that is carried elsewhere counts from there.
+# The PC folder of the first start counts from the program's folder, wherever that is carried.
 function(write_settings)
     if(EXISTS "${folder}/Vantrel.ini")
         message(STATUS "Kept: ${folder}/Vantrel.ini")
         return()
     endif()
-    set(jobs "${prefix}/jobs")
-    if(CMAKE_HOST_WIN32)
-        string(REPLACE "/" "\\" jobs "${jobs}")
-    endif()
-    string(LENGTH "${jobs}" length)
-    set(path_line "Path=${jobs}\r\n")
-    if(NOT TRIAL_FOLDER_IS_USED_HERE)
-        set(path_line "Path=jobs\r\n")
-    elseif(NOT "$ENV{DESTDIR}" STREQUAL "" OR NOT jobs MATCHES "^[ -~]+$" OR length GREATER 127)
-        set(path_line "")
-    endif()
     file(WRITE "${folder}/Vantrel.ini"
-        "[Vantrel]\r\n${path_line}TransMode=16\r\n"
+        "[Vantrel]\r\nPath=jobs\r\nTransMode=16\r\n"
         "Window=600,600,12600,8400,1650,800,2400\r\n"
         "[PCType]\r\nDispType=3\r\n[CtrlType]\r\nDispType=2\r\n"
         "[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n")

@@ -1,15 +1,41 @@
-# At install time: a text or table in the program's folder that is not the one about to be installed
-# may have been changed by the operator. It stays beside the new one as ".old".
+# At install time: a text or table in the program's folder that is not the one that was installed
+# there, nor the one about to be, has been changed by the operator. It stays beside the new one as
+# ".old", or ".old2" to ".old9" where there are older ones. What is installed is remembered in the
+# folder ".installed".
 get_filename_component(prefix "${CMAKE_INSTALL_PREFIX}" ABSOLUTE)
+set(folder "$ENV{DESTDIR}${prefix}")
+
+function(is_same first second result)
+    set(same OFF)
+    if(EXISTS "${first}" AND EXISTS "${second}")
+        file(SHA256 "${first}" first_sum)
+        file(SHA256 "${second}" second_sum)
+        if(first_sum STREQUAL second_sum)
+            set(same ON)
+        endif()
+    endif()
+    set(${result} ${same} PARENT_SCOPE)
+endfunction()
+
+function(keep_changed name)
+    set(there "${folder}/${name}")
+    is_same("${there}" "${folder}/.installed/${name}" unchanged)
+    is_same("${there}" "${TEXTS_FOLDER}/${name}" up_to_date)
+    if(unchanged OR up_to_date OR NOT EXISTS "${there}")
+        return()
+    endif()
+    foreach(number IN ITEMS "" 2 3 4 5 6 7 8 9)
+        set(kept "${there}.old${number}")
+        if(NOT EXISTS "${kept}")
+            break()
+        endif()
+    endforeach()
+    message(STATUS "Kept: ${kept}")
+    file(COPY_FILE "${there}" "${kept}")
+endfunction()
+
+file(MAKE_DIRECTORY "${folder}/.installed")
 foreach(name IN LISTS TEXTS)
-    set(installed "$ENV{DESTDIR}${prefix}/${name}")
-    if(NOT EXISTS "${installed}")
-        continue()
-    endif()
-    file(SHA256 "${installed}" there)
-    file(SHA256 "${TEXTS_FOLDER}/${name}" coming)
-    if(NOT there STREQUAL coming)
-        message(STATUS "Kept as .old: ${installed}")
-        file(COPY_FILE "${installed}" "${installed}.old")
-    endif()
+    keep_changed("${name}")
+    file(COPY_FILE "${TEXTS_FOLDER}/${name}" "${folder}/.installed/${name}")
 endforeach()

@@ -28,11 +28,14 @@ Outcome visitEntries(const std::string& path, const Visit& visit) {
     const Folder folder(::opendir(path.c_str()));
     if (!folder)
         return systemFailure(errno);
-    while (const dirent* entry = ::readdir(folder.get())) {
+    while (true) {
+        errno = 0;
+        const dirent* entry = ::readdir(folder.get());
+        if (!entry)
+            return errno == 0 ? Outcome(Done{}) : Outcome(systemFailure(errno));
         if (!isOneself(entry->d_name))
             visit(::dirfd(folder.get()), *entry);
     }
-    return Done{};
 }
 
 /// The name to show; `storage` holds it when it differs from the system's bytes.

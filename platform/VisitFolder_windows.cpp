@@ -60,7 +60,8 @@ Outcome visitEntries(const std::string& path, const Visit& visit) {
         if (!isOneself(search.entry().cFileName))
             visit(search.entry());
     } while (search.next());
-    return Done{};
+    const DWORD error = ::GetLastError();
+    return error == ERROR_NO_MORE_FILES ? Outcome(Done{}) : Outcome(systemFailure(error));
 }
 
 void readEntry(const WIN32_FIND_DATAW& found, FolderEntry& entry) {

@@ -10,6 +10,10 @@ give_up() {
     exit 1
 }
 
+# Nothing ends a scenario without a word.
+set -o errtrace
+trap '[ "$BASH_SUBSHELL" -gt 0 ] || give_up "line $LINENO: $BASH_COMMAND"' ERR
+
 # until_true WHAT COMMAND...: repeats the command until it succeeds.
 until_true() {
     local what=$1 end=$((SECONDS + patience))
@@ -24,10 +28,12 @@ until_true() {
 # The last visible window with exactly this title; fails when there is none.
 window_titled() {
     local found
-    found=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -n 1)
+    # The search fails when a window goes away while it looks.
+    found=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | tail -n 1) || true
     [ -n "$found" ] && printf '%s\n' "$found"
 }
-is_shown() { window_titled "$1" >/dev/null; }
+# Whether there is one; it is then in `window`.
+is_shown() { window=$(window_titled "$1"); }
 is_gone() { ! is_shown "$1"; }
 
 # A window that waits for an answer, as opposed to the progress window of the same title.
@@ -41,7 +47,8 @@ question_titled() {
     done
     return 1
 }
-asks() { question_titled "$1" >/dev/null; }
+# Whether there is one; it is then in `window`.
+asks() { window=$(question_titled "$1"); }
 
 is_active() { [ "$(xdotool getactivewindow 2>/dev/null)" = "$1" ]; }
 # Asked for again each time: a window that opens in between takes the activation for itself.

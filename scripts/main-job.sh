@@ -29,7 +29,7 @@ keys Home $(repeat "$first" Down) $(repeat $((second - first)) ctrl+Down) ctrl+s
 import -window "$main" "$work/selected.png"
 click "$main" 16 42 # the first button of the main tool bar
 until_true "the overwrite question" asks 'File transfer'
-question=$(question_titled 'File transfer')
+question=$window
 activate "$question"
 import -window root "$work/question.png"
 keys alt+y

@@ -57,7 +57,6 @@ painted() { until_true "window $1 to be painted" is_painted "$1"; }
 # opened TITLE: waits for the window, which is then the active one in `window`.
 opened() {
     until_true "the window $1" is_shown "$1"
-    window=$(window_titled "$1")
     activate "$window"
     painted "$window"
 }
@@ -85,7 +84,7 @@ start_with_language_dialog() {
 
 main_window() {
     until_true "the question at start" asks "$(text 0)"
-    activate "$(question_titled "$(text 0)")"
+    activate "$window"
     keys alt+y
     opened "$(text 129)"
     dismiss "$(text 129)" Escape
@@ -99,7 +98,6 @@ main_window() {
 overwrite_question() {
     keys alt+f c
     until_true "the overwrite question" asks "$(text 7)"
-    window=$(question_titled "$(text 7)")
     activate "$window"
     painted "$window"
     keep overwrite "$window"
@@ -178,7 +176,7 @@ end_program() {
     activate "$main"
     keys alt+F4
     until_true "the question at the end" asks "$(text 0)"
-    activate "$(question_titled "$(text 0)")"
+    activate "$window"
     keys Return
     until_true "the program to end" has_ended
     trap - EXIT

@@ -23,7 +23,7 @@ progress_ends() {
 
 answer() { # TITLE KEY
     until_true "the question of $1" asks "$1"
-    activate "$(question_titled "$1")"
+    activate "$window"
     keys "$2"
     until_true "the question of $1 to close" is_answered "$1"
 }

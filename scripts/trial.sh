@@ -20,8 +20,7 @@ trial_lay_out() {
 # A key that comes before a new window has the keyboard is lost: after a second without an effect it
 # is pressed again. It is one that the window behind does nothing with, should it get the second.
 closes() {
-    local window
-    window=$(window_titled "$1") || return 0
+    is_shown "$1" || return 0
     # It may be closing by the last press.
     becomes_active "$window" || return 1
     keys Escape
@@ -42,12 +41,12 @@ trial_start() {
     launch
     trap 'kill "$program" 2>/dev/null || true' EXIT
     until_true "the question at start" asks Vantrel
-    activate "$(question_titled Vantrel)"
+    activate "$window"
     keys alt+y
     until_true "the version window" is_shown "About Vantrel"
     until_true "the version window to close" closes "About Vantrel"
     until_true "the main window" is_shown "$title"
-    main=$(window_titled "$title")
+    main=$window
     activate "$main"
 }
 
@@ -55,7 +54,7 @@ trial_close() {
     activate "$main"
     keys alt+F4
     until_true "the question at the end" asks Vantrel
-    activate "$(question_titled Vantrel)"
+    activate "$window"
     keys Return
     until_true "the program to end" has_ended
     local status=0

@@ -138,6 +138,8 @@ void Composition::showMainWindow() {
     // may answer the first.
     window_->place(state_.WindowPos);
     window_->Show();
+    if (versionWindow_ && versionWindow_->IsShown())
+        versionWindow_->Raise();
 }
 
 void Composition::focusPCList() {

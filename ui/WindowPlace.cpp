@@ -28,8 +28,8 @@ wxRect onAScreen(const wxRect& wished) {
     return {place.left, place.top, place.width, place.height};
 }
 
-wxRect withinItsScreen(const wxTopLevelWindow& window, wxRect rect) {
-    const int index = wxDisplay::GetFromWindow(&window);
+wxRect withinItsScreen(wxRect rect) {
+    const int index = wxDisplay::GetFromPoint(rect.GetPosition());
     if (index == wxNOT_FOUND)
         return rect;
     const wxRect screen = wxDisplay(unsigned(index)).GetClientArea();
@@ -53,12 +53,14 @@ WindowPlace::WindowPlace(wxTopLevelWindow& window) : window_(window) {
     });
 }
 
-void WindowPlace::put(const std::array<std::int32_t, 8>& stored, int resolution) {
+void WindowPlace::put(const std::array<std::int32_t, 8>& stored, int resolution,
+                      bool isEnlarged) {
     stored_ = stored;
     const wxPoint corner(pixelsFromTwips(stored[0], resolution),
                          pixelsFromTwips(stored[1], resolution));
-    putAt({corner, pixels(atLeastMinimum({double(stored[2]), double(stored[3])}), resolution)},
-          resolution);
+    const wxRect place(
+        corner, pixels(atLeastMinimum({double(stored[2]), double(stored[3])}), resolution));
+    putAt(isEnlarged ? withinItsScreen(place) : place, resolution);
 }
 
 void WindowPlace::resize(const WindowPlacement& now, int resolution) {
@@ -66,7 +68,7 @@ void WindowPlace::resize(const WindowPlacement& now, int resolution) {
         return;
     const wxRect wished(window_.GetPosition(),
                         pixels(atLeastMinimum({now.width, now.height}), resolution));
-    const wxRect outer = withinItsScreen(window_, wished);
+    const wxRect outer = withinItsScreen(wished);
     const auto twips = [resolution](int length) {
         return std::int32_t(std::lround(twipsFromPixels(length, resolution)));
     };

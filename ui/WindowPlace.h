@@ -20,7 +20,8 @@ class WindowPlace {
 
     /// At the stored place, on a screen that is there, not smaller than a window may be. `stored`
     /// in twips: left, top, width, height and three column widths; `resolution` in pixels per inch.
-    void put(const std::array<std::int32_t, 8>& stored, int resolution);
+    /// A window that is larger than the operator has made it stays within its screen.
+    void put(const std::array<std::int32_t, 8>& stored, int resolution, bool isEnlarged);
     /// The size in twips stays while the resolution changes, and so does the upper left corner, as
     /// far as the screen has room.
     void resize(const WindowPlacement& now, int resolution);

@@ -283,7 +283,7 @@ void frmZuroVant::applyCaptions() {
 }
 
 void frmZuroVant::place(const std::array<std::int32_t, 8>& positions) {
-    place_.put(positions, dpi());
+    place_.put(positions, dpi(), captionRoom_ > 1);
     constexpr std::size_t firstWidth = 4;
     setColumnWidths({double(positions[firstWidth]), double(positions[firstWidth + 1]),
                      double(positions[firstWidth + 2])});

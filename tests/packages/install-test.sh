@@ -30,3 +30,12 @@ for file in Vantrel.ini robot.ini simulator.ini libZurolink.so jobs/MAIN.JBI; do
 
 install_again "$1"
 holds English.lng.old mine
+
+# As an older version leaves it: its own texts, and one that the operator has changed since.
+printf 'older' | tee "$folder/System.lng" "$folder/.installed/System.lng" >"$folder/.installed/English.lng"
+printf 'mine again' >"$folder/English.lng"
+install_again "$1"
+holds English.lng.old mine
+holds English.lng.old2 'mine again'
+[ ! -e "$folder/System.lng.old" ] || give_up "a text of an older version was kept"
+cmp -s "$folder/System.lng" "$folder/.installed/System.lng" || give_up "a text was not renewed"

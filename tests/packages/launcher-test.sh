@@ -21,19 +21,26 @@ expect_no_file() { [ ! -e "$1" ] || fail "$1 is there"; }
 # install VERSION: what a package puts down, every file with the version for its text.
 install_version() {
     rm -rf "$installed"
-    mkdir -p "$installed/Vantrel/jobs" "$installed/ZUROLINKDLL/Help"
+    mkdir -p "$installed/Vantrel/jobs" "$installed/Vantrel/.installed" "$installed/ZUROLINKDLL/Help"
     cp "$here/../../packaging/linux/vantrel" "$installed/vantrel"
     local name
-    for name in English.lng Japanese.lng System.lng FileTable.tbl FileTable.dat simulator.ini robot.ini; do
+    for name in English.lng Japanese.lng System.lng FileTable.tbl FileTable.dat; do
+        printf '%s\n' "$1" | tee "$installed/Vantrel/$name" >"$installed/Vantrel/.installed/$name"
+    done
+    for name in English.ico Japanese.ico System.ico simulator.ini robot.ini; do
         printf '%s\n' "$1" >"$installed/Vantrel/$name"
     done
     printf 'ZurolinkSimulator %s\n' "$1" >"$installed/Vantrel/libZurolink.so"
-    printf '[Vantrel]\r\nTransMode=16\r\n' >"$installed/Vantrel/Vantrel.ini"
+    printf '[Vantrel]\r\nPath=jobs\r\n' >"$installed/Vantrel/Vantrel.ini"
     printf '%s\n' "$1" >"$installed/Vantrel/jobs/A.JBI"
     printf '%s\n' "$1" >"$installed/version"
     printf '#!/bin/sh\nprintf "%%s|%%s" "$VANTREL_FOLDER" "$*"\n' >"$installed/Vantrel/Vantrel"
     chmod +x "$installed/Vantrel/Vantrel"
     chmod -R a-w "$installed/Vantrel"
+}
+upgrade() {
+    chmod -R u+w "$installed"
+    install_version "$1"
 }
 start() { XDG_DATA_HOME=$home "$installed/vantrel" "$@" >"$work/started"; }
 
@@ -53,17 +60,14 @@ expect_text "$own/English.lng" 1.0.0
 expect_text "$own/jobs/A.JBI" 1.0.0
 [ -w "$own/jobs/A.JBI" ] && [ -w "$own/Vantrel.ini" ] || fail "the copies cannot be written"
 expect_no_file "$own/Vantrel"
-expect_text "$own/Vantrel.ini" "$(printf '[Vantrel]\r\nPath=%s/jobs\r\nTransMode=16\r' "$own")"
+expect_text "$own/Vantrel.ini" "$(printf '[Vantrel]\r\nPath=jobs\r')"
 [ "$(readlink "$home/vantrel/ZUROLINKDLL")" = "$installed/ZUROLINKDLL" ] || fail "no manual"
 [ -z "$(find "$home/vantrel" -name '.new*')" ] || fail "half a folder is left"
 
-begin FolderWithSignsOfTheSettingsCommand 'a & b|c'
+begin FolderOfAnyName 'a & b|c 操作員'
 start
-expect_text "$own/Vantrel.ini" "$(printf '[Vantrel]\r\nPath=%s/jobs\r\nTransMode=16\r' "$own")"
-
-begin FolderThatTheSettingsCannotHoldIsLeftOut 操作員
-start
-expect_text "$own/Vantrel.ini" "$(printf '[Vantrel]\r\nTransMode=16\r')"
+expect_text "$work/started" "$own|"
+expect_text "$own/English.lng" 1.0.0
 
 begin SecondStartChangesNothing
 start
@@ -79,8 +83,7 @@ begin UpgradeRenewsTextsAndKeepsWhatTheUserHas
 start
 printf 'mine\n' | tee "$own/English.lng" "$own/robot.ini" "$own/Vantrel.ini" "$own/simulator.ini" >/dev/null
 rm "$own/jobs/A.JBI"
-chmod -R u+w "$installed"
-install_version 1.1.0
+upgrade 1.1.0
 start
 expect_text "$own/English.lng" 1.1.0
 expect_text "$own/English.lng.old" mine
@@ -93,11 +96,34 @@ printf 'mine again\n' >"$own/English.lng"
 start
 expect_text "$own/English.lng" 'mine again'
 
+begin TextThatNobodyChangedLeavesNothingBehind
+start
+upgrade 1.1.0
+start
+upgrade 1.2.0
+start
+expect_text "$own/English.lng" 1.2.0
+expect_no_file "$own/English.lng.old"
+
+begin ChangedTextsOfSeveralUpgradesAllStay
+start
+printf 'mine of 1.0\n' >"$own/English.lng"
+upgrade 1.1.0
+start
+printf 'mine of 1.1\n' >"$own/English.lng"
+upgrade 1.2.0
+start
+upgrade 1.3.0
+start
+expect_text "$own/English.lng" 1.3.0
+expect_text "$own/English.lng.old" 'mine of 1.0'
+expect_text "$own/English.lng.old2" 'mine of 1.1'
+expect_no_file "$own/English.lng.old3"
+
 begin UpgradeKeepsTheMakersLibrary
 start
 printf 'the maker'"'"'s own\n' >"$own/libZurolink.so"
-chmod -R u+w "$installed"
-install_version 1.1.0
+upgrade 1.1.0
 start
 expect_text "$own/libZurolink.so" "the maker's own"
 
@@ -120,8 +146,7 @@ begin UpgradeThatFailsStartsTheProgramAndIsTriedAgain
 start
 printf 'mine\n' >"$own/English.lng"
 mkdir "$own/English.lng.new" # what a full disk would do
-chmod -R u+w "$installed"
-install_version 1.1.0
+upgrade 1.1.0
 start 2>"$work/reason"
 expect_text "$work/started" "$own|"
 expect_text "$own/.version" 1.0.0

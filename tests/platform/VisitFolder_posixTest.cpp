@@ -2,12 +2,14 @@
 #include "support/EnvironmentVariable.h"
 #include "support/TemporaryFolder.h"
 
+#include <filesystem>
 #include <map>
 #include <set>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 // What only POSIX systems have: links, names of any bytes, and a time zone in the environment.
 
@@ -35,6 +37,28 @@ std::map<std::string, Seen> entriesOf(const std::string& folder) {
 void setTime(const std::string& path, std::time_t time) {
     const timespec times[2] = {{time, 0}, {time, 999'999'999}};
     ASSERT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
+}
+
+/// Takes an open folder away from whoever is reading it, as a network does that fails.
+void closeBehindItsReader(const std::string& folder) {
+    for (const auto& link : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code ignored;
+        if (std::filesystem::read_symlink(link.path(), ignored) == folder)
+            ::close(std::stoi(link.path().filename()));
+    }
+}
+
+TEST(PosixVisitFolder, FailsWhenTheFolderCannotBeReadToItsEnd) {
+    const TemporaryFolder folder;
+    for (int index = 0; index < 3000; ++index) // more than one reading brings
+        folder.write("a name of some length " + std::to_string(index), "");
+    int seen = 0;
+    const auto visited = visitNames(folder.path(), [&](std::string_view) {
+        if (++seen == 1)
+            closeBehindItsReader(folder.path());
+    });
+    EXPECT_LT(seen, 3000);
+    EXPECT_EQ(visited.reason(), "Bad file descriptor");
 }
 
 TEST(PosixVisitFolder, TellsTheLocalTimeOfTheLastChange) {

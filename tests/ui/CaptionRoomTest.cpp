@@ -66,6 +66,19 @@ TEST_P(CaptionRoomTest, WhatIsStoredStaysTheSame) {
     EXPECT_NEAR(placement.columnWidths[0], 1400, 15);
 }
 
+TEST_P(CaptionRoomTest, AnEnlargedWindowIsPlacedWithinItsScreenAndKeepsItsPlace) {
+    chooseFont(14, true);
+    window.place({600, 600, 12600, 8400, 1650, 800, 2400, 0});
+    const wxRect screen = wxDisplay(&window).GetClientArea();
+    EXPECT_TRUE(waitFor([&] {
+        return window.GetSize().x <= screen.width && window.GetSize().x > screen.width / 2 &&
+               screen.Contains(window.GetRect());
+    })) << window.GetRect().x
+        << ' ' << window.GetRect().width;
+    EXPECT_EQ(window.placement().left, 600);
+    EXPECT_EQ(window.placement().width, 12600);
+}
+
 TEST_P(CaptionRoomTest, TheWindowStaysOnItsScreen) {
     chooseFont(24, true);
     const wxRect screen = wxDisplay(&window).GetClientArea();
