@@ -41,9 +41,11 @@ std::int16_t LinkConnection::connect() {
         return noHandle;
     // The library keeps files of its own beside the program; without that folder it may still work.
     static_cast<void>(changeCurrentFolder(services_.programFolder));
-    const auto folder = libraryText(properties_.path, "BscOpen", 0);
-    if (!folder)
+    const auto folder = toCodePage(properties_.path);
+    if (!folder) {
+        error_.set(session_code::folderNotExpressible, "BscOpen", 0);
         return noHandle;
+    }
     const std::int16_t handle =
         library().BscOpen(folder->c_str(), static_cast<std::int16_t>(services_.TransMode));
     if (handle < 0) {

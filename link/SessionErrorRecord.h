@@ -30,7 +30,8 @@ inline constexpr std::int16_t valueNotFinite = 34;
 inline constexpr std::int16_t listNotRead = 35;      ///< an empty list is all there is to write
 inline constexpr std::int16_t fileChanged = 36;      ///< the PC file, while its question was open
 inline constexpr std::int16_t operationRunning = 37; ///< one is begun while another runs
-inline constexpr std::int16_t libraryUnusable = -10; ///< missing, wrong or incomplete library
+inline constexpr std::int16_t folderNotExpressible = 38; ///< as a name, but of the PC folder
+inline constexpr std::int16_t libraryUnusable = -10;     ///< missing, wrong or incomplete library
 } // namespace session_code
 
 /// The reason of the last failure.

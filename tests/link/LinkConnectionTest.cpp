@@ -147,7 +147,7 @@ TEST_F(LinkConnectionTest, UnsetAddressDoesNotConcernTheSerialLine) {
 TEST_F(LinkConnectionTest, AFolderThatTheCodePageLacksReachesNoCall) {
     properties.path = "/tmp/\xED\x95\x9C";
     EXPECT_EQ(link.connect(), -1);
-    expectError(session_code::nameNotExpressible, "BscOpen", 0);
+    expectError(session_code::folderNotExpressible, "BscOpen", 0);
     EXPECT_EQ(world.library.callCount(), 0);
 }
 

@@ -25,7 +25,7 @@ endfunction()
 install_trial()
 expect_there(${LIBRARY_NAME} simulator.ini robot.ini Vantrel.ini jobs/LocalJob.lst
     jobs/handling/PICK13.JBI controllers/line1-weld/MAIN.JBI controllers/bench-seal/variables.txt)
-expect_text(Vantrel.ini "Path=${folder}/jobs")
+expect_text(Vantrel.ini "Path=jobs[\r\n]")
 expect_text(Vantrel.ini "TransMode=16")
 file(SIZE "${folder}/${LIBRARY_NAME}" library_size)
 
