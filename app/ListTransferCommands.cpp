@@ -112,6 +112,7 @@ bool ListTransferCommands::transferJobs(Direction direction, const CommandProgre
 /// Each entry that is left out is named in a box of its own.
 void ListTransferCommands::keepPermitted(Direction direction) {
     std::vector<SelectedItem> items;
+    items.reserve(std::size_t(with_.session.JobListCount()));
     for (std::int32_t index = 0; index < with_.session.JobListCount(); ++index)
         items.push_back({with_.session.JobList(index), false});
     const auto names = PermissionTests(with_, direction).permitted(items);

@@ -107,7 +107,7 @@ std::optional<RobotFault> findRobotFault(std::span<const RobotEntry> robots) {
 
 std::string faultText(const RobotFault& fault, std::span<const RobotEntry> robots,
                       const MessageTable& messages) {
-    const std::string text = messages.getMessage(messageOf(fault.kind));
+    std::string text = messages.getMessage(messageOf(fault.kind));
     if (fault.kind == Kind::NoName)
         return text;
     return "[" + shownText(robots[fault.robot].robot.Name) + "]" + text;

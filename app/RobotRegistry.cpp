@@ -162,7 +162,7 @@ Outcome RobotRegistry::writeBesideUnreadFile(const std::string& bytes) {
     const std::string backup = freeBackupPath();
     if (Outcome kept = renameFile(path_, backup); !kept)
         return kept;
-    const Outcome written = replaceFile(path_, bytes);
+    Outcome written = replaceFile(path_, bytes);
     if (!written && !renameFile(backup, path_))
         return Failure{written.reason() + " [" + backup + "]"};
     return written;
@@ -175,7 +175,7 @@ Outcome RobotRegistry::write() {
         registryText(state_.CurrentRobot.Name, state_.RobotList, RobotPaths(state_.BaseDir)));
     if (!bytes)
         return notExpressible(state_.RobotList, encoding_);
-    const Outcome written = readWhole_ ? replaceFile(path_, *bytes) : writeBesideUnreadFile(*bytes);
+    Outcome written = readWhole_ ? replaceFile(path_, *bytes) : writeBesideUnreadFile(*bytes);
     readWhole_ = readWhole_ || written;
     return written;
 }

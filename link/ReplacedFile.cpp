@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 namespace vantrel {
 namespace {
@@ -63,8 +64,8 @@ bool isReplaceable(const std::string& path) {
 
 } // namespace
 
-ReplacedFile::ReplacedFile(const std::string& folder, const std::string& name)
-    : folder_(folder), name_(name) {
+ReplacedFile::ReplacedFile(std::string folder, std::string name)
+    : folder_(std::move(folder)), name_(std::move(name)) {
     const std::string path = pathOf(folder_, name_);
     if (!anythingExists(path))
         return;

@@ -13,7 +13,7 @@ class ReplacedFile {
     /// Only a plain file that may be written is set aside. Anything else stays where it is, and
     /// nothing can be received over it: a folder, a symbolic link, which would silently become a
     /// file, and a write-protected file, which the operator has locked.
-    ReplacedFile(const std::string& folder, const std::string& name);
+    ReplacedFile(std::string folder, std::string name);
     /// Puts back what nobody has decided about.
     ~ReplacedFile();
     ReplacedFile(const ReplacedFile&) = delete;

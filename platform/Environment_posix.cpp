@@ -38,7 +38,7 @@ std::string executablePath() {
 }
 
 std::string programPath() {
-    const std::string executable = executablePath();
+    std::string executable = executablePath();
     const char* folder = std::getenv("VANTREL_FOLDER");
     if (!folder || *folder != '/')
         return executable;

@@ -83,7 +83,7 @@ wxSizer* frmSetting::buildButtons() {
 }
 
 void frmSetting::bindEvents() {
-    const auto onClick = [this](const char* name, std::function<void()> action) {
+    const auto onClick = [this](const char* name, const std::function<void()>& action) {
         FindWindow(name)->Bind(wxEVT_BUTTON, [this, action](wxCommandEvent&) {
             // Applying fills the panes, which lets events run.
             if (!applying_)
