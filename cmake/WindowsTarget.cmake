@@ -6,18 +6,18 @@ if(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # With optimisation GCC 12 finds faults inside std::string's own assignments (its bug 105329).
     add_compile_options(-Wno-array-bounds -Wno-stringop-overflow)
 endif()
-add_link_options(-static -Wl,--gc-sections)
+# The oldest system that has all functions used here is Windows 7; older ones say so at the start.
+add_link_options(-static -Wl,--gc-sections
+    -Wl,--major-subsystem-version=6,--minor-subsystem-version=1)
 string(APPEND CMAKE_EXE_LINKER_FLAGS_RELEASE " -s")
 string(APPEND CMAKE_SHARED_LINKER_FLAGS_RELEASE " -s")
 
-# Built by the script when it is not there yet, else found in its cache.
-if(NOT wxWidgets_CONFIG_EXECUTABLE)
-    execute_process(
-        COMMAND "${PROJECT_SOURCE_DIR}/scripts/windows-toolkit.sh" ${CMAKE_SYSTEM_PROCESSOR}
-        OUTPUT_VARIABLE toolkit OUTPUT_STRIP_TRAILING_WHITESPACE
-        COMMAND_ERROR_IS_FATAL ANY)
-    set(wxWidgets_CONFIG_EXECUTABLE "${toolkit}/bin/wx-config" CACHE FILEPATH
-        "The configuration program of the cross-built toolkit")
-endif()
-get_filename_component(toolkit "${wxWidgets_CONFIG_EXECUTABLE}/../.." ABSOLUTE)
+# Asked for at each configuration, since its cache may have been emptied or a newer one may be wanted
+# than the build folder remembers. The script answers at once when the toolkit is there.
+execute_process(
+    COMMAND "${PROJECT_SOURCE_DIR}/scripts/windows-toolkit.sh" ${CMAKE_SYSTEM_PROCESSOR}
+    OUTPUT_VARIABLE toolkit OUTPUT_STRIP_TRAILING_WHITESPACE
+    COMMAND_ERROR_IS_FATAL ANY)
+set(wxWidgets_CONFIG_EXECUTABLE "${toolkit}/bin/wx-config" CACHE FILEPATH
+    "The configuration program of the cross-built toolkit" FORCE)
 list(APPEND CMAKE_FIND_ROOT_PATH "${toolkit}")

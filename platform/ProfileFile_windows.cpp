@@ -142,6 +142,7 @@ Outcome ProfileFile::save() {
     if (!old && !readDetails(content_->path).isMissing())
         return Failure{old.reason()};
     const std::string content = old ? *old : std::string();
+    removeStaleTemporaryFiles(content_->path);
     const auto changed = edited(content_->path, content, content_->entries);
     if (!changed)
         return Failure{changed.reason()};

@@ -32,4 +32,9 @@ class TemporaryFile {
     bool kept_ = false;
 };
 
+/// Removes what a power cut has left behind in the folder of `neighbour`: temporary files of this
+/// kind that nobody has written to for a day, so that none that is in use is among them. What
+/// cannot be removed stays, without a word.
+void removeStaleTemporaryFiles(const std::wstring& neighbour);
+
 } // namespace vantrel

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Checks what a Windows build asks of the system and what it offers:
 #   scripts/windows-tables.sh BUILD
-# Program and stand-in library may need libraries of the system only, and the library has to export
-# its functions under their plain names, and nothing else.
+# Program and stand-in library may need libraries of the system only and start from Windows 7 on, and
+# the library has to export its functions under their plain names, and nothing else.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$1
@@ -16,6 +16,9 @@ fail() {
     failed=1
 }
 
+oldest_system=6.1 # Windows 7
+# As in "6.1".
+system_version() { "$dump" -p "$1" | sed -n 's/^M[ajin]*orSubsystemVersion[[:space:]]*//p' | paste -sd .; }
 # Lower case, without ".dll".
 imports() { "$dump" -p "$1" | sed -n 's/.*DLL Name: //p' | tr '[:upper:]' '[:lower:]' | sed 's/\.dll$//'; }
 exports() { "$dump" -p "$1" | sed -n '/\[Ordinal\/Name Pointer\]/,/^$/s/^\t\[ *[0-9]*\]\( +base\[ *[0-9]*\] *[0-9a-f]*\)\{0,1\} \(.*\)$/\2/p' | sort; }
@@ -29,6 +32,8 @@ for file in "$build/ui/Vantrel.exe" "$build/simulator/Zurolink.dll"; do
         *) fail "$file needs $library, which is no library of every system" ;;
         esac
     done
+    [ "$(system_version "$file")" = "$oldest_system" ] ||
+        fail "$file is for Windows $(system_version "$file") and not for $oldest_system"
 done
 difference=$(diff <(wanted) <(exports "$build/simulator/Zurolink.dll")) ||
     fail "the export table of Zurolink.dll: $difference"

@@ -74,7 +74,7 @@ build() {
     source=$(find "$work/source" -mindepth 1 -maxdepth 1 -type d)
     mkdir -p "$work/build"
     cd "$work/build"
-    "$source/configure" --host="$host" --build="$(gcc -dumpmachine)" --prefix="$prefix" \
+    "$source/configure" --host="$host" --build="$(dpkg-architecture -qDEB_BUILD_GNU_TYPE)" --prefix="$prefix" \
         CC="$host-gcc-posix" CXX="$host-g++-posix" CFLAGS="$flags" CXXFLAGS="$flags" "${options[@]}"
     make -j "$(nproc)"
     make install

@@ -3,6 +3,7 @@
 ;   /D=FOLDER    another folder than the usual one; the last argument, without quotes
 ; An installation over an older one keeps the settings, the robots and the library that is there.
 ; What goes at the end is what was installed: the operator's own files stay unless he says otherwise.
+; While the program of that folder runs nothing is changed; without a question the end is then with 2.
 ; On a system of the other kind the installer does not start, as the program would not.
 !if "${NAME}" == "Vantrel-win64"
     Target amd64-unicode
@@ -21,6 +22,8 @@ InstallDir "$LOCALAPPDATA\Programs\Vantrel"
 InstallDirRegKey HKCU "${KEY}" "InstallLocation"
 RequestExecutionLevel user
 SetCompressor /SOLID lzma
+; A file that cannot be written ends the installation; where nobody is asked it would be passed over.
+AllowSkipFiles off
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
 
@@ -33,13 +36,17 @@ SetCompressor /SOLID lzma
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
 !insertmacro MUI_LANGUAGE "Japanese"
+!include Running.nsh
+!include Texts.nsh
 
 LangString ProgramSection ${LANG_ENGLISH} "Vantrel"
 LangString ProgramSection ${LANG_JAPANESE} "Vantrel"
 LangString TrialSection ${LANG_ENGLISH} "Trial with simulated controllers"
 LangString TrialSection ${LANG_JAPANESE} "シミュレータによる体験版"
-LangString TrialLink ${LANG_ENGLISH} "Vantrel (trial)"
-LangString TrialLink ${LANG_JAPANESE} "Vantrel (体験版)"
+!define ENGLISH_TRIAL_LINK "Vantrel (trial)"
+!define JAPANESE_TRIAL_LINK "Vantrel (体験版)"
+LangString TrialLink ${LANG_ENGLISH} "${ENGLISH_TRIAL_LINK}"
+LangString TrialLink ${LANG_JAPANESE} "${JAPANESE_TRIAL_LINK}"
 LangString KeepData ${LANG_ENGLISH} "Keep the settings, the list of robots and the files of the trial?"
 LangString KeepData ${LANG_JAPANESE} "設定、ロボットの一覧、体験版のファイルを残しますか？"
 
@@ -49,66 +56,12 @@ VIAddVersionKey /LANG=${LANG_ENGLISH} "FileDescription" "Installer of Vantrel"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "FileVersion" "${VERSION}"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "LegalCopyright" "Copyright (c) 2026 The Vantrel maintainers"
 
-; Sets $R0 to 1 when two files hold the same bytes, else to 0.
-!macro CompareFiles FIRST SECOND
-    Push $0
-    Push $1
-    Push $2
-    Push $3
-    StrCpy $R0 0
-    FileOpen $0 "${FIRST}" r
-    FileOpen $1 "${SECOND}" r
-    ${Do}
-        ClearErrors
-        FileReadByte $0 $2
-        ${If} ${Errors}
-            StrCpy $2 "end"
-        ${EndIf}
-        ClearErrors
-        FileReadByte $1 $3
-        ${If} ${Errors}
-            StrCpy $3 "end"
-        ${EndIf}
-        ${If} $2 != $3
-            ${ExitDo}
-        ${EndIf}
-        ${If} $2 == "end"
-            StrCpy $R0 1
-            ${ExitDo}
-        ${EndIf}
-    ${Loop}
-    FileClose $0
-    FileClose $1
-    Pop $3
-    Pop $2
-    Pop $1
-    Pop $0
-!macroend
-
-; The operator may have changed a text: then his stays beside the new one.
-!macro InstallText FILE
-    File "/oname=$PLUGINSDIR\${FILE}" "${CONTENT}\Vantrel\${FILE}"
-    ${If} ${FileExists} "$OUTDIR\${FILE}"
-        !insertmacro CompareFiles "$PLUGINSDIR\${FILE}" "$OUTDIR\${FILE}"
-        ${If} $R0 == 0
-            Delete "$OUTDIR\${FILE}.old"
-            Rename "$OUTDIR\${FILE}" "$OUTDIR\${FILE}.old"
-        ${EndIf}
-    ${EndIf}
-    File "${CONTENT}\Vantrel\${FILE}"
-!macroend
-
 ; The program and its texts into the folder that is set.
 !macro InstallProgram
     SetOverwrite on
     File "${CONTENT}\Vantrel\Vantrel.exe"
     File "${CONTENT}\Vantrel\*.ico"
-    InitPluginsDir
-    !insertmacro InstallText "English.lng"
-    !insertmacro InstallText "Japanese.lng"
-    !insertmacro InstallText "System.lng"
-    !insertmacro InstallText "FileTable.tbl"
-    !insertmacro InstallText "FileTable.dat"
+    !insertmacro InstallTexts
 !macroend
 
 ; A folder of the trial belongs to the operator once it is there: what he deleted stays deleted.
@@ -121,6 +74,7 @@ VIAddVersionKey /LANG=${LANG_ENGLISH} "LegalCopyright" "Copyright (c) 2026 The V
 
 Section "$(ProgramSection)" SectionProgram
     SectionIn RO
+    !insertmacro RequireClosedProgram
     SetOutPath "$INSTDIR\Vantrel"
     !insertmacro InstallProgram
     File "${CONTENT}\Vantrel\LICENSE.txt"
@@ -162,6 +116,12 @@ SectionEnd
     Pop $0
 !macroend
 
+; An installation in the other language may have made it.
+!macro RemoveTrialLink
+    Delete "$SMPROGRAMS\${ENGLISH_TRIAL_LINK}.lnk"
+    Delete "$SMPROGRAMS\${JAPANESE_TRIAL_LINK}.lnk"
+!macroend
+
 Section "$(TrialSection)" SectionTrial
     SetOutPath "$INSTDIR\Trial"
     !insertmacro InstallProgram
@@ -181,6 +141,7 @@ Section "$(TrialSection)" SectionTrial
     !insertmacro InstallMissing "controllers"
     SetOverwrite on
     SetOutPath "$INSTDIR\Trial"
+    !insertmacro RemoveTrialLink
     CreateShortcut "$SMPROGRAMS\$(TrialLink).lnk" "$INSTDIR\Trial\Vantrel.exe"
 SectionEnd
 
@@ -188,20 +149,17 @@ SectionEnd
 !macro RemoveProgram FOLDER
     Delete "${FOLDER}\Vantrel.exe"
     Delete "${FOLDER}\LICENSE.txt"
-    Delete "${FOLDER}\English.lng"
-    Delete "${FOLDER}\Japanese.lng"
-    Delete "${FOLDER}\System.lng"
+    !insertmacro RemoveTexts "${FOLDER}"
     Delete "${FOLDER}\English.ico"
     Delete "${FOLDER}\Japanese.ico"
     Delete "${FOLDER}\System.ico"
-    Delete "${FOLDER}\FileTable.tbl"
-    Delete "${FOLDER}\FileTable.dat"
 !macroend
 
 Section "Uninstall"
+    !insertmacro RequireClosedProgram
     SetOutPath "$TEMP" ; no folder that is current can be removed
     Delete "$SMPROGRAMS\Vantrel.lnk"
-    Delete "$SMPROGRAMS\$(TrialLink).lnk"
+    !insertmacro RemoveTrialLink
     Delete "$INSTDIR\ZUROLINKDLL\Help\Zurolink_us.pdf"
     Delete "$INSTDIR\ZUROLINKDLL\Help\Zurolink_jp.pdf"
     RMDir "$INSTDIR\ZUROLINKDLL\Help"
@@ -215,7 +173,10 @@ Section "Uninstall"
     MessageBox MB_YESNO|MB_ICONQUESTION "$(KeepData)" /SD IDYES IDYES keep
     Delete "$INSTDIR\Vantrel\Vantrel.ini"
     Delete "$INSTDIR\Vantrel\robot.ini"
+    Delete "$INSTDIR\Vantrel\*.lng"
+    Delete "$INSTDIR\Vantrel\FileTable.*"
     Delete "$INSTDIR\Vantrel\*.old"
+    Delete "$INSTDIR\Vantrel\*.old?"
     RMDir /r "$INSTDIR\Trial"
 keep:
     ; Folders that still hold something, such as the maker's library, stay.

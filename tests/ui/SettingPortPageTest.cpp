@@ -34,6 +34,11 @@ TEST_P(SettingPortPageTest, ThePortIsSteppedWithinItsRange) {
     EXPECT_EQ(textOf("txtPort"), "COM12");
 }
 
+TEST_P(SettingPortPageTest, ThePortBoxIsOneLineHighBesideATallerUpDown) {
+    EXPECT_EQ(textOf("txtPort"), "COM1");
+    EXPECT_LE(box("txtPort").GetSize().y, box("txtPort").GetBestSize().y);
+}
+
 TEST_P(SettingPortPageTest, AStoredPortOutsideTheRangeIsShownAndKeptUntilItIsStepped) {
     state.Port = 300;
     EXPECT_EQ(textOf("txtPort"), "COM300");

@@ -1,16 +1,13 @@
 #!/usr/bin/env bash
-# Installs the program for Windows under Wine without a question, twice with an operator's changes
-# in between, starts it, and uninstalls it:
+# Installs the program for Windows under Wine without a question, again and again with an operator's
+# changes in between, starts it, and uninstalls it; on a display:
 #   tests/windows/installer-test.sh BUILD_FOLDER WORK_FOLDER
 set -euo pipefail
 source_folder=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 rm -rf "$2"
 mkdir -p "$2"
 work=$(cd "$2" && pwd)
-give_up() {
-    printf 'FAILED: %s\n' "$*"
-    exit 1
-}
+source "$source_folder/scripts/desktop.sh"
 there() { for file in "$@"; do [ -e "$folder/$file" ] || give_up "missing: $file"; done; }
 gone() { for file in "$@"; do [ ! -e "$folder/$file" ] || give_up "still there: $file"; done; }
 holds() { [ "$(cat "$folder/$1")" = "$2" ] || give_up "$1 does not hold \"$2\""; }
@@ -22,13 +19,47 @@ folder=$(here %LOCALAPPDATA%)/Programs/Vantrel
 menu=$(here %APPDATA%)/Microsoft/Windows/Start\ Menu/Programs
 entry='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Vantrel'
 is_registered() { wine reg query "$entry" /v DisplayVersion >/dev/null 2>&1; }
-install() { wine "$work/packages/Vantrel-win64-setup.exe" /S || give_up "the installer ended with $?"; }
+setup=$work/packages/Vantrel-win64-setup.exe
+install() { wine "$setup" /S || give_up "the installer ended with $?"; }
 shortcuts() { find "$menu" -name 'Vantrel*.lnk' | wc -l; }
 
 # What a run that was cut off has left behind.
 wine reg delete "$entry" /f >/dev/null 2>&1 || true
 rm -rf "$folder" "$menu"/Vantrel*.lnk
-trap 'rm -rf "$folder"' EXIT
+program=
+trap '[ -z "$program" ] || kill "$program" 2>/dev/null || true; rm -rf "$folder"' EXIT
+
+# From a copy: where it was installed it would start one itself and end before that one has.
+uninstall() {
+    local installed
+    installed=$(cd "$folder" && wine winepath -w . 2>/dev/null | tr -d '\r\n')
+    cp "$folder/Uninstall.exe" "$work/Uninstall.exe"
+    wine "$work/Uninstall.exe" /S "_?=$installed"
+}
+
+# Everything that is installed, but for the settings, which the running program may write.
+installed_state() {
+    (cd "$folder" && find . -type f ! -name '*.ini' -exec md5sum {} +) | sort
+    (cd "$menu" && ls)
+    wine reg query "$entry"
+}
+shows_a_window() { xdotool search --all --onlyvisible --pid "$program" --name '' >/dev/null 2>&1; }
+
+# refused_while_running FOLDER COMMAND...: with the program of that folder in its first question.
+refused_while_running() {
+    local before status=0
+    (cd "$folder/$1" && exec "$source_folder/scripts/wine.sh" Vantrel.exe) >"$work/program.log" 2>&1 &
+    program=$!
+    until_true "a window of the program" shows_a_window
+    before=$(installed_state)
+    "${@:2}" || status=$?
+    [ "$status" -eq 2 ] || give_up "$2 over the running program of $1 ended with $status"
+    [ "$(installed_state)" = "$before" ] || give_up "$2 changed what the running program of $1 needs"
+    kill "$program"
+    wait "$program" || true
+    program=
+}
+
 
 install
 there Vantrel/Vantrel.exe Vantrel/Japanese.lng Vantrel/FileTable.tbl Vantrel/Japanese.ico \
@@ -45,7 +76,34 @@ rm "$folder/Trial/controllers/line1-weld/CALIB.JBI"
 install
 for file in "${mine[@]}" Vantrel/English.lng.old; do holds "$file" mine; done
 cmp -s "$folder/Vantrel/English.lng" "$source_folder/data/English.lng" || give_up "a text was not renewed"
-gone Vantrel/Japanese.lng.old Trial/English.lng.old Trial/controllers/line1-weld/CALIB.JBI
+gone Vantrel/English.lng.old2 Vantrel/Japanese.lng.old Trial/English.lng.old Trial/controllers/line1-weld/CALIB.JBI
+
+# What an operator has changed is found by what was installed before, and never lost again.
+as_of_another_version() { printf another | tee "$folder/$1" >"$folder/${1%/*}/.installed/${1##*/}"; }
+is_renewed() { cmp -s "$folder/$1" "$source_folder/data/${1##*/}" || give_up "$1 was not renewed"; }
+as_of_another_version Vantrel/English.lng # the operator's own has been kept as ".old"
+as_of_another_version Vantrel/Japanese.lng
+as_of_another_version Trial/FileTable.tbl
+printf changed >"$folder/Vantrel/Japanese.lng"
+printf changed >"$folder/Vantrel/System.lng" # and nobody knows what was installed
+rm "$folder/Vantrel/.installed/System.lng"
+for number in '' 2 3 4 5 6 7 8 9; do printf kept >"$folder/Vantrel/FileTable.dat.old$number"; done
+printf changed >"$folder/Vantrel/FileTable.dat"
+install
+holds Vantrel/English.lng.old mine
+gone Vantrel/English.lng.old2 Trial/FileTable.tbl.old Vantrel/FileTable.dat.old10
+for file in Japanese.lng.old System.lng.old FileTable.dat.old9; do holds "Vantrel/$file" changed; done
+for number in '' 2 3 4 5 6 7 8; do holds "Vantrel/FileTable.dat.old$number" kept; done
+for file in English.lng Japanese.lng System.lng FileTable.dat; do is_renewed "Vantrel/$file"; done
+is_renewed Trial/FileTable.tbl
+as_of_another_version Vantrel/Japanese.lng
+printf 'changed again' >"$folder/Vantrel/Japanese.lng"
+printf 'in the other language' >"$menu/Vantrel (trial).lnk"
+install
+holds Vantrel/Japanese.lng.old changed
+holds Vantrel/Japanese.lng.old2 'changed again'
+gone Vantrel/Japanese.lng.old3 Vantrel/System.lng.old2
+[ "$(shortcuts)" -eq 2 ] || give_up "the trial is in the start menu in two languages"
 
 # The simulator is renewed, and removed, unless the maker's library stands in its place.
 printf mine >"$folder/Trial/Zurolink.dll"
@@ -58,13 +116,18 @@ printf 'as of another version' | dd of="$folder/Trial/Zurolink.dll" conv=notrunc
 install
 cmp -s "$folder/Trial/Zurolink.dll" "$work/simulator.dll" || give_up "the simulator was not renewed"
 
-# From a copy: where it was installed it would start one itself and end before that one has.
-installed=$(cd "$folder" && wine winepath -w . 2>/dev/null | tr -d '\r\n')
-cp "$folder/Uninstall.exe" "$work/Uninstall.exe"
-wine "$work/Uninstall.exe" /S "_?=$installed" || give_up "the uninstaller ended with $?"
+as_of_another_version Vantrel/English.lng # what a refused installation must not renew
+for part in Vantrel Trial; do
+    refused_while_running "$part" wine "$setup" /S
+    refused_while_running "$part" uninstall
+done
+
+printf 'in the other language' >"$menu/Vantrel (trial).lnk"
+printf mine >"$folder/Vantrel/Japanese.lng" # changed since it was installed
+uninstall || give_up "the uninstaller ended with $?"
 gone Vantrel/Vantrel.exe Vantrel/English.lng Vantrel/English.ico Vantrel/LICENSE.txt \
-    Trial/Vantrel.exe Trial/Zurolink.dll ZUROLINKDLL Uninstall.exe
-for file in "${mine[@]}" Vantrel/English.lng.old; do holds "$file" mine; done
+    Trial/Vantrel.exe Trial/Zurolink.dll ZUROLINKDLL Uninstall.exe Vantrel/.installed Trial/.installed
+for file in "${mine[@]}" Vantrel/English.lng.old Vantrel/Japanese.lng; do holds "$file" mine; done
 ! is_registered || give_up "still in the list of installed programs"
 [ "$(shortcuts)" -eq 0 ] || give_up "still in the start menu"
 echo "Installed, brought up to date and uninstalled; what the operator had is still there."

@@ -85,8 +85,9 @@ wxSizer* SettingPortPage::buildPort(wxWindow* box, const MessageTable& messages)
          {static_cast<wxWindow*>(txtPort_), static_cast<wxWindow*>(udcPort_)})
         setAccessibleName(*control, toWx(messages.getMessage(message::port)));
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(txtPort_, wxSizerFlags(1).Expand());
-    row->Add(udcPort_, wxSizerFlags().Expand());
+    // The up-down may be taller than one line of text.
+    row->Add(txtPort_, wxSizerFlags(1).CentreVertical());
+    row->Add(udcPort_, wxSizerFlags().CentreVertical());
     return row;
 }
 
