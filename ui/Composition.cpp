@@ -10,6 +10,7 @@
 #include "platform/Environment.h"
 #include "platform/NetworkFolders.h"
 #include "ui/FolderTreeDropDown.h"
+#include "ui/SystemLook.h"
 #include "ui/dialogs/LanguageDraft.h"
 #include "ui/dialogs/VersionText.h"
 #include "ui/dialogs/frmLanguage.h"
@@ -35,6 +36,7 @@ Composition::Composition(std::string executable, std::span<const std::string> ar
 // A window that is still there shows rows and a text that the commands hold; at once, since a
 // deferred end would come after theirs.
 Composition::~Composition() {
+    versionWindow_.unload();
     delete window_.get();
 }
 
@@ -138,8 +140,6 @@ void Composition::showMainWindow() {
     // may answer the first.
     window_->place(state_.WindowPos);
     window_->Show();
-    if (versionWindow_ && versionWindow_->IsShown())
-        versionWindow_->Raise();
 }
 
 void Composition::focusPCList() {
@@ -149,7 +149,10 @@ void Composition::focusPCList() {
 void Composition::startMainWindow() {
     vantrel::startMainWindow(commands_->services, commands_->main);
     // The library is looked at when everything stands, not while the operator waits for the window.
-    window_->CallAfter([this] { showSimulationNotice(); });
+    window_->CallAfter([this] {
+        showSimulationNotice();
+        bringVersionWindowForward();
+    });
 }
 
 RobotBox& Composition::robotBox() {
@@ -234,8 +237,14 @@ void Composition::openVersionWindow() {
     versionWindow_->openModal();
 }
 
-/// The version window of the start has no parent, so it may stand before every other window: a
-/// dialog behind it could not be answered, nor could the version window be closed.
+/// The version window came before the main window, which may have taken the front since.
+void Composition::bringVersionWindowForward() {
+    if (versionWindow_ && versionWindow_->IsShown())
+        setOwner(*versionWindow_, *window_);
+}
+
+/// A dialog behind the version window of the start could not be answered, nor could the version
+/// window be closed then.
 void Composition::closeVersionWindowFor(wxDialog& dialog) {
     if (versionWindow_ && versionWindow_.get() != &dialog && !versionWindow_->IsModal())
         versionWindow_.unload();

@@ -108,6 +108,7 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
     void openOption(int index);
     void openSettings();
     void openVersionWindow();
+    void bringVersionWindowForward();
     void closeVersionWindowFor(wxDialog& dialog);
     void changeLanguage();
     void showSimulationNotice();

@@ -40,4 +40,7 @@ bool isOnScreen(const wxWindow& window);
 /// What a screen reader calls a control that shows no text of its own.
 void setAccessibleName(wxWindow& control, const wxString& name);
 
+/// From now on the top-level window `window` stays before `owner`, whichever was there first.
+void setOwner(wxWindow& window, wxWindow& owner);
+
 } // namespace vantrel

@@ -91,4 +91,8 @@ void setAccessibleName(wxWindow& control, const wxString& name) {
         atk_object_set_name(accessible, name.utf8_str());
 }
 
+void setOwner(wxWindow& window, wxWindow& owner) {
+    gtk_window_set_transient_for(GTK_WINDOW(window.GetHandle()), GTK_WINDOW(owner.GetHandle()));
+}
+
 } // namespace vantrel

@@ -73,4 +73,12 @@ void setAccessibleName(wxWindow& control, const wxString& name) {
     services->Release();
 }
 
+void setOwner(wxWindow& window, wxWindow& owner) {
+    // What is shown already may stay where it is.
+    const bool isShown = window.Show(false);
+    ::SetWindowLongPtrW(window.GetHWND(), GWLP_HWNDPARENT,
+                        reinterpret_cast<LONG_PTR>(owner.GetHWND()));
+    window.Show(isShown);
+}
+
 } // namespace vantrel

@@ -1,6 +1,8 @@
 #include "ProgramWorld.h"
 #include "ui/dialogs/frmVers.h"
 
+#include <gtk/gtk.h>
+
 namespace vantrel::tests {
 namespace {
 
@@ -28,6 +30,16 @@ class VersionWindowAtStart : public testing::Test {
 TEST_F(VersionWindowAtStart, StaysWhileTheOperatorOnlyLooks) {
     EXPECT_TRUE(isShown());
     world.menu({Menu::mnuDisp, 0});
+    EXPECT_TRUE(isShown());
+}
+
+TEST_F(VersionWindowAtStart, StaysBeforeTheMainWindow) {
+    auto* const version = wxWindow::FindWindowByName("frmVers");
+    ASSERT_NE(version, nullptr);
+    EXPECT_TRUE(waitFor([&] {
+        return gtk_window_get_transient_for(GTK_WINDOW(version->GetHandle())) ==
+               GTK_WINDOW(world.window().GetHandle());
+    }));
     EXPECT_TRUE(isShown());
 }
 
