@@ -8,26 +8,29 @@ rm -rf "$2"
 mkdir -p "$2"
 work=$(cd "$2" && pwd)
 source "$source_folder/scripts/desktop.sh"
-there() { for file in "$@"; do [ -e "$folder/$file" ] || give_up "missing: $file"; done; }
+# A Windows of its own, in which nobody else installs or removes the program meanwhile.
+export VANTREL_WINE=$work/wine VANTREL_LOCALE=ja_JP.UTF-8
+windows=$VANTREL_WINE/$VANTREL_LOCALE
+wine() { "$source_folder/scripts/wine.sh" "$@"; }
+# What is of the program there, for whoever reads why the test failed.
+found() { find "$windows/drive_c" -ipath '*Vantrel*' -not -path '*/controllers/*'; }
+there() { for file in "$@"; do [ -e "$folder/$file" ] || { found; give_up "missing: $file"; }; done; }
 gone() { for file in "$@"; do [ ! -e "$folder/$file" ] || give_up "still there: $file"; done; }
 holds() { [ "$(cat "$folder/$1")" = "$2" ] || give_up "$1 does not hold \"$2\""; }
 
 "$source_folder/scripts/windows-packages.sh" "$1" Vantrel-win64 "$work/packages"
-wine() { "$source_folder/scripts/wine.sh" "$@"; }
-here() { wine winepath -u "$(wine cmd /c "echo $1" | tr -d '\r\n')" | tr -d '\r\n'; }
-folder=$(here %LOCALAPPDATA%)/Programs/Vantrel
-menu=$(here %APPDATA%)/Microsoft/Windows/Start\ Menu/Programs
+program=
+trap '[ -z "$program" ] || kill "$program" 2>/dev/null || true
+    WINEPREFIX=$windows wineserver --kill --wait || true
+    rm -rf "$VANTREL_WINE"' EXIT
+wine cmd /c exit # makes the folders of the user, the only one
+folder=$(echo "$windows"/drive_c/users/*/AppData/Local)/Programs/Vantrel
+menu=$(echo "$windows"/drive_c/users/*/AppData/Roaming/Microsoft/Windows/Start\ Menu/Programs)
 entry='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Vantrel'
 is_registered() { wine reg query "$entry" /v DisplayVersion >/dev/null 2>&1; }
 setup=$work/packages/Vantrel-win64-setup.exe
 install() { wine "$setup" /S || give_up "the installer ended with $?"; }
 shortcuts() { find "$menu" -name 'Vantrel*.lnk' | wc -l; }
-
-# What a run that was cut off has left behind.
-wine reg delete "$entry" /f >/dev/null 2>&1 || true
-rm -rf "$folder" "$menu"/Vantrel*.lnk
-program=
-trap '[ -z "$program" ] || kill "$program" 2>/dev/null || true; rm -rf "$folder"' EXIT
 
 # From a copy: where it was installed it would start one itself and end before that one has.
 uninstall() {
