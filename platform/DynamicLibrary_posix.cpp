@@ -8,6 +8,7 @@
 #include <dlfcn.h>
 #include <elf.h>
 #include <fcntl.h>
+#include <link.h>
 
 namespace vantrel {
 
@@ -58,6 +59,28 @@ std::optional<Failure> mismatch(const FileHeader& library) {
     return std::nullopt;
 }
 
+/// Whether the file holds all that the loader would map; it would be killed by reading past the
+/// end. For a library of the running program's word size.
+bool isWhole(const std::string& path) {
+    struct stat details {};
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    ElfW(Ehdr) header{};
+    if (::fstat(file.number(), &details) != 0 ||
+        ::pread(file.number(), &header, sizeof header, 0) != sizeof header)
+        return false;
+    const auto size = static_cast<ElfW(Off)>(details.st_size);
+    for (int i = 0; i < header.e_phnum; ++i) {
+        ElfW(Phdr) segment{};
+        const auto place = static_cast<off_t>(header.e_phoff + sizeof segment * i);
+        if (::pread(file.number(), &segment, sizeof segment, place) != sizeof segment)
+            return false;
+        if (segment.p_type == PT_LOAD &&
+            (segment.p_offset > size || segment.p_filesz > size - segment.p_offset))
+            return false;
+    }
+    return true;
+}
+
 std::string loaderText() {
     const char* text = ::dlerror();
     return text ? text : "the library cannot be loaded";
@@ -74,6 +97,8 @@ Result<std::unique_ptr<DynamicLibrary>> DynamicLibrary::load(const std::string& 
         return Failure{header.reason()};
     if (const auto failure = mismatch(*header))
         return *failure;
+    if (!isWhole(absolutePath))
+        return Failure{"the file is cut short"};
     void* handle = ::dlopen(absolutePath.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!handle)
         return Failure{loaderText()};
