@@ -31,9 +31,12 @@ prepare_wine() {
 }
 
 # The first program starts services that outlive it. They would keep its output open, and whoever
-# reads that waiting.
+# reads that waiting. They stay for the next program, which might else begin while they end.
 start_services() {
-    wineserver -k0 2>/dev/null || in_locale wine cmd /c exit </dev/null >/dev/null 2>&1 9>&-
+    wineserver -k0 2>/dev/null && return
+    local seconds=20
+    in_locale wineserver "--persistent=$seconds" </dev/null >/dev/null 2>&1 9>&-
+    in_locale wine cmd /c exit </dev/null >/dev/null 2>&1 9>&-
 }
 
 export WINEPREFIX=$cache/$locale WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}

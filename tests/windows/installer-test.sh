@@ -13,7 +13,10 @@ export VANTREL_WINE=$work/wine VANTREL_LOCALE=ja_JP.UTF-8
 windows=$VANTREL_WINE/$VANTREL_LOCALE
 wine() { "$source_folder/scripts/wine.sh" "$@"; }
 # What is of the program there, for whoever reads why the test failed.
-found() { find "$windows/drive_c" -ipath '*Vantrel*' -not -path '*/controllers/*'; }
+found() {
+    find "$windows/drive_c" -ipath '*Vantrel*' -not -path '*/controllers/*'
+    wine reg query "$entry" || true
+}
 there() { for file in "$@"; do [ -e "$folder/$file" ] || { found; give_up "missing: $file"; }; done; }
 gone() { for file in "$@"; do [ ! -e "$folder/$file" ] || give_up "still there: $file"; done; }
 holds() { [ "$(cat "$folder/$1")" = "$2" ] || give_up "$1 does not hold \"$2\""; }
