@@ -2,6 +2,7 @@
 
 #include "link/ShownText.h"
 #include "ui/FolderImages.h"
+#include "ui/SystemLook.h"
 #include "ui/dialogs/WxText.h"
 
 #include <wx/treectrl.h>
@@ -46,6 +47,7 @@ void showSelectedFolder(wxTreeCtrl& control) {
     if (const auto last = control.GetLastChild(selected);
         last.IsOk() && control.IsExpanded(selected))
         control.EnsureVisible(last);
+    scrollToLeftEdge(control);
     control.EnsureVisible(selected);
 }
 

@@ -28,7 +28,10 @@ void allowNarrow(wxWindow& button);
 /// Keeps scroll bars from a tree that shows one line only, which they would cover.
 void hideScrollBars(wxTreeCtrl& tree);
 
-/// How large such a tree wants to be, where the toolkit would have it be `best`.
+/// Undoes that bringing an item into view has scrolled the tree sideways.
+void scrollToLeftEdge(wxTreeCtrl& tree);
+
+/// How large a tree that shows one line only wants to be, where the toolkit would have it be `best`.
 wxSize oneLineSize(const wxTreeCtrl& tree, const wxSize& best);
 
 /// Brings a control that is shown before the siblings that it overlaps.

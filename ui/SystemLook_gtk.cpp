@@ -59,6 +59,9 @@ void hideScrollBars(wxTreeCtrl& tree) {
     tree.ShowScrollbars(wxSHOW_SB_NEVER, wxSHOW_SB_NEVER);
 }
 
+// The toolkit's own tree scrolls up and down only.
+void scrollToLeftEdge(wxTreeCtrl& /*tree*/) {}
+
 wxSize oneLineSize(const wxTreeCtrl& /*tree*/, const wxSize& best) {
     return best;
 }

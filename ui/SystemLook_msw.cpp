@@ -42,6 +42,10 @@ void hideScrollBars(wxTreeCtrl& tree) {
     ::SetWindowLongPtrW(window, GWL_STYLE, style | TVS_NOSCROLL);
 }
 
+void scrollToLeftEdge(wxTreeCtrl& tree) {
+    ::SendMessageW(GetHwndOf(&tree), WM_HSCROLL, SB_LEFT, 0);
+}
+
 // The toolkit asks for room for several lines.
 wxSize oneLineSize(const wxTreeCtrl& tree, const wxSize& best) {
     const auto line = static_cast<int>(::SendMessageW(GetHwndOf(&tree), TVM_GETITEMHEIGHT, 0, 0));

@@ -79,10 +79,10 @@ void FolderChoicePanel::bindEvents() {
         choice_.choose(node);
         chosen();
     });
-    // A tree that has no size yet cannot scroll.
+    // A tree cannot scroll before it has its size, which it takes after this event.
     Dir1_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
         event.Skip();
-        showSelectedFolder(*Dir1_);
+        Dir1_->CallAfter([this] { showSelectedFolder(*Dir1_); });
     });
     // Enter opens and closes a folder here; the dialog's button is not meant.
     Dir1_->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
