@@ -44,9 +44,11 @@ trial_start() {
     activate "$window"
     keys alt+y
     until_true "the version window" is_shown "About Vantrel"
-    until_true "the version window to close" closes "About Vantrel"
     until_true "the main window" is_shown "$title"
     main=$window
+    # It comes before the main window now, and may be gone for a moment meanwhile.
+    until_true "the windows to be painted" is_still "$main"
+    until_true "the version window to close" closes "About Vantrel"
     activate "$main"
 }
 
@@ -87,11 +89,13 @@ controller_item() { printf '490 %s' $((125 + 19 * $1)); }
 select_on_pc() { # NAME
     click "$main" "${pc_frame[@]}"
     keys Home $(repeat "$(row_of "$1")" Down)
+    until_true "$1 to be selected" is_still "$main"
 }
 # shellcheck disable=SC2046
 select_on_controller() { # NAME
     click "$main" "${controller_frame[@]}"
     keys Home $(repeat "$(controller_row_of "$1")" Down)
+    until_true "$1 to be selected" is_still "$main"
 }
 # drag FROM_X FROM_Y TO_X TO_Y: with the left button held.
 drag() {

@@ -37,10 +37,9 @@ shortcuts() { find "$menu" -name 'Vantrel*.lnk' | wc -l; }
 
 # From a copy: where it was installed it would start one itself and end before that one has.
 uninstall() {
-    local installed
-    installed=$(cd "$folder" && wine winepath -w . 2>/dev/null | tr -d '\r\n')
+    local installed=C:${folder#"$windows/drive_c"}
     cp "$folder/Uninstall.exe" "$work/Uninstall.exe"
-    wine "$work/Uninstall.exe" /S "_?=$installed"
+    wine "$work/Uninstall.exe" /S "_?=${installed//\//\\}"
 }
 
 # Everything that is installed, but for the settings, which the running program may write.
