@@ -28,11 +28,9 @@ second=$(row_of "$added")
 keys Home $(repeat "$first" Down) $(repeat $((second - first)) ctrl+Down) ctrl+space
 import -window "$main" "$work/selected.png"
 click "$main" 16 42 # the first button of the main tool bar
-until_true "the overwrite question" asks 'File transfer'
-question=$window
-activate "$question"
+activate_question 'File transfer'
 import -window root "$work/question.png"
-keys alt+y
+until_true "the question to close" closes alt+y asks 'File transfer'
 until_true "$newer on the controller" same_bytes "$jobs/$newer" "$controller/$newer"
 until_true "$added on the controller" same_bytes "$jobs/$added" "$controller/$added"
 until_true "the progress window to close" is_gone 'File transfer'

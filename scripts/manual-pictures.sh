@@ -16,7 +16,7 @@ manual=$here/../docs/manual
 # The search by title, which these take the place of, knows no Japanese titles.
 windows_titled() {
     local found
-    for found in $(xdotool search --onlyvisible --class Vantrel 2>/dev/null); do
+    for found in $(visible_windows --class Vantrel); do
         [ "$(xdotool getwindowname "$found" 2>/dev/null)" != "$1" ] || printf '%s\n' "$found"
     done
 }

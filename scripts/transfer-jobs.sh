@@ -23,12 +23,9 @@ progress_ends() {
 }
 
 answer() { # TITLE KEY
-    until_true "the question of $1" asks "$1"
-    activate "$window"
-    keys "$2"
-    until_true "the question of $1 to close" is_answered "$1"
+    activate_question "$1"
+    until_true "the question of $1 to close" closes "$2" asks "$1"
 }
-is_answered() { ! asks "$1"; }
 
 trial_start
 

@@ -17,21 +17,6 @@ trial_lay_out() {
     controller=$trial/controllers/line1-weld
 }
 
-# A key that comes before a new window has the keyboard is lost: after a second without an effect it
-# is pressed again. It is one that the window behind does nothing with, should it get the second.
-closes() {
-    is_shown "$1" || return 0
-    # It may be closing by the last press.
-    becomes_active "$window" || return 1
-    keys Escape
-    local i
-    for ((i = 0; i < 20; i++)); do
-        is_gone "$1" && return
-        read -r -t 0.05 <> <(:) || true
-    done
-    return 1
-}
-
 launch() {
     env LC_ALL=C.UTF-8 "${launcher:-$trial/Vantrel}" >"$work/program.log" 2>&1 &
     program=$!
@@ -40,23 +25,21 @@ launch() {
 trial_start() {
     launch
     trap 'kill "$program" 2>/dev/null || true' EXIT
-    until_true "the question at start" asks Vantrel
-    activate "$window"
-    keys alt+y
+    activate_question Vantrel
+    until_true "the question to close" closes alt+y asks Vantrel
     until_true "the version window" is_shown "About Vantrel"
     until_true "the main window" is_shown "$title"
     main=$window
     # It comes before the main window now, and may be gone for a moment meanwhile.
     until_true "the windows to be painted" is_still "$main"
-    until_true "the version window to close" closes "About Vantrel"
+    until_true "the version window to close" closes Escape is_shown "About Vantrel"
     activate "$main"
 }
 
 trial_close() {
     activate "$main"
     keys alt+F4
-    until_true "the question at the end" asks Vantrel
-    activate "$window"
+    activate_question Vantrel
     keys Return
     until_true "the program to end" has_ended
     local status=0
@@ -87,12 +70,14 @@ pc_item() { printf '70 %s' $((149 + 22 * $1)); }
 controller_item() { printf '490 %s' $((125 + 19 * $1)); }
 # shellcheck disable=SC2046
 select_on_pc() { # NAME
+    activate "$main"
     click "$main" "${pc_frame[@]}"
     keys Home $(repeat "$(row_of "$1")" Down)
     until_true "$1 to be selected" is_still "$main"
 }
 # shellcheck disable=SC2046
 select_on_controller() { # NAME
+    activate "$main"
     click "$main" "${controller_frame[@]}"
     keys Home $(repeat "$(controller_row_of "$1")" Down)
     until_true "$1 to be selected" is_still "$main"
@@ -104,11 +89,13 @@ drag() {
     # A hand starts slowly; the drag begins while the pointer is still on the item.
     for step in 1 2 3 4 5; do
         xdotool mousemove --window "$main" $(($1 + 2 * step)) "$2"
-        read -r -t 0.03 <> <(:) || true
+        pause 0.03
     done
+    until_true "the drag to begin" is_still "$main"
     for step in 1 2 3 4 5 6 7 8 9 10; do
         xdotool mousemove --window "$main" $(($1 + ($3 - $1) * step / 10)) $(($2 + ($4 - $2) * step / 10))
-        read -r -t 0.03 <> <(:) || true
+        pause 0.03
     done
+    until_true "the drag to arrive" is_still "$main"
     xdotool mouseup 1
 }

@@ -10,7 +10,7 @@ launch() {
 # window does not; a box of the program's own title always asks.
 question_titled() {
     local window
-    for window in $(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null); do
+    for window in $(visible_windows --name "^$1\$"); do
         if [ "$1" = Vantrel ] || xprop -id "$window" WM_TRANSIENT_FOR 2>/dev/null | grep -q '#'; then
             printf '%s\n' "$window"
             return 0
