@@ -93,6 +93,11 @@ closes() {
     return 1
 }
 stays_gone() { ! "$1" "$2" && pause 0.2 && ! "$1" "$2"; }
+# answer TITLE KEY: waits for the question and answers it with the key.
+answer() {
+    activate_question "$1"
+    until_true "the question of $1 to close" closes "$2" asks "$1"
+}
 keys() { xdotool key --clearmodifiers --delay 20 "$@"; }
 # click WINDOW X Y: pixels from the window's upper left corner.
 click() { xdotool mousemove --window "$1" "$2" "$3" click 1; }

@@ -30,7 +30,7 @@ import -window "$main" "$work/selected.png"
 click "$main" 16 42 # the first button of the main tool bar
 activate_question 'File transfer'
 import -window root "$work/question.png"
-until_true "the question to close" closes alt+y asks 'File transfer'
+answer 'File transfer' alt+y
 until_true "$newer on the controller" same_bytes "$jobs/$newer" "$controller/$newer"
 until_true "$added on the controller" same_bytes "$jobs/$added" "$controller/$added"
 until_true "the progress window to close" is_gone 'File transfer'

@@ -61,11 +61,8 @@ opened() {
     painted "$window"
 }
 closed() { until_true "the window $1 to close" is_gone "$1"; }
-# dismiss TITLE KEY: a window that has only just come up may miss the key the first time.
-dismiss() { until_true "the window $1 to close" is_dismissed "$1" "$2"; }
-is_dismissed() {
-    is_gone "$1" || { becomes_active "$window" && keys "$2"; is_gone "$1"; }
-}
+# dismiss TITLE KEY: closes the window with the key.
+dismiss() { until_true "the window $1 to close" closes "$2" is_shown "$1"; }
 
 start_with_language_dialog() {
     local settings=$trial/Vantrel.ini
@@ -83,9 +80,7 @@ start_with_language_dialog() {
 }
 
 main_window() {
-    until_true "the question at start" asks "$(text 0)"
-    activate "$window"
-    keys alt+y
+    answer "$(text 0)" alt+y
     opened "$(text 129)"
     dismiss "$(text 129)" Escape
     opened "$title"
@@ -97,8 +92,7 @@ main_window() {
 
 overwrite_question() {
     keys alt+f c
-    until_true "the overwrite question" asks "$(text 7)"
-    activate "$window"
+    activate_question "$(text 7)"
     painted "$window"
     keep overwrite "$window"
     dismiss "$(text 7)" alt+c
@@ -175,8 +169,7 @@ list_file() {
 end_program() {
     activate "$main"
     keys alt+F4
-    until_true "the question at the end" asks "$(text 0)"
-    activate "$window"
+    activate_question "$(text 0)"
     keys Return
     until_true "the program to end" has_ended
     trap - EXIT

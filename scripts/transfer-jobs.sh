@@ -22,11 +22,6 @@ progress_ends() {
     until_true "the lists to be filled" is_still "$main"
 }
 
-answer() { # TITLE KEY
-    activate_question "$1"
-    until_true "the question of $1 to close" closes "$2" asks "$1"
-}
-
 trial_start
 
 say "Displaying BRKT02.JBI beside the PC pane, not over it."

@@ -25,12 +25,11 @@ launch() {
 trial_start() {
     launch
     trap 'kill "$program" 2>/dev/null || true' EXIT
-    activate_question Vantrel
-    until_true "the question to close" closes alt+y asks Vantrel
+    answer Vantrel alt+y
     until_true "the version window" is_shown "About Vantrel"
     until_true "the main window" is_shown "$title"
     main=$window
-    # It comes before the main window now, and may be gone for a moment meanwhile.
+    # The version window is put before the main one, and may be gone for a moment meanwhile.
     until_true "the windows to be painted" is_still "$main"
     until_true "the version window to close" closes Escape is_shown "About Vantrel"
     activate "$main"
