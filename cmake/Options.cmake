@@ -12,6 +12,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     # GCC 12 warns of overlapping copies inside std::string's own operator+ (its bug 105651).
     target_compile_options(vantrel_options INTERFACE -Wno-restrict)
 endif()
+if(UNIX AND CMAKE_SIZEOF_VOID_P EQUAL 4)
+    # Sizes above 2 GB and times after 2038 fit as they do in 64 bits.
+    add_compile_definitions(_FILE_OFFSET_BITS=64 _TIME_BITS=64)
+endif()
 if(VANTREL_SANITIZE)
     target_compile_options(vantrel_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

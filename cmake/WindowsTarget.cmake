@@ -12,6 +12,9 @@ add_link_options(-static -Wl,--gc-sections
 string(APPEND CMAKE_EXE_LINKER_FLAGS_RELEASE " -s")
 string(APPEND CMAKE_SHARED_LINKER_FLAGS_RELEASE " -s")
 
+if(VANTREL_LINK_ONLY)
+    return()
+endif()
 # Asked for at each configuration, since its cache may have been emptied or a newer one may be wanted
 # than the build folder remembers. The script answers at once when the toolkit is there.
 execute_process(

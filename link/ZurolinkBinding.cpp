@@ -12,10 +12,11 @@
 namespace vantrel {
 namespace {
 
+/// Whether the system's compilers add to the names of standard calls.
 #if defined(_WIN32) && !defined(_WIN64)
-constexpr bool standardCalls = true;
+constexpr bool decoratedNames = true;
 #else
-constexpr bool standardCalls = false;
+constexpr bool decoratedNames = false;
 #endif
 
 /// Looks functions up and collects the names of those that are not there.
@@ -33,7 +34,7 @@ class Resolver {
     template <typename Function>
     void find(Function& function, const char* name, int argumentCount) {
         function = nullptr;
-        for (const std::string& exported : exportNames(name, argumentCount, standardCalls))
+        for (const std::string& exported : exportNames(name, argumentCount, decoratedNames))
             if (!function)
                 function = reinterpret_cast<Function>(library_.symbol(exported));
     }

@@ -2,9 +2,12 @@
 
 #include <cstdint>
 
-/// How the library's functions are called: standard call on 32-bit Windows, where that differs from
-/// the ordinary call.
-#if defined(_WIN32) && !defined(_WIN64)
+/// How the library's functions are called: standard call in programs of 32 bits, where that differs
+/// from the ordinary call. The maker's library has that on Windows; Linux follows, so that the
+/// convention is tried where programs of 32 bits can be run.
+#if defined(__i386__)
+#define ZUROLINK_CALL __attribute__((stdcall))
+#elif defined(_M_IX86)
 #define ZUROLINK_CALL __stdcall
 #else
 #define ZUROLINK_CALL

@@ -6,12 +6,12 @@ linux_packages=(dpkg-dev librsvg2-bin)
 build_packages=(g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev pkg-config librsvg2-common fonts-vlgothic
     ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils adwaita-icon-theme)
-test_packages=(libgtest-dev libgmock-dev poppler-utils "${linux_packages[@]}" desktop-file-utils appstream)
+test_packages=(libgtest-dev libgmock-dev g++-multilib python3 poppler-utils "${linux_packages[@]}" desktop-file-utils appstream)
 fuzz_packages=(clang cmake ninja-build ccache)
 # For the Windows build and its tests under Wine; the source package of the toolkit is fetched by
 # scripts/windows-toolkit.sh.
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build ccache make dpkg-dev
-    libgtest-dev libgmock-dev librsvg2-bin icoutils nsis zip wine wine64 locales fonts-vlgothic
+    libgtest-dev libgmock-dev python3 librsvg2-bin icoutils nsis zip wine wine64 locales fonts-vlgothic
     ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic poppler-utils)
 
 is_debian_like() {

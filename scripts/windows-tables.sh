@@ -2,7 +2,8 @@
 # Checks what a Windows build asks of the system and what it offers:
 #   scripts/windows-tables.sh BUILD
 # Program and stand-in library may need libraries of the system only and start from Windows 7 on, and
-# the library has to export its functions under their plain names, and nothing else.
+# the library has to export its functions under their plain names, and nothing else. In 32 bits each of
+# them also has to clean exactly its arguments from the stack.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$1
@@ -37,5 +38,8 @@ for file in "$build/ui/Vantrel.exe" "$build/simulator/Zurolink.dll"; do
 done
 difference=$(diff <(wanted) <(exports "$build/simulator/Zurolink.dll")) ||
     fail "the export table of Zurolink.dll: $difference"
+if "$dump" -f "$build/simulator/Zurolink.dll" | grep -q pei-i386; then
+    scripts/standard-calls.py "$build/simulator/Zurolink.dll" || failed=1
+fi
 [ "$failed" -eq 0 ] && echo "Import and export tables of $build are as they should be."
 exit "$failed"

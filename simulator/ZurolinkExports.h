@@ -11,10 +11,11 @@
 #define ZUROLINK_EXPORT extern "C" __attribute__((visibility("default")))
 #endif
 
-// A caller on 32-bit Windows may hand over a stack aligned to 4 bytes only.
-#if defined(_WIN32) && defined(__i386__)
+// In 32 bits all are standard calls, and a caller on Windows may hand over a stack aligned to 4
+// bytes only.
+#if defined(__i386__)
 #define ZUROLINK_CALL __attribute__((stdcall, force_align_arg_pointer))
-#elif defined(_WIN32) && defined(_M_IX86)
+#elif defined(_M_IX86)
 #define ZUROLINK_CALL __stdcall
 #else
 #define ZUROLINK_CALL
