@@ -7,6 +7,7 @@
 #include "files/CommandScopes.h"
 #include "files/PaneRefresh.h"
 #include "files/PaneWindow.h"
+#include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/OperatorDialog.h"
@@ -18,9 +19,6 @@
 namespace vantrel {
 
 namespace {
-
-/// The step of a directory that could not be read; its index counts what was read.
-constexpr const char* directoryStep = "BscFind";
 
 /// Blank lines of a variable list are entries as well.
 bool holdsVariables(const Snappy& session) {
@@ -95,7 +93,10 @@ CommandOutcome ListTransferCommands::saveJobs(const CommandProgress& progress) {
 /// After an unset address another attempt would only bring the same message again.
 CommandOutcome ListTransferCommands::loadJobs(const CommandProgress& progress) {
     const bool called = transferJobs(Direction::Send, progress);
-    return {.controllerTouched = called && !with_.session.endedByUnsetAddress()};
+    if (!called)
+        return {};
+    return {.controllerTouched = !with_.session.operatorIsTold(),
+            .goneFromController = with_.session.unreplacedJobs()};
 }
 
 bool ListTransferCommands::transferJobs(Direction direction, const CommandProgress& progress) {
@@ -106,6 +107,8 @@ bool ListTransferCommands::transferJobs(Direction direction, const CommandProgre
                                                         : with_.session.JobListUpLoad();
     if (!succeeded)
         reportEntry(with_.session.JobList(with_.session.ErrorIndex()));
+    else
+        TransferReports(with_).unreplacedJobs();
     return true;
 }
 
@@ -138,7 +141,7 @@ CommandOutcome ListTransferCommands::loadVariables(const CommandProgress&) {
 }
 
 void ListTransferCommands::reportEntry(const std::string& entry) const {
-    const bool namesIt = !entry.empty() && with_.session.ErrorFunction() != directoryStep;
+    const bool namesIt = !entry.empty() && with_.session.triedAnEntry();
     reportFailure(namesIt ? "\n[" + shownText(entry) + "]" : std::string());
 }
 
@@ -147,13 +150,14 @@ void ListTransferCommands::reportFailure(const std::string& details) const {
     const auto& session = with_.session;
     const bool cancelled =
         session.ErrorFunction().empty() && session.ErrorCode() == session_code::cancelled;
-    if (cancelled || session.endedByUnsetAddress())
-        return;
+    if (cancelled || session.operatorIsTold())
+        return TransferReports(with_).unreplacedJobs();
+    const auto index = session.failedIndex();
+    const std::string place =
+        index ? with_.messages.getMessage(message::listIndex) + inParentheses(*index) : "";
     with_.dialog.tell(with_.messages.getMessage(message::transferFailed) + session.ErrorFunction() +
-                          inParentheses(session.ErrorCode()) +
-                          with_.messages.errorText(session.ErrorCode()) +
-                          with_.messages.getMessage(message::listIndex) +
-                          inParentheses(session.ErrorIndex()) + details,
+                          inParentheses(session.ErrorCode()) + session.errorText() + place +
+                          details + TransferReports(with_).furtherLines(),
                       BoxIcon::Exclamation);
 }
 

@@ -7,6 +7,7 @@
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
 #include "files/Panes.h"
+#include "files/TransferReports.h"
 #include "files/TransferTable.h"
 #include "lang/LanguageChoice.h"
 #include "lang/MessageBoxes.h"
@@ -112,8 +113,9 @@ void StartRoutine::offerControllerDirectory() {
         with_.windows.loadVersionWindow();
         if (!panes.readController()) {
             // An address that is not set has been told by the session.
-            if (!session_->endedByUnsetAddress())
-                with_.boxes.tell(messages.getMessage(message::controllerNotRead),
+            if (!session_->operatorIsTold())
+                with_.boxes.tell(messages.getMessage(message::controllerNotRead) +
+                                     directoryFailure(with_.state, *session_),
                                  BoxIcon::Exclamation);
             panes.emptyController();
         }

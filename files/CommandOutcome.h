@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace vantrel {
 
@@ -10,6 +11,8 @@ struct CommandOutcome {
     bool succeeded = true;
     bool pcTouched = false;
     bool controllerTouched = false;
+    /// What the controller has no more, by the entries of its listing.
+    std::vector<std::string> goneFromController = {};
 };
 
 /// An item of a pane when a command began.

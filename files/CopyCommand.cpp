@@ -27,7 +27,9 @@ CommandOutcome CopyCommand::send(const std::vector<SelectedItem>& items) {
     CommandOutcome outcome;
     bool called = false;
     outcome.succeeded = transfer(items, Direction::Send, called);
-    outcome.controllerTouched = called && !with_.session.endedByUnsetAddress();
+    if (called)
+        outcome.goneFromController = with_.session.unreplacedJobs();
+    outcome.controllerTouched = called && !with_.session.operatorIsTold();
     return outcome;
 }
 
@@ -62,8 +64,8 @@ bool CopyCommand::transfer(const std::vector<SelectedItem>& items, Direction dir
         with_.session.AddJobList(name);
     const bool succeeded = direction == Direction::Send ? with_.session.JobListDownLoad()
                                                         : with_.session.JobListUpLoad();
-    if (!succeeded && !with_.session.endedByUnsetAddress())
-        TransferReports(with_).listTransferFailed();
+    if (succeeded || !TransferReports(with_).listTransferFailed())
+        TransferReports(with_).unreplacedJobs();
     return succeeded;
 }
 

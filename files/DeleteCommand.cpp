@@ -58,10 +58,12 @@ bool DeleteCommand::isWanted(const std::string& name, std::int32_t question) {
 
 bool DeleteCommand::deleteOnController(const std::string& name) {
     outcome_.controllerTouched = true;
-    if (with_.session.JobDelete(name))
+    if (with_.session.JobDelete(name)) {
+        outcome_.goneFromController.push_back(name);
         return true;
+    }
     outcome_.succeeded = false;
-    if (with_.session.endedByUnsetAddress()) {
+    if (with_.session.operatorIsTold()) {
         outcome_.controllerTouched = false;
         return false;
     }

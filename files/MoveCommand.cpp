@@ -3,15 +3,15 @@
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
 #include "files/AmbiguousNames.h"
+#include "files/SentSources.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/JobFile.h"
 #include "link/LocalJobList.h"
 #include "link/OperatorDialog.h"
-#include "link/ShownText.h"
+#include "link/OverwriteQuestion.h"
 #include "link/Snappy.h"
-#include "platform/Files.h"
 
 #include <algorithm>
 
@@ -24,8 +24,14 @@ bool holds(const std::vector<std::string>& jobs, const std::string& job) {
 
 } // namespace
 
-MoveCommand::MoveCommand(const TransferServices& services, Direction direction)
-    : with_(services), direction_(direction),
+MoveCommand::MoveCommand(const TransferServices& services)
+    : MoveCommand(services, Direction::Receive, nullptr) {}
+
+MoveCommand::MoveCommand(const TransferServices& services, SentSources& sent)
+    : MoveCommand(services, Direction::Send, &sent) {}
+
+MoveCommand::MoveCommand(const TransferServices& services, Direction direction, SentSources* sent)
+    : with_(services), direction_(direction), sent_(sent),
       title_(with_.messages.getMessage(message::transferTitle)),
       progress_(with_, title_, with_.messages.resourceMessage(message::resource::transferring)) {
     with_.session.path = PathRules().withSeparator(with_.state.PCPath);
@@ -39,6 +45,7 @@ CommandOutcome MoveCommand::run(const std::vector<SelectedItem>& items) {
             outcome_.succeeded = false;
             break;
         }
+    tellUnreplaced();
     return outcome_;
 }
 
@@ -62,10 +69,7 @@ bool MoveCommand::move(const std::string& name) {
     const Arrival arrival = transfer(name);
     if (arrival != Arrival::Arrived)
         return arrival == Arrival::NotArrived;
-    if (direction_ == Direction::Receive)
-        return removeFromController(name);
-    removeFromPC(name);
-    return true;
+    return direction_ == Direction::Send || removeFromController(name);
 }
 
 MoveCommand::Arrival MoveCommand::transfer(const std::string& name) {
@@ -84,18 +88,19 @@ MoveCommand::Arrival MoveCommand::askAndTransfer(const std::string& name,
                                                  std::vector<std::string> asked) {
     std::vector<std::string> unasked = with_.session.jobsInTheWay();
     std::erase_if(unasked, [&asked](const std::string& job) { return holds(asked, job); });
-    const Arrival allowed = askFor(unasked);
+    const Arrival allowed = askFor(name, unasked);
     if (allowed != Arrival::Arrived)
         return allowed;
     asked.insert(asked.end(), unasked.begin(), unasked.end());
     return transferOver(name, asked);
 }
 
-MoveCommand::Arrival MoveCommand::askFor(const std::vector<std::string>& jobs) {
+MoveCommand::Arrival MoveCommand::askFor(const std::string& file,
+                                         const std::vector<std::string>& jobs) {
     for (const std::string& job : jobs) {
         if (overwriteAll_ && !hasArrived(job))
             continue;
-        switch (askOverwrite(job)) {
+        switch (askOverwrite(job, job == file ? with_.session.storedAs() : std::string())) {
         case Answer::No:
             return Arrival::NotArrived;
         case Answer::Cancel:
@@ -115,7 +120,7 @@ std::string MoveCommand::arrivalName(const std::string& name) const {
     if (direction_ == Direction::Receive || !isJobFileName(name))
         return name;
     const auto job = JobFile::read(PathRules().join(with_.state.PCPath, name));
-    return job && !job->name().empty() ? jobFileName(job->name()) : name;
+    return job && !job->name().text.empty() ? jobFileName(job->name().text) : name;
 }
 
 bool MoveCommand::hasArrived(const std::string& name) const {
@@ -133,20 +138,47 @@ MoveCommand::Arrival MoveCommand::transferOver(const std::string& name,
     if (direction_ == Direction::Receive || overwriteAll_)
         return callSession(name, true) ? Arrival::Arrived : failed(name);
     touchBothSides();
-    if (with_.session.replaceJobs(name, asked))
+    const bool sent = with_.session.replaceJobs(name, asked);
+    noteEffects(name, sent);
+    if (sent)
         return Arrival::Arrived;
     return somethingElseIsInTheWay() ? askAndTransfer(name, asked) : failed(name);
 }
 
 bool MoveCommand::somethingElseIsInTheWay() const {
-    return !with_.session.endedByUnsetAddress() && with_.session.ErrorFunction().empty() &&
+    return !with_.session.operatorIsTold() && with_.session.ErrorFunction().empty() &&
            with_.session.ErrorCode() == session_code::fileChanged;
 }
 
 bool MoveCommand::callSession(const std::string& name, bool overwrite) {
     touchBothSides();
-    return direction_ == Direction::Send ? with_.session.JobDownLoad(name, overwrite)
-                                         : with_.session.JobUpLoad(name, overwrite);
+    if (direction_ == Direction::Receive)
+        return with_.session.JobUpLoad(name, overwrite);
+    const bool sent = with_.session.JobDownLoad(name, overwrite);
+    noteEffects(name, sent);
+    return sent;
+}
+
+/// Every send has begun with a reading of the directory, which shows what went before it.
+void MoveCommand::noteEffects(const std::string& name, bool sent) {
+    const auto& unreplaced = with_.session.unreplacedJobs();
+    auto& gone = outcome_.goneFromController;
+    gone.insert(gone.end(), unreplaced.begin(), unreplaced.end());
+    sent_->removeArrived();
+    if (!sent)
+        return;
+    unreplaced_.insert(unreplaced_.end(), unreplaced.begin(), unreplaced.end());
+    const auto isBack = [&](const std::string& job) {
+        return isSameJob(job, with_.session.lastSent().arrivesAs);
+    };
+    std::erase_if(gone, isBack);
+    std::erase_if(unreplaced_, isBack);
+    sent_->add(name);
+}
+
+void MoveCommand::tellUnreplaced() const {
+    if (!unreplaced_.empty())
+        TransferReports(with_).aboutFiles(message::notReplaced, unreplaced_);
 }
 
 void MoveCommand::touchBothSides() {
@@ -156,21 +188,19 @@ void MoveCommand::touchBothSides() {
 
 /// The silent session answers its own overwrite question with Cancel.
 bool MoveCommand::existsAlready() const {
-    return !with_.session.endedByUnsetAddress() && with_.session.ErrorFunction().empty() &&
+    return !with_.session.operatorIsTold() && with_.session.ErrorFunction().empty() &&
            with_.session.ErrorCode() == session_code::cancelled;
 }
 
-Answer MoveCommand::askOverwrite(const std::string& name) const {
-    return with_.dialog.ask(title_,
-                            shownText(name) + " " +
-                                with_.messages.resourceMessage(message::resource::alreadyExists));
+Answer MoveCommand::askOverwrite(const std::string& name, const std::string& storedAs) const {
+    return with_.dialog.ask(title_, overwriteQuestion(with_.messages, name, storedAs));
 }
 
 /// An unset address concerns every file: the session has told the operator, and the command ends
 /// without another attempt.
 MoveCommand::Arrival MoveCommand::failed(const std::string& name) {
     outcome_.succeeded = false;
-    if (with_.session.endedByUnsetAddress()) {
+    if (with_.session.operatorIsTold()) {
         outcome_.controllerTouched = false;
         return Arrival::EndOfCommand;
     }
@@ -178,22 +208,16 @@ MoveCommand::Arrival MoveCommand::failed(const std::string& name) {
     return Arrival::NotArrived;
 }
 
-void MoveCommand::removeFromPC(const std::string& name) {
-    const Outcome removed = removeFile(PathRules().join(with_.state.PCPath, name));
-    if (removed)
-        return;
-    outcome_.succeeded = false;
-    TransferReports(with_).aboutFile(name, message::originalNotDeleted, removed.reason());
-}
-
 /// A press of Cancel keeps the original: it stops before the next call, and this is one.
 bool MoveCommand::removeFromController(const std::string& name) {
     if (progress_.isCancelled())
         return false;
-    if (with_.session.JobDelete(name))
+    if (with_.session.JobDelete(name)) {
+        outcome_.goneFromController.push_back(name);
         return true;
+    }
     outcome_.succeeded = false;
-    if (with_.session.endedByUnsetAddress())
+    if (with_.session.operatorIsTold())
         return false;
     TransferReports(with_).originalNotDeleted(name);
     return true;

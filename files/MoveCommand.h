@@ -12,17 +12,23 @@
 namespace vantrel {
 
 enum class Answer;
+class SentSources;
 
-/// A move, file by file: each source goes once its copy has arrived, which the session vouches for.
-/// The session works silently and the questions are asked here; a failure of one file is reported
-/// and the next one follows. Made for one command.
+/// A move, file by file: each source goes once its copy has arrived. Whether a fetched file has is
+/// looked at by the session; a sent one is known only from the next reading of the directory. The
+/// session works silently and the questions are asked here; a failure of one file is reported and
+/// the next one follows. Made for one command.
 class MoveCommand {
   public:
-    MoveCommand(const TransferServices& services, Direction direction);
+    explicit MoveCommand(const TransferServices& services);
+    /// Sends; the sources that go are left to `sent`.
+    MoveCommand(const TransferServices& services, SentSources& sent);
 
     CommandOutcome run(const std::vector<SelectedItem>& items);
 
   private:
+    MoveCommand(const TransferServices& services, Direction direction, SentSources* sent);
+
     enum class Arrival { Arrived, NotArrived, EndOfCommand };
 
     std::vector<std::string> movable(const std::vector<SelectedItem>& items) const;
@@ -33,29 +39,33 @@ class MoveCommand {
     /// was `asked` about before.
     Arrival askAndTransfer(const std::string& name, std::vector<std::string> asked = {});
     /// `Arrived` when all of these may be overwritten.
-    Arrival askFor(const std::vector<std::string>& jobs);
+    Arrival askFor(const std::string& file, const std::vector<std::string>& jobs);
     /// With the operator's leave for what he was `asked` about, and for nothing else.
     Arrival transferOver(const std::string& name, const std::vector<std::string>& asked);
     bool callSession(const std::string& name, bool overwrite);
     bool existsAlready() const;
     bool somethingElseIsInTheWay() const;
-    Answer askOverwrite(const std::string& name) const;
+    Answer askOverwrite(const std::string& name, const std::string& storedAs) const;
     /// The name under which the file ends up at its destination.
     std::string arrivalName(const std::string& name) const;
     /// Whether this very command has brought something there that goes by this name.
     bool hasArrived(const std::string& name) const;
     Arrival failed(const std::string& name);
-    void removeFromPC(const std::string& name);
+    /// Notes what the session's last call has come to beside its result.
+    void noteEffects(const std::string& name, bool sent);
+    void tellUnreplaced() const;
     bool removeFromController(const std::string& name);
     void touchBothSides();
 
     TransferServices with_;
     Direction direction_;
+    SentSources* sent_; ///< of a send, else null
     std::string title_;
     CommandProgress progress_;
     CommandOutcome outcome_;
     bool overwriteAll_ = false;
-    JobNameSet arrived_; ///< what this command has brought to the destination
+    std::vector<std::string> unreplaced_; ///< jobs deleted for files that were sent
+    JobNameSet arrived_;                  ///< what this command has brought to the destination
 };
 
 } // namespace vantrel

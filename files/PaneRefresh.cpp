@@ -26,18 +26,30 @@ bool PaneRefresh::refreshPC() const {
 /// has been named by the session itself.
 bool PaneRefresh::refreshController() const {
     if (!with_.panes.readController()) {
-        if (!with_.session.endedByUnsetAddress())
-            TransferReports(with_).tell(with_.messages.getMessage(message::controllerNotRead));
+        if (!with_.session.operatorIsTold())
+            TransferReports(with_).controllerNotRead();
         return false;
     }
     return fill(ActiveSide::Controller, selectedOnController_);
 }
 
-void PaneRefresh::refreshTouched(const CommandOutcome& outcome) const {
-    if (outcome.controllerTouched)
-        refreshController();
+void PaneRefresh::refreshTouched(const CommandOutcome& outcome,
+                                 const std::function<void()>& controllerRead) const {
+    if (!(outcome.controllerTouched && refreshController()))
+        dropFromController(outcome.goneFromController);
+    if (controllerRead)
+        controllerRead();
     if (outcome.pcTouched)
         refreshPC();
+}
+
+/// The old list stays where the new one could not be read, but not with jobs that are known to be
+/// gone.
+void PaneRefresh::dropFromController(const std::vector<std::string>& names) const {
+    if (names.empty())
+        return;
+    with_.panes.dropFromController(names);
+    fill(ActiveSide::Controller, selectedOnController_);
 }
 
 bool PaneRefresh::fill(ActiveSide side, const std::vector<std::string>& selected) const {

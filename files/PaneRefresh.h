@@ -4,6 +4,7 @@
 #include "files/CommandOutcome.h"
 #include "files/TransferServices.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -18,9 +19,13 @@ class PaneRefresh {
     /// False, after a message, when the pane could not be brought up to date.
     bool refreshPC() const;
     bool refreshController() const;
-    void refreshTouched(const CommandOutcome& outcome) const;
+    /// `controllerRead`, when given, is called between the two panes: what the controller has just
+    /// shown may decide on what is left on the PC.
+    void refreshTouched(const CommandOutcome& outcome,
+                        const std::function<void()>& controllerRead = {}) const;
 
   private:
+    void dropFromController(const std::vector<std::string>& names) const;
     bool fill(ActiveSide side, const std::vector<std::string>& selected) const;
 
     TransferServices with_;

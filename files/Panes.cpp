@@ -70,6 +70,17 @@ bool Panes::readController() {
     return true;
 }
 
+void Panes::dropFromController(const std::vector<std::string>& names) {
+    const std::unordered_set<std::string_view> gone(names.begin(), names.end());
+    FolderListing kept;
+    for (std::string& name : state_.CtrlListing.Names)
+        if (!gone.contains(name))
+            kept.append(std::move(name), 0, DateText());
+    kept.Path = std::move(state_.CtrlListing.Path);
+    takeEntries(state_.CtrlListing, std::move(kept));
+    controllerRows_.clear();
+}
+
 void Panes::emptyController() {
     state_.CtrlListing.clear();
     state_.CtrlListing.Path.clear();

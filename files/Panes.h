@@ -25,6 +25,8 @@ class Panes {
     /// Reads the controller's directory and adds the table's fixed names; false, with the listing
     /// as it was, when the session could not read it.
     bool readController();
+    /// Takes these entries out, which the controller has no more.
+    void dropFromController(const std::vector<std::string>& names);
     /// No entries, for a controller that was not read.
     void emptyController();
     /// The same, shown: the list of one machine never stands beside the name of another.

@@ -7,6 +7,7 @@
 #include "files/PaneRefresh.h"
 #include "files/PaneWindow.h"
 #include "files/Panes.h"
+#include "files/SentSources.h"
 
 namespace vantrel {
 
@@ -35,15 +36,16 @@ bool TransferCommands::receiveCopy() {
 }
 
 bool TransferCommands::sendMove() {
-    return run(ActiveSide::PC, [this](const Items& items) {
-        return MoveCommand(with_, Direction::Send).run(items);
-    });
+    SentSources sent(with_);
+    const bool succeeded = run(
+        ActiveSide::PC, [&](const Items& items) { return MoveCommand(with_, sent).run(items); },
+        [&] { sent.conclude(); });
+    return succeeded && sent.allWent();
 }
 
 bool TransferCommands::receiveMove() {
-    return run(ActiveSide::Controller, [this](const Items& items) {
-        return MoveCommand(with_, Direction::Receive).run(items);
-    });
+    return run(ActiveSide::Controller,
+               [this](const Items& items) { return MoveCommand(with_).run(items); });
 }
 
 bool TransferCommands::deleteOnController() {
@@ -63,7 +65,8 @@ bool TransferCommands::refresh(ActiveSide side) {
 }
 
 /// A list in a locked window cannot take the focus, so that comes after the lock.
-bool TransferCommands::run(ActiveSide source, const Work& work) {
+bool TransferCommands::run(ActiveSide source, const Work& work,
+                           const std::function<void()>& controllerRead) {
     const Items items = selectedItems(with_.panes, with_.window, source);
     if (items.empty())
         return true;
@@ -72,7 +75,7 @@ bool TransferCommands::run(ActiveSide source, const Work& work) {
         const PaneRefresh refresh(with_);
         const WindowLock lock(with_.window);
         outcome = work(items);
-        refresh.refreshTouched(outcome);
+        refresh.refreshTouched(outcome, controllerRead);
     }
     with_.window.list(source).focus();
     return outcome.succeeded;

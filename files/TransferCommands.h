@@ -23,7 +23,7 @@ class TransferCommands {
     bool sendCopy();
     /// Selected controller files into the PC folder, through the session's job list.
     bool receiveCopy();
-    /// File by file; each PC file is deleted once it was sent.
+    /// File by file; each PC file is deleted once the controller's directory shows that it arrived.
     bool sendMove();
     /// File by file; each controller job is deleted once its file is in the PC folder.
     bool receiveMove();
@@ -38,7 +38,8 @@ class TransferCommands {
     using Items = std::vector<SelectedItem>;
     using Work = std::function<CommandOutcome(const Items& items)>;
 
-    bool run(ActiveSide source, const Work& work);
+    /// `controllerRead`, when given, is called as by `PaneRefresh::refreshTouched`.
+    bool run(ActiveSide source, const Work& work, const std::function<void()>& controllerRead = {});
 
     TransferServices with_;
 };

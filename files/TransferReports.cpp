@@ -1,10 +1,13 @@
 #include "files/TransferReports.h"
 
+#include "base/ApplicationState.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/OperatorDialog.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
+
+#include <algorithm>
 
 namespace vantrel {
 
@@ -26,7 +29,31 @@ std::string inParentheses(const std::string& text) {
     return " ( " + text + " )";
 }
 
+/// The text with the number by which a service man asks for it, unless that is all there is.
+std::string functionAndReason(const Snappy& session) {
+    const std::string number = std::to_string(session.ErrorCode());
+    const std::string text = session.errorText();
+    return session.ErrorFunction() +
+           inParentheses(text == number ? text : text + " (" + number + ")");
+}
+
 } // namespace
+
+// The serial line has one robot at its end, whichever is chosen for the other mode.
+std::string robotText(const ApplicationState& state, const Snappy& session) {
+    if (state.TransMode == TransferMode::Bsc)
+        return "COM" + std::to_string(session.port);
+    return bracketed(state.CurrentRobot.Name) + " " + shownText(session.IPaddress);
+}
+
+std::string directoryFailure(const ApplicationState& state, const Snappy& session) {
+    return "\n" + robotText(state, session) + "\n" + functionAndReason(session);
+}
+
+void TransferReports::controllerNotRead() const {
+    tell(with_.messages.getMessage(message::controllerNotRead) +
+         directoryFailure(with_.state, with_.session));
+}
 
 void TransferReports::aboutFile(const std::string& name, std::int32_t messageNumber) const {
     tell(bracketed(name) + with_.messages.getMessage(messageNumber));
@@ -37,17 +64,31 @@ void TransferReports::aboutFile(const std::string& name, std::int32_t messageNum
     tell(bracketed(name) + with_.messages.getMessage(messageNumber) + inParentheses(reason));
 }
 
+void TransferReports::aboutFiles(std::int32_t messageNumber,
+                                 const std::vector<std::string>& names) const {
+    if (!names.empty())
+        tell(with_.messages.getMessage(messageNumber) + linesOf(names));
+}
+
+void TransferReports::unreplacedJobs() const {
+    aboutFiles(message::notReplaced, with_.session.unreplacedJobs());
+}
+
 void TransferReports::transferFailed(const std::string& name) const {
     tellTransferFailure({}, name);
 }
 
-void TransferReports::listTransferFailed() const {
-    // The operator pressed Cancel and knows; a report of it would only have to be clicked away.
-    if (with_.session.ErrorFunction().empty() &&
-        with_.session.ErrorCode() == session_code::cancelled)
-        return;
-    const auto index = with_.session.ErrorIndex();
-    tellTransferFailure(" (" + std::to_string(index) + ")", with_.session.JobList(index));
+bool TransferReports::listTransferFailed() const {
+    const Snappy& session = with_.session;
+    const bool cancelled =
+        session.ErrorFunction().empty() && session.ErrorCode() == session_code::cancelled;
+    if (cancelled || session.operatorIsTold())
+        return false;
+    const auto index = session.failedIndex();
+    const std::string end = index ? " (" + std::to_string(*index) + ")" : std::string();
+    tellTransferFailure(end, session.triedAnEntry() ? session.JobList(index.value_or(-1))
+                                                    : std::string());
+    return true;
 }
 
 void TransferReports::transferFailed(const std::string& function, const std::string& reason) const {
@@ -55,36 +96,58 @@ void TransferReports::transferFailed(const std::string& function, const std::str
 }
 
 void TransferReports::deletionFailed(const std::string& name) const {
-    tell(with_.messages.getMessage(message::deleteFailed) + functionAndReason() + lineOf(name));
+    tell(with_.messages.getMessage(message::deleteFailed) + functionAndReason(with_.session) +
+         lineOf(name));
 }
 
 void TransferReports::originalNotDeleted(const std::string& name) const {
     tell(bracketed(name) + with_.messages.getMessage(message::originalNotDeleted) + " " +
-         functionAndReason());
+         functionAndReason(with_.session));
 }
 
 void TransferReports::tell(const std::string& text) const {
     with_.dialog.tell(text, BoxIcon::Exclamation);
 }
 
-std::string TransferReports::errorText() const {
-    return with_.messages.errorText(with_.session.ErrorCode());
-}
-
-/// The index of a failed directory counts what was read, so it names no file of a list.
 void TransferReports::tellTransferFailure(const std::string& end, const std::string& name) const {
-    const bool ofDirectory = with_.session.ErrorFunction() == directoryStep;
-    if (ofDirectory && end.empty())
-        tell(with_.messages.getMessage(message::noSuchFile) + lineOf(name));
-    else if (ofDirectory)
-        tell(with_.messages.getMessage(message::noSuchFile));
+    const MessageTable& messages = with_.messages;
+    if (with_.session.ErrorFunction() == directoryStep)
+        tell(messages.getMessage(message::noSuchFile) + lineOf(name) +
+             directoryFailure(with_.state, with_.session));
     else
-        tell(with_.messages.getMessage(message::transferFailed) + functionAndReason() + end +
-             lineOf(name));
+        tell(messages.getMessage(message::transferFailed) + functionAndReason(with_.session) + end +
+             lineOf(name) + furtherLines());
 }
 
-std::string TransferReports::functionAndReason() const {
-    return with_.session.ErrorFunction() + inParentheses(errorText());
+std::string TransferReports::furtherLines() const {
+    return folderLine() + unreplacedLine();
+}
+
+/// Where it is the PC folder that stands in the way of every file, its name and the system's words.
+std::string TransferReports::folderLine() const {
+    const std::int16_t code = with_.session.ErrorCode();
+    if (code != session_code::folderNotReadable && code != session_code::folderNotExpressible)
+        return {};
+    const std::string& reason = with_.session.systemReason();
+    return lineOf(with_.session.path) + (reason.empty() ? reason : inParentheses(reason));
+}
+
+/// Below a failure that cost the robot a job.
+std::string TransferReports::unreplacedLine() const {
+    const auto& jobs = with_.session.unreplacedJobs();
+    return jobs.empty() ? std::string()
+                        : "\n" + with_.messages.getMessage(message::notReplaced) + linesOf(jobs);
+}
+
+std::string TransferReports::linesOf(const std::vector<std::string>& names) const {
+    constexpr std::size_t mostNames = 15; ///< a box has to fit on the screen
+    std::string text;
+    for (std::size_t at = 0; at < std::min(names.size(), mostNames); ++at)
+        text += lineOf(names[at]);
+    if (names.size() > mostNames)
+        text += "\n" + with_.messages.getMessageWithInsertion(
+                           message::furtherNames, std::to_string(names.size() - mostNames));
+    return text;
 }
 
 } // namespace vantrel

@@ -4,8 +4,15 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace vantrel {
+
+/// The robot that the session works with now, and where it is.
+std::string robotText(const ApplicationState& state, const Snappy& session);
+/// Which robot the session's last operation was about, where it is, and why the operation failed,
+/// in lines of their own below a message.
+std::string directoryFailure(const ApplicationState& state, const Snappy& session);
 
 /// What the transfer commands tell the operator, each in a message box with an exclamation icon.
 class TransferReports {
@@ -18,23 +25,38 @@ class TransferReports {
     void aboutFile(const std::string& name, std::int32_t messageNumber,
                    const std::string& reason) const;
 
+    /// A message about several files, whose names follow below it: the first ones, and how many
+    /// there are more.
+    void aboutFiles(std::int32_t messageNumber, const std::vector<std::string>& names) const;
+    /// What the session's last send has deleted on the controller for nothing, if there is any.
+    void unreplacedJobs() const;
+
     /// The session's last failure as a failed transfer, of one file or of a list, with the file's
     /// name in a line of its own.
     void transferFailed(const std::string& name) const;
-    void listTransferFailed() const;
+    /// False, without a word, when the operator knows: he pressed Cancel, or the session has told
+    /// him of an address that is not set.
+    bool listTransferFailed() const;
     /// A failed transfer that the session knows nothing of.
     void transferFailed(const std::string& function, const std::string& reason) const;
     void deletionFailed(const std::string& name) const;
     /// The file has arrived, but the session could not delete the controller's job.
     void originalNotDeleted(const std::string& name) const;
 
+    /// The session's last failure as one of reading the controller's directory.
+    void controllerNotRead() const;
+
+    /// What stands below the session's last failure whatever the report's form: the PC folder,
+    /// where that is the reason, and what the failure cost the robot.
+    std::string furtherLines() const;
+
     void tell(const std::string& text) const;
-    /// The text of the session's `ErrorCode`.
-    std::string errorText() const;
 
   private:
     void tellTransferFailure(const std::string& end, const std::string& name) const;
-    std::string functionAndReason() const;
+    std::string folderLine() const;
+    std::string unreplacedLine() const;
+    std::string linesOf(const std::vector<std::string>& names) const;
 
     TransferServices with_;
 };

@@ -65,6 +65,12 @@ inline constexpr std::int32_t oldFileKept = 61;             ///< after [name], t
 inline constexpr std::int32_t nameIsAmbiguous = 62;         ///< after [name]
 inline constexpr std::int32_t partialFileKept = 63;         ///< after [name]
 inline constexpr std::int32_t listFileEmpty = 64;           ///< then [file name]
+inline constexpr std::int32_t notReplaced = 65;             ///< then the names of deleted jobs
+inline constexpr std::int32_t storedUnderOtherName = 66;    ///< after [name] > [other name]
+inline constexpr std::int32_t sourceChanged = 67;           ///< after [name]
+inline constexpr std::int32_t sentNotShown = 68;            ///< then the names
+inline constexpr std::int32_t sentNotKnown = 69;            ///< then the names
+inline constexpr std::int32_t furtherNames = 70;            ///< with the number inserted
 
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;

@@ -52,6 +52,11 @@ std::string MessageTable::controllerErrorText(std::int32_t code) const {
     return isControllerCode(code) ? getMessage(code) : std::string{};
 }
 
+std::string MessageTable::returnedCodeText(std::int32_t code) const {
+    auto text = controllerErrorText(code);
+    return text.empty() ? std::to_string(code) : text;
+}
+
 std::string MessageTable::errorText(std::int32_t code) const {
     auto text = isControllerCode(code) ? getMessage(code) : resourceMessage(code);
     return text.empty() ? std::to_string(code) : text;

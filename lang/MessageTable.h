@@ -32,6 +32,9 @@ class MessageTable {
     /// The text shown for any error code: from 1000 to 5200 the controller's text, for any other
     /// code its resource message; where there is none, the number itself. Never empty.
     std::string errorText(std::int32_t code) const;
+    /// The same for a code that a library function returned: what else has a text under the number
+    /// is meant for something else there.
+    std::string returnedCodeText(std::int32_t code) const;
 
   private:
     std::unordered_map<std::int32_t, MessageEntry> entries_;

@@ -24,7 +24,11 @@ bool DirectoryReader::read(std::vector<std::string>& list) {
     const bool closed = link_.disconnect(handle);
     if (last == endOfDirectory)
         return closed;
-    error_.set(last, "BscFind", static_cast<std::int32_t>(list.size()));
+    const auto count = static_cast<std::int32_t>(list.size());
+    if (last == session_code::directoryEndless && count == mostEntries)
+        error_.set(last, "BscFind", count);
+    else
+        error_.setReturned(last, "BscFind", count);
     return false;
 }
 

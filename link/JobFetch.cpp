@@ -25,7 +25,8 @@ bool JobFetch::listFolder() {
                                    [&names](std::string_view name) { names.emplace_back(name); });
     if (!listed) {
         // Without knowing what is there nothing may be fetched over it.
-        tools_.error.set(session_code::fileNotReadable, "", 0);
+        tools_.error.set(session_code::folderNotReadable, "", 0);
+        tools_.error.systemReason = listed.reason();
         return false;
     }
     tools_.directory.assign(names);

@@ -1,6 +1,7 @@
 #include "link/JobFile.h"
 
 #include "base/Text.h"
+#include "link/JobNameSet.h"
 #include "platform/Files.h"
 #include "platform/TextEncoding.h"
 
@@ -23,7 +24,7 @@ std::string_view nameOnLine(std::string_view line) {
 } // namespace
 
 // The whole file decides on its encoding: a short name alone may look like another one.
-std::string jobNameInside(std::string_view bytes) {
+JobName jobNameInside(std::string_view bytes) {
     const DecodedText decoded = decodeText(bytes);
     // No controller reads UTF-16, so it finds no name either.
     if (decoded.encoding == TextEncoding::Utf16LittleEndian)
@@ -33,17 +34,18 @@ std::string jobNameInside(std::string_view bytes) {
         const std::size_t end = std::min(text.find_first_of("\r\n", at), text.size());
         const auto name = nameOnLine(std::string_view(text).substr(at, end - at));
         if (!name.empty())
-            return std::string(name);
+            return {std::string(name), decoded.encoding == TextEncoding::CodePage || isAscii(name)};
         at = end + 1;
     }
     return {};
 }
 
 Result<JobFile> JobFile::read(const std::string& path) {
-    const auto content = readFile(path);
+    auto content = readSettledFile(path);
     if (!content)
         return Failure{content.reason()};
-    return JobFile(jobNameInside(*content));
+    JobName name = isJobFileName(path) ? jobNameInside(*content) : JobName();
+    return JobFile(std::move(name), std::move(*content));
 }
 
 } // namespace vantrel

@@ -7,23 +7,41 @@
 
 namespace vantrel {
 
-/// A job file of the PC, read whole, so that a file that cannot be read is found before anything
-/// on the controller makes room for it.
-class JobFile {
-  public:
-    static Result<JobFile> read(const std::string& path);
+/// The name on a "//NAME" line.
+struct JobName {
+    std::string text; ///< UTF-8
+    /// Whether a controller reads the line as this very name: it takes a file's bytes for its code
+    /// page, whatever else they are.
+    bool isControllers = true;
 
-    /// The job's name by its "//NAME" line, or an empty text when there is none.
-    const std::string& name() const { return name_; }
-
-  private:
-    explicit JobFile(std::string name) : name_(std::move(name)) {}
-
-    std::string name_;
+    bool operator==(const JobName&) const = default;
 };
 
-/// The name of the first "//NAME" line, without the blanks around it; UTF-8. Empty when a
-/// controller would find none.
-std::string jobNameInside(std::string_view bytes);
+/// A file of the PC that is to be sent, read whole, so that one that cannot be read is found before
+/// anything on the controller makes room for it, and one that is changed later is told from it.
+class JobFile {
+  public:
+    /// A file that is not looked into.
+    JobFile() = default;
+    /// Refused while another program writes the file, where the system can tell.
+    static Result<JobFile> read(const std::string& path);
+
+    /// The job's name by its "//NAME" line; an empty text when there is none, and for data files.
+    const JobName& name() const { return name_; }
+    const std::string& content() const { return content_; }
+    /// The content, for somebody who needs nothing else of the file.
+    std::string takeContent() { return std::move(content_); }
+
+  private:
+    JobFile(JobName name, std::string content)
+        : name_(std::move(name)), content_(std::move(content)) {}
+
+    JobName name_;
+    std::string content_;
+};
+
+/// The name of the first "//NAME" line, without the blanks around it. Empty when a controller would
+/// find none.
+JobName jobNameInside(std::string_view bytes);
 
 } // namespace vantrel

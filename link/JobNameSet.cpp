@@ -22,9 +22,13 @@ JobNameSet::JobNameSet() : JobNameSet(normalisedJobName) {}
 
 void JobNameSet::assign(const std::vector<std::string>& names) {
     files_.clear();
+    ambiguous_.clear();
     files_.reserve(names.size());
-    for (const std::string& name : names)
-        insert(name);
+    for (const std::string& name : names) {
+        const auto [known, isNew] = files_.try_emplace(form_(name), name);
+        if (!isNew && known->second != name)
+            ambiguous_.insert(known->first);
+    }
 }
 
 void JobNameSet::insert(const std::string& name) {
@@ -33,6 +37,10 @@ void JobNameSet::insert(const std::string& name) {
 
 void JobNameSet::remove(std::string_view name) {
     files_.erase(form_(name));
+}
+
+bool JobNameSet::isAmbiguous(std::string_view name) const {
+    return !ambiguous_.empty() && ambiguous_.contains(form_(name));
 }
 
 bool JobNameSet::hasFile(std::string_view name) const {
@@ -49,6 +57,13 @@ std::string JobNameSet::jobEntry(std::string_view name) const {
     return {};
 }
 
+std::string JobNameSet::entry(std::string_view name) const {
+    if (isJobFileName(name))
+        return jobEntry(name);
+    const auto found = files_.find(form_(name));
+    return found == files_.end() ? std::string() : found->second;
+}
+
 std::string jobExtension(std::string_view fileName) {
     const std::size_t point = fileName.rfind('.');
     return point == std::string_view::npos ? std::string() : asciiUpper(fileName.substr(point));
@@ -56,6 +71,10 @@ std::string jobExtension(std::string_view fileName) {
 
 std::string jobFileName(const std::string& nameInside) {
     return isJobFileName(nameInside) ? nameInside : nameInside + ".JBI";
+}
+
+bool isSameJob(std::string_view left, std::string_view right) {
+    return normalisedJobName(baseName(left)) == normalisedJobName(baseName(right));
 }
 
 bool isJobFileName(std::string_view fileName) {

@@ -6,6 +6,7 @@
 #include "link/JobNameSet.h"
 #include "link/LinkConnection.h"
 #include "link/OverwriteQuestion.h"
+#include "link/SentFile.h"
 #include "link/SessionErrorRecord.h"
 #include "link/SessionProgress.h"
 #include "link/SessionProperties.h"
@@ -25,58 +26,80 @@ bool isUsableJobName(const std::string& name) {
 
 } // namespace
 
+void JobSend::begin() {
+    unreplaced_.clear();
+    storedAs_.clear();
+}
+
 TransferOutcome JobSend::send(const std::string& file, std::int32_t index,
-                              const ReplaceConsent& consent) {
+                              const ReplaceConsent& consent, SentFile* sent) {
     tools_.inTheWay.clear();
+    storedAs_.clear();
     const auto libraryName = tools_.link.libraryFileName(file, "BscDownLoad", index);
     if (!libraryName || !tools_.link.isAsBegun())
         return TransferOutcome::Failed;
-    const auto inside = readNameInside(file, index);
-    if (!inside)
+    auto job = isJobFileName(file) || sent ? read(file, index) : JobFile();
+    if (!job)
         return TransferOutcome::Failed;
-    const TransferOutcome outcome = prepare(file, *inside, index, consent);
+    const TransferOutcome outcome = prepare(file, *job, index, consent);
     if (!goesOn(outcome))
         return outcome;
-    if (!transmit(file, *libraryName, index))
+    const std::string& inside = job->name().text;
+    const std::string arrivesAs = inside.empty() ? file : jobFileName(inside);
+    const std::string shownBefore = tools_.directory.entry(arrivesAs);
+    if (!transmit(file, *libraryName, arrivesAs, index))
         return TransferOutcome::Failed;
-    tools_.directory.insert(inside->empty() ? file : jobFileName(*inside));
+    tools_.directory.insert(arrivesAs);
+    if (sent)
+        *sent = {job->takeContent(), arrivesAs, shownBefore, jobExtension(file) != ".JBI"};
     return outcome;
 }
 
-std::optional<std::string> JobSend::readNameInside(const std::string& file, std::int32_t index) {
-    if (!isJobFileName(file))
-        return std::string();
-    const auto job = JobFile::read(PathRules().join(tools_.properties.path, file));
+std::optional<JobFile> JobSend::read(const std::string& file, std::int32_t index) {
+    auto job = JobFile::read(PathRules().join(tools_.properties.path, file));
     if (job)
-        return job->name();
+        return std::move(*job);
     tools_.error.set(session_code::fileNotReadable, "", index);
     return {};
 }
 
 // Every question comes before the first deletion, so that a refusal leaves the controller as it
-// was. A file that the controller could give no name to would cost it the old job for nothing; when
-// none is in the way, the judgement is the controller's.
-TransferOutcome JobSend::prepare(const std::string& file, const std::string& nameInside,
-                                 std::int32_t index, const ReplaceConsent& consent) {
+// was.
+TransferOutcome JobSend::prepare(const std::string& file, JobFile& job, std::int32_t index,
+                                 const ReplaceConsent& consent) {
     if (!isJobFileName(file))
         return TransferOutcome::Done;
-    const auto jobs = jobsInTheWay(file, nameInside);
+    const auto jobs = jobsInTheWay(file, job.name().text);
+    if (jobs.empty())
+        return TransferOutcome::Done;
     const bool deletes = jobExtension(file) == ".JBI";
-    if (deletes && !jobs.empty() && !isUsableJobName(nameInside)) {
-        tools_.error.set(session_code::jobNameUnusable, "", index);
+    if (const std::int16_t code = deletes ? forbids(job, jobs) : std::int16_t{0}; code != 0) {
+        tools_.error.set(code, "", index);
         return TransferOutcome::Failed;
     }
     tools_.inTheWay = shownNames(file, jobs);
-    if (jobs.empty())
-        return TransferOutcome::Done;
-    const TransferOutcome outcome = agree(file, nameInside, index, consent);
+    storedAs_ = deletes ? otherName(file, job.name().text) : std::string();
+    const TransferOutcome outcome = agree(file, job, index, consent);
     if (!goesOn(outcome))
         return outcome;
     return !deletes || removeAll(jobs) ? outcome : TransferOutcome::Failed;
 }
 
-TransferOutcome JobSend::agree(const std::string& file, const std::string& nameInside,
-                               std::int32_t index, const ReplaceConsent& consent) {
+// A file that the controller could give no name to, or another name than the one that was looked
+// for, would cost it the old job for nothing; when none is in the way, the judgement is the
+// controller's.
+std::int16_t JobSend::forbids(const JobFile& job, const std::vector<std::string>& jobs) const {
+    if (!isUsableJobName(job.name().text))
+        return session_code::jobNameUnusable;
+    if (!job.name().isControllers)
+        return session_code::jobNameNotInCodePage;
+    const bool isAmbiguous = std::ranges::any_of(
+        jobs, [this](const std::string& entry) { return tools_.directory.isAmbiguous(entry); });
+    return isAmbiguous ? session_code::jobIsAmbiguous : std::int16_t{0};
+}
+
+TransferOutcome JobSend::agree(const std::string& file, JobFile& job, std::int32_t index,
+                               const ReplaceConsent& consent) {
     if (consent.toAll)
         return TransferOutcome::Done;
     if (consent.toThese) {
@@ -88,17 +111,20 @@ TransferOutcome JobSend::agree(const std::string& file, const std::string& nameI
             tools_.error.set(session_code::fileChanged, "", index);
         return isAsked ? TransferOutcome::Done : TransferOutcome::Failed;
     }
-    const TransferOutcome outcome = askAll(tools_.inTheWay);
-    const bool goesWrong = goesOn(outcome) && !isAsAsked(file, nameInside, index);
+    const TransferOutcome outcome = askAll(file);
+    const bool goesWrong = goesOn(outcome) && !isAsAsked(file, job, index);
     return goesWrong ? TransferOutcome::Failed : outcome;
 }
 
-bool JobSend::isAsAsked(const std::string& file, const std::string& nameInside,
-                        std::int32_t index) {
-    const auto now = readNameInside(file, index);
-    if (now && *now != nameInside)
+bool JobSend::isAsAsked(const std::string& file, JobFile& job, std::int32_t index) {
+    auto now = read(file, index);
+    if (!now)
+        return false;
+    const bool isSame = now->name() == job.name();
+    if (!isSame)
         tools_.error.set(session_code::fileChanged, "", index);
-    return now && *now == nameInside;
+    job = std::move(*now);
+    return isSame;
 }
 
 // A file FOO.JBI whose line names BAR concerns both jobs: the operator thinks of the file by FOO,
@@ -122,10 +148,16 @@ std::vector<std::string> JobSend::shownNames(const std::string& file,
     return names;
 }
 
-TransferOutcome JobSend::askAll(const std::vector<std::string>& names) const {
+std::string JobSend::otherName(const std::string& file, const std::string& nameInside) const {
+    const std::string stored = jobFileName(nameInside);
+    const bool isOther = !isSameJob(file, stored) && !tools_.directory.jobEntry(file).empty();
+    return isOther ? stored : std::string();
+}
+
+TransferOutcome JobSend::askAll(const std::string& file) const {
     TransferOutcome outcome = TransferOutcome::Done;
-    for (const std::string& name : names) {
-        outcome = tools_.question.ask(name);
+    for (const std::string& name : tools_.inTheWay) {
+        outcome = tools_.question.ask(name, name == file ? storedAs_ : std::string());
         if (outcome != TransferOutcome::Done)
             break;
     }
@@ -137,18 +169,26 @@ bool JobSend::removeAll(const std::vector<std::string>& jobs) {
         if (!deletion_.remove(job))
             return false;
         tools_.directory.remove(job);
+        unreplaced_.push_back(job);
     }
     return true;
 }
 
 bool JobSend::transmit(const std::string& file, const std::string& libraryName,
-                       std::int32_t index) {
+                       const std::string& arrivesAs, std::int32_t index) {
     tools_.progress.show(tools_.progress.transferring(file));
     const std::int16_t handle = tools_.link.connect();
     if (handle < 0)
         return false;
     const std::int16_t sent = tools_.link.library().BscDownLoad(handle, libraryName.c_str());
+    if (sent == 0)
+        replaced(arrivesAs);
     return tools_.link.finish(handle, sent, "BscDownLoad", index);
+}
+
+void JobSend::replaced(const std::string& arrivesAs) {
+    std::erase_if(unreplaced_,
+                  [&arrivesAs](const std::string& job) { return isSameJob(job, arrivesAs); });
 }
 
 } // namespace vantrel

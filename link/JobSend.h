@@ -11,6 +11,8 @@
 namespace vantrel {
 
 class JobDeletion;
+class JobFile;
+struct SentFile;
 
 /// What the operator has agreed to replace before a send begins; everything else is asked for.
 struct ReplaceConsent {
@@ -25,20 +27,33 @@ class JobSend {
     JobSend(const TransferTools& tools, JobDeletion& deletion)
         : tools_(tools), deletion_(deletion) {}
 
-    /// `index` is the file's place among several, for the error record.
-    TransferOutcome send(const std::string& file, std::int32_t index,
-                         const ReplaceConsent& consent);
+    /// Forgets what the last operation has deleted.
+    void begin();
+    /// `index` is the file's place among several, for the error record. `sent`, when given, becomes
+    /// what was sent, for somebody who is to delete the file on the PC: then data files are read
+    /// too.
+    TransferOutcome send(const std::string& file, std::int32_t index, const ReplaceConsent& consent,
+                         SentFile* sent = nullptr);
+
+    /// What was deleted on the controller since `begin` for files that did not take its place, by
+    /// the directory's entries.
+    const std::vector<std::string>& unreplaced() const { return unreplaced_; }
+    /// The name under which the controller keeps the file sent last, when the job of the file's own
+    /// name is deleted for it all the same; else empty.
+    const std::string& storedAs() const { return storedAs_; }
 
   private:
-    /// The name by the file's "//NAME" line, empty for a file that is no job; nothing, with the
-    /// reason recorded, when the file cannot be read.
-    std::optional<std::string> readNameInside(const std::string& file, std::int32_t index);
-    /// Asks and deletes whatever stands in the file's way.
-    TransferOutcome prepare(const std::string& file, const std::string& nameInside,
-                            std::int32_t index, const ReplaceConsent& consent);
+    /// Nothing, with the reason recorded, when the file cannot be read.
+    std::optional<JobFile> read(const std::string& file, std::int32_t index);
+    /// Asks and deletes whatever stands in the file's way. A question may stay open for long, so
+    /// `job` is the file as it is after it.
+    TransferOutcome prepare(const std::string& file, JobFile& job, std::int32_t index,
+                            const ReplaceConsent& consent);
+    /// The code of what forbids deleting these jobs for the file, or 0.
+    std::int16_t forbids(const JobFile& job, const std::vector<std::string>& jobs) const;
     /// Asks for what stands in the file's way, unless the operator has agreed to it.
-    TransferOutcome agree(const std::string& file, const std::string& nameInside,
-                          std::int32_t index, const ReplaceConsent& consent);
+    TransferOutcome agree(const std::string& file, JobFile& job, std::int32_t index,
+                          const ReplaceConsent& consent);
     /// The jobs on the controller that the file would replace: the one of its own name, and the
     /// one that its "//NAME" line names.
     std::vector<std::string> jobsInTheWay(const std::string& file,
@@ -46,15 +61,22 @@ class JobSend {
     /// The jobs by the names that the operator is asked about: the file's own for its own job.
     std::vector<std::string> shownNames(const std::string& file,
                                         const std::vector<std::string>& jobs) const;
-    TransferOutcome askAll(const std::vector<std::string>& names) const;
-    /// Whether the file still is the one that the operator was asked about: a question stays open
-    /// for as long as it likes, and somebody may save the file meanwhile.
-    bool isAsAsked(const std::string& file, const std::string& nameInside, std::int32_t index);
+    /// What `storedAs` is while these jobs are in the way.
+    std::string otherName(const std::string& file, const std::string& nameInside) const;
+    TransferOutcome askAll(const std::string& file) const;
+    /// Reads the file again and tells whether it still is the one that the operator was asked
+    /// about: somebody may have saved it meanwhile.
+    bool isAsAsked(const std::string& file, JobFile& job, std::int32_t index);
     bool removeAll(const std::vector<std::string>& jobs);
-    bool transmit(const std::string& file, const std::string& libraryName, std::int32_t index);
+    bool transmit(const std::string& file, const std::string& libraryName,
+                  const std::string& arrivesAs, std::int32_t index);
+    /// Something has taken the place of that job.
+    void replaced(const std::string& arrivesAs);
 
     TransferTools tools_;
     JobDeletion& deletion_;
+    std::vector<std::string> unreplaced_;
+    std::string storedAs_;
 };
 
 } // namespace vantrel

@@ -49,7 +49,7 @@ std::int16_t LinkConnection::connect() {
     const std::int16_t handle =
         library().BscOpen(folder->c_str(), static_cast<std::int16_t>(services_.TransMode));
     if (handle < 0) {
-        error_.set(handle, "BscOpen", 0);
+        error_.setReturned(handle, "BscOpen", 0);
         return noHandle;
     }
     if (addressUnset())
@@ -94,7 +94,7 @@ bool LinkConnection::configureEthernet(std::int16_t handle) {
 
 bool LinkConnection::accept(std::int16_t result, const char* function) {
     if (result != stepDone)
-        error_.set(result, function, 0);
+        error_.setReturned(result, function, 0);
     return result == stepDone;
 }
 
@@ -102,12 +102,12 @@ bool LinkConnection::disconnect(std::int16_t handle) {
     const std::int16_t disconnected = library().BscDisConnect(handle);
     if (disconnected != stepDone) {
         // Deliberately no BscClose: a link that is still connected stays the library's.
-        error_.set(disconnected, "BscDisConnect");
+        error_.setReturned(disconnected, "BscDisConnect");
         return false;
     }
     const std::int16_t closed = library().BscClose(handle);
     if (closed != callDone)
-        error_.set(closed, "BscClose");
+        error_.setReturned(closed, "BscClose");
     return closed == callDone;
 }
 
@@ -116,7 +116,7 @@ bool LinkConnection::finish(std::int16_t handle, std::int16_t result, const char
     const bool closed = disconnect(handle);
     if (result == callDone)
         return closed;
-    error_.set(result, function, index);
+    error_.setReturned(result, function, index);
     return false;
 }
 

@@ -8,11 +8,20 @@
 
 namespace vantrel {
 
-TransferOutcome OverwriteQuestion::ask(const std::string& name) const {
+std::string overwriteQuestion(const MessageTable& messages, const std::string& name,
+                              const std::string& storedAs) {
+    std::string text =
+        shownText(name) + " " + messages.resourceMessage(message::resource::alreadyExists);
+    if (!storedAs.empty())
+        text += "\n[" + shownText(name) + "] > [" + shownText(storedAs) + "]" +
+                messages.getMessage(message::storedUnderOtherName);
+    return text;
+}
+
+TransferOutcome OverwriteQuestion::ask(const std::string& name, const std::string& storedAs) const {
     if (!properties_.DisplayMonitor)
         return TransferOutcome::Cancelled;
-    const std::string question =
-        shownText(name) + " " + messages_.resourceMessage(message::resource::alreadyExists);
+    const std::string question = overwriteQuestion(messages_, name, storedAs);
     switch (dialog_.ask(properties_.MonitorTitle, question)) {
     case Answer::Yes:
         return TransferOutcome::Done;

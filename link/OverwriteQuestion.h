@@ -10,6 +10,11 @@ class MessageTable;
 class OperatorDialog;
 struct SessionProperties;
 
+/// The question whether `name` is to be overwritten. With `storedAs`, a further line says that the
+/// file becomes another job, so that what has its own name is deleted for it and not replaced.
+std::string overwriteQuestion(const MessageTable& messages, const std::string& name,
+                              const std::string& storedAs = {});
+
 /// The session's question whether something that is already there is to be overwritten.
 class OverwriteQuestion {
   public:
@@ -17,8 +22,8 @@ class OverwriteQuestion {
                       OperatorDialog& dialog)
         : properties_(properties), messages_(messages), dialog_(dialog) {}
 
-    /// Cancelled at once while `DisplayMonitor` is off.
-    TransferOutcome ask(const std::string& name) const;
+    /// Cancelled at once while `DisplayMonitor` is off. `storedAs` as in `overwriteQuestion`.
+    TransferOutcome ask(const std::string& name, const std::string& storedAs = {}) const;
 
   private:
     const SessionProperties& properties_;

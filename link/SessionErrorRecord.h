@@ -31,7 +31,10 @@ inline constexpr std::int16_t listNotRead = 35;      ///< an empty list is all t
 inline constexpr std::int16_t fileChanged = 36;      ///< the PC file, while its question was open
 inline constexpr std::int16_t operationRunning = 37; ///< one is begun while another runs
 inline constexpr std::int16_t folderNotExpressible = 38; ///< as a name, but of the PC folder
-inline constexpr std::int16_t libraryUnusable = -10;     ///< missing, wrong or incomplete library
+inline constexpr std::int16_t jobNameNotInCodePage = 40; ///< the controller reads another name
+inline constexpr std::int16_t jobIsAmbiguous = 41;    ///< another on the robot differs in case only
+inline constexpr std::int16_t folderNotReadable = 42; ///< the PC folder cannot be opened
+inline constexpr std::int16_t libraryUnusable = -10;  ///< missing, wrong or incomplete library
 } // namespace session_code
 
 /// The reason of the last failure.
@@ -40,6 +43,8 @@ struct SessionErrorRecord {
     std::string
         ErrorFunction; ///< the library function that failed; empty when the operator decided
     std::int32_t ErrorIndex = 0;
+    bool isReturned = false;  ///< the code is what the function returned, not a finding of our own
+    bool hasIndex = false;    ///< the index was given with this failure and is not an older one
     std::string systemReason; ///< in the system's words, where it was the one to refuse
 
     /// Without an index the previous one stays.
@@ -47,8 +52,16 @@ struct SessionErrorRecord {
         ErrorCode = code;
         ErrorFunction = std::move(function);
         systemReason.clear();
+        isReturned = false;
+        hasIndex = index.has_value();
         if (index)
             ErrorIndex = *index;
+    }
+    /// The same for what a library function has returned.
+    void setReturned(std::int16_t code, std::string function,
+                     std::optional<std::int32_t> index = {}) {
+        set(code, std::move(function), index);
+        isReturned = true;
     }
 };
 

@@ -13,6 +13,7 @@
 #include "link/LocalJobList.h"
 #include "link/OverwriteQuestion.h"
 #include "link/ProgressPanel.h"
+#include "link/SentFile.h"
 #include "link/SessionProgress.h"
 #include "link/VariableBatch.h"
 #include "link/VariableList.h"
@@ -46,6 +47,8 @@ struct Snappy::Parts {
     /// The controller's names, for the questions of a send. Hides the progress, as every reading of
     /// the directory does.
     bool readDirectory();
+    /// Reads it into `names` and remembers what a reading that succeeded has shown.
+    bool read(std::vector<std::string>& names);
     /// Works through the job list; `transfer` does one entry.
     bool transferList(const SessionProperties& properties, JobBatch::Transfer transfer);
     bool sendSingle(const std::string& file, const ReplaceConsent& consent);
@@ -59,6 +62,8 @@ struct Snappy::Parts {
     OverwriteQuestion question;
     DirectoryReader reader;
     std::vector<std::string> directory; ///< the controller's, as last read for a transfer
+    DirectoryReading reading;           ///< the last one that succeeded
+    SentFile sent;
     JobNameSet directoryNames;
     std::vector<std::string> inTheWay; ///< of the file transferred last
     JobDeletion deletion;
@@ -70,6 +75,9 @@ struct Snappy::Parts {
     VariableTransfer variable;
     VariableList variables;
     bool quit = false;
+    // Of the operation that runs or ran last:
+    bool operatorTold = false;
+    bool entryTried = false;
 };
 
 namespace {
@@ -133,8 +141,29 @@ std::string Snappy::VarList(std::int32_t index) const {
     return parts_->variables.entries().at(index);
 }
 
-bool Snappy::endedByUnsetAddress() const {
-    return parts_->link.endedByUnsetAddress();
+bool Snappy::operatorIsTold() const {
+    return parts_->operatorTold || parts_->link.endedByUnsetAddress();
+}
+
+void Snappy::noteOperatorTold() {
+    parts_->operatorTold = true;
+}
+
+std::string Snappy::errorText() const {
+    const MessageTable& messages = parts_->services.messages;
+    // What the operator was told of in words is no answer of a function.
+    return parts_->error.isReturned && !parts_->operatorTold
+               ? messages.returnedCodeText(ErrorCode())
+               : messages.errorText(ErrorCode());
+}
+
+std::optional<std::int32_t> Snappy::failedIndex() const {
+    const bool isOfThisFailure = parts_->error.hasIndex || parts_->entryTried;
+    return isOfThisFailure ? std::optional(parts_->error.ErrorIndex) : std::nullopt;
+}
+
+bool Snappy::triedAnEntry() const {
+    return parts_->entryTried;
 }
 
 const std::string& Snappy::systemReason() const {
@@ -150,6 +179,22 @@ const std::vector<std::string>& Snappy::jobsInTheWay() const {
     return parts_->inTheWay;
 }
 
+const std::string& Snappy::storedAs() const {
+    return parts_->sending.storedAs();
+}
+
+const std::vector<std::string>& Snappy::unreplacedJobs() const {
+    return parts_->sending.unreplaced();
+}
+
+const SentFile& Snappy::lastSent() const {
+    return parts_->sent;
+}
+
+const DirectoryReading& Snappy::lastReading() const {
+    return parts_->reading;
+}
+
 template <typename Work>
 bool Snappy::Parts::operate(const Work& work) {
     if (link.hasBegun()) {
@@ -157,16 +202,26 @@ bool Snappy::Parts::operate(const Work& work) {
         return false;
     }
     const Operation operation(link, progress);
+    sending.begin();
+    operatorTold = false;
+    entryTried = false;
     return work();
 }
 
 // Jobs.
 
+bool Snappy::Parts::read(std::vector<std::string>& names) {
+    const bool isRead = reader.read(names);
+    if (isRead)
+        reading = {reading.number + 1, names};
+    return isRead;
+}
+
 bool Snappy::Parts::readDirectory() {
-    const bool read = reader.read(directory);
+    const bool isRead = read(directory);
     progress.hide();
     directoryNames.assign(directory);
-    return read;
+    return isRead;
 }
 
 bool Snappy::Parts::sendSingle(const std::string& file, const ReplaceConsent& consent) {
@@ -176,7 +231,8 @@ bool Snappy::Parts::sendSingle(const std::string& file, const ReplaceConsent& co
         if (!link.libraryFileName(file, "BscDownLoad", 0) || !readDirectory())
             return false;
         progress.open(progress.transferring(file), false, true);
-        return concludeSingle(sending.send(file, 0, consent));
+        entryTried = true;
+        return concludeSingle(sending.send(file, 0, consent, &sent));
     });
 }
 
@@ -212,7 +268,7 @@ bool Snappy::Parts::transferList(const SessionProperties& properties, JobBatch::
 
 bool Snappy::ReadDirectory(std::vector<std::string>& list) {
     list.clear();
-    return parts_->operate([&] { return parts_->reader.read(list); });
+    return parts_->operate([&] { return parts_->read(list); });
 }
 
 bool Snappy::JobDownLoad(const std::string& file, bool overwriteAll) {
@@ -236,6 +292,7 @@ bool Snappy::JobUpLoad(const std::string& name, bool overwriteAll) {
         if (!parts_->link.libraryFileName(name, "BscUpLoad", 0) || !parts_->fetching.listFolder())
             return false;
         parts_->progress.open(parts_->progress.transferring(name), false, true);
+        parts_->entryTried = true;
         return parts_->concludeSingle(parts_->fetching.fetch(name, 0, overwriteAll));
     });
 }
@@ -247,6 +304,7 @@ bool Snappy::JobListDownLoad() {
             return false;
         return parts_->transferList(
             *this, [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
+                parts_->entryTried = true;
                 return parts_->sending.send(entry, index, {.toAll = overwriteAll});
             });
     });
@@ -259,6 +317,7 @@ bool Snappy::JobListUpLoad() {
             return false;
         return parts_->transferList(
             *this, [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
+                parts_->entryTried = true;
                 return parts_->fetching.fetch(entry, index, overwriteAll);
             });
     });
@@ -321,6 +380,7 @@ bool Snappy::VarUpLoad(std::string& entry) {
 
 bool Snappy::VarListDownLoad() {
     return parts_->operate([&] {
+        parts_->entryTried = true;
         VariableBatch batch(parts_->link, parts_->progress, parts_->error);
         return batch.run(parts_->variables.entries(),
                          [this](std::string& entry) { return parts_->variable.write(entry); });
@@ -329,6 +389,7 @@ bool Snappy::VarListDownLoad() {
 
 bool Snappy::VarListUpLoad() {
     return parts_->operate([&] {
+        parts_->entryTried = true;
         VariableBatch batch(parts_->link, parts_->progress, parts_->error);
         return batch.run(parts_->variables.entries(),
                          [this](std::string& entry) { return parts_->variable.read(entry); });

@@ -6,12 +6,15 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace vantrel {
 
 class LocalJobList;
+struct DirectoryReading;
+struct SentFile;
 
 /// The one controller session: every operation on a controller passes through it. Each operation
 /// opens its own link and closes it again; a failure returns false and leaves its reason in the
@@ -69,11 +72,21 @@ class Snappy : public SessionProperties {
     /// 0 serial, 1 high-speed link; any other value sets the serial mode and returns false.
     bool SetTansMode(std::int16_t mode);
 
-    /// True when the last operation ended because the robot's address is not set. The operator has
-    /// been told already and the error record is as it was, so the caller reports nothing more.
-    bool endedByUnsetAddress() const;
-    /// What the system said to the last failure, where it was the system that refused a list file;
-    /// empty for every other failure, whose code tells all that is known.
+    /// True when the last operation ended because the robot's address is not set, which leaves the
+    /// error record as it was, or because the library cannot be used. The operator has been told
+    /// already, so the caller reports nothing more.
+    bool operatorIsTold() const;
+    /// To be called when the operator is told, during an operation, why the library cannot be used.
+    void noteOperatorTold();
+    /// The text of `ErrorCode`, never empty. What a function of the library has returned has a text
+    /// only where the controllers' codes are; our own findings have theirs.
+    std::string errorText() const;
+    /// `ErrorIndex` where it was recorded with the last failure; an older one says nothing of it.
+    std::optional<std::int32_t> failedIndex() const;
+    /// Whether the last operation came as far as a file or a variable.
+    bool triedAnEntry() const;
+    /// What the system said to the last failure, where it was the system that refused a list file
+    /// or the PC folder; empty for every other failure, whose code tells all that is known.
     const std::string& systemReason() const;
     /// Reads "LocalJob.lst" of `path` as a list transfer does: without one the list stays as it
     /// was.
@@ -82,6 +95,19 @@ class Snappy : public SessionProperties {
     /// names that these show: for a caller who let the silent session answer them with Cancel and
     /// now asks for itself. Empty when nothing was in the way.
     const std::vector<std::string>& jobsInTheWay() const;
+
+    /// The name under which the controller keeps the file of the last transfer, when its own job is
+    /// in the way and is deleted for it all the same; else empty.
+    const std::string& storedAs() const;
+    /// What the last operation, if it was one that sends, has deleted on the controller without
+    /// anything taking its place, by the directory's entries: since the send failed after it, or
+    /// since the file is another job by its "//NAME" line.
+    const std::vector<std::string>& unreplacedJobs() const;
+    /// The file that `JobDownLoad` or `replaceJobs` has sent last, and the last reading of the
+    /// controller's directory that succeeded, for a caller who has to know what has arrived. Each
+    /// send begins with a reading of its own, which is the last one when it returns.
+    const SentFile& lastSent() const;
+    const DirectoryReading& lastReading() const;
 
   private:
     struct Parts;

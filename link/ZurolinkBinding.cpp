@@ -106,8 +106,6 @@ void ZurolinkBinding::load() {
 
 const ZurolinkBinding::Functions* ZurolinkBinding::functions() {
     load();
-    if (const auto problem = std::exchange(problem_, std::nullopt); problem && report_)
-        report_(*problem);
     return functions_.get();
 }
 
@@ -126,6 +124,9 @@ std::int16_t ZurolinkBinding::call(Function Functions::*function, Arguments... a
 }
 
 std::int16_t ZurolinkBinding::BscOpen(const char* path, std::int16_t type) {
+    load();
+    if (problem_ && report_)
+        report_(*problem_);
     return call(&Functions::BscOpen, path, type);
 }
 

@@ -19,7 +19,8 @@ struct LibraryProblem {
 
 /// The real library, bound at run time from one folder only. It is loaded by the first operation
 /// that needs it; all functions are resolved before any is used. When it cannot be used that is
-/// reported once, and every call returns `session_code::libraryUnusable`.
+/// reported by each `BscOpen`, with which an operation begins, and every call returns
+/// `session_code::libraryUnusable`.
 class ZurolinkBinding final : public Zurolink {
   public:
     using Report = std::function<void(const LibraryProblem&)>;

@@ -16,6 +16,11 @@ namespace vantrel {
 /// Only a regular file is read: a pipe or a device could hang the caller or never end.
 Result<std::string> readFile(const std::string& path);
 
+/// The same, but refused while another program has the file open for writing, where the system can
+/// tell: a reader that shares with no writer could not open it either, and what is read might be
+/// half of what is being saved.
+Result<std::string> readSettledFile(const std::string& path);
+
 /// Replaces the file whole: writes a temporary file beside it, flushes it to the disk and renames
 /// it, so that the file is complete old or complete new whatever happens. A symbolic link is
 /// followed, the file's permissions are kept, a write-protected file is refused.

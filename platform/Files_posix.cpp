@@ -73,6 +73,11 @@ Result<std::string> readFile(const std::string& path) {
     }
 }
 
+/// No program shuts another one out here.
+Result<std::string> readSettledFile(const std::string& path) {
+    return readFile(path);
+}
+
 Outcome renameFile(const std::string& from, const std::string& to) {
     if (hasNul(from) || hasNul(to))
         return systemFailure(EINVAL);

@@ -10,8 +10,6 @@ namespace vantrel {
 
 namespace {
 
-constexpr DWORD sharedWithAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
 /// Reads until the end, whatever size the system told beforehand. 0 or the error code.
 DWORD readAll(HANDLE file, std::size_t expectedSize, std::string& content) {
     constexpr std::size_t block = 65536;
@@ -57,16 +55,15 @@ Outcome done(BOOL success) {
     return success ? Outcome(Done{}) : Outcome(lastFailure());
 }
 
-} // namespace
-
-Result<std::string> readFile(const std::string& path) {
+/// `sharing` is what other programs may have the file open for.
+Result<std::string> readShared(const std::string& path, DWORD sharing) {
     if (hasNul(path))
         return systemFailure(ERROR_INVALID_NAME);
     const std::wstring name = systemPath(path);
     if (const auto details = readDetails(name); details.error == 0 && details.isFolder())
         return Failure{"Is a folder"};
-    const Handle file(::CreateFileW(name.c_str(), GENERIC_READ, sharedWithAll, nullptr,
-                                    OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    const Handle file(::CreateFileW(name.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!file.isOpen())
         return lastFailure();
     if (::GetFileType(file.get()) != FILE_TYPE_DISK)
@@ -78,6 +75,16 @@ Result<std::string> readFile(const std::string& path) {
     } catch (const std::length_error&) {
         return systemFailure(ERROR_FILE_TOO_LARGE);
     }
+}
+
+} // namespace
+
+Result<std::string> readFile(const std::string& path) {
+    return readShared(path, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
+}
+
+Result<std::string> readSettledFile(const std::string& path) {
+    return readShared(path, FILE_SHARE_READ);
 }
 
 Outcome renameFile(const std::string& from, const std::string& to) {

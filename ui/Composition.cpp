@@ -273,6 +273,8 @@ void Composition::reportLibrary(const LibraryProblem& problem) {
     for (const auto& name : problem.missing)
         text += "\n" + name;
     dialog_.tell(text, BoxIcon::Exclamation);
+    if (session_)
+        session_->noteOperatorTold();
 }
 
 } // namespace vantrel

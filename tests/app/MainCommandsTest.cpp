@@ -204,7 +204,7 @@ TEST_F(MainCommandsTest, AFailedRefreshSaysSoAndKeepsTheOldList) {
     main.activate(ActiveSide::Controller);
     library.disturb({"BscConnect", 1, false, false, 2000});
     main.menu({Menu::mnuRefresh, 0});
-    EXPECT_THAT(boxes.texts(), ElementsAre("not read"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("not read\nCOM1\nBscConnect ( line broken (2000) )"));
     EXPECT_THAT(window.controller.names, testing::Contains("A.JBI"));
     EXPECT_EQ(state.CtrlListing.Names.front(), "A.JBI");
     expectLeftInOrder();

@@ -107,7 +107,8 @@ TEST_F(DeleteCommandTest, AFailureIsReportedAndTheNextJobFollows) {
     question.answers = {Answer::All};
     library.disturb({"BscSelectJob", 1, false, false, 2000});
     EXPECT_FALSE(commands.deleteOnController());
-    EXPECT_THAT(boxes.texts(), ElementsAre("Delete failed: BscSelectJob ( line broken )\n[A.JBI]"));
+    EXPECT_THAT(boxes.texts(),
+                ElementsAre("Delete failed: BscSelectJob ( line broken (2000) )\n[A.JBI]"));
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Exclamation);
     EXPECT_THAT(robot().names(), ElementsAre("A.JBI"));
 }
@@ -173,6 +174,32 @@ TEST_F(DeleteCommandTest, AFileThatCannotBeDeletedIsNamedWithTheReasonAndTheNext
     ASSERT_THAT(boxes.shown, SizeIs(1));
     EXPECT_THAT(boxes.shown[0].text, StartsWith("[A.JBI] not deleted ( "));
     EXPECT_THAT(window.pc.names, IsEmpty());
+}
+
+TEST_F(DeleteCommandTest, OnThePCItIsThePanesFolderThatIsMeant) {
+    pcJob("A");
+    pc.write("SUB/A.JBI", job("A"));
+    robot();
+    showPanes();
+    ASSERT_TRUE(panes.scanPC(pc.path("SUB")));
+    panes.fill(ActiveSide::PC);
+    session.path = pc.path();
+    window.pc.click({"A.JBI"});
+    question.answers = {Answer::Yes};
+    EXPECT_TRUE(commands.deleteOnPC());
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_FALSE(pc.has("SUB/A.JBI"));
+}
+
+TEST_F(DeleteCommandTest, ADeletedJobLeavesTheListThoughItCannotBeReadAgain) {
+    robotJob("A");
+    robotJob("B");
+    selectOnController({"A.JBI"});
+    question.answers = {Answer::Yes};
+    library.disturb({"BscFindFirst", 1, true, false, 2000});
+    EXPECT_TRUE(commands.deleteOnController());
+    EXPECT_THAT(window.controller.names, testing::ElementsAre("B.JBI"));
+    EXPECT_EQ(boxes.shown.size(), 1u) << "the failed reading is told all the same";
 }
 
 } // namespace

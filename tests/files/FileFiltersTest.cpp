@@ -3,10 +3,10 @@
 #include "base/Text.h"
 #include "base/Wildcard.h"
 
+#include <algorithm>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace vantrel {
 namespace {

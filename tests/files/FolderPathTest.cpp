@@ -1,8 +1,8 @@
 #include "files/FolderPath.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

@@ -71,7 +71,7 @@ TEST_F(MoveChangedFileTest, AJobThatCameToTheControllerMeanwhileIsAskedForToo) {
 TEST_F(MoveChangedFileTest, AFileThatIsGoneCostsTheControllerNothing) {
     question.answers = {Answer::Yes};
     EXPECT_FALSE(moveWhile([this] { std::filesystem::remove(pc.path("A.JBI")); }));
-    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed:  ( not readable )\n[A.JBI]"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed:  ( not readable (21) )\n[A.JBI]"));
     EXPECT_EQ(robot().bytes("A.JBI"), job("A", "old"));
 }
 

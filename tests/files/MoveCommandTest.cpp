@@ -56,19 +56,6 @@ TEST_F(MoveCommandTest, TheSessionWorksSilentlyWhileTheCommandShowsEachFile) {
                 ElementsAre("Transferring ", "Transferring A.JBI", "Transferring B.JBI"));
 }
 
-TEST_F(MoveCommandTest, EachSourceGoesBeforeTheNextFileIsSent) {
-    pcJob("A");
-    pcJob("B");
-    robot();
-    selectOnPC({"A.JBI", "B.JBI"});
-    library.onCall = [this](const std::string& function) {
-        if (function == "BscDownLoad" && library.callCount("BscDownLoad") == 2) {
-            EXPECT_FALSE(pc.has("A.JBI"));
-        }
-    };
-    EXPECT_TRUE(commands.sendMove());
-}
-
 TEST_F(MoveCommandTest, TheOverwriteQuestionNamesTheFile) {
     pcJob("A", "new");
     robotJob("A", "old");
@@ -170,9 +157,11 @@ TEST_P(MoveAnswer, AFailureIsReportedAndTheNextFileFollows) {
     question.answers = {Answer::All};
     library.disturb({sends() ? "BscDownLoad" : "BscUpLoad", 1, false, false, 2000});
     EXPECT_FALSE(move());
-    EXPECT_THAT(boxes.texts(),
-                ElementsAre(std::string("Transfer failed: ") +
-                            (sends() ? "BscDownLoad" : "BscUpLoad") + " ( line broken )\n[A.JBI]"));
+    // The old job goes before the send, so the robot has neither now.
+    const std::string report = sends() ? "BscDownLoad ( line broken (2000) )\n[A.JBI]"
+                                         "\ngone and not replaced:\n[A.JBI]"
+                                       : "BscUpLoad ( line broken (2000) )\n[A.JBI]";
+    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed: " + report));
     EXPECT_TRUE(sourceIsThere("A.JBI"));
     EXPECT_FALSE(sourceIsThere("B.JBI"));
     EXPECT_EQ(destination("B.JBI"), job("B", "new"));
@@ -218,7 +207,8 @@ TEST_P(MoveAnswer, ADisconnectThatFailsKeepsTheSource) {
     EXPECT_FALSE(move());
     EXPECT_TRUE(sourceIsThere("A.JBI"));
     ASSERT_FALSE(boxes.shown.empty());
-    EXPECT_EQ(boxes.shown[0].text, "Transfer failed: BscDisConnect ( line broken )\n[A.JBI]");
+    EXPECT_EQ(boxes.shown[0].text,
+              "Transfer failed: BscDisConnect ( line broken (2000) )\n[A.JBI]");
     linksLeftOpen = 1; // on purpose: a link that does not disconnect is not closed
 }
 
@@ -246,7 +236,7 @@ TEST_F(MoveCommandTest, AReceiveThatReportsSuccessButBringsNothingKeepsBothSides
     library.disturb({"BscUpLoad", 1, false, true});
     EXPECT_FALSE(commands.receiveMove());
     EXPECT_THAT(boxes.texts(),
-                ElementsAre("Transfer failed: BscUpLoad ( did not arrive )\n[A.JBI]"));
+                ElementsAre("Transfer failed: BscUpLoad ( did not arrive (25) )\n[A.JBI]"));
     EXPECT_EQ(robot().bytes("A.JBI"), job("A", "new"));
     EXPECT_EQ(pc.read("A.JBI"), job("A", "old"));
     EXPECT_EQ(library.callCount("BscDeleteJob"), 0);
@@ -294,7 +284,7 @@ TEST_F(MoveCommandTest, AReceivedJobThatCannotBeDeletedIsNamed) {
     library.disturb({"BscDeleteJob", 1, false, false, 2000});
     EXPECT_FALSE(commands.receiveMove());
     EXPECT_THAT(boxes.texts(),
-                ElementsAre("[A.JBI] original not deleted BscDeleteJob ( line broken )"));
+                ElementsAre("[A.JBI] original not deleted BscDeleteJob ( line broken (2000) )"));
     EXPECT_TRUE(pc.has("A.JBI"));
     EXPECT_TRUE(robot().has("A.JBI"));
     EXPECT_FALSE(robot().has("B.JBI"));
@@ -351,6 +341,79 @@ TEST_F(MoveCommandTest, AReportAboutAVeryLongNameIsShortened) {
     selectOnPC({name});
     EXPECT_TRUE(commands.sendMove());
     EXPECT_THAT(boxes.texts(), ElementsAre("[" + std::string(200, 'A') + "\u2026] refused"));
+}
+
+/// The session may have worked in another folder before, which has a file of that name too.
+TEST_F(MoveCommandTest, TheFolderIsThePanesNowInBothDirections) {
+    pc.write("A.JBI", job("A", "elsewhere"));
+    pc.write("SUB/A.JBI", job("A", "meant"));
+    robotJob("B");
+    pc.write("B.JBI", job("B", "elsewhere"));
+    showPanes();
+    ASSERT_TRUE(panes.scanPC(pc.path("SUB")));
+    panes.fill(ActiveSide::PC);
+    session.path = pc.path();
+    window.pc.click({"A.JBI"});
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "meant"));
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_FALSE(pc.has("SUB/A.JBI"));
+    session.path = pc.path();
+    window.controller.click({"B.JBI"});
+    EXPECT_TRUE(commands.receiveMove());
+    EXPECT_EQ(pc.read("SUB/B.JBI"), job("B"));
+    EXPECT_EQ(pc.read("B.JBI"), job("B", "elsewhere"));
+    EXPECT_THAT(question.questions, IsEmpty());
+}
+
+TEST_F(MoveCommandTest, ADirectoryThatCannotBeReadIsReportedAsNoSuchFileAndTheNextFileFollows) {
+    pcJob("A");
+    pcJob("B");
+    robot();
+    selectOnPC({"A.JBI", "B.JBI"});
+    library.disturb({"BscFindFirst", 1, false, false, 2000});
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_THAT(boxes.texts(),
+                ElementsAre("no such file\n[A.JBI]\nCOM1\nBscFind ( line broken (2000) )"));
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_FALSE(pc.has("B.JBI"));
+}
+
+/// Related jobs are a matter of the list transfers.
+TEST_F(MoveCommandTest, ReceivesTheJobItselfWhileRelatedJobsAreOn) {
+    robotJob("A");
+    state.JBR = true;
+    selectOnController({"A.JBI"});
+    EXPECT_TRUE(commands.receiveMove());
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_FALSE(pc.has("A.JBR"));
+    EXPECT_FALSE(robot().has("A.JBI"));
+}
+
+TEST_F(MoveCommandTest, AJobWhoseNameDiffersFromAnotherInLetterCaseOnlyIsNotReplaced) {
+    pcJob("FOO", "new");
+    pcJob("B");
+    robotJob("foo", "low");
+    robotJob("FOO", "up");
+    selectOnPC({"FOO.JBI", "B.JBI"});
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_THAT(boxes.texts(), ElementsAre("Transfer failed:  ( ambiguous (41) )\n[FOO.JBI]"));
+    EXPECT_EQ(robot().bytes("foo.JBI"), job("foo", "low"));
+    EXPECT_EQ(robot().bytes("FOO.JBI"), job("FOO", "up"));
+    EXPECT_TRUE(pc.has("FOO.JBI"));
+    EXPECT_FALSE(pc.has("B.JBI"));
+}
+
+TEST_F(MoveCommandTest, AJobThatWasDeletedForTheMoveLeavesTheListThoughItCannotBeReadAgain) {
+    robotJob("A");
+    robotJob("STAYS");
+    selectOnController({"A.JBI"});
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscDeleteJob")
+            library.disturb({"BscConnect", 1, true, false, 2000});
+    };
+    EXPECT_TRUE(commands.receiveMove());
+    EXPECT_THAT(window.controller.names, ElementsAre("STAYS.JBI"));
 }
 
 TEST_F(MoveCommandTest, RejectedFilesOnlyLeaveTheSessionAlone) {

@@ -31,8 +31,10 @@ TEST_F(MoveOverTwoJobs, BothAreAskedFor) {
     selectOnPC({"COPY.JBI"});
     question.answers = {Answer::Yes, Answer::Yes};
     EXPECT_TRUE(commands.sendMove());
-    EXPECT_THAT(question.questions, ElementsAre("COPY.JBI already exists. Overwrite it?",
+    EXPECT_THAT(question.questions, ElementsAre("COPY.JBI already exists. Overwrite it?\n"
+                                                "[COPY.JBI] > [A.JBI] other name",
                                                 "A.JBI already exists. Overwrite it?"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("gone and not replaced:\n[COPY.JBI]"));
     EXPECT_THAT(robot().names(), ElementsAre("A.JBI"));
     EXPECT_EQ(robot().bytes("A.JBI"), job("A", "new"));
     EXPECT_FALSE(pc.has("COPY.JBI"));

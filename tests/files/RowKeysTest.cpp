@@ -1,10 +1,10 @@
 #include "files/RowKeys.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <numeric>
 #include <string>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

@@ -38,7 +38,7 @@ TEST_F(RefreshTest, AFailedReadShowsItsMessageAndKeepsTheOldList) {
     showPanes();
     library.disturb({"BscConnect", 1, false, false, 2000});
     EXPECT_FALSE(commands.refresh(ActiveSide::Controller));
-    EXPECT_THAT(boxes.texts(), ElementsAre("not read"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("not read\nCOM1\nBscConnect ( line broken (2000) )"));
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Exclamation);
     EXPECT_THAT(window.controller.names, ElementsAre("A.JBI"));
 }
@@ -50,6 +50,19 @@ TEST_F(RefreshTest, AnUnsetAddressGivesOneMessage) {
     session.IPaddress = "0.0.0.0";
     EXPECT_FALSE(commands.refresh(ActiveSide::Controller));
     EXPECT_THAT(boxes.texts(), ElementsAre("address unset"));
+}
+
+TEST_F(RefreshTest, AListThatCannotBeFilledIsReportedAndIsEmpty) {
+    pcJob("A");
+    robotJob("B");
+    showPanes();
+    window.onFilterIndex = [this](ActiveSide side) { panes.listing(side).Count = 7; };
+    EXPECT_FALSE(commands.refresh(ActiveSide::PC));
+    EXPECT_FALSE(commands.refresh(ActiveSide::Controller));
+    EXPECT_THAT(boxes.texts(), ElementsAre("File Dispaly Error!!", "File Dispaly Error!!"));
+    EXPECT_THAT(window.pc.names, IsEmpty());
+    EXPECT_THAT(window.controller.names, IsEmpty());
+    EXPECT_EQ(window.lockDepth, 0);
 }
 
 TEST_F(RefreshTest, APCFolderThatIsGoneIsReportedAndTheOldListStays) {

@@ -1,8 +1,8 @@
 #include "files/TransferTableLine.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

@@ -5,7 +5,7 @@
 using namespace vantrel;
 
 VANTREL_FUZZ_TARGET(input) {
-    const auto name = jobNameInside(input.file());
+    const auto name = jobNameInside(input.file()).text;
     fuzz::require(isValidUtf8(name), "a job's name is valid UTF-8");
     fuzz::require(name == trimmed(name), "a job's name has no outer blanks");
 

@@ -125,9 +125,12 @@ std::set<std::int32_t> codeNumbers() {
     const auto theirs = constantsIn(header("simulator/ResultCodes.h"));
     EXPECT_TRUE(ours.contains(3) && theirs.contains(1000));
     std::set<std::int32_t> numbers;
-    for (const auto& codes : {ours, theirs})
-        for (const auto code : codes)
-            numbers.insert(code >= 1000 && code <= 5200 ? code : code + resourceOffset);
+    for (const auto code : ours)
+        numbers.insert(code + resourceOffset);
+    // What a library returns has a text in the controllers' range only.
+    for (const auto code : theirs)
+        if (code >= 1000 && code <= 5200)
+            numbers.insert(code);
     // The operator's answers to a question are never reported.
     numbers.erase(resourceOffset + 4);
     numbers.erase(resourceOffset + 5);
@@ -238,7 +241,7 @@ TEST_P(DeliveredLanguage, HasTextsThatCanBeShown) {
 
 TEST_P(DeliveredLanguage, HasPlaceholdersWhereSomethingIsInserted) {
     for (const auto& [number, entry] : textsOf(GetParam())) {
-        const auto expected = number == 3 || number == 49 ? 1 : 0;
+        const auto expected = number == 3 || number == 49 || number == 70 ? 1 : 0;
         EXPECT_EQ(std::ranges::count(entry.Text1, '%'), expected) << number;
         EXPECT_EQ(std::ranges::count(entry.Text2, '%'), expected) << number;
     }

@@ -56,7 +56,7 @@ TEST_F(JobBatchFetchTest, AnUnsetAddressEndsTheListWithOneBoxAndTheRecordAsItWas
     world.mode = TransferMode::HispeedLink;
     world.session->IPaddress = "0.0.0.0";
     EXPECT_FALSE(world.session->JobListUpLoad());
-    EXPECT_TRUE(world.session->endedByUnsetAddress());
+    EXPECT_TRUE(world.session->operatorIsTold());
     EXPECT_THAT(world.boxes.texts(), ElementsAre("address unset"));
     EXPECT_EQ(world.error(), " 0 0");
 }

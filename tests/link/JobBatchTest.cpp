@@ -206,7 +206,9 @@ TEST_F(JobBatchTest, AJobThatASendHasDeletedIsNotInTheNextOnesWay) {
     world.session->AddJobList("X.JBI");
     world.question.answers = {Answer::Yes};
     EXPECT_TRUE(world.session->JobListDownLoad());
-    EXPECT_THAT(world.question.questions, ElementsAre("COPY.JBI already exists. Overwrite it?"));
+    EXPECT_THAT(world.question.questions,
+                ElementsAre("COPY.JBI already exists. Overwrite it?\n"
+                            "[COPY.JBI] > [WELD.JBI] stored under the second name"));
     EXPECT_TRUE(isNew("WELD"));
     EXPECT_TRUE(isNew("COPY"));
 }

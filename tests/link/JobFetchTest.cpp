@@ -220,7 +220,8 @@ TEST_F(JobFetchTest, WhatAKilledProgramLeftIsPutBackFirstAndAskedFor) {
 TEST_F(JobFetchTest, NothingIsFetchedIntoAFolderThatCannotBeListed) {
     world.session->path = world.pc.path("nowhere");
     EXPECT_FALSE(fetch("WELD.JBI"));
-    EXPECT_EQ(world.error(), " 21 0");
+    EXPECT_EQ(world.error(), " 42 0");
+    EXPECT_FALSE(world.session->systemReason().empty());
     EXPECT_EQ(world.library.callCount(), 0);
 }
 

@@ -16,7 +16,7 @@ struct NameRow : tests::NamedRow {
 class JobNameInsideTest : public testing::TestWithParam<NameRow> {};
 
 TEST_P(JobNameInsideTest, IsTakenFromItsLine) {
-    EXPECT_EQ(jobNameInside(GetParam().bytes), GetParam().inside);
+    EXPECT_EQ(jobNameInside(GetParam().bytes).text, GetParam().inside);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -43,7 +43,7 @@ TEST(JobFileTest, IsReadWholeFromTheDisk) {
         folder.write("A.JBI", "/JOB\r\n//NAME WELD\r\n" + std::string(5'000'000, 'x'));
     const auto file = JobFile::read(path);
     ASSERT_TRUE(file);
-    EXPECT_EQ(file->name(), "WELD");
+    EXPECT_EQ(file->name().text, "WELD");
 }
 
 TEST(JobFileTest, FailsWithTheSystemsReason) {
@@ -54,8 +54,8 @@ TEST(JobFileTest, FailsWithTheSystemsReason) {
 }
 
 TEST(JobFileTest, GarbageHasNoName) {
-    EXPECT_EQ(jobNameInside(std::string("\0\0\xFF//NAME", 9)), "");
-    EXPECT_EQ(jobNameInside(std::string(10'000'000, '/')), "");
+    EXPECT_EQ(jobNameInside(std::string("\0\0\xFF//NAME", 9)).text, "");
+    EXPECT_EQ(jobNameInside(std::string(10'000'000, '/')).text, "");
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "support/NamedRow.h"
 
 #include <functional>
+#include <utility>
 
 namespace vantrel {
 namespace {
@@ -285,8 +286,146 @@ TEST_F(JobSendTest, AFileWhoseLineNamesANewJobStillReplacesTheJobOfItsOwnName) {
     world.pc.write("COPY.JBI", weld);
     world.question.answers = {Answer::Yes};
     EXPECT_TRUE(send("COPY.JBI"));
-    EXPECT_THAT(world.question.questions, ElementsAre("COPY.JBI already exists. Overwrite it?"));
+    EXPECT_THAT(world.question.questions,
+                ElementsAre("COPY.JBI already exists. Overwrite it?\n"
+                            "[COPY.JBI] > [WELD.JBI] stored under the second name"));
     EXPECT_THAT(world.controller().names(), ElementsAre("WELD.JBI"));
+    EXPECT_THAT(world.session->unreplacedJobs(), ElementsAre("COPY.JBI"));
+}
+
+TEST_F(JobSendTest, OnlyTheQuestionAboutTheFilesOwnJobNamesTheOtherOne) {
+    world.controller().put("WELD.JBI", older);
+    world.controller().put("COPY.JBI", SessionWorld::job("COPY"));
+    world.pc.write("COPY.JBI", weld);
+    world.question.answers = {Answer::Yes, Answer::Yes};
+    EXPECT_TRUE(send("COPY.JBI"));
+    EXPECT_THAT(world.question.questions,
+                ElementsAre("COPY.JBI already exists. Overwrite it?\n"
+                            "[COPY.JBI] > [WELD.JBI] stored under the second name",
+                            "WELD.JBI already exists. Overwrite it?"));
+    EXPECT_EQ(world.session->storedAs(), "WELD.JBI");
+}
+
+TEST_F(JobSendTest, ARelatedJobFileOfAnotherNameDeletesNothingAndSaysNothingOfIt) {
+    world.controller().put("COPY.JBI", SessionWorld::job("COPY"));
+    world.pc.write("COPY.JBR", weld);
+    world.question.answers = {Answer::Yes};
+    EXPECT_TRUE(send("COPY.JBR"));
+    EXPECT_THAT(world.question.questions, ElementsAre("COPY.JBR already exists. Overwrite it?"));
+    EXPECT_THAT(world.session->unreplacedJobs(), IsEmpty());
+}
+
+TEST_F(JobSendTest, WhatAFailedSendHasDeletedIsKnownUntilTheNextOperation) {
+    world.controller().put("WELD.JBI", older);
+    world.library.disturb({.function = "BscDownLoad", .code = 1400});
+    EXPECT_FALSE(send("WELD.JBI", true));
+    EXPECT_THAT(world.session->unreplacedJobs(), ElementsAre("WELD.JBI"));
+    EXPECT_FALSE(world.session->JobUpLoad("NONE.JBI"));
+    EXPECT_THAT(world.session->unreplacedJobs(), IsEmpty());
+}
+
+TEST_F(JobSendTest, OfTwoDeletionsTheFirstIsKnownWhenTheSecondFails) {
+    world.controller().put("WELD.JBI", older);
+    world.controller().put("COPY.JBI", SessionWorld::job("COPY"));
+    world.pc.write("COPY.JBI", weld);
+    world.library.disturb({.function = "BscDeleteJob", .call = 2, .code = 1210});
+    EXPECT_FALSE(send("COPY.JBI", true));
+    EXPECT_THAT(world.session->unreplacedJobs(), ElementsAre("COPY.JBI"));
+}
+
+TEST_F(JobSendTest, ASendThatTheLibraryConfirmsHasReplacedTheJobThoughTheLinkWillNotClose) {
+    world.controller().put("WELD.JBI", older);
+    world.library.disturb({.function = "BscDisConnect", .call = 3, .code = -3});
+    EXPECT_FALSE(send("WELD.JBI", true));
+    EXPECT_EQ(world.error(), "BscDisConnect -3 0");
+    EXPECT_THAT(world.session->unreplacedJobs(), IsEmpty());
+}
+
+TEST_F(JobSendTest, AJobThatALaterFileOfTheListBringsBackIsReplacedAfterAll) {
+    world.controller().put("COPY.JBI", SessionWorld::job("COPY"));
+    world.pc.write("COPY.JBI", weld);
+    world.pc.write("LATER.JBI", SessionWorld::job("COPY"));
+    world.question.answers = {Answer::Yes};
+    world.session->AddJobList("COPY.JBI");
+    EXPECT_TRUE(world.session->JobListDownLoad());
+    EXPECT_THAT(world.session->unreplacedJobs(), ElementsAre("COPY.JBI"));
+    world.session->JobListClear();
+    world.controller().put("COPY.JBI", SessionWorld::job("COPY"));
+    world.session->AddJobList("COPY.JBI");
+    world.session->AddJobList("LATER.JBI");
+    world.question.answers = {Answer::All};
+    EXPECT_TRUE(world.session->JobListDownLoad());
+    EXPECT_THAT(world.session->unreplacedJobs(), IsEmpty());
+}
+
+class ForeignNameTest : public JobSendTest {
+  protected:
+    const std::string so = "\xE3\x82\xBD"; ///< UTF-8
+    const std::string soInCodePage = "\x83\x5C";
+    void expectNothingTouched() {
+        EXPECT_THAT(world.question.questions, IsEmpty());
+        EXPECT_EQ(world.library.callCount("BscSelectJob"), 0);
+        EXPECT_EQ(world.library.callCount("BscDownLoad"), 0);
+    }
+};
+
+/// A controller reads the code page, so it would keep the file under a name that nobody meant.
+TEST_F(ForeignNameTest, InUtf8EndsTheSendBeforeAnythingIsAskedForOrDeleted) {
+    world.controller().put(so + ".JBI", older);
+    world.controller().put("WELD.JBI", older);
+    for (const std::string mark : {"", "\xEF\xBB\xBF"})
+        for (const bool overwriteAll : {false, true}) {
+            world.pc.write("NEW.JBI", mark + SessionWorld::job(so));
+            EXPECT_FALSE(send("NEW.JBI", overwriteAll));
+            EXPECT_EQ(world.error(), " 40 0");
+            world.pc.write("WELD.JBI", mark + SessionWorld::job("\xC3\xBC"));
+            EXPECT_FALSE(send("WELD.JBI", overwriteAll));
+        }
+    expectNothingTouched();
+}
+
+TEST_F(ForeignNameTest, InTheCodePageIsReplaced) {
+    world.controller().put(so + ".JBI", older);
+    world.pc.write("NEW.JBI", SessionWorld::job(soInCodePage));
+    EXPECT_TRUE(send("NEW.JBI", true)) << world.error();
+    EXPECT_EQ(world.library.callCount("BscDeleteJob"), 1);
+    EXPECT_EQ(world.controller().bytes(so + ".JBI"), SessionWorld::job(soInCodePage));
+}
+
+TEST_F(ForeignNameTest, InPlainAsciiIsReplacedWhateverElseTheFileHolds) {
+    world.controller().put("WELD.JBI", older);
+    world.pc.write("WELD.JBI", SessionWorld::job("WELD", "'" + so));
+    EXPECT_TRUE(send("WELD.JBI", true)) << world.error();
+}
+
+TEST_F(ForeignNameTest, InNobodysWayIsTheControllersToJudge) {
+    world.pc.write("NEW.JBI", SessionWorld::job(so));
+    EXPECT_TRUE(send("NEW.JBI")) << world.error();
+}
+
+/// The library is told the upper-cased name, which may be the other job's.
+TEST_F(JobSendTest, OverAJobWhoseNameDiffersFromAnotherInLetterCaseOnlyNothingIsSent) {
+    world.controller().put("weld.JBI", older);
+    world.controller().put("WELD.JBI", older);
+    for (const bool overwriteAll : {false, true}) {
+        EXPECT_FALSE(send("WELD.JBI", overwriteAll));
+        EXPECT_EQ(world.error(), " 41 0");
+    }
+    EXPECT_THAT(world.question.questions, IsEmpty());
+    EXPECT_EQ(world.library.callCount("BscSelectJob"), 0);
+    world.pc.write("NEW.JBI", SessionWorld::job("NEW"));
+    EXPECT_TRUE(send("NEW.JBI"));
+}
+
+TEST_F(JobSendTest, TheSameNameTwiceInTheDirectoryIsOneName) {
+    world.library.onCall = [this, told = false](const std::string& function) mutable {
+        if (function == "BscFindNext" && !std::exchange(told, true)) {
+            world.controller().erase("WELD.JBI");
+            world.controller().put("WELD.JBI", older);
+        }
+    };
+    world.controller().put("WELD.JBI", older);
+    EXPECT_TRUE(send("WELD.JBI", true)) << world.error();
 }
 
 TEST_F(JobSendTest, QuestionsAboutVeryLongNamesAreShortened) {

@@ -40,6 +40,7 @@ inline MessageTable sessionMessages() {
     add(52, " of ");
     add(61, " kept as ");
     add(63, " incomplete");
+    add(66, " stored under the second name");
     add(502, "already exists. Overwrite it?");
     add(504, "Transferring ");
     add(507, "Deleting ");

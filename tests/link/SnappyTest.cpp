@@ -30,7 +30,7 @@ TEST_F(SnappyTest, StartsWithItsDefaultsAndHiddenProgress) {
     EXPECT_EQ(session.ErrorCode(), 0);
     EXPECT_EQ(session.ErrorFunction(), "");
     EXPECT_EQ(session.ErrorIndex(), 0);
-    EXPECT_FALSE(session.endedByUnsetAddress());
+    EXPECT_FALSE(session.operatorIsTold());
     EXPECT_FALSE(world.panel.isVisible());
     EXPECT_EQ(world.panel.title(), "Snappy");
     EXPECT_EQ(world.library.callCount(), 0);
@@ -110,12 +110,12 @@ TEST_F(SnappyTest, AnUnsetAddressIsToldOnceAndForgottenByTheNextOperation) {
     world.session->IPaddress = "0.0.0.0";
     std::vector<std::string> list;
     EXPECT_FALSE(world.session->ReadDirectory(list));
-    EXPECT_TRUE(world.session->endedByUnsetAddress());
+    EXPECT_TRUE(world.session->operatorIsTold());
     EXPECT_EQ(world.boxes.shown.size(), 1u);
     EXPECT_EQ(world.error(), " 0 0");
     world.mode = TransferMode::Bsc;
     EXPECT_TRUE(world.session->ReadDirectory(list));
-    EXPECT_FALSE(world.session->endedByUnsetAddress());
+    EXPECT_FALSE(world.session->operatorIsTold());
 }
 
 TEST_F(SnappyTest, AnUnsetAddressIsForgottenByTheListFilesToo) {
@@ -131,7 +131,7 @@ TEST_F(SnappyTest, AnUnsetAddressIsForgottenByTheListFilesToo) {
         world.session->IPaddress = "0.0.0.0";
         EXPECT_FALSE(world.session->ReadDirectory(list));
         EXPECT_TRUE(operation(*world.session));
-        EXPECT_FALSE(world.session->endedByUnsetAddress());
+        EXPECT_FALSE(world.session->operatorIsTold());
     }
 }
 

@@ -175,7 +175,7 @@ TEST_F(VariableBatchTest, AnUnsetAddressLeavesTheRecordAlone) {
     world.session->IPaddress = "0.0.0.0";
     EXPECT_FALSE(world.session->VarListDownLoad());
     EXPECT_EQ(world.error(), " 0 0");
-    EXPECT_TRUE(world.session->endedByUnsetAddress());
+    EXPECT_TRUE(world.session->operatorIsTold());
 }
 
 } // namespace

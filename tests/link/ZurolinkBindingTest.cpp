@@ -29,10 +29,13 @@ TEST_F(ZurolinkBindingTest, LoadsNothingByItself) {
     EXPECT_TRUE(problems.empty());
 }
 
-TEST_F(ZurolinkBindingTest, AMissingLibraryIsReportedOnceByTheFirstOperation) {
-    EXPECT_EQ(binding.BscOpen("x", 1), session_code::libraryUnusable);
+TEST_F(ZurolinkBindingTest, AMissingLibraryIsReportedByEachOperationAsItBegins) {
     EXPECT_EQ(binding.BscOpen("x", 1), session_code::libraryUnusable);
     ASSERT_EQ(problems.size(), 1u);
+    EXPECT_EQ(binding.BscConnect(1), session_code::libraryUnusable);
+    EXPECT_EQ(problems.size(), 1u);
+    EXPECT_EQ(binding.BscOpen("x", 1), session_code::libraryUnusable);
+    ASSERT_EQ(problems.size(), 2u);
     EXPECT_EQ(problems[0].path, folder.path(libraryFileName()));
     EXPECT_FALSE(problems[0].reason.empty());
     EXPECT_TRUE(problems[0].missing.empty());

@@ -62,6 +62,8 @@ class FakePaneWindow : public PaneWindow {
         return side == ActiveSide::PC ? pc : controller;
     }
     int filterIndex(ActiveSide side) const override {
+        if (onFilterIndex)
+            onFilterIndex(side);
         return side == ActiveSide::PC ? pcFilter : controllerFilter;
     }
     void setFilterChoices(ActiveSide side, const std::vector<std::string>& choices) override {
@@ -102,6 +104,7 @@ class FakePaneWindow : public PaneWindow {
     int locks = 0;
     int yields = 0;
     std::function<void()> onYield;
+    std::function<void(ActiveSide)> onFilterIndex; ///< before a list is filled
 
   private:
     bool yielding_ = false;

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "files/TransferServices.h"
+#include "link/SentFile.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+/// The PC files that a move has sent. Each goes once a reading of the controller's directory that
+/// was made after its send shows it, and when it still is what was sent; the operator is told of
+/// every file that stays.
+class SentSources {
+  public:
+    explicit SentSources(const TransferServices& services) : with_(services) {}
+
+    /// The file that the session has just sent.
+    void add(const std::string& name);
+    /// Removes what the session's last reading shows. The first reading after a send decides: a
+    /// later one may show the name for another file's sake.
+    void removeArrived();
+    /// After the last reading of the command: tells what stays on the PC.
+    void conclude();
+    bool allWent() const { return allWent_; }
+
+  private:
+    struct Source {
+        std::string name;
+        std::string path;
+        std::string robot;     ///< and its address: what another one shows is no proof
+        std::uint64_t reading; ///< the last one before the send
+        SentFile sent;
+    };
+
+    void remove(const Source& source);
+    void tell(std::int32_t messageNumber, const std::vector<std::string>& names);
+
+    TransferServices with_;
+    std::vector<Source> waiting_; ///< one at a time, since each send begins with a reading
+    std::vector<std::string> notShown_;
+    bool allWent_ = true;
+};
+
+} // namespace vantrel
