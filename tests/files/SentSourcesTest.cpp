@@ -178,6 +178,29 @@ TEST_F(SentSourcesTest, AFileThatWasOnlyTouchedGoes) {
     EXPECT_FALSE(pc.has("A.JBI"));
 }
 
+TEST_F(SentSourcesTest, WhatAnotherRobotShowsProvesNothing) {
+    pcJob("A");
+    robot();
+    library.at("COM2").put("A.JBI", "of the other robot");
+    selectOnPC({"A.JBI"});
+    library.disturb({"BscDownLoad", 1, false, true});
+    whileSent([this] { session.port = 2; });
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("not known:\n[A.JBI]"));
+}
+
+TEST_F(SentSourcesTest, TheFolderThatWasSentFromIsTheOneThatLosesTheFile) {
+    pcJob("A");
+    pc.write("SUB/A.JBI", job("A"));
+    robot();
+    selectOnPC({"A.JBI"});
+    whileSent([this] { ASSERT_TRUE(panes.scanPC(pc.path("SUB"))); });
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_FALSE(pc.has("A.JBI"));
+    EXPECT_TRUE(pc.has("SUB/A.JBI"));
+}
+
 TEST_F(SentSourcesTest, CancelLeavesNothingUnjudged) {
     pcJob("A");
     pcJob("B");

@@ -40,6 +40,28 @@ TEST(WindowsReplaceFile, LeavesAWriteProtectedFileAlone) {
     protect(path, false);
 }
 
+/// A program that saves the file keeps the strictest reader out, and one that only reads it
+/// doesn't.
+TEST(WindowsFiles, AFileThatIsOpenForWritingIsNotSettled) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("file", "half");
+    const auto open = [&path](DWORD access) {
+        return Handle(::CreateFileW(wide(path).c_str(), access,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, 0, nullptr));
+    };
+    {
+        const Handle writer = open(GENERIC_WRITE);
+        EXPECT_TRUE(readFile(path));
+        const auto refused = readSettledFile(path);
+        ASSERT_FALSE(refused);
+        EXPECT_EQ(refused.reason(), systemFailure(ERROR_SHARING_VIOLATION).reason);
+    }
+    const Handle reader = open(GENERIC_READ);
+    ASSERT_TRUE(readSettledFile(path));
+    EXPECT_EQ(*readSettledFile(path), "half");
+}
+
 TEST(WindowsFiles, TakePathsOfAnyLength) {
     const TemporaryFolder folder;
     std::string deep = folder.path();
