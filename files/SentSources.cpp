@@ -1,7 +1,5 @@
 #include "files/SentSources.h"
 
-#include "base/ApplicationState.h"
-#include "base/PathRules.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -13,17 +11,15 @@
 namespace vantrel {
 
 void SentSources::add(const std::string& name) {
-    const Snappy& session = with_.session;
-    waiting_.push_back({name, PathRules().join(session.path, name), robotText(with_.state, session),
-                        session.lastReading().number, session.lastSent()});
+    const DirectoryReading& reading = with_.session.lastReading();
+    waiting_.push_back({name, with_.session.lastSent(), reading.number, reading.robot});
 }
 
 void SentSources::removeArrived() {
     const DirectoryReading& reading = with_.session.lastReading();
-    const std::string robot = robotText(with_.state, with_.session);
     std::vector<Source> waiting;
     for (Source& source : std::exchange(waiting_, {}))
-        if (source.reading == reading.number || source.robot != robot)
+        if (source.reading == reading.number || source.robot != reading.robot)
             waiting.push_back(std::move(source));
         else if (isShown(source.sent, reading))
             remove(source);
@@ -45,13 +41,13 @@ void SentSources::conclude() {
 // The content is at hand, so no digest of it is needed, which two contents could share.
 void SentSources::remove(const Source& source) {
     const TransferReports reports(with_);
-    const auto now = readSettledFile(source.path);
+    const auto now = readSettledFile(source.sent.path);
     if (now && *now != source.sent.content) {
         allWent_ = false;
         reports.aboutFile(source.name, message::sourceChanged);
         return;
     }
-    const Outcome removed = now ? removeFile(source.path) : Outcome(Failure{now.reason()});
+    const Outcome removed = now ? removeFile(source.sent.path) : Outcome(Failure{now.reason()});
     if (removed)
         return;
     allWent_ = false;

@@ -28,10 +28,9 @@ class SentSources {
   private:
     struct Source {
         std::string name;
-        std::string path;
-        std::string robot;     ///< and its address: what another one shows is no proof
-        std::uint64_t reading; ///< the last one before the send
         SentFile sent;
+        std::uint64_t reading; ///< the one that the send began with
+        std::string robot;     ///< what another one shows is no proof
     };
 
     void remove(const Source& source);

@@ -37,14 +37,14 @@ std::string functionAndReason(const Snappy& session) {
            inParentheses(text == number ? text : text + " (" + number + ")");
 }
 
-} // namespace
-
 // The serial line has one robot at its end, whichever is chosen for the other mode.
 std::string robotText(const ApplicationState& state, const Snappy& session) {
     if (state.TransMode == TransferMode::Bsc)
         return "COM" + std::to_string(session.port);
     return bracketed(state.CurrentRobot.Name) + " " + shownText(session.IPaddress);
 }
+
+} // namespace
 
 std::string directoryFailure(const ApplicationState& state, const Snappy& session) {
     return "\n" + robotText(state, session) + "\n" + functionAndReason(session);

@@ -8,8 +8,6 @@
 
 namespace vantrel {
 
-/// The robot that the session works with now, and where it is.
-std::string robotText(const ApplicationState& state, const Snappy& session);
 /// Which robot the session's last operation was about, where it is, and why the operation failed,
 /// in lines of their own below a message.
 std::string directoryFailure(const ApplicationState& state, const Snappy& session);

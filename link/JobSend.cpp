@@ -38,6 +38,7 @@ TransferOutcome JobSend::send(const std::string& file, std::int32_t index,
     const auto libraryName = tools_.link.libraryFileName(file, "BscDownLoad", index);
     if (!libraryName || !tools_.link.isAsBegun())
         return TransferOutcome::Failed;
+    const std::string path = PathRules().join(tools_.properties.path, file);
     auto job = isJobFileName(file) || sent ? read(file, index) : JobFile();
     if (!job)
         return TransferOutcome::Failed;
@@ -51,7 +52,7 @@ TransferOutcome JobSend::send(const std::string& file, std::int32_t index,
         return TransferOutcome::Failed;
     tools_.directory.insert(arrivesAs);
     if (sent)
-        *sent = {job->takeContent(), arrivesAs, shownBefore, jobExtension(file) != ".JBI"};
+        *sent = {path, job->takeContent(), arrivesAs, shownBefore, jobExtension(file) != ".JBI"};
     return outcome;
 }
 

@@ -10,10 +10,12 @@ namespace vantrel {
 struct DirectoryReading {
     std::uint64_t number = 0; ///< counts the session's readings that succeeded; 0 before the first
     std::vector<std::string> names;
+    std::string robot; ///< where it is: the port or the address
 };
 
 /// A file that the library says it has sent, as it was read before.
 struct SentFile {
+    std::string path; ///< on the PC
     std::string content;
     std::string arrivesAs;   ///< the name that the controller's directory is to show
     std::string shownBefore; ///< its entry for that name when the sending began, or empty

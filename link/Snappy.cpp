@@ -211,9 +211,12 @@ bool Snappy::Parts::operate(const Work& work) {
 // Jobs.
 
 bool Snappy::Parts::read(std::vector<std::string>& names) {
+    const bool isSerial = services.TransMode == TransferMode::Bsc;
+    const SessionProperties& with = tools.properties;
+    const std::string robot = isSerial ? "COM" + std::to_string(with.port) : with.IPaddress;
     const bool isRead = reader.read(names);
     if (isRead)
-        reading = {reading.number + 1, names};
+        reading = {reading.number + 1, names, robot};
     return isRead;
 }
 

@@ -16,13 +16,13 @@ struct ShownRow {
 };
 
 SentFile sentAs(const std::string& arrivesAs, const std::string& before, bool isInPlace) {
-    return {"", arrivesAs, before, isInPlace};
+    return {"", "", arrivesAs, before, isInPlace};
 }
 
 class SentFileTest : public testing::TestWithParam<ShownRow> {};
 
 TEST_P(SentFileTest, IsShownByADirectoryOnlyWhenItCanHaveArrived) {
-    EXPECT_EQ(isShown(GetParam().file, {1, GetParam().directory}), GetParam().isShown);
+    EXPECT_EQ(isShown(GetParam().file, {1, GetParam().directory, "COM1"}), GetParam().isShown);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -52,6 +52,7 @@ TEST_F(LastReadingTest, CountsTheReadingsThatSucceededAndKeepsWhatTheLastOneShow
     std::vector<std::string> list;
     EXPECT_TRUE(world.session->ReadDirectory(list));
     EXPECT_EQ(world.session->lastReading().number, 1u);
+    EXPECT_EQ(world.session->lastReading().robot, "COM1");
     world.controller().put("B.JBI", "x");
     world.library.disturb({"BscFindNext", 1, false, false, 2000});
     EXPECT_FALSE(world.session->ReadDirectory(list));
@@ -64,6 +65,7 @@ TEST_F(LastReadingTest, OfASendIsTheOneThatItBeganWith) {
     ASSERT_TRUE(world.session->JobDownLoad("FILE.JBI"));
     EXPECT_EQ(world.session->lastReading().number, 1u);
     EXPECT_THAT(world.session->lastReading().names, ElementsAre());
+    EXPECT_EQ(world.session->lastSent().path, world.pc.path("FILE.JBI"));
     EXPECT_EQ(world.session->lastSent().arrivesAs, "JOB.JBI");
     EXPECT_EQ(world.session->lastSent().content, SessionWorld::job("JOB"));
     EXPECT_FALSE(world.session->lastSent().isInPlace);
