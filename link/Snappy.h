@@ -82,6 +82,10 @@ class Snappy : public SessionProperties {
     /// names that these show: for a caller who let the silent session answer them with Cancel and
     /// now asks for itself. Empty when nothing was in the way.
     const std::vector<std::string>& jobsInTheWay() const;
+    /// For whoever has listed a PC folder, with all of its names: files whose fetch ended with the
+    /// program are put in order, and the operator is told. True when the folder was changed. May be
+    /// called at any time; what a running operation fetches is left alone.
+    bool settleInterruptedFetches(const std::string& folder, const std::vector<std::string>& names);
 
   private:
     struct Parts;
