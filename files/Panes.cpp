@@ -45,14 +45,20 @@ Panes::Panes(ApplicationState& state, Snappy& session, const TransferTable& tabl
       pcRows_(state.PCListing), controllerRows_(state.CtrlListing) {}
 
 bool Panes::scanPC(const std::string& folder) {
-    const BusyPointer busy(window_);
-    Result<FolderListing> scanned = scanFolder(folder);
+    Result<FolderListing> scanned = lookAt(folder);
+    if (scanned && session_.settleInterruptedFetches(folder, scanned->Names))
+        scanned = lookAt(folder);
     if (!scanned)
         return false;
     takeEntries(state_.PCListing, std::move(*scanned));
     pcRows_.clear();
     state_.PCPath = folder;
     return true;
+}
+
+Result<FolderListing> Panes::lookAt(const std::string& folder) {
+    const BusyPointer busy(window_);
+    return scanFolder(folder);
 }
 
 bool Panes::readController() {

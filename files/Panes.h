@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ApplicationState.h"
+#include "base/Result.h"
 #include "files/PaneRows.h"
 
 #include <string>
@@ -20,7 +21,8 @@ class Panes {
           const MessageTable& messages, PaneWindow& window);
 
     /// Lists `folder` into the PC listing and makes it the PC folder; false, with the listing and
-    /// the folder as they were, when it cannot be opened.
+    /// the folder as they were, when it cannot be opened. What an interrupted fetch left there is
+    /// settled before, with a message.
     bool scanPC(const std::string& folder);
     /// Reads the controller's directory and adds the table's fixed names; false, with the listing
     /// as it was, when the session could not read it.
@@ -49,6 +51,7 @@ class Panes {
     void selectNames(ActiveSide side, const std::vector<std::string>& names);
 
   private:
+    Result<FolderListing> lookAt(const std::string& folder);
     PaneRows& changeableRows(ActiveSide side);
 
     ApplicationState& state_;

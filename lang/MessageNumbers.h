@@ -72,6 +72,14 @@ inline constexpr std::int32_t sentNotShown = 68;            ///< then the names
 inline constexpr std::int32_t sentNotKnown = 69;            ///< then the names
 inline constexpr std::int32_t furtherNames = 70;            ///< with the number inserted
 
+// What the operator is told of a file whose transfer to the PC ended with the program.
+inline constexpr std::int32_t transferInterrupted = 75; ///< after [name], then what became of it
+inline constexpr std::int32_t oldFileIsBack = 76;
+inline constexpr std::int32_t partKeptAs = 77; ///< then [other name]
+inline constexpr std::int32_t fileMayBeIncomplete = 78;
+inline constexpr std::int32_t oldFileKeptAs = 79; ///< then [other name]
+inline constexpr std::int32_t nothingArrived = 80;
+
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;
 inline constexpr std::int32_t menuCopy = 102;

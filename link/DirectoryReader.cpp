@@ -1,11 +1,15 @@
 #include "link/DirectoryReader.h"
 
+#include "base/Text.h"
 #include "link/LinkConnection.h"
 #include "link/SessionErrorRecord.h"
+#include "link/SessionProgress.h"
 #include "link/Zurolink.h"
 #include "platform/TextEncoding.h"
 
 #include <algorithm>
+#include <unordered_set>
+#include <utility>
 
 namespace vantrel {
 namespace {
@@ -17,41 +21,49 @@ constexpr std::int16_t endOfDirectory = -1;
 
 bool DirectoryReader::read(std::vector<std::string>& list) {
     list.clear();
+    taken_ = 0;
     const std::int16_t handle = link_.connect();
     if (handle < 0)
         return false;
-    const std::int16_t last = readEntries(handle, list);
+    const End end = readEntries(handle, list);
     const bool closed = link_.disconnect(handle);
-    if (last == endOfDirectory)
+    if (!end.isOwn && end.code == endOfDirectory)
         return closed;
-    const auto count = static_cast<std::int32_t>(list.size());
-    if (last == session_code::directoryEndless && count == mostEntries)
-        error_.set(last, "BscFind", count);
+    // A library may return the same numbers; only the session's own have words of their own.
+    if (end.isOwn)
+        error_.set(end.code, end.code == session_code::cancelled ? "" : "BscFind", taken_);
     else
-        error_.setReturned(last, "BscFind", count);
+        error_.setReturned(end.code, "BscFind", taken_);
     return false;
 }
 
-std::int16_t DirectoryReader::readEntries(std::int16_t handle, std::vector<std::string>& list) {
+DirectoryReader::End DirectoryReader::readEntries(std::int16_t handle, std::vector<std::string>& list) {
     Zurolink& library = link_.library();
+    std::unordered_set<std::string> told;
+    std::int32_t repeats = 0;
     buffer_.fill('\0');
     std::int16_t found = library.BscFindFirst(handle, buffer_.data(), bufferLength);
     while (found == entryFound) {
-        if (list.size() == static_cast<std::size_t>(mostEntries))
-            return session_code::directoryEndless;
-        list.push_back(takeEntry());
+        if (taken_ == mostEntries || repeats == mostRepeats)
+            return {session_code::directoryEndless, true};
+        std::string entry = takeEntry();
+        const std::string text = fromCodePage(entry);
+        if (const auto name = trimmed(text); !name.empty())
+            list.emplace_back(name);
+        repeats += told.insert(std::move(entry)).second ? 0 : 1;
+        if (progress_.isCancelledReading(++taken_))
+            return {session_code::cancelled, true};
         found = library.BscFindNext(handle, buffer_.data(), bufferLength);
     }
-    return found;
+    return {found, false};
 }
 
 // An entry that fills the buffer has no NUL at its end.
 std::string DirectoryReader::takeEntry() {
-    const auto end = std::find(buffer_.begin(), buffer_.end(), '\0');
-    std::string name =
-        fromCodePage({buffer_.data(), static_cast<std::size_t>(end - buffer_.begin())});
+    const auto end = std::find(buffer_.begin(), buffer_.begin() + bufferLength, '\0');
+    std::string bytes(buffer_.begin(), end);
     buffer_.fill('\0');
-    return name;
+    return bytes;
 }
 
 } // namespace vantrel

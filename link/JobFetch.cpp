@@ -3,6 +3,8 @@
 #include "base/PathRules.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/FetchMark.h"
+#include "link/InterruptedFetches.h"
 #include "link/JobNameSet.h"
 #include "link/LinkConnection.h"
 #include "link/OperatorDialog.h"
@@ -15,14 +17,14 @@
 #include "link/Zurolink.h"
 #include "platform/Files.h"
 
-#include <vector>
-
 namespace vantrel {
 
 bool JobFetch::listFolder() {
     std::vector<std::string> names;
-    const auto listed = visitNames(tools_.properties.path,
-                                   [&names](std::string_view name) { names.emplace_back(name); });
+    auto listed = readNames(names);
+    // An older fetch that nobody ended comes first: its old version is what this one would replace.
+    if (listed && interrupted_.settle(tools_.properties.path, names))
+        listed = readNames(names);
     if (!listed) {
         // Without knowing what is there nothing may be fetched over it.
         tools_.error.set(session_code::folderNotReadable, "", 0);
@@ -33,12 +35,21 @@ bool JobFetch::listFolder() {
     return true;
 }
 
+Outcome JobFetch::readNames(std::vector<std::string>& names) const {
+    names.clear();
+    return visitNames(tools_.properties.path,
+                      [&names](std::string_view name) { names.emplace_back(name); });
+}
+
 TransferOutcome JobFetch::fetch(const std::string& name, std::int32_t index, bool overwriteAll) {
     tools_.inTheWay.clear();
     const auto libraryName = tools_.link.libraryFileName(name, "BscUpLoad", index);
     if (!libraryName || !tools_.link.isAsBegun())
         return TransferOutcome::Failed;
-    putBackLeftover(tools_.properties.path, name);
+    if (FetchMark::isFileName(name)) {
+        tools_.error.set(session_code::nameRefused, "", index);
+        return TransferOutcome::Failed;
+    }
     TransferOutcome outcome = TransferOutcome::Done;
     if (existsOnPC(name)) {
         tools_.inTheWay = {name};
@@ -67,10 +78,10 @@ bool JobFetch::receive(const std::string& name, const std::string& libraryName,
 
 bool JobFetch::receiveOver(std::int16_t handle, const std::string& name,
                            const std::string& libraryName, std::int32_t index) {
-    ReplacedFile file(tools_.properties.path, name);
-    if (!file.isReady()) {
+    ReplacedFile file(files_, tools_.properties.path, name);
+    if (file.problem() != 0) {
         tools_.link.disconnect(handle);
-        tools_.error.set(session_code::fileNotReplaceable, "", index);
+        tools_.error.set(file.problem(), "", index);
         return false;
     }
     if (receiveInto(file, handle, libraryName, index))
@@ -88,8 +99,10 @@ bool JobFetch::receiveInto(ReplacedFile& file, std::int16_t handle, const std::s
         tools_.error.set(session_code::fileDidNotArrive, "BscUpLoad", index);
         return false;
     }
-    file.keep();
-    return true;
+    const std::int16_t problem = file.keep();
+    if (problem != 0)
+        tools_.error.set(problem, "BscUpLoad", index);
+    return problem == 0;
 }
 
 void JobFetch::putBack(ReplacedFile& file, const std::string& name, std::int32_t index) {
@@ -100,12 +113,13 @@ void JobFetch::putBack(ReplacedFile& file, const std::string& name, std::int32_t
         // The record goes on telling why the file is incomplete.
         tools_.dialog.tell(shownName + tools_.messages.getMessage(message::partialFileKept),
                            BoxIcon::Exclamation);
-        return;
+    } else {
+        tools_.error.set(session_code::oldFileKeptAside, "", index);
+        tools_.dialog.tell(shownName + tools_.messages.getMessage(message::oldFileKept) + "[" +
+                               file.asideName() + "]",
+                           BoxIcon::Exclamation);
     }
-    tools_.error.set(session_code::oldFileKeptAside, "", index);
-    tools_.dialog.tell(shownName + tools_.messages.getMessage(message::oldFileKept) + "[" +
-                           file.asideName() + "]",
-                       BoxIcon::Exclamation);
+    file.forget();
 }
 
 } // namespace vantrel

@@ -1,28 +1,35 @@
 #pragma once
 
+#include "base/Result.h"
 #include "link/TransferOutcome.h"
 #include "link/TransferTools.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace vantrel {
 
+class FetchFiles;
+class InterruptedFetches;
 class ReplacedFile;
 
 /// Fetches one file from the controller into the PC folder. The folder ends up with the complete
 /// new file or as it was before.
 class JobFetch {
   public:
-    explicit JobFetch(const TransferTools& tools) : tools_(tools) {}
+    JobFetch(const TransferTools& tools, FetchFiles& files, InterruptedFetches& interrupted)
+        : tools_(tools), files_(files), interrupted_(interrupted) {}
 
-    /// Reads which names the PC folder has. False, with the reason recorded, when it cannot be
+    /// Reads which names the PC folder has, after settling what interrupted fetches left in it.
+    /// False, with the reason recorded, when it cannot be
     /// read.
     bool listFolder();
     /// `index` is the file's place among several, for the error record.
     TransferOutcome fetch(const std::string& name, std::int32_t index, bool overwriteAll);
 
   private:
+    Outcome readNames(std::vector<std::string>& names) const;
     bool existsOnPC(const std::string& name) const;
     bool receive(const std::string& name, const std::string& libraryName, std::int32_t index);
     bool receiveOver(std::int16_t handle, const std::string& name, const std::string& libraryName,
@@ -35,6 +42,8 @@ class JobFetch {
     void putBack(ReplacedFile& file, const std::string& name, std::int32_t index);
 
     TransferTools tools_;
+    FetchFiles& files_;
+    InterruptedFetches& interrupted_;
 };
 
 } // namespace vantrel

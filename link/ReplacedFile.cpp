@@ -1,11 +1,10 @@
 #include "link/ReplacedFile.h"
 
 #include "base/PathRules.h"
-#include "base/Text.h"
+#include "link/FetchFiles.h"
+#include "link/SessionErrorRecord.h"
 #include "platform/Files.h"
 
-#include <cstddef>
-#include <cstdint>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -13,41 +12,7 @@
 namespace vantrel {
 namespace {
 
-constexpr std::size_t longestStem = 200; ///< bytes; leaves room for the marks behind it
-constexpr std::size_t shortenedStem = longestStem / 4; ///< characters, of at most four bytes
-
-std::string pathOf(const std::string& folder, const std::string& name) {
-    return PathRules().join(folder, name);
-}
-
-/// A number that tells long names with the same beginning apart (FNV-1a).
-std::string digestOf(const std::string& name) {
-    std::uint64_t digest = 14695981039346656037U;
-    for (const char byte : name)
-        digest = (digest ^ static_cast<unsigned char>(byte)) * 1099511628211U;
-    return std::to_string(digest);
-}
-
-/// What the other name of a file begins with: its own name, or when that is too long to take an
-/// addition, the beginning of it and a digest of the whole.
-std::string stemOf(const std::string& name) {
-    if (name.size() <= longestStem)
-        return name;
-    return std::string(firstCharacters(name, shortenedStem)) + "~" + digestOf(name);
-}
-
-/// Not a name that a job or a list could have.
-std::string asideNameOf(const std::string& name, int number) {
-    return stemOf(name) + ".replaced-" + std::to_string(number);
-}
-
-/// The first number whose name is free.
-int freeNumber(const std::string& folder, const std::string& name) {
-    int number = 1;
-    while (anythingExists(pathOf(folder, asideNameOf(name, number))))
-        ++number;
-    return number;
-}
+constexpr std::int16_t noProblem = 0;
 
 /// A plain file that its permissions let somebody write. They are looked at themselves: an
 /// administrator may write everything, but the operator has locked the file all the same.
@@ -64,55 +29,112 @@ bool isReplaceable(const std::string& path) {
 
 } // namespace
 
-ReplacedFile::ReplacedFile(std::string folder, std::string name)
-    : folder_(std::move(folder)), name_(std::move(name)) {
-    const std::string path = pathOf(folder_, name_);
+ReplacedFile::ReplacedFile(FetchFiles& files, std::string folder, std::string name)
+    : files_(files), folder_(std::move(folder)), problem_(noProblem) {
+    mark_.name = std::move(name);
+    problem_ = prepare();
+    // While the old version has another name the mark stays, and with it the way back.
+    if (problem_ != noProblem && (mark_.aside.empty() || anythingExists(pathOf(mark_.name))))
+        forget();
+}
+
+// The mark first: from it on the old version can be found again.
+std::int16_t ReplacedFile::prepare() {
+    const std::string path = pathOf(mark_.name);
+    const bool hasOld = anythingExists(path);
+    if (hasOld && !describeOld())
+        return session_code::fileNotReplaceable;
+    if (const std::int16_t problem = setMark(); problem != noProblem)
+        return problem;
+    if (!hasOld || files_.rename(path, pathOf(mark_.aside)))
+        return noProblem;
+    // It may have been renamed, and only not be known to be on the disk.
     if (!anythingExists(path))
-        return;
-    const std::string aside = asideNameOf(name_, freeNumber(folder_, name_));
-    ready_ = isReplaceable(path) && renameFile(path, pathOf(folder_, aside));
-    if (ready_)
-        aside_ = aside;
+        static_cast<void>(files_.rename(pathOf(mark_.aside), path));
+    return session_code::fileNotReplaceable;
+}
+
+bool ReplacedFile::describeOld() {
+    const std::string path = pathOf(mark_.name);
+    if (!isReplaceable(path))
+        return false;
+    const auto content = readFile(path);
+    if (content) {
+        mark_.aside = freeSpareName(folder_, mark_.name, replacedSuffix);
+        mark_.describeOld(*content);
+    }
+    return static_cast<bool>(content);
+}
+
+// A whole mark that is there already tells of an older transfer, which nobody could settle yet.
+std::int16_t ReplacedFile::setMark() {
+    auto held = files_.hold(pathOf(FetchMark::fileNameFor(mark_.name)));
+    if (!held)
+        return session_code::fetchNotMarked;
+    const auto before = held->read();
+    if (!before || FetchMark::parse(*before))
+        return session_code::fetchNotMarked;
+    held_ = std::move(*held);
+    return files_.write(*held_, mark_.format()) ? noProblem : session_code::fetchNotMarked;
+}
+
+std::string ReplacedFile::pathOf(const std::string& name) const {
+    return PathRules().join(folder_, name);
 }
 
 // Read whole: what the disk does not give back is no copy for which a move may give up the
 // original.
 bool ReplacedFile::hasArrived() const {
-    const auto content = readFile(pathOf(folder_, name_));
+    const auto content = readFile(pathOf(mark_.name));
     return content && !content->empty();
 }
 
-void ReplacedFile::keep() {
+// The mark goes before the old version: with it, what is then the only copy besides the
+// controller's would be taken for a part, and a move deletes the controller's next. An old version
+// that cannot be removed does no harm, and without a mark nobody ever puts it back.
+std::int16_t ReplacedFile::keep() {
+    if (!files_.flush(pathOf(mark_.name)))
+        return session_code::fileNotFlushed;
+    if (!files_.remove(*held_))
+        return session_code::fetchNotMarked;
+    held_.reset();
     decided_ = true;
-    // Beside a complete file a leftover does no harm. Should that file go one day, the next fetch
-    // will take the leftover for its old version and put it back, and ask before it is replaced.
-    if (!aside_.empty())
-        static_cast<void>(removeFile(pathOf(folder_, aside_)));
+    if (!mark_.aside.empty())
+        static_cast<void>(files_.remove(pathOf(mark_.aside)));
+    return noProblem;
 }
 
 Outcome ReplacedFile::putBack() {
-    if (decided_ || !ready_)
+    if (decided_ || problem_ != noProblem)
         return Done{};
     decided_ = true;
-    const std::string path = pathOf(folder_, name_);
-    if (!aside_.empty())
-        return renameFile(pathOf(folder_, aside_), path);
-    return anythingExists(path) ? removeFile(path) : Done{};
+    const Outcome done = mark_.aside.empty() ? removePartial() : bringBack();
+    if (done)
+        forget();
+    return done;
+}
+
+Outcome ReplacedFile::removePartial() {
+    const std::string path = pathOf(mark_.name);
+    return anythingExists(path) ? files_.remove(path) : Done{};
+}
+
+// Renamed, and only not known to be on the disk, is back all the same.
+Outcome ReplacedFile::bringBack() {
+    const std::string aside = pathOf(mark_.aside);
+    Outcome renamed = files_.rename(aside, pathOf(mark_.name));
+    return anythingExists(aside) ? renamed : Done{};
+}
+
+// One that cannot be removed is settled at the next look at the folder.
+void ReplacedFile::forget() {
+    if (held_)
+        static_cast<void>(files_.remove(*held_));
+    held_.reset();
 }
 
 ReplacedFile::~ReplacedFile() {
     static_cast<void>(putBack());
-}
-
-// Of several the last one: it stood under the name most recently.
-void putBackLeftover(const std::string& folder, const std::string& name) {
-    const std::string path = pathOf(folder, name);
-    if (anythingExists(path))
-        return;
-    const int last = freeNumber(folder, name) - 1;
-    const std::string leftover = pathOf(folder, asideNameOf(name, last));
-    if (last > 0 && isRegularFile(leftover))
-        static_cast<void>(renameFile(leftover, path));
 }
 
 } // namespace vantrel

@@ -1,48 +1,64 @@
 #pragma once
 
 #include "base/Result.h"
+#include "link/FetchMark.h"
+#include "platform/HeldFile.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace vantrel {
 
-/// A PC file that is about to be received: what stood under its name is set aside beside it, and
-/// unless `keep` is called the old file is put back and whatever arrived of the new one is removed.
+class FetchFiles;
+
+/// A PC file that is about to be received: the folder is marked, what stood under the file's name
+/// is set aside beside it, and unless `keep` is called the old file is put back and whatever
+/// arrived of the new one is removed. Wherever the program is ended in between, the mark tells the
+/// next look at the folder (`InterruptedFetches`) what to do about it.
 class ReplacedFile {
   public:
     /// Only a plain file that may be written is set aside. Anything else stays where it is, and
     /// nothing can be received over it: a folder, a symbolic link, which would silently become a
     /// file, and a write-protected file, which the operator has locked.
-    ReplacedFile(std::string folder, std::string name);
+    ReplacedFile(FetchFiles& files, std::string folder, std::string name);
     /// Puts back what nobody has decided about.
     ~ReplacedFile();
     ReplacedFile(const ReplacedFile&) = delete;
     ReplacedFile& operator=(const ReplacedFile&) = delete;
 
-    /// False when something is in the way that could not be set aside.
-    bool isReady() const { return ready_; }
+    /// 0, or the session's code for why nothing can be received here.
+    std::int16_t problem() const { return problem_; }
     /// Whether a file has arrived under the name that can be read and holds something. Whether it
     /// is a whole job is not looked at: what a controller gives is kept as it gives it.
     bool hasArrived() const;
-    /// The new file is complete: the old one goes.
-    void keep();
+    /// The new file is complete: once it is on the disk and the mark is gone, the old one goes. 0,
+    /// or the session's code for a failure, with which nothing is decided yet.
+    std::int16_t keep();
     /// The new file goes and the old one comes back. On failure the old one stays under
-    /// `asideName`, or without an old one a part of the new one where it is. Does nothing after
-    /// `keep` and a second time.
+    /// `asideName`, or without an old one a part of the new one where it is, and the mark stays
+    /// until `forget`. Does nothing after `keep` and a second time.
     Outcome putBack();
+    /// The operator knows what `putBack` could not do, and will see to it.
+    void forget();
     /// The old file's present name; empty without one.
-    const std::string& asideName() const { return aside_; }
+    const std::string& asideName() const { return mark_.aside; }
 
   private:
+    std::int16_t prepare();
+    /// Whether the old version could be described; true without one.
+    bool describeOld();
+    std::int16_t setMark();
+    Outcome removePartial();
+    Outcome bringBack();
+    std::string pathOf(const std::string& name) const;
+
+    FetchFiles& files_;
     std::string folder_;
-    std::string name_;
-    std::string aside_;
-    bool ready_ = true;
+    FetchMark mark_;
+    std::optional<HeldFile> held_; ///< the mark, as long as it may lie there
+    std::int16_t problem_;
     bool decided_ = false;
 };
-
-/// Where a program was killed while a file was set aside, the file of this name is missing and its
-/// old version stands under the other name: puts it back.
-void putBackLeftover(const std::string& folder, const std::string& name);
 
 } // namespace vantrel

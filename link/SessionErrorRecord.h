@@ -19,7 +19,7 @@ inline constexpr std::int16_t nameNotExpressible =
 inline constexpr std::int16_t fileNotReadable = 21;  ///< the PC file cannot be read
 inline constexpr std::int16_t entryRejected = 22;    ///< a line that is no variable entry
 inline constexpr std::int16_t nameRefused = 23;      ///< not one plain file name
-inline constexpr std::int16_t directoryEndless = 24; ///< 1,000,000 entries and no end
+inline constexpr std::int16_t directoryEndless = 24; ///< too many entries, or the same ones again
 inline constexpr std::int16_t fileDidNotArrive = 25; ///< reported as done, but it is not there
 inline constexpr std::int16_t fileNotReplaceable = 26; ///< the old PC file cannot be set aside
 inline constexpr std::int16_t jobNameUnusable = 27;    ///< no "//NAME" line that a job could have
@@ -34,7 +34,11 @@ inline constexpr std::int16_t folderNotExpressible = 38; ///< as a name, but of 
 inline constexpr std::int16_t jobNameNotInCodePage = 40; ///< the controller reads another name
 inline constexpr std::int16_t jobIsAmbiguous = 41;    ///< another on the robot differs in case only
 inline constexpr std::int16_t folderNotReadable = 42; ///< the PC folder cannot be opened
-inline constexpr std::int16_t libraryUnusable = -10;  ///< missing, wrong or incomplete library
+inline constexpr std::int16_t fetchNotMarked =
+    45; ///< the PC folder's mark cannot be set or taken off
+inline constexpr std::int16_t fileNotFlushed =
+    46; ///< the arrived file cannot be brought to the disk
+inline constexpr std::int16_t libraryUnusable = -10; ///< missing, wrong or incomplete library
 } // namespace session_code
 
 /// The reason of the last failure.

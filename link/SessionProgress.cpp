@@ -88,6 +88,17 @@ bool SessionProgress::isCancelledPassingOver(const std::string& name, std::int32
     return isCancelledAfterYield();
 }
 
+bool SessionProgress::isCancelledInView() {
+    return panel_.isVisible() ? isCancelled() : pressed_;
+}
+
+bool SessionProgress::isCancelledReading(std::int32_t entries) {
+    constexpr std::int32_t yieldingOnes = 100; ///< a second of a line that is slow
+    if (panel_.isVisible() && !silent() && entries % yieldingOnes == 0)
+        panel_.yield();
+    return isCancelledInView();
+}
+
 std::string SessionProgress::transferring(const std::string& name) const {
     return messages_.resourceMessage(message::resource::transferring) + shownText(name);
 }

@@ -7,6 +7,7 @@
 
 namespace vantrel {
 
+class FetchFiles;
 class LanguageFiles;
 class MessageTable;
 class OperatorDialog;
@@ -25,6 +26,7 @@ struct SessionServices {
     std::function<void*()> dummyWindow;       ///< the handle of `frmDumy`, loaded on first use
     std::function<void()> unloadWindows = {}; ///< unloads `frmDumy`; called once, by `Quit`
     std::function<void()> modeChanged = {};   ///< `SetTansMode` has written `TransMode`
+    FetchFiles* files = nullptr;              ///< null for the disk itself
 };
 
 } // namespace vantrel

@@ -3,6 +3,8 @@
 #include "lang/LanguageFiles.h"
 #include "lang/MessageTable.h"
 #include "link/DirectoryReader.h"
+#include "link/FetchFiles.h"
+#include "link/InterruptedFetches.h"
 #include "link/JobBatch.h"
 #include "link/JobDeletion.h"
 #include "link/JobFetch.h"
@@ -29,13 +31,15 @@ struct Snappy::Parts {
     Parts(SessionServices given, const SessionProperties& properties)
         : services(std::move(given)), link(services, properties, error),
           progress(properties, services.messages, services.progress),
-          question(properties, services.messages, services.dialog), reader(link, error),
+          question(properties, services.messages, services.dialog), reader(link, progress, error),
           deletion(link, progress), tools{properties,     link,
                                           progress,       error,
                                           question,       directoryNames,
                                           inTheWay,       services.messages,
                                           services.dialog},
-          sending(tools, deletion), fetching(tools),
+          sending(tools, deletion), files(services.files ? *services.files : systemFiles),
+          interrupted(files, services.messages, services.dialog),
+          fetching(tools, files, interrupted),
           jobs({properties, error, services.messages, services.dialog}), variable(link, error),
           variables(properties, error) {}
 
@@ -45,7 +49,7 @@ struct Snappy::Parts {
     template <typename Work>
     bool operate(const Work& work);
     /// The controller's names, for the questions of a send. Hides the progress, as every reading of
-    /// the directory does.
+    /// the directory does. False, too, when Cancel was pressed meanwhile: nothing is sent then.
     bool readDirectory();
     /// Reads it into `names` and remembers what a reading that succeeded has shown.
     bool read(std::vector<std::string>& names);
@@ -69,6 +73,9 @@ struct Snappy::Parts {
     JobDeletion deletion;
     TransferTools tools;
     JobSend sending;
+    FetchFiles systemFiles;
+    FetchFiles& files;
+    InterruptedFetches interrupted;
     JobFetch fetching;
     LocalJobList localJobs;
     JobListStore jobs;
@@ -195,6 +202,11 @@ const DirectoryReading& Snappy::lastReading() const {
     return parts_->reading;
 }
 
+bool Snappy::settleInterruptedFetches(const std::string& folder,
+                                      const std::vector<std::string>& names) {
+    return parts_->interrupted.settle(folder, names);
+}
+
 template <typename Work>
 bool Snappy::Parts::operate(const Work& work) {
     if (link.hasBegun()) {
@@ -222,9 +234,13 @@ bool Snappy::Parts::read(std::vector<std::string>& names) {
 
 bool Snappy::Parts::readDirectory() {
     const bool isRead = read(directory);
+    // The next message of the progress clears its mark.
+    const bool cancelled = progress.isCancelledInView();
     progress.hide();
     directoryNames.assign(directory);
-    return isRead;
+    if (isRead && cancelled)
+        error.set(session_code::cancelled, "", 0);
+    return isRead && !cancelled;
 }
 
 bool Snappy::Parts::sendSingle(const std::string& file, const ReplaceConsent& consent) {

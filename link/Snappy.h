@@ -95,6 +95,10 @@ class Snappy : public SessionProperties {
     /// names that these show: for a caller who let the silent session answer them with Cancel and
     /// now asks for itself. Empty when nothing was in the way.
     const std::vector<std::string>& jobsInTheWay() const;
+    /// For whoever has listed a PC folder, with all of its names: files whose fetch ended with the
+    /// program are put in order, and the operator is told. True when the folder was changed. May be
+    /// called at any time; what a running operation fetches is left alone.
+    bool settleInterruptedFetches(const std::string& folder, const std::vector<std::string>& names);
 
     /// The name under which the controller keeps the file of the last transfer, when its own job is
     /// in the way and is deleted for it all the same; else empty.

@@ -5,7 +5,17 @@
 #include "link/VariableEntry.h"
 #include "link/Zurolink.h"
 
+#include <algorithm>
+#include <array>
+
 namespace vantrel {
+namespace {
+
+/// The ten values as the library gets them: with room behind them, since one that miscounts must
+/// not write over something else.
+using LibraryValues = std::array<double, 64>;
+
+} // namespace
 
 bool VariableTransfer::write(const std::string& entry) {
     const auto variable = VariableEntry::parse(entry);
@@ -16,8 +26,10 @@ bool VariableTransfer::write(const std::string& entry) {
     const std::int16_t handle = link_.connect();
     if (handle < 0)
         return false;
-    const std::int16_t put = link_.library().BscPutVarData(handle, variable->kind, variable->number,
-                                                           variable->values.data());
+    LibraryValues values{};
+    std::ranges::copy(variable->values, values.begin());
+    const std::int16_t put =
+        link_.library().BscPutVarData(handle, variable->kind, variable->number, values.data());
     return link_.finish(handle, put, "BscPutVarData");
 }
 
@@ -31,9 +43,10 @@ bool VariableTransfer::read(std::string& entry) {
     if (handle < 0)
         return false;
     // A library that fills fewer slots must not leave the values of the old entry in the others.
-    variable->values.fill(0);
-    const std::int16_t got = link_.library().BscGetVarData(handle, variable->kind, variable->number,
-                                                           variable->values.data());
+    LibraryValues values{};
+    const std::int16_t got =
+        link_.library().BscGetVarData(handle, variable->kind, variable->number, values.data());
+    std::copy_n(values.begin(), variable->values.size(), variable->values.begin());
     if (!link_.finish(handle, got, "BscGetVarData"))
         return false;
     // No number could be written for it that a later reading would understand.

@@ -85,7 +85,10 @@ struct ZurolinkBinding::Functions {
 ZurolinkBinding::ZurolinkBinding(const std::string& folder, Report report)
     : path_(PathRules().join(folder, libraryFileName())), report_(std::move(report)) {}
 
-ZurolinkBinding::~ZurolinkBinding() = default;
+ZurolinkBinding::~ZurolinkBinding() {
+    if (functions_ && !openLinks_.empty())
+        functions_->library->keepLoaded();
+}
 
 void ZurolinkBinding::load() {
     if (std::exchange(loadTried_, true))
@@ -127,7 +130,10 @@ std::int16_t ZurolinkBinding::BscOpen(const char* path, std::int16_t type) {
     load();
     if (problem_ && report_)
         report_(*problem_);
-    return call(&Functions::BscOpen, path, type);
+    const std::int16_t handle = call(&Functions::BscOpen, path, type);
+    if (handle >= 0)
+        openLinks_.insert(handle);
+    return handle;
 }
 
 std::int16_t ZurolinkBinding::BscSetCom(std::int16_t handle, std::int16_t port,
@@ -150,7 +156,10 @@ std::int16_t ZurolinkBinding::BscDisConnect(std::int16_t handle) {
 }
 
 std::int16_t ZurolinkBinding::BscClose(std::int16_t handle) {
-    return call(&Functions::BscClose, handle);
+    const std::int16_t closed = call(&Functions::BscClose, handle);
+    if (closed == 0)
+        openLinks_.erase(handle);
+    return closed;
 }
 
 std::int16_t ZurolinkBinding::BscFindFirst(std::int16_t handle, char* buffer, std::int16_t length) {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,8 @@ struct LibraryProblem {
 /// The real library, bound at run time from one folder only. It is loaded by the first operation
 /// that needs it; all functions are resolved before any is used. When it cannot be used that is
 /// reported by each `BscOpen`, with which an operation begins, and every call returns
-/// `session_code::libraryUnusable`.
+/// `session_code::libraryUnusable`. It is unloaded with the object, unless a link is still open
+/// then: the library may be at work on it.
 class ZurolinkBinding final : public Zurolink {
   public:
     using Report = std::function<void(const LibraryProblem&)>;
@@ -67,6 +69,7 @@ class ZurolinkBinding final : public Zurolink {
     Report report_;
     std::unique_ptr<Functions> functions_; ///< all of them or none
     std::optional<LibraryProblem> problem_;
+    std::set<std::int16_t> openLinks_; ///< handles that were opened and not closed
     bool loadTried_ = false;
 };
 

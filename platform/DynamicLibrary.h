@@ -18,6 +18,9 @@ class DynamicLibrary {
     DynamicLibrary(const DynamicLibrary&) = delete;
     DynamicLibrary& operator=(const DynamicLibrary&) = delete;
 
+    /// The library stays loaded until the program ends, whatever becomes of the object.
+    void keepLoaded() { keptLoaded_ = true; }
+
     /// The address of an exported function, or null.
     void* symbol(const std::string& name) const;
 
@@ -25,6 +28,7 @@ class DynamicLibrary {
     explicit DynamicLibrary(void* handle) : handle_(handle) {}
 
     void* handle_;
+    bool keptLoaded_ = false;
 };
 
 } // namespace vantrel

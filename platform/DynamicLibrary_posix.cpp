@@ -106,7 +106,8 @@ Result<std::unique_ptr<DynamicLibrary>> DynamicLibrary::load(const std::string& 
 }
 
 DynamicLibrary::~DynamicLibrary() {
-    ::dlclose(handle_);
+    if (!keptLoaded_)
+        ::dlclose(handle_);
 }
 
 void* DynamicLibrary::symbol(const std::string& name) const {

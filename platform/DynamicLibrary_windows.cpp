@@ -116,7 +116,8 @@ Result<std::unique_ptr<DynamicLibrary>> DynamicLibrary::load(const std::string& 
 }
 
 DynamicLibrary::~DynamicLibrary() {
-    ::FreeLibrary(static_cast<HMODULE>(handle_));
+    if (!keptLoaded_)
+        ::FreeLibrary(static_cast<HMODULE>(handle_));
 }
 
 void* DynamicLibrary::symbol(const std::string& name) const {

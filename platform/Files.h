@@ -30,6 +30,12 @@ Outcome replaceFile(const std::string& path, std::string_view content);
 Outcome renameFile(const std::string& from, const std::string& to);
 Outcome removeFile(const std::string& path);
 
+/// What somebody has written to the file is on the disk afterwards, and the file's name too.
+Outcome flushFile(const std::string& path);
+/// The same for the names in a folder. A disk on which that cannot be done is no failure, since
+/// nothing better is to be had there; one that fails at it is.
+Outcome flushFolder(const std::string& folder);
+
 /// A regular file (or a link to one).
 bool isRegularFile(const std::string& path);
 bool isFolder(const std::string& path);

@@ -94,6 +94,30 @@ Outcome removeFile(const std::string& path) {
     return Done{};
 }
 
+Outcome flushFile(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(EINVAL);
+    const Descriptor file(
+        ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY));
+    if (!file.isOpen() || ::fsync(file.number()) != 0)
+        return systemFailure(errno);
+    const auto last = path.rfind('/');
+    return flushFolder(last == std::string::npos ? "." : path.substr(0, last + 1));
+}
+
+Outcome flushFolder(const std::string& folder) {
+    if (hasNul(folder))
+        return systemFailure(EINVAL);
+    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    // A folder that may be written to but not listed, or a file system that knows no such thing.
+    if (!opened.isOpen())
+        return errno == EACCES ? Outcome(Done{}) : Outcome(systemFailure(errno));
+    const bool flushed = ::fsync(opened.number()) == 0;
+    const bool isUnknown = !flushed && (errno == EINVAL || errno == EBADF || errno == EROFS ||
+                                        errno == ENOSYS || errno == EOPNOTSUPP);
+    return flushed || isUnknown ? Outcome(Done{}) : Outcome(systemFailure(errno));
+}
+
 bool isRegularFile(const std::string& path) {
     struct stat details {};
     return readDetails(path, details) && S_ISREG(details.st_mode);

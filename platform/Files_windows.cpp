@@ -100,6 +100,22 @@ Outcome removeFile(const std::string& path) {
     return done(::DeleteFileW(systemPath(path).c_str()));
 }
 
+Outcome flushFile(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(ERROR_INVALID_NAME);
+    const Handle file(::CreateFileW(systemPath(path).c_str(), GENERIC_WRITE, sharedWithAll, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.isOpen() || !::FlushFileBuffers(file.get()))
+        return lastFailure();
+    return Done{};
+}
+
+// The system's journal keeps the order of what happens to names; renaming writes through to the
+// disk besides.
+Outcome flushFolder(const std::string& folder) {
+    return isFolder(folder) ? Outcome(Done{}) : Outcome(systemFailure(ERROR_PATH_NOT_FOUND));
+}
+
 bool isRegularFile(const std::string& path) {
     if (hasNul(path))
         return false;

@@ -113,14 +113,6 @@ class TemporaryFile {
     bool kept_ = false;
 };
 
-/// The new name is on the disk only with the folder. Some file systems cannot flush a folder; the
-/// file is complete all the same, so their refusal is no failure.
-void flushFolder(const std::string& folder) {
-    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (opened.isOpen())
-        static_cast<void>(::fsync(opened.number()));
-}
-
 } // namespace
 
 Outcome replaceFile(const std::string& path, std::string_view content) {
@@ -140,7 +132,8 @@ Outcome replaceFile(const std::string& path, std::string_view content) {
         error = temporary.become(target);
     if (error != 0)
         return systemFailure(error);
-    flushFolder(folderOf(target));
+    // The new name is on the disk only with the folder. The file is complete all the same.
+    static_cast<void>(flushFolder(folderOf(target)));
     return Done{};
 }
 

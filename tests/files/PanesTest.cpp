@@ -1,4 +1,6 @@
 #include "CommandFixture.h"
+#include "link/FetchMark.h"
+#include "platform/HeldFile.h"
 
 #include <gmock/gmock.h>
 
@@ -47,6 +49,27 @@ TEST_F(PanesTest, AScanMakesTheFolderThePCFolder) {
     EXPECT_EQ(state.PCPath, folder);
     EXPECT_EQ(state.PCListing.Path, folder);
     EXPECT_TRUE(panes.scanPC(folder + "/")) << "with a separator at its end too";
+}
+
+TEST_F(PanesTest, ALookAtAFolderSettlesWhatAnInterruptedTransferLeft) {
+    pc.write("A.JBI", "half");
+    pc.write(FetchMark::fileNameFor("A.JBI"), FetchMark{.name = "A.JBI"}.format());
+    showPC();
+    EXPECT_THAT(state.PCListing.Names, ElementsAre("A.JBI.partial-1"));
+    EXPECT_EQ(pc.read("A.JBI.partial-1"), "half");
+    ASSERT_EQ(boxes.shown.size(), 1u);
+    EXPECT_TRUE(boxes.shown[0].text.starts_with("[A.JBI]"));
+    showPC();
+    EXPECT_EQ(boxes.shown.size(), 1u);
+}
+
+TEST_F(PanesTest, TheMarkOfATransferIsShownByNoFilter) {
+    const auto held = HeldFile::make(pc.path(FetchMark::fileNameFor("A.JBI")));
+    ASSERT_TRUE(held) << held.reason();
+    for (window.pcFilter = 0; window.pcFilter <= allFiles; ++window.pcFilter) {
+        showPC();
+        EXPECT_EQ(panes.rows(ActiveSide::PC).size(), 0u);
+    }
 }
 
 TEST_F(PanesTest, AFolderThatCannotBeOpenedChangesNothing) {

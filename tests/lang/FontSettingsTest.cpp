@@ -67,6 +67,19 @@ INSTANTIATE_TEST_SUITE_P(
         Settings{"SizeHuge", "[Font Info]\nFontSize=99999\n", "Base bold 8"}),
     [](const auto& row) { return row.param.name; });
 
+/// 99 characters and the end of the text.
+TEST(FontInfoFile, IsReadIntoBuffersOfAHundredCharacters) {
+    const tests::TemporaryFolder folder;
+    ApplicationState state;
+    const std::string name(99, 'N');
+    const std::string size = std::string(98, '0') + "12";
+    readFontSettings(folder.write("Vantrel.ini", "[Font Info]\nFontName=" + name +
+                                                     "more\nFontSize=" + size + "\n"),
+                     state);
+    EXPECT_EQ(state.FontName, name);
+    EXPECT_EQ(state.FontSize, 1);
+}
+
 TEST(FontInfoFile, MayBeMissing) {
     const tests::TemporaryFolder folder;
     ApplicationState state;

@@ -1,6 +1,7 @@
 #include "link/DirectoryReader.h"
 
 #include "SessionWorld.h"
+#include "support/NamedRow.h"
 
 namespace vantrel {
 namespace {
@@ -90,13 +91,160 @@ TEST_F(DirectoryReaderTest, AFailedConnectLeavesAnEmptyList) {
     EXPECT_TRUE(list.empty());
 }
 
-TEST_F(DirectoryReaderTest, AnEndlessDirectoryStopsAtAMillionEntries) {
+struct EndlessRow : tests::NamedRow {
+    std::size_t names;
+    const char* error;
+};
+
+class EndlessDirectoryTest : public DirectoryReaderTest,
+                             public testing::WithParamInterface<EndlessRow> {};
+
+TEST_P(EndlessDirectoryTest, EndsWithAFailure) {
     world.library.recordCalls(false);
-    world.controller().endless = true;
+    world.controller().endlessNames = GetParam().names;
     EXPECT_FALSE(read());
-    EXPECT_EQ(list.size(), 1'000'000u);
-    EXPECT_EQ(world.error(), "BscFind 24 1000000");
+    EXPECT_EQ(world.error(), GetParam().error);
     EXPECT_EQ(world.library.openLinks(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Directories, EndlessDirectoryTest,
+                         testing::Values(EndlessRow{"OneName", 1, "BscFind 24 101"},
+                                         EndlessRow{"RoundAndRound", 7, "BscFind 24 107"},
+                                         EndlessRow{"AlwaysAnotherName", 1'000'000,
+                                                    "BscFind 24 50000"}),
+                         tests::rowName);
+
+TEST_F(DirectoryReaderTest, ANameThatIsToldTwiceIsListedTwice) {
+    world.controller().put("A ", "");
+    world.controller().put("A", "");
+    EXPECT_TRUE(read());
+    EXPECT_THAT(list, ElementsAre("A", "A"));
+}
+
+/// A controller with more names than fit any buffer of theirs together.
+TEST_F(DirectoryReaderTest, ALongDirectoryIsReadToItsEnd) {
+    world.library.recordCalls(false);
+    for (int i = 0; i < 20'000; ++i)
+        world.controller().put("JOB" + std::to_string(i) + ".JBI", "");
+    EXPECT_TRUE(read());
+    ASSERT_EQ(list.size(), 20'000u);
+    EXPECT_EQ(list.front(), "JOB0.JBI");
+    EXPECT_EQ(list.back(), "JOB19999.JBI");
+}
+
+struct PaddingRow : tests::NamedRow {
+    const char* before;
+    const char* behind;
+};
+
+class PaddedEntryTest : public DirectoryReaderTest, public testing::WithParamInterface<PaddingRow> {
+  protected:
+    PaddedEntryTest() {
+        world.controller().put("WELD.JBI", "");
+        world.controller().before = GetParam().before;
+        world.controller().behind = GetParam().behind;
+    }
+};
+
+TEST_P(PaddedEntryTest, IsListedWithoutWhatSurroundsIt) {
+    EXPECT_TRUE(read());
+    EXPECT_THAT(list, ElementsAre("WELD.JBI"));
+}
+
+TEST_P(PaddedEntryTest, StandsInTheWayOfAJobThatIsSent) {
+    world.pc.write("WELD.JBI", SessionWorld::job("WELD"));
+    world.question.answers = {Answer::No};
+    EXPECT_FALSE(world.session->JobDownLoad("WELD.JBI"));
+    EXPECT_THAT(world.question.questions, ElementsAre("WELD.JBI already exists. Overwrite it?"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Paddings, PaddedEntryTest,
+                         testing::Values(PaddingRow{"BlanksBehind", "", "   "},
+                                         PaddingRow{"BlanksBefore", "  ", ""},
+                                         PaddingRow{"Tabs", "\t", "\t"},
+                                         PaddingRow{"LineEnd", "", "\r\n"},
+                                         PaddingRow{"BlanksAndLineEnd", " ", "  \r\n"}),
+                         tests::rowName);
+
+TEST_F(DirectoryReaderTest, AnEntryOfPaddingOnlyIsLeftOut) {
+    world.controller().put("A", "");
+    world.controller().put(" \t\r\n", "");
+    world.controller().put("B", "");
+    EXPECT_TRUE(read());
+    EXPECT_THAT(list, ElementsAre("A", "B"));
+}
+
+TEST_F(DirectoryReaderTest, BlanksInsideANameStay) {
+    world.controller().put("A B.JBI", "");
+    EXPECT_TRUE(read());
+    EXPECT_THAT(list, ElementsAre("A B.JBI"));
+}
+
+TEST_F(DirectoryReaderTest, ALibraryThatWritesBehindTheBufferHurtsNothing) {
+    world.controller().put(std::string(255, 'A'), "");
+    world.controller().put("B.JBI", "");
+    world.library.overrun = 64;
+    std::vector<std::string> second;
+    EXPECT_TRUE(read());
+    EXPECT_THAT(list, ElementsAre(std::string(255, 'A'), "B.JBI"));
+    EXPECT_TRUE(world.session->ReadDirectory(second));
+    EXPECT_EQ(second, list);
+}
+
+/// The window is the command's, and the library itself lets events run.
+TEST_F(DirectoryReaderTest, APressDuringTheReadEndsIt) {
+    for (const char* name : {"A", "B", "C", "D"})
+        world.controller().put(name, "");
+    world.panel.show("command");
+    world.library.onCall = [this](const std::string&) {
+        if (world.library.callCount("BscFindNext") == 2)
+            world.panel.pressCancel();
+    };
+    EXPECT_FALSE(read());
+    EXPECT_EQ(world.error(), " 3 3");
+    EXPECT_EQ(world.library.callCount("BscFindNext"), 2);
+    EXPECT_EQ(world.library.openLinks(), 0);
+    EXPECT_FALSE(world.panel.isVisible());
+}
+
+TEST_F(DirectoryReaderTest, EventsRunAtEveryHundredthEntryOfALongDirectory) {
+    for (int i = 0; i < 1000; ++i)
+        world.controller().put("JOB" + std::to_string(i), "");
+    world.panel.show("command");
+    world.view.onYield = [this](int yield) {
+        if (yield == 3)
+            world.panel.pressCancel();
+    };
+    EXPECT_FALSE(read());
+    EXPECT_EQ(world.error(), " 3 200");
+}
+
+TEST_F(DirectoryReaderTest, WithoutAWindowNobodyCanCancelAndNoEventsRun) {
+    for (int i = 0; i < 200; ++i)
+        world.controller().put("JOB" + std::to_string(i), "");
+    world.panel.show("command");
+    world.panel.pressCancel();
+    world.panel.hide();
+    const int yields = world.view.yields;
+    EXPECT_TRUE(read());
+    EXPECT_EQ(world.view.yields, yields);
+}
+
+/// At its very end, so that only the look before the window is hidden can find it.
+TEST_F(DirectoryReaderTest, APressInTheLastCallOfTheReadEndsATransferBeforeItsFirstFile) {
+    world.pc.write("WELD.JBI", SessionWorld::job("WELD"));
+    world.session->AddJobList("WELD.JBI");
+    world.library.onCall = [this](const std::string& function) {
+        if (function == "BscClose")
+            world.panel.pressCancel();
+    };
+    world.panel.show("command");
+    EXPECT_FALSE(world.session->JobListDownLoad());
+    EXPECT_EQ(world.error(), " 3 0");
+    world.panel.show("command");
+    EXPECT_FALSE(world.session->JobDownLoad("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 3 0");
+    EXPECT_EQ(world.library.callCount("BscDownLoad"), 0);
 }
 
 TEST_F(DirectoryReaderTest, ProgressIsHiddenInEveryCase) {

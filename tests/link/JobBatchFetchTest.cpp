@@ -41,6 +41,35 @@ TEST_F(JobBatchFetchTest, AFailedFetchEndsTheListWithItsIndex) {
     EXPECT_EQ(world.error(), "BscUpLoad 1200 1");
 }
 
+/// The press comes while the library fetches the second file, which is still brought whole.
+TEST_F(JobBatchFetchTest, CancelEndsTheListBehindTheFileThatIsBeingFetched) {
+    addOlder({"A", "B", "C"});
+    for (const char* name : {"A.JBI", "B.JBI", "C.JBI"})
+        world.session->AddJobList(name);
+    world.library.onCall = [this](const std::string& function) {
+        if (function == "BscUpLoad" && world.library.callCount("BscUpLoad") == 2)
+            world.panel.pressCancel();
+    };
+    EXPECT_FALSE(world.session->JobListUpLoad());
+    EXPECT_EQ(world.error(), " 3 1");
+    EXPECT_EQ(world.library.callCount("BscUpLoad"), 2);
+    EXPECT_EQ(world.pc.read("B.JBI"), world.controller().bytes("B.JBI"));
+    EXPECT_FALSE(world.pc.has("C.JBI"));
+    EXPECT_FALSE(world.panel.isVisible());
+}
+
+TEST_F(JobBatchFetchTest, TheProgressOfAReceivingListHasACancelButtonAtEveryFile) {
+    addOlder({"A", "B"});
+    for (const char* name : {"A.JBI", "B.JBI"})
+        world.session->AddJobList(name);
+    bool offered = true;
+    world.library.onCall = [&](const std::string&) {
+        offered = offered && world.panel.isVisible() && world.panel.cancelButtonShown();
+    };
+    EXPECT_TRUE(world.session->JobListUpLoad());
+    EXPECT_TRUE(offered);
+}
+
 TEST_F(JobBatchFetchTest, AFileThatThisListJustBroughtIsNotOverwrittenSilently) {
     addOlder({"A"});
     world.session->AddJobList("A.JBI");

@@ -1,6 +1,9 @@
 #include "link/JobFetch.h"
 
+#include "EndingFiles.h"
 #include "JobFetchFixture.h"
+#include "link/FetchMark.h"
+#include "link/ReplacedFile.h"
 #include "support/NamedRow.h"
 
 #include <filesystem>
@@ -209,12 +212,95 @@ TEST_F(JobFetchTest, AnOldFileThatCannotBePutBackIsToldWithItsOtherNameEvenWithT
 }
 
 TEST_F(JobFetchTest, WhatAKilledProgramLeftIsPutBackFirstAndAskedFor) {
-    world.pc.write("WELD.JBI.replaced-1", "old");
+    world.pc.write("WELD.JBI", "old");
+    {
+        tests::EndingFiles files(3);
+        const ReplacedFile killed(files, world.pc.path(), "WELD.JBI");
+    }
     world.question.answers = {Answer::No};
     EXPECT_FALSE(fetch("WELD.JBI"));
     EXPECT_EQ(world.error(), " 4 0");
     EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
     EXPECT_EQ(fileCount(), 1u);
+    EXPECT_THAT(world.boxes.texts(), ElementsAre("[WELD.JBI] interrupted; old back"));
+}
+
+/// The operator deleted the file, and did not mean its old version to come back.
+TEST_F(JobFetchTest, AnOldVersionWithoutAMarkIsNeverPutBack) {
+    world.pc.write("WELD.JBI.replaced-1", "old");
+    EXPECT_TRUE(fetch("WELD.JBI"));
+    EXPECT_THAT(world.question.questions, IsEmpty());
+    EXPECT_EQ(world.pc.read("WELD.JBI"), weld);
+    EXPECT_EQ(world.pc.read("WELD.JBI.replaced-1"), "old");
+}
+
+TEST_F(JobFetchTest, TheFolderIsMarkedBeforeTheLibraryWritesAndALookChangesNothing) {
+    world.pc.write("WELD.JBI", "old");
+    bool wasMarked = false;
+    world.library.onCall = [&](const std::string& function) {
+        if (function != "BscUpLoad")
+            return;
+        const std::string mark = FetchMark::fileNameFor("WELD.JBI");
+        wasMarked = world.pc.has(mark);
+        EXPECT_FALSE(world.session->settleInterruptedFetches(world.pc.path(), {mark}));
+    };
+    EXPECT_TRUE(fetch("WELD.JBI", true));
+    EXPECT_TRUE(wasMarked);
+    EXPECT_EQ(fileCount(), 1u);
+    EXPECT_THAT(world.boxes.shown, IsEmpty());
+}
+
+TEST_F(JobFetchTest, AMarkIsNoFileToFetch) {
+    const std::string mark = FetchMark::fileNameFor("WELD.JBI");
+    world.controller().put(mark, "x");
+    EXPECT_FALSE(fetch(mark, true));
+    EXPECT_EQ(world.error(), " 23 0");
+    EXPECT_EQ(world.library.callCount(), 0);
+}
+
+/// A session on a disk with one kind of step that fails.
+struct FailingDiskTest : JobFetchTest {
+    tests::FailingFiles files;
+
+    FailingDiskTest() {
+        world.services.files = &files;
+        world.session = std::make_unique<Snappy>(world.services);
+        world.session->path = world.pc.path();
+        world.pc.write("WELD.JBI", "old");
+    }
+};
+
+TEST_F(FailingDiskTest, AFileThatIsNotFlushedHasNotArrived) {
+    files.failsFlush = true;
+    EXPECT_FALSE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.error(), "BscUpLoad 46 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+    EXPECT_EQ(fileCount(), 1u);
+}
+
+TEST_F(FailingDiskTest, WithoutAMarkNothingIsFetched) {
+    files.failsHold = true;
+    EXPECT_FALSE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.error(), " 45 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+    EXPECT_EQ(world.library.callCount("BscUpLoad"), 0);
+    EXPECT_EQ(world.library.openLinks(), 0);
+}
+
+/// Its directory is no longer the session's afterwards; the folders are absolute.
+TEST_F(JobFetchTest, ALibraryThatChangesTheCurrentDirectoryMovesNoFile) {
+    const tests::TemporaryFolder elsewhere;
+    world.controller().put("PICK.JBI", SessionWorld::job("PICK"));
+    world.pc.write("WELD.JBI", "old");
+    world.library.onCall = [&](const std::string&) {
+        std::filesystem::current_path(elsewhere.path());
+    };
+    EXPECT_TRUE(fetch("WELD.JBI", true));
+    EXPECT_TRUE(fetch("PICK.JBI"));
+    EXPECT_EQ(world.pc.read("WELD.JBI"), weld);
+    EXPECT_EQ(fileCount(), 2u);
+    EXPECT_TRUE(std::filesystem::is_empty(elsewhere.path()));
+    std::filesystem::current_path(world.pc.path());
 }
 
 TEST_F(JobFetchTest, NothingIsFetchedIntoAFolderThatCannotBeListed) {

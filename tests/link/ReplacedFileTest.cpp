@@ -1,8 +1,12 @@
 #include "link/ReplacedFile.h"
 
+#include "EndingFiles.h"
+#include "link/SessionErrorRecord.h"
+#include "platform/Files.h"
 #include "support/TemporaryFolder.h"
 
 #include <filesystem>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -11,17 +15,18 @@ namespace {
 
 struct ReplacedFileTest : testing::Test {
     tests::TemporaryFolder folder;
+    FetchFiles files;
 
     std::size_t fileCount() const {
-        const std::filesystem::directory_iterator files(folder.path());
-        return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+        const std::filesystem::directory_iterator found(folder.path());
+        return static_cast<std::size_t>(std::distance(begin(found), end(found)));
     }
 };
 
 TEST_F(ReplacedFileTest, TheOldFileIsOutOfTheWayMeanwhile) {
     folder.write("A.JBI", "old");
-    const ReplacedFile file(folder.path(), "A.JBI");
-    EXPECT_TRUE(file.isReady());
+    const ReplacedFile file(files, folder.path(), "A.JBI");
+    EXPECT_EQ(file.problem(), 0);
     EXPECT_FALSE(file.hasArrived());
     EXPECT_FALSE(folder.has("A.JBI"));
 }
@@ -29,7 +34,7 @@ TEST_F(ReplacedFileTest, TheOldFileIsOutOfTheWayMeanwhile) {
 TEST_F(ReplacedFileTest, WithoutSuccessTheOldFileComesBackOverThePartialOne) {
     folder.write("A.JBI", "old");
     {
-        const ReplacedFile file(folder.path(), "A.JBI");
+        const ReplacedFile file(files, folder.path(), "A.JBI");
         folder.write("A.JBI", "par");
     }
     EXPECT_EQ(folder.read("A.JBI"), "old");
@@ -38,31 +43,35 @@ TEST_F(ReplacedFileTest, WithoutSuccessTheOldFileComesBackOverThePartialOne) {
 
 TEST_F(ReplacedFileTest, WithoutSuccessAPartialNewFileGoes) {
     {
-        const ReplacedFile file(folder.path(), "A.JBI");
+        const ReplacedFile file(files, folder.path(), "A.JBI");
         folder.write("A.JBI", "par");
     }
     EXPECT_EQ(fileCount(), 0u);
 }
 
 TEST_F(ReplacedFileTest, WhatCannotBeRemovedOfANewFileIsAFailure) {
-    ReplacedFile file(folder.path(), "A.JBI");
+    ReplacedFile file(files, folder.path(), "A.JBI");
     folder.write("A.JBI/inside", "");
     EXPECT_FALSE(file.putBack());
     EXPECT_EQ(file.asideName(), "");
+    const std::string mark = folder.path(FetchMark::fileNameFor("A.JBI"));
+    EXPECT_TRUE(anythingExists(mark)) << "until the operator knows";
+    file.forget();
+    EXPECT_FALSE(anythingExists(mark));
 }
 
 TEST_F(ReplacedFileTest, WithNothingArrivedThereIsNothingToRemove) {
-    ReplacedFile file(folder.path(), "A.JBI");
+    ReplacedFile file(files, folder.path(), "A.JBI");
     EXPECT_TRUE(file.putBack());
 }
 
 TEST_F(ReplacedFileTest, WithSuccessTheOldFileGoes) {
     folder.write("A.JBI", "old");
     {
-        ReplacedFile file(folder.path(), "A.JBI");
+        ReplacedFile file(files, folder.path(), "A.JBI");
         folder.write("A.JBI", "new");
         EXPECT_TRUE(file.hasArrived());
-        file.keep();
+        EXPECT_EQ(file.keep(), 0);
     }
     EXPECT_EQ(folder.read("A.JBI"), "new");
     EXPECT_EQ(fileCount(), 1u);
@@ -71,7 +80,7 @@ TEST_F(ReplacedFileTest, WithSuccessTheOldFileGoes) {
 TEST_F(ReplacedFileTest, AFileOfTheSpareNameIsNotTouched) {
     folder.write("A.JBI", "old");
     folder.write("A.JBI.replaced-1", "other");
-    { const ReplacedFile file(folder.path(), "A.JBI"); }
+    { const ReplacedFile file(files, folder.path(), "A.JBI"); }
     EXPECT_EQ(folder.read("A.JBI"), "old");
     EXPECT_EQ(folder.read("A.JBI.replaced-1"), "other");
 }
@@ -79,15 +88,15 @@ TEST_F(ReplacedFileTest, AFileOfTheSpareNameIsNotTouched) {
 TEST_F(ReplacedFileTest, AFolderOfTheNameIsLeftAlone) {
     folder.makeFolder("A.JBI");
     {
-        const ReplacedFile file(folder.path(), "A.JBI");
-        EXPECT_FALSE(file.isReady());
+        const ReplacedFile file(files, folder.path(), "A.JBI");
+        EXPECT_EQ(file.problem(), session_code::fileNotReplaceable);
         EXPECT_FALSE(file.hasArrived());
     }
     EXPECT_TRUE(std::filesystem::is_directory(folder.path("A.JBI")));
 }
 
 TEST_F(ReplacedFileTest, AnEmptyFileHasNotArrived) {
-    const ReplacedFile file(folder.path(), "A.JBI");
+    const ReplacedFile file(files, folder.path(), "A.JBI");
     folder.write("A.JBI", "");
     EXPECT_FALSE(file.hasArrived());
 }
@@ -99,12 +108,12 @@ TEST_F(ReplacedFileTest, TheLongestNamesAreSetAsideUnderAShorterOne) {
     folder.write(one, "old 1");
     folder.write(other, "old 2");
     {
-        const ReplacedFile file(folder.path(), one);
-        const ReplacedFile second(folder.path(), other);
-        EXPECT_TRUE(file.isReady());
-        EXPECT_TRUE(second.isReady());
+        const ReplacedFile file(files, folder.path(), one);
+        const ReplacedFile second(files, folder.path(), other);
+        EXPECT_EQ(file.problem(), 0);
+        EXPECT_EQ(second.problem(), 0);
         EXPECT_FALSE(folder.has(one));
-        EXPECT_EQ(fileCount(), 2u);
+        EXPECT_EQ(fileCount(), 4u) << "both files and a mark for each";
     }
     EXPECT_EQ(folder.read(one), "old 1");
     EXPECT_EQ(folder.read(other), "old 2");
@@ -112,7 +121,7 @@ TEST_F(ReplacedFileTest, TheLongestNamesAreSetAsideUnderAShorterOne) {
 
 TEST_F(ReplacedFileTest, PuttingBackTellsWhyItFailedAndWhereTheOldFileIs) {
     folder.write("A.JBI", "old");
-    ReplacedFile file(folder.path(), "A.JBI");
+    ReplacedFile file(files, folder.path(), "A.JBI");
     folder.makeFolder("A.JBI/inside");
     const Outcome outcome = file.putBack();
     ASSERT_FALSE(outcome);
@@ -122,7 +131,7 @@ TEST_F(ReplacedFileTest, PuttingBackTellsWhyItFailedAndWhereTheOldFileIs) {
 }
 
 TEST_F(ReplacedFileTest, PuttingBackWorksOnceAndWithoutAnOldFileToo) {
-    ReplacedFile file(folder.path(), "A.JBI");
+    ReplacedFile file(files, folder.path(), "A.JBI");
     folder.write("A.JBI", "par");
     EXPECT_TRUE(file.putBack());
     EXPECT_EQ(fileCount(), 0u);
@@ -131,44 +140,68 @@ TEST_F(ReplacedFileTest, PuttingBackWorksOnceAndWithoutAnOldFileToo) {
     EXPECT_EQ(folder.read("A.JBI"), "later");
 }
 
-/// As a program leaves it that is killed while the old file is set aside.
-TEST_F(ReplacedFileTest, ALeftoverIsPutBackWhereTheNameIsMissing) {
-    for (const std::string& name : {std::string("A.JBI"), std::string(250, 'B') + ".JBI"}) {
-        folder.write(name, "old");
-        std::string aside;
-        {
-            ReplacedFile file(folder.path(), name);
-            aside = file.asideName();
-            std::filesystem::copy_file(folder.path(aside), folder.path("saved"));
-        }
-        std::filesystem::remove(folder.path(name));
-        std::filesystem::rename(folder.path("saved"), folder.path(aside));
-        putBackLeftover(folder.path(), name);
-        EXPECT_EQ(folder.read(name), "old");
-        EXPECT_FALSE(folder.has(aside));
+TEST_F(ReplacedFileTest, TheFolderIsMarkedAsLongAsNothingIsDecided) {
+    folder.write("A.JBI", "old");
+    const std::string name = FetchMark::fileNameFor("A.JBI");
+    EXPECT_EQ(name.find('.'), std::string::npos) << "filters show names with a point only";
+    {
+        const ReplacedFile file(files, folder.path(), "A.JBI");
+        const auto mark = FetchMark::parse(folder.read(name));
+        ASSERT_TRUE(mark);
+        EXPECT_EQ(mark->name, "A.JBI");
+        EXPECT_EQ(mark->aside, "A.JBI.replaced-1");
+        EXPECT_TRUE(mark->describes(folder.path("A.JBI.replaced-1")));
+        EXPECT_FALSE(HeldFile::take(folder.path(name)));
+    }
+    EXPECT_FALSE(folder.has(name));
+}
+
+TEST_F(ReplacedFileTest, NothingIsTouchedInAFolderThatTakesNoMark) {
+    folder.write("A.JBI", "old");
+    for (bool tests::FailingFiles::*step :
+         {&tests::FailingFiles::failsHold, &tests::FailingFiles::failsWrite}) {
+        tests::FailingFiles failing;
+        failing.*step = true;
+        const ReplacedFile file(failing, folder.path(), "A.JBI");
+        EXPECT_EQ(file.problem(), session_code::fetchNotMarked);
+        EXPECT_EQ(folder.read("A.JBI"), "old");
+        EXPECT_EQ(fileCount(), 1u);
     }
 }
 
-TEST_F(ReplacedFileTest, OfSeveralLeftoversTheLastOneIsPutBack) {
-    folder.write("A.JBI.replaced-1", "older");
-    folder.write("A.JBI.replaced-2", "old");
-    putBackLeftover(folder.path(), "A.JBI");
-    EXPECT_EQ(folder.read("A.JBI"), "old");
-    EXPECT_EQ(folder.read("A.JBI.replaced-1"), "older");
+TEST_F(ReplacedFileTest, AFileThatIsBeingFetchedAlreadyIsNotFetchedTwice) {
+    const ReplacedFile first(files, folder.path(), "A.JBI");
+    const ReplacedFile second(files, folder.path(), "A.JBI");
+    EXPECT_EQ(second.problem(), session_code::fetchNotMarked);
 }
 
-TEST_F(ReplacedFileTest, ALeftoverBesideItsFileStays) {
-    folder.write("A.JBI", "new");
-    folder.write("A.JBI.replaced-1", "old");
-    putBackLeftover(folder.path(), "A.JBI");
-    EXPECT_EQ(folder.read("A.JBI"), "new");
-    EXPECT_EQ(folder.read("A.JBI.replaced-1"), "old");
+TEST_F(ReplacedFileTest, AMarkThatNobodyHasSettledStays) {
+    const std::string older = FetchMark{.name = "A.JBI"}.format();
+    folder.write(FetchMark::fileNameFor("A.JBI"), older);
+    {
+        const ReplacedFile file(files, folder.path(), "A.JBI");
+        EXPECT_EQ(file.problem(), session_code::fetchNotMarked);
+    }
+    EXPECT_EQ(folder.read(FetchMark::fileNameFor("A.JBI")), older);
 }
 
-TEST_F(ReplacedFileTest, AFolderOfTheSpareNameIsNoLeftover) {
-    folder.makeFolder("A.JBI.replaced-1");
-    putBackLeftover(folder.path(), "A.JBI");
-    EXPECT_FALSE(folder.has("A.JBI"));
+/// Either way the old file must come back, and does.
+TEST_F(ReplacedFileTest, WhatIsNotOnTheDiskOrStillMarkedIsNotKept) {
+    const std::pair<bool tests::FailingFiles::*, std::int16_t> rows[] = {
+        {&tests::FailingFiles::failsFlush, session_code::fileNotFlushed},
+        {&tests::FailingFiles::failsRemoveMark, session_code::fetchNotMarked}};
+    for (const auto& [step, code] : rows) {
+        folder.write("A.JBI", "old");
+        tests::FailingFiles failing;
+        failing.*step = true;
+        {
+            ReplacedFile file(failing, folder.path(), "A.JBI");
+            folder.write("A.JBI", "new");
+            EXPECT_EQ(file.keep(), code);
+        }
+        EXPECT_EQ(folder.read("A.JBI"), "old");
+        EXPECT_FALSE(folder.has("A.JBI.replaced-1"));
+    }
 }
 
 } // namespace

@@ -41,6 +41,12 @@ inline MessageTable sessionMessages() {
     add(61, " kept as ");
     add(63, " incomplete");
     add(66, " stored under the second name");
+    add(75, " interrupted");
+    add(76, "; old back");
+    add(77, "; part kept as ");
+    add(78, "; check");
+    add(79, "; old kept as ");
+    add(80, "; nothing");
     add(502, "already exists. Overwrite it?");
     add(504, "Transferring ");
     add(507, "Deleting ");

@@ -31,6 +31,16 @@ TEST_F(VariableTransferTest, ReadingRebuildsTheEntry) {
     EXPECT_EQ(world.library.trace(), tests::wholeLink(world, 1, {"BscGetVarData(1, 0, 5)"}));
 }
 
+TEST_F(VariableTransferTest, ALibraryThatGoesBehindTheTenValuesHurtsNothing) {
+    variable(5, 3) = {1, 2, 3};
+    world.library.overrun = 54;
+    std::string entry = "BP3=";
+    EXPECT_TRUE(world.session->VarUpLoad(entry));
+    EXPECT_EQ(entry, "BP003=1,2,3,0,0,0,0,0,0");
+    EXPECT_TRUE(world.session->VarDownLoad(entry));
+    EXPECT_EQ(world.error(), " 0 0");
+}
+
 TEST_F(VariableTransferTest, OldValuesDoNotShineThrough) {
     std::string entry = "P1=1,2,3,4,5,6,7,8,9";
     EXPECT_TRUE(world.session->VarUpLoad(entry));

@@ -91,6 +91,36 @@ TEST_F(ZurolinkBindingTest, NobodyNeedsToListenToProblems) {
     EXPECT_EQ(deaf.BscOpen("x", 1), session_code::libraryUnusable);
 }
 
+/// The library counts the links that it opened since it was loaded.
+struct UnloadingTest : ZurolinkBindingTest {
+    UnloadingTest() { install(VANTREL_COUNTING_LIBRARY); }
+
+    /// Opens a link in a binding of its own; `end` does what is done to it before the exit.
+    template <typename End>
+    std::int16_t openAndEnd(const End& end) {
+        ZurolinkBinding used(folder.path(), nullptr);
+        const std::int16_t handle = used.BscOpen("x", 1);
+        end(used, handle);
+        return handle;
+    }
+};
+
+TEST_F(UnloadingTest, TheLibraryIsUnloadedWithTheBinding) {
+    const auto close = [](ZurolinkBinding& used, std::int16_t handle) {
+        EXPECT_EQ(used.BscClose(handle), 0);
+    };
+    EXPECT_EQ(openAndEnd(close), 1);
+    EXPECT_EQ(openAndEnd(close), 1);
+}
+
+TEST_F(UnloadingTest, ALibraryWithAnOpenLinkStaysLoaded) {
+    const auto leaveOpen = [](ZurolinkBinding& used, std::int16_t handle) {
+        EXPECT_EQ(used.BscDisConnect(handle), 0) << "which is a failure";
+    };
+    EXPECT_EQ(openAndEnd(leaveOpen), 1);
+    EXPECT_EQ(openAndEnd(leaveOpen), 2);
+}
+
 TEST(ExportNamesTest, StandardCallsOn32BitWindowsMayBeDecorated) {
     EXPECT_THAT(exportNames("BscSetCom", 6, false), ElementsAre("BscSetCom"));
     EXPECT_THAT(exportNames("BscSetCom", 6, true),

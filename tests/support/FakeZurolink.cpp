@@ -21,6 +21,7 @@ namespace {
 constexpr std::int16_t accepted = 1;
 constexpr std::int16_t done = 0;
 constexpr std::int16_t endOfDirectory = -1;
+constexpr std::size_t valueCount = 10;
 constexpr int mostEmptyEntries = 8;
 constexpr std::int16_t wrongUse = 1110;
 constexpr std::int16_t noSuchLine = 2040;
@@ -261,16 +262,21 @@ std::int16_t FakeZurolink::BscClose(std::int16_t handle) {
 }
 
 std::int16_t FakeZurolink::writeEntry(Link& link, char* buffer, std::int16_t length) {
-    static const std::string again = "ENDLESS.JBI";
     const FakeController& controller = controllers_[link.line];
-    const std::string* const name = controller.endless ? &again : controller.nameAfter(link.place);
+    const std::string* name = nullptr;
+    if (controller.endlessNames == 0)
+        name = controller.nameAfter(link.place);
+    else
+        name = &(endlessName_ = "E" + std::to_string(link.place++ % controller.endlessNames));
     if (!name)
         return endOfDirectory;
-    const std::string bytes = toCodePage(*name).value_or(*name);
+    const std::string bytes =
+        controller.before + toCodePage(*name).value_or(*name) + controller.behind;
     const auto room = static_cast<std::size_t>(length);
     std::memcpy(buffer, bytes.data(), std::min(bytes.size(), room));
     if (bytes.size() < room && controller.terminatesNames)
         buffer[bytes.size()] = '\0';
+    std::fill_n(buffer + room, overrun * sizeof(double), 'R');
     return done;
 }
 
@@ -344,6 +350,7 @@ std::int16_t FakeZurolink::BscGetVarData(std::int16_t handle, std::int16_t kind,
         // What a kind does not have stays as it is in the caller's buffer.
         if (found != variables.end())
             std::copy_n(found->second.begin(), kind < 4 ? 1 : 9, values);
+        std::fill_n(values + valueCount, overrun, 8e8);
         return done;
     });
 }
@@ -351,9 +358,12 @@ std::int16_t FakeZurolink::BscGetVarData(std::int16_t handle, std::int16_t kind,
 std::int16_t FakeZurolink::BscPutVarData(std::int16_t handle, std::int16_t kind,
                                          std::int16_t number, const double* values) {
     const auto arguments = joined({text(kind), text(number)});
-    return onLink("BscPutVarData", handle, arguments, done, true, [&](Link& link) {
-        std::copy_n(values, 10, controllers_[link.line].variables[{kind, number}].begin());
-        return done;
+    return onLink("BscPutVarData", handle, arguments, done, true, [&](Link& link) -> std::int16_t {
+        std::copy_n(values, valueCount, controllers_[link.line].variables[{kind, number}].begin());
+        const double* const behind = values + valueCount;
+        return std::any_of(behind, behind + overrun, [](double value) { return value != 0; })
+                   ? formatError
+                   : done;
     });
 }
 

@@ -33,8 +33,9 @@ class FakeController {
     const std::string* nameAfter(std::int64_t& place) const;
 
     std::map<Variable, std::array<double, 10>> variables;
-    bool endless = false;        ///< the directory never ends
-    bool terminatesNames = true; ///< a NUL follows each directory entry
+    std::size_t endlessNames = 0; ///< the directory goes round so many names and never ends
+    bool terminatesNames = true;  ///< a NUL follows each directory entry
+    std::string before, behind;   ///< what surrounds each directory entry
 
   private:
     struct File {
@@ -96,6 +97,9 @@ class FakeZurolink : public Zurolink {
     int openLinks() const { return static_cast<int>(links_.size()); }
 
     std::function<void(const std::string& function)> onCall; ///< before a call does its work
+    /// Doubles of rubbish that the library writes behind each buffer that it is given to fill, and
+    /// zeros that it wants behind one that it reads.
+    std::size_t overrun = 0;
 
     std::int16_t BscOpen(const char* path, std::int16_t type) override;
     std::int16_t BscSetCom(std::int16_t handle, std::int16_t port, std::int32_t baudrate,
@@ -144,6 +148,7 @@ class FakeZurolink : public Zurolink {
     std::map<std::string, FakeController> controllers_;
     std::map<std::int16_t, Link> links_;
     std::int16_t lastHandle_ = 0;
+    std::string endlessName_;
     std::optional<Disturbance> disturbance_;
     int callsBefore_ = 0;                   ///< the disturbance was ordered
     std::size_t cutTo_ = std::string::npos; ///< bytes that the present transfer brings

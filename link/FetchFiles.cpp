@@ -1,0 +1,34 @@
+#include "link/FetchFiles.h"
+
+#include "base/PathRules.h"
+#include "platform/Files.h"
+
+namespace vantrel {
+
+Result<HeldFile> FetchFiles::hold(const std::string& path) {
+    return HeldFile::make(path);
+}
+
+Outcome FetchFiles::write(HeldFile& file, const std::string& content) {
+    return file.write(content);
+}
+
+Outcome FetchFiles::remove(HeldFile& file) {
+    return file.remove();
+}
+
+Outcome FetchFiles::remove(const std::string& path) {
+    return removeFile(path);
+}
+
+Outcome FetchFiles::rename(const std::string& from, const std::string& to) {
+    if (Outcome renamed = renameFile(from, to); !renamed)
+        return renamed;
+    return flushFolder(PathRules().parent(to));
+}
+
+Outcome FetchFiles::flush(const std::string& path) {
+    return flushFile(path);
+}
+
+} // namespace vantrel

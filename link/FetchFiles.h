@@ -1,0 +1,25 @@
+#pragma once
+
+#include "base/Result.h"
+#include "platform/HeldFile.h"
+
+#include <string>
+
+namespace vantrel {
+
+/// The steps on the PC's disk that a fetch consists of, by absolute path. Each is on the disk when
+/// it returns, so that whatever ends the program, the steps before are done and those behind it are
+/// not. Virtual, so that each can be made to fail, or to be the last one.
+class FetchFiles {
+  public:
+    virtual ~FetchFiles() = default;
+    virtual Result<HeldFile> hold(const std::string& path);
+    virtual Outcome write(HeldFile& file, const std::string& content);
+    virtual Outcome remove(HeldFile& file);
+    virtual Outcome remove(const std::string& path);
+    virtual Outcome rename(const std::string& from, const std::string& to);
+    /// Somebody else, the library, has written the file.
+    virtual Outcome flush(const std::string& path);
+};
+
+} // namespace vantrel

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+class FetchFiles;
+class HeldFile;
+class MessageTable;
+class OperatorDialog;
+struct FetchMark;
+
+/// Files whose transfer to the PC ended with the program, by a power cut or because it was killed.
+/// Their marks (`FetchMark`) tell of them at the next look at the folder, whoever looks: the old
+/// version gets its name back, what had arrived is put away under a name that is no job's, and the
+/// operator is told. Nothing is ever deleted but the mark, and that only after the operator was
+/// told. The mark of a transfer that is running, here or in another program, is held and so left
+/// alone; so is one that cannot be held at all.
+class InterruptedFetches {
+  public:
+    InterruptedFetches(FetchFiles& files, const MessageTable& messages, OperatorDialog& dialog)
+        : files_(files), messages_(messages), dialog_(dialog) {}
+
+    /// `names` are the folder's. True when there was something to settle, so that the folder now
+    /// has other names. What cannot be mended is told once.
+    bool settle(const std::string& folder, const std::vector<std::string>& names);
+
+  private:
+    /// A box shows so many; the others come with the next look.
+    static constexpr std::size_t mostAtOnce = 10;
+
+    /// What to tell of one file, after doing what can be done.
+    std::string settleOne(const std::string& folder, const FetchMark& mark);
+    std::string bringBack(const std::string& folder, const FetchMark& mark);
+    /// Gives what lies under the file's name another one, which is returned; empty when it stays.
+    std::string putAway(const std::string& folder, const FetchMark& mark);
+    std::string keptAs(const std::string& part) const;
+    std::string text(std::int32_t number) const;
+
+    FetchFiles& files_;
+    const MessageTable& messages_;
+    OperatorDialog& dialog_;
+    std::set<std::string> told_; ///< paths of marks that could not be removed
+};
+
+} // namespace vantrel

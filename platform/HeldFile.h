@@ -1,0 +1,38 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace vantrel {
+
+/// A small file that is open as long as the object lives and that nobody else can hold meanwhile,
+/// in this program or another one. The system lets go of it when its holder ends, however that
+/// comes: whoever finds the file and can hold it knows that its holder is no more. On a disk where
+/// the system knows no such locks nothing can be held.
+class HeldFile {
+  public:
+    /// Makes the file; one that is there and not held is taken over.
+    static Result<HeldFile> make(const std::string& path);
+    /// Fails when there is no such file or somebody holds it.
+    static Result<HeldFile> take(const std::string& path);
+
+    /// No more than the first 64 KB.
+    Result<std::string> read() const;
+    /// The whole new content; it and the file's name are on the disk afterwards.
+    Outcome write(std::string_view content);
+    /// The file is gone, on the disk too, and no longer held. On failure it may be there still.
+    Outcome remove();
+
+  private:
+    struct Open;
+
+    explicit HeldFile(std::shared_ptr<Open> open) : open_(std::move(open)) {}
+    static Result<HeldFile> hold(const std::string& path, bool make);
+
+    std::shared_ptr<Open> open_;
+};
+
+} // namespace vantrel

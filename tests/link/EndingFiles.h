@@ -1,0 +1,64 @@
+#pragma once
+
+#include "link/FetchFiles.h"
+
+#include <limits>
+
+namespace vantrel::tests {
+
+/// The disk under a program that ends: only so many steps are done, and nothing after them.
+class EndingFiles : public FetchFiles {
+  public:
+    explicit EndingFiles(int steps = std::numeric_limits<int>::max()) : left_(steps) {}
+
+    /// Another step of the program, done by somebody else than these files.
+    bool step() { return left_-- > 0; }
+    bool hasEnded() const { return left_ < 0; }
+
+    Result<HeldFile> hold(const std::string& path) override {
+        return step() ? FetchFiles::hold(path) : Failure{"ended"};
+    }
+    Outcome write(HeldFile& file, const std::string& content) override {
+        return step() ? FetchFiles::write(file, content) : Failure{"ended"};
+    }
+    Outcome remove(HeldFile& file) override {
+        return step() ? FetchFiles::remove(file) : Failure{"ended"};
+    }
+    Outcome remove(const std::string& path) override {
+        return step() ? FetchFiles::remove(path) : Failure{"ended"};
+    }
+    Outcome rename(const std::string& from, const std::string& to) override {
+        return step() ? FetchFiles::rename(from, to) : Failure{"ended"};
+    }
+    Outcome flush(const std::string& path) override {
+        return step() ? FetchFiles::flush(path) : Failure{"ended"};
+    }
+
+  private:
+    int left_;
+};
+
+/// The disk with one kind of step that fails.
+class FailingFiles : public FetchFiles {
+  public:
+    bool failsHold = false;
+    bool failsWrite = false;
+    bool failsRemoveMark = false;
+    bool failsFlush = false;
+
+    Result<HeldFile> hold(const std::string& path) override {
+        return failsHold ? Failure{"no"} : FetchFiles::hold(path);
+    }
+    Outcome write(HeldFile& file, const std::string& content) override {
+        return failsWrite ? Failure{"no"} : FetchFiles::write(file, content);
+    }
+    Outcome remove(HeldFile& file) override {
+        return failsRemoveMark ? Failure{"no"} : FetchFiles::remove(file);
+    }
+    using FetchFiles::remove;
+    Outcome flush(const std::string& path) override {
+        return failsFlush ? Failure{"no"} : FetchFiles::flush(path);
+    }
+};
+
+} // namespace vantrel::tests

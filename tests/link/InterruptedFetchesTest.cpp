@@ -1,0 +1,265 @@
+#include "link/InterruptedFetches.h"
+
+#include "EndingFiles.h"
+#include "SessionWorld.h"
+#include "link/FetchMark.h"
+#include "link/ReplacedFile.h"
+#include "platform/Files.h"
+
+#include <filesystem>
+#include <functional>
+
+namespace vantrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+constexpr const char* job = "A.JBI";
+
+/// Boxes while which events run.
+class OpenBoxes : public tests::FakeMessageBoxes {
+  public:
+    void tell(const std::string& text, BoxIcon icon) override {
+        FakeMessageBoxes::tell(text, icon);
+        whileOpen();
+    }
+    std::function<void()> whileOpen;
+};
+
+/// A PC folder with what a program left in it that ended in the middle of a fetch.
+struct InterruptedFetchesTest : testing::Test {
+    tests::SessionWorld world;
+    FetchFiles disk;
+    InterruptedFetches interrupted{disk, world.messages, world.dialog};
+
+    std::vector<std::string> names() const {
+        std::vector<std::string> all;
+        visitNames(world.pc.path(), [&all](std::string_view name) { all.emplace_back(name); });
+        return all;
+    }
+    std::string contentOf(const std::string& name) const {
+        return world.pc.has(name) ? world.pc.read(name) : "";
+    }
+    bool settle() { return interrupted.settle(world.pc.path(), names()); }
+    bool settleAfterStart(FetchFiles& files) {
+        return InterruptedFetches(files, world.messages, world.dialog)
+            .settle(world.pc.path(), names());
+    }
+    std::string told() const {
+        return world.boxes.shown.empty() ? "" : world.boxes.shown.back().text;
+    }
+    /// The mark of a fetch that ended after the library wrote `part`, if anything.
+    void leave(const std::string& part) {
+        tests::EndingFiles files(world.pc.has(job) ? 3 : 2);
+        const ReplacedFile file(files, world.pc.path(), job);
+        ASSERT_EQ(file.problem(), 0);
+        if (!part.empty())
+            world.pc.write(job, part);
+    }
+};
+
+TEST_F(InterruptedFetchesTest, TheOldFileComesBackAndThePartIsPutAway) {
+    world.pc.write(job, "old");
+    leave("ne");
+    EXPECT_TRUE(settle());
+    EXPECT_EQ(contentOf(job), "old");
+    EXPECT_EQ(contentOf("A.JBI.partial-1"), "ne");
+    EXPECT_THAT(names(), UnorderedElementsAre(job, "A.JBI.partial-1"));
+    EXPECT_EQ(told(), "[A.JBI] interrupted; old back; part kept as [A.JBI.partial-1]");
+    EXPECT_EQ(world.boxes.shown.at(0).icon, BoxIcon::Exclamation);
+}
+
+TEST_F(InterruptedFetchesTest, APartWithoutAnOldFileIsNoJobAnyMore) {
+    leave("ne");
+    EXPECT_TRUE(settle());
+    EXPECT_THAT(names(), ElementsAre("A.JBI.partial-1"));
+    EXPECT_EQ(told(), "[A.JBI] interrupted; part kept as [A.JBI.partial-1]");
+}
+
+TEST_F(InterruptedFetchesTest, NothingArrivedIsToldToo) {
+    leave("");
+    EXPECT_TRUE(settle());
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_EQ(told(), "[A.JBI] interrupted; nothing");
+}
+
+TEST_F(InterruptedFetchesTest, ASecondLookFindsNothing) {
+    leave("ne");
+    EXPECT_TRUE(settle());
+    EXPECT_FALSE(settle());
+    EXPECT_EQ(world.boxes.shown.size(), 1u);
+}
+
+TEST_F(InterruptedFetchesTest, AFetchThatIsRunningIsLeftAlone) {
+    world.pc.write(job, "old");
+    const ReplacedFile running(disk, world.pc.path(), job);
+    world.pc.write(job, "ne");
+    EXPECT_FALSE(settle());
+    EXPECT_EQ(contentOf(job), "ne");
+    EXPECT_THAT(world.boxes.shown, IsEmpty());
+}
+
+/// Events that the box lets in look at the folder as well.
+TEST_F(InterruptedFetchesTest, AnotherLookWhileTheOperatorReadsTellsNothingAgain) {
+    leave("ne");
+    OpenBoxes boxes;
+    OperatorDialog dialog(world.panel, world.question, boxes);
+    boxes.whileOpen = [this] {
+        EXPECT_FALSE(settleAfterStart(disk));
+        EXPECT_TRUE(world.pc.has(FetchMark::fileNameFor(job))) << "until he has read it";
+    };
+    EXPECT_TRUE(InterruptedFetches(disk, world.messages, dialog).settle(world.pc.path(), names()));
+    EXPECT_EQ(boxes.shown.size(), 1u);
+    EXPECT_THAT(world.boxes.shown, IsEmpty());
+}
+
+TEST_F(InterruptedFetchesTest, WhatTheOperatorSavedUnderTheNameMeanwhileIsKept) {
+    world.pc.write(job, "old");
+    leave("");
+    world.pc.write(job, "his own work");
+    EXPECT_TRUE(settle());
+    EXPECT_EQ(contentOf(job), "old");
+    EXPECT_EQ(contentOf("A.JBI.partial-1"), "his own work");
+    EXPECT_THAT(told(), HasSubstr("[A.JBI.partial-1]"));
+}
+
+TEST_F(InterruptedFetchesTest, AnOldFileThatIsNotWhatItWasReplacesNothing) {
+    world.pc.write(job, "old");
+    leave("ne");
+    world.pc.write("A.JBI.replaced-1", "changed");
+    EXPECT_TRUE(settle());
+    EXPECT_EQ(contentOf(job), "ne");
+    EXPECT_EQ(contentOf("A.JBI.replaced-1"), "changed");
+    EXPECT_EQ(told(), "[A.JBI] interrupted; check; old kept as [A.JBI.replaced-1]");
+}
+
+TEST_F(InterruptedFetchesTest, WithoutItsOldFileAFileStaysAndIsTold) {
+    world.pc.write(job, "old");
+    leave("ne");
+    std::filesystem::remove(world.pc.path("A.JBI.replaced-1"));
+    EXPECT_TRUE(settle());
+    EXPECT_THAT(names(), ElementsAre(job));
+    EXPECT_EQ(told(), "[A.JBI] interrupted; check");
+}
+
+TEST_F(InterruptedFetchesTest, AFolderInTheFilesPlaceStays) {
+    world.pc.write(job, "old");
+    leave("");
+    world.pc.makeFolder(job);
+    EXPECT_TRUE(settle());
+    EXPECT_TRUE(isFolder(world.pc.path(job)));
+    EXPECT_EQ(contentOf("A.JBI.replaced-1"), "old");
+    EXPECT_EQ(told(), "[A.JBI] interrupted; check; old kept as [A.JBI.replaced-1]");
+}
+
+TEST_F(InterruptedFetchesTest, AMarkThatCannotBeRemovedIsToldOnce) {
+    tests::FailingFiles failing;
+    failing.failsRemoveMark = true;
+    InterruptedFetches stuck(failing, world.messages, world.dialog);
+    leave("ne");
+    EXPECT_TRUE(stuck.settle(world.pc.path(), names()));
+    EXPECT_FALSE(stuck.settle(world.pc.path(), names()));
+    EXPECT_EQ(world.boxes.shown.size(), 1u);
+}
+
+TEST_F(InterruptedFetchesTest, SeveralAreToldInOneBox) {
+    for (const char* name : {"A.JBI", "B.JBI"}) {
+        tests::EndingFiles files(2);
+        const ReplacedFile file(files, world.pc.path(), name);
+    }
+    EXPECT_TRUE(settle());
+    ASSERT_EQ(world.boxes.shown.size(), 1u);
+    EXPECT_THAT(told(), HasSubstr("[A.JBI]"));
+    EXPECT_THAT(told(), HasSubstr("\n["));
+    EXPECT_THAT(told(), HasSubstr("[B.JBI]"));
+}
+
+TEST_F(InterruptedFetchesTest, WhatIsNoMarkIsLeftAlone) {
+    world.pc.write(job, "mine");
+    const FetchMark other{.name = "B.JBI"};
+    for (const std::string& content :
+         {std::string(), std::string("Vantrel fetch 1\nA.JBI\n"), std::string(100, '\0'),
+          std::string("Vantrel fetch 1\n../A.JBI\n\n0\n0\nend\n"),
+          std::string("Vantrel fetch 1\nA.JBI\nB.JBI\n0\n0\nend\n"),
+          std::string("Vantrel fetch 1\nA.JBI\n../A.JBI.replaced-1\n0\n0\nend\n"),
+          std::string("Vantrel fetch 1\nA.JBI\n\n-1\n0\nend\n"),
+          std::string("Vantrel fetch 1\nA.JBI\n\n0\n99999999999999999999999\nend\n"),
+          other.format()}) {
+        world.pc.write(FetchMark::fileNameFor(job), content);
+        EXPECT_FALSE(settle()) << content;
+    }
+    EXPECT_EQ(contentOf(job), "mine");
+}
+
+/// A fetch of which every step can be the last. True when it succeeded.
+bool fetch(tests::EndingFiles& files, const tests::TemporaryFolder& folder, bool arrives) {
+    ReplacedFile file(files, folder.path(), job);
+    if (file.problem() != 0)
+        return false;
+    if (files.step())
+        folder.write(job, "ne");
+    if (arrives && files.step())
+        folder.write(job, "new");
+    return arrives && !files.hasEnded() && file.keep() == 0;
+}
+
+struct EndRow {
+    bool hasOld;
+    bool arrives;
+};
+
+class EndedProgramTest : public InterruptedFetchesTest, public testing::WithParamInterface<EndRow> {
+  protected:
+    static constexpr int steps = 10; ///< more than a fetch or a look has
+
+    void prepare() {
+        for (const std::string& name : names())
+            std::filesystem::remove(world.pc.path(name));
+        world.boxes.shown.clear();
+        if (GetParam().hasOld)
+            world.pc.write(job, "old");
+    }
+    void expectSettled(bool succeeded) {
+        const std::string before = GetParam().hasOld ? "old" : "";
+        EXPECT_EQ(contentOf(job), succeeded ? "new" : before);
+        for (const std::string& name : names())
+            EXPECT_FALSE(FetchMark::isFileName(name)) << name;
+    }
+};
+
+TEST_P(EndedProgramTest, LeavesNothingHalfWhereverItEnds) {
+    for (int step = 0; step <= steps; ++step) {
+        SCOPED_TRACE(step);
+        prepare();
+        tests::EndingFiles files(step);
+        const bool succeeded = fetch(files, world.pc, GetParam().arrives);
+        const bool wasHalf = contentOf(job) == "ne" || (contentOf(job) == "new" && !succeeded);
+        settleAfterStart(disk);
+        expectSettled(succeeded);
+        EXPECT_EQ(wasHalf, told().find("[A.JBI.partial-1]") != std::string::npos);
+    }
+}
+
+TEST_P(EndedProgramTest, LeavesNothingHalfWhenItEndsInTheMiddleOfMendingEither) {
+    for (int step = 0; step <= steps; ++step)
+        for (int mending = 0; mending <= steps; ++mending) {
+            SCOPED_TRACE(std::to_string(step) + " " + std::to_string(mending));
+            prepare();
+            tests::EndingFiles files(step);
+            const bool succeeded = fetch(files, world.pc, GetParam().arrives);
+            tests::EndingFiles second(mending);
+            settleAfterStart(second);
+            settleAfterStart(disk);
+            expectSettled(succeeded);
+        }
+}
+
+INSTANTIATE_TEST_SUITE_P(Fetches, EndedProgramTest,
+                         testing::Values(EndRow{true, true}, EndRow{true, false},
+                                         EndRow{false, true}, EndRow{false, false}));
+
+} // namespace
+} // namespace vantrel

@@ -1,0 +1,83 @@
+#include "platform/HeldFile.h"
+
+#include "platform/Files.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace vantrel {
+namespace {
+
+struct HeldFileTest : testing::Test {
+    tests::TemporaryFolder folder;
+    const std::string path = folder.path("mark");
+};
+
+TEST_F(HeldFileTest, KeepsWhatWasWrittenLast) {
+    auto held = HeldFile::make(path);
+    ASSERT_TRUE(held) << held.reason();
+    EXPECT_TRUE(held->write("something long"));
+    EXPECT_TRUE(held->write("short"));
+    EXPECT_EQ(*held->read(), "short");
+    EXPECT_EQ(*held->read(), "short") << "again from its beginning";
+}
+
+TEST_F(HeldFileTest, NobodyElseHoldsItAsLongAsItsHolderLives) {
+    {
+        auto held = HeldFile::make(path);
+        ASSERT_TRUE(held) << held.reason();
+        EXPECT_TRUE(held->write("mine"));
+        EXPECT_FALSE(HeldFile::make(path));
+        EXPECT_FALSE(HeldFile::take(path));
+        EXPECT_EQ(*held->read(), "mine");
+    }
+    const auto next = HeldFile::take(path);
+    ASSERT_TRUE(next) << next.reason();
+    EXPECT_EQ(*next->read(), "mine");
+}
+
+TEST_F(HeldFileTest, OneThatIsThereAndFreeIsTakenOverAsItIs) {
+    folder.write("mark", "older");
+    const auto held = HeldFile::make(path);
+    ASSERT_TRUE(held) << held.reason();
+    EXPECT_EQ(*held->read(), "older");
+}
+
+TEST_F(HeldFileTest, OnlyWhatIsThereIsTaken) {
+    EXPECT_FALSE(HeldFile::take(path));
+    EXPECT_FALSE(anythingExists(path));
+    EXPECT_FALSE(HeldFile::take(folder.path()));
+    EXPECT_FALSE(HeldFile::make(folder.path("nowhere/mark")));
+    EXPECT_FALSE(HeldFile::make(std::string("a\0b", 3)));
+}
+
+TEST_F(HeldFileTest, RemovedItIsGoneAndFree) {
+    auto held = HeldFile::make(path);
+    ASSERT_TRUE(held) << held.reason();
+    EXPECT_TRUE(held->remove());
+    EXPECT_FALSE(anythingExists(path));
+    EXPECT_TRUE(HeldFile::make(path));
+}
+
+TEST_F(HeldFileTest, OfAHugeFileOnlyTheBeginningIsRead) {
+    folder.write("mark", std::string(100'000, 'x'));
+    const auto held = HeldFile::take(path);
+    ASSERT_TRUE(held) << held.reason();
+    EXPECT_EQ(held->read()->size(), 65536u);
+}
+
+TEST(FlushTest, WhatIsThereIsBroughtToTheDisk) {
+    const tests::TemporaryFolder folder;
+    EXPECT_TRUE(flushFile(folder.write("A.JBI", "job")));
+    EXPECT_TRUE(flushFolder(folder.path()));
+}
+
+TEST(FlushTest, WhatIsNotThereIsAFailure) {
+    const tests::TemporaryFolder folder;
+    EXPECT_FALSE(flushFile(folder.path("A.JBI")));
+    EXPECT_FALSE(flushFolder(folder.path("nowhere")));
+    EXPECT_FALSE(flushFile(std::string("a\0b", 3)));
+}
+
+} // namespace
+} // namespace vantrel
