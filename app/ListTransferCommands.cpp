@@ -10,6 +10,7 @@
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "lang/SystemReasons.h"
 #include "link/OperatorDialog.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
@@ -130,7 +131,8 @@ CommandOutcome ListTransferCommands::saveVariables(const CommandProgress&) {
         reportEntry(with_.session.VarList(with_.session.ErrorIndex()));
     else if (!with_.session.WriteVarListFile(file))
         reportFailure("\n" + with_.messages.getMessage(message::listFileNotWritten) + "[" +
-                      shownText(file) + "] " + with_.session.systemReason());
+                      shownText(file) + "] " +
+                      reasonInLanguage(with_.messages, with_.session.systemReason()));
     return {.pcTouched = true};
 }
 

@@ -11,6 +11,7 @@
 #include "files/TransferCommands.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "lang/SystemReasons.h"
 #include "link/OperatorDialog.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
@@ -225,7 +226,7 @@ void MainCommands::edit(const std::string& path) {
     if (!started)
         with_.dialog.tell("[" + shownText(path) + "]" +
                               with_.messages.getMessage(message::editorNotStarted) + "\n" +
-                              started.reason(),
+                              reasonInLanguage(with_.messages, started.reason()),
                           BoxIcon::Exclamation);
 }
 

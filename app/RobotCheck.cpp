@@ -26,20 +26,23 @@ bool isControl(char character) {
 /// Both readers of the registry have to give a name back as it was typed. Quotation marks are
 /// refused anywhere: whether one of them is stripped depends on the other end of the name.
 bool isStorableName(std::string_view name) {
-    return name == writableName(name) && name.find('"') == name.npos && !name.starts_with('\'') &&
-           !name.ends_with('\'') && std::ranges::none_of(name, isControl);
+    return name == cleanName(name) && name.find('"') == name.npos && !name.starts_with('\'') &&
+           !name.ends_with('\'') && isValidUtf8(name) && std::ranges::none_of(name, isControl);
 }
 
-/// How often each name stands in the list, without regard to letter case.
+/// How often each name stands in the list, without regard to letter case and to what surrounds it:
+/// an old file may hold names with blanks around them, which look the same in every list.
 class NameCount {
   public:
     explicit NameCount(std::span<const RobotEntry> robots) {
         for (const RobotEntry& entry : robots)
-            ++times_[upperCase(entry.robot.Name)];
+            ++times_[key(entry.robot.Name)];
     }
-    bool isTaken(const std::string& name) { return times_[upperCase(name)] > 1; }
+    bool isTaken(const std::string& name) { return times_[key(name)] > 1; }
 
   private:
+    static std::string key(const std::string& name) { return upperCase(cleanName(name)); }
+
     std::unordered_map<std::string, int> times_;
 };
 
@@ -64,8 +67,9 @@ std::optional<std::size_t> refusedAddressPart(const RobotRecord& robot) {
 }
 
 bool isFolderRefused(const RobotEntry& entry) {
-    return entry.robot.Path != entry.stored.Path &&
-           entry.robot.Path.find_first_of(registryDelimiters) != std::string::npos;
+    const std::string& folder = entry.robot.Path;
+    return folder != entry.stored.Path &&
+           (folder.find_first_of(registryDelimiters) != folder.npos || !isValidUtf8(folder));
 }
 
 std::optional<RobotFault> faultOf(const RobotEntry& entry, std::size_t place, NameCount& names) {

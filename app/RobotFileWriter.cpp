@@ -13,7 +13,7 @@ namespace {
 
 bool isReadable(std::string_view value) {
     return value.find_first_of(registryDelimiters) == std::string_view::npos &&
-           value.find('\0') == std::string_view::npos;
+           value.find('\0') == std::string_view::npos && isValidUtf8(value);
 }
 
 // What a value would be read back as, were it written as it stands.
@@ -32,6 +32,12 @@ std::string_view withoutAnyQuotes(std::string_view name) {
     return name;
 }
 
+// In a form from which a profile reading strips nothing that belongs to the value.
+std::string asProfileValue(std::string_view value) {
+    const std::string text(value);
+    return withoutQuotes(trimmed(value)) == value ? text : '"' + text + '"';
+}
+
 void addLine(std::string& text, std::initializer_list<std::string_view> parts) {
     for (const std::string_view part : parts)
         text += part;
@@ -40,7 +46,7 @@ void addLine(std::string& text, std::initializer_list<std::string_view> parts) {
 
 void addRobot(std::string& text, const RobotRecord& robot, const RobotPaths& paths) {
     addLine(text, {"[Robot]"});
-    addLine(text, {"Name=", writableName(robot.Name)});
+    addLine(text, {"Name=", asToken(robot.Name)});
     addLine(text, {"IPaddr=", asToken(robot.IPaddr)});
     addLine(text, {"Path=", writableFolder(robot.Path, paths)});
     addLine(text, {});
@@ -48,7 +54,7 @@ void addRobot(std::string& text, const RobotRecord& robot, const RobotPaths& pat
 
 } // namespace
 
-std::string writableName(std::string_view name) {
+std::string cleanName(std::string_view name) {
     const std::string_view kept = withoutAnyQuotes(trimmed(asToken(name)));
     return kept == endOfRobots ? std::string() : std::string(kept);
 }
@@ -64,7 +70,7 @@ std::string registryText(std::string_view bootName, const std::vector<RobotRecor
                          const RobotPaths& paths) {
     std::string text;
     addLine(text, {"[Boot]"});
-    addLine(text, {"Name=", writableName(bootName)});
+    addLine(text, {"Name=", asProfileValue(asToken(bootName))});
     addLine(text, {});
     const std::size_t count = robotCount(robots);
     for (std::size_t index = 0; index < count; ++index)

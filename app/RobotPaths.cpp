@@ -1,5 +1,7 @@
 #include "app/RobotPaths.h"
 
+#include "base/Text.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -9,7 +11,11 @@ RobotPaths::RobotPaths(std::string baseFolder, PathStyle style)
     : baseFolder_(std::move(baseFolder)), rules_(style) {}
 
 bool RobotPaths::isAbsolute(std::string_view path) const {
-    return PathRules(PathStyle::Windows).isAbsolute(path) || rules_.isAbsolute(path);
+    if (path.empty())
+        return false;
+    const auto behindFirst = path.substr(firstCharacters(path, 1).size());
+    return path.front() == '\\' || path.front() == rules_.separator() ||
+           behindFirst.starts_with(':');
 }
 
 std::string RobotPaths::absolute(std::string_view path) const {

@@ -14,9 +14,9 @@ class RobotPaths {
     /// is a root.
     explicit RobotPaths(std::string baseFolder, PathStyle style = nativePathStyle);
 
-    /// The first character is a separator or "\", or the second one ":". So a Windows folder is
-    /// absolute on every system: elsewhere it cannot be opened, but it must not be bent into a
-    /// folder that means nothing anywhere.
+    /// The first character is "\" or the system's own separator, or the second one is ":". So a
+    /// Windows folder is absolute on every system: elsewhere it cannot be opened, but it must not
+    /// be bent into a folder that means nothing anywhere.
     bool isAbsolute(std::string_view path) const;
 
     /// A relative path below the base folder, with its "\" in the system's own style; an absolute

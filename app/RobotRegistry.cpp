@@ -26,13 +26,12 @@ constexpr const char* defaultName = "DEFAULT";
 /// Longer than any name that a list can show, so that the boot name is never cut.
 constexpr std::size_t bootNameBuffer = 4096;
 
-// The first name at which encoding the file fails, for the reason that is told.
-Failure notExpressible(const std::vector<RobotRecord>& robots, TextEncoding encoding) {
-    const auto found = std::ranges::find_if(robots, [encoding](const RobotRecord& robot) {
-        return !encodeText(robot.Name + robot.IPaddr + robot.Path, encoding);
+// The first robot that is no text in any encoding, as it can be shown.
+std::string nameWithoutText(const std::vector<RobotRecord>& robots) {
+    const auto found = std::ranges::find_if(robots, [](const RobotRecord& robot) {
+        return !isValidUtf8(robot.Name) || !isValidUtf8(robot.IPaddr);
     });
-    const std::string name = found == robots.end() ? std::string() : " [" + found->Name + "]";
-    return {"A character cannot be expressed in the encoding of " + std::string(fileName) + name};
+    return found == robots.end() ? std::string() : "[" + onOneLine(found->Name) + "]";
 }
 
 } // namespace
@@ -140,12 +139,11 @@ void RobotRegistry::tellNotRead() {
                 BoxIcon::Exclamation);
 }
 
-// A file that holds ASCII only goes on in the code page, which other programs read; only where that
-// lacks a character in UTF-8.
+// A file that holds ASCII only goes on in the code page, which other programs read. Where a code
+// page lacks a character the file goes on in UTF-8, without a mark, which the profile functions do
+// not know: robots that were edited are worth more than the encoding.
 std::optional<std::string> RobotRegistry::encoded(const std::string& text) const {
-    if (!plain_)
-        return encodeReadably(text, encoding_);
-    auto bytes = encodeReadably(text, TextEncoding::CodePage);
+    auto bytes = encodeReadably(text, plain_ ? TextEncoding::CodePage : encoding_);
     return bytes ? bytes : encodeText(text, TextEncoding::Utf8);
 }
 
@@ -174,9 +172,11 @@ Outcome RobotRegistry::write() {
     const auto bytes = encoded(
         registryText(state_.CurrentRobot.Name, state_.RobotList, RobotPaths(state_.BaseDir)));
     if (!bytes)
-        return notExpressible(state_.RobotList, encoding_);
+        return Failure{messages_.getMessage(message::reasonNoText) +
+                       nameWithoutText(state_.RobotList)};
     Outcome written = readWhole_ ? replaceFile(path_, *bytes) : writeBesideUnreadFile(*bytes);
     readWhole_ = readWhole_ || written;
+    edited_ = edited_ && !written;
     return written;
 }
 

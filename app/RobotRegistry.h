@@ -40,10 +40,13 @@ class RobotRegistry {
     /// To be called when the operator has applied a change of the list. A file that could not be
     /// read whole is rewritten only then.
     void noteEdit() { edited_ = true; }
+    /// Whether a change of the operator's would be lost if the program ended now.
+    bool hasUnwrittenEdit() const { return edited_; }
 
     /// Rewrites the file whole from the list and the current robot's name, in the encoding in which
-    /// it was read. A file that could not be read whole is left alone, or kept beside the new one
-    /// under another name when the operator has edited the list.
+    /// it was read, or in UTF-8 where a code page lacks one of the characters. A file that could
+    /// not be read whole is left alone, or kept beside the new one under another name when the
+    /// operator has edited the list.
     Outcome write();
 
     const std::string& path() const { return path_; }

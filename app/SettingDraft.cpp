@@ -21,8 +21,9 @@ SettingDraft::SettingDraft(const ApplicationState& state, const MessageTable& me
                            const std::string& programFolder)
     : messages_(messages),
       robots_(state.RobotList, state.CurrentRobotIndex, freshRobot(messages, programFolder)),
-      serial_(state), controler_(state.Controler), options_{state.SyncroRobotDir == 1, state.JBR,
-                                                            state.Headder, state.NoSave} {}
+      serial_(state), controler_(state.Controler),
+      storedSyncro_(state.SyncroRobotDir), options_{state.SyncroRobotDir == 1, state.JBR,
+                                                    state.Headder, state.NoSave} {}
 
 void SettingDraft::chooseControler(int index) {
     edited_ = edited_ || index != controler_;
@@ -43,14 +44,19 @@ std::string SettingDraft::textOf(const RobotFault& fault) const {
     return faultText(fault, robots_.entries(), messages_);
 }
 
+// A stored value that is neither stays until the box is changed: it means off, as 0 does.
+std::int16_t SettingDraft::syncroRobotDir() const {
+    const bool on = isOn(SettingOption::SyncroRobotDir);
+    return on == (storedSyncro_ == 1) ? storedSyncro_ : std::int16_t(on);
+}
+
 SettingValues SettingDraft::take() {
     SettingValues values{.Port = static_cast<std::int16_t>(serial_.port()),
                          .Baudrate = serial_.baudrate(),
                          .DataLen = serial_.dataLen(),
                          .Parity = serial_.parity(),
                          .StopBit = serial_.stopBit(),
-                         .SyncroRobotDir = isOn(SettingOption::SyncroRobotDir) ? std::int16_t(1)
-                                                                               : std::int16_t(0),
+                         .SyncroRobotDir = syncroRobotDir(),
                          .NoSave = isOn(SettingOption::NoSave),
                          .JBR = isOn(SettingOption::JBR),
                          .Headder = isOn(SettingOption::Headder),
@@ -58,6 +64,7 @@ SettingValues SettingDraft::take() {
                          .robotsChanged = robots_.isChanged(),
                          .RobotList = robots_.records(),
                          .CurrentRobot = robots_.current()};
+    storedSyncro_ = values.SyncroRobotDir;
     robots_.noteApplied();
     serial_.noteApplied();
     edited_ = false;

@@ -60,10 +60,13 @@ class SettingDraft {
     SettingValues take();
 
   private:
+    std::int16_t syncroRobotDir() const;
+
     const MessageTable& messages_;
     RobotListDraft robots_;
     SerialDraft serial_;
     int controler_;
+    std::int16_t storedSyncro_;   ///< as last applied
     std::array<bool, 4> options_; ///< by `SettingOption`
     bool edited_ = false;
 };

@@ -28,6 +28,12 @@ class SectionReader {
     std::string text(std::string_view key, std::string_view defaultValue) const {
         return file_.text(section_, key, defaultValue, bufferSize);
     }
+    /// The default folder in full, which as the key's default would be cut to the buffer.
+    std::string folder(std::string_view key, const std::string& defaultFolder) const {
+        constexpr std::string_view missing = "\n"; // no value can hold a line end
+        std::string value = text(key, missing);
+        return value == missing ? defaultFolder : value;
+    }
     std::int32_t integer(std::string_view key, std::int32_t defaultValue) const {
         return file_.integer(section_, key, defaultValue);
     }
@@ -108,10 +114,7 @@ SettingsFile::SettingsFile(const std::string& programFolder, const std::string& 
 void SettingsFile::read(ApplicationState& state) const {
     const ProfileFile file(path_);
     const SectionReader from(file, mainSection);
-    state.PCPath = from.text("Path", "");
-    // Not as the key's default: that would be cut to the buffer.
-    if (state.PCPath.empty())
-        state.PCPath = programFolder_;
+    state.PCPath = from.folder("Path", programFolder_);
     state.CurrentRobot.Path = state.PCPath;
     readSerial(from, state);
     state.Controler = from.shortInteger("Controler", 4);

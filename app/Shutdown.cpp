@@ -5,6 +5,7 @@
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "lang/SystemReasons.h"
 #include "link/Snappy.h"
 
 namespace vantrel {
@@ -31,8 +32,8 @@ bool Shutdown::closeUnasked() {
 }
 
 bool Shutdown::saveAndQuit() {
-    if (!with_.state.NoSave)
-        save();
+    if (!with_.state.NoSave && !save())
+        return false;
     with_.session.Quit();
     closed_ = true;
     return true;
@@ -42,14 +43,22 @@ bool Shutdown::isRefused() const {
     return with_.windows.isLocked() || with_.state.Busy || !with_.state.StartupDone;
 }
 
-void Shutdown::save() const {
+bool Shutdown::save() const {
     // Settings that cannot be kept cost the operator a few clicks and are not worth a word; lost
     // robots are.
     (void)with_.settings.write(with_.state, with_.windows.placement());
     const Outcome registry = with_.registry.write();
-    if (!registry)
-        with_.boxes.tell(with_.messages.getMessage(message::registryNotWritten) + registry.reason(),
-                         BoxIcon::Exclamation);
+    return registry || acceptsLoss(reasonInLanguage(with_.messages, registry.reason()));
+}
+
+// Without edits only the choice of a robot is lost, which holds no close up.
+bool Shutdown::acceptsLoss(const std::string& reason) const {
+    const std::string text = with_.messages.getMessage(message::registryNotWritten) + reason;
+    if (with_.registry.hasUnwrittenEdit())
+        return with_.boxes.askOkCancel(
+            text + "\n" + with_.messages.getMessage(message::askLoseRobots), BoxIcon::Exclamation);
+    with_.boxes.tell(text, BoxIcon::Exclamation);
+    return true;
 }
 
 } // namespace vantrel

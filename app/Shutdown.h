@@ -2,6 +2,8 @@
 
 #include "app/SettingsFile.h"
 
+#include <string>
+
 namespace vantrel {
 
 class MessageBoxes;
@@ -39,17 +41,20 @@ class Shutdown {
     explicit Shutdown(const ShutdownServices& services) : with_(services) {}
 
     /// True when the window may close: the operator agreed, everything is saved and the session has
-    /// quit. While something runs the close is refused without a word. Once it has returned true it
+    /// quit. While something runs the close is refused without a word; where edited robots cannot
+    /// be saved the operator may stay, to mend what stands in the way. Once it has returned true it
     /// goes on to do so and does nothing more.
     bool close();
-    /// The system ends the operator's session: the same without the question. False while something
-    /// runs; to be called again then.
+    /// The system ends the operator's session: the same without the first question. False while
+    /// something runs, or when the operator stays; to be called again then.
     bool closeUnasked();
 
   private:
     bool isRefused() const;
     bool saveAndQuit();
-    void save() const;
+    /// False when edited robots cannot be kept and the operator wants to go on with them.
+    bool save() const;
+    bool acceptsLoss(const std::string& reason) const;
 
     ShutdownServices with_;
     bool closed_ = false;

@@ -13,6 +13,7 @@
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "lang/SystemReasons.h"
 #include "link/Snappy.h"
 #include "platform/Files.h"
 
@@ -47,7 +48,8 @@ StartResult StartRoutine::run() {
         return StartResult::Automation;
     session_ = &with_.windows.createSession();
     if (const Outcome entered = enterProgramFolder(); !entered)
-        return trap(with_.programFolder + ": " + entered.reason());
+        return trap(with_.programFolder + ": " +
+                    reasonInLanguage(with_.messages, entered.reason()));
     setHelpFile();
     if (!chooseLanguage())
         return StartResult::LanguageCancelled;
@@ -100,9 +102,11 @@ void StartRoutine::loadSettings() {
 
 // Connecting changes the current directory, so a relative folder would not stay the same one.
 void StartRoutine::makeFolderAbsolute() {
-    if (PathRules().isAbsolute(with_.state.PCPath))
+    const PathRules rules;
+    if (rules.isAbsolute(with_.state.PCPath))
         return;
-    with_.state.PCPath = PathRules().join(with_.programFolder, with_.state.PCPath);
+    with_.state.PCPath =
+        rules.withoutTrailingSeparator(rules.join(with_.programFolder, with_.state.PCPath));
     with_.state.CurrentRobot.Path = with_.state.PCPath;
 }
 
@@ -130,17 +134,33 @@ void StartRoutine::openMainWindow() {
     with_.windows.showMainWindow();
     with_.windows.focusPCList();
     with_.state.Busy = false;
-    with_.windows.startMainWindow();
+    startMainWindow();
     with_.state.StartupDone = true;
 }
 
-// Before a language is read there is no text for it but this one.
+// An error there leaves a window that may lack its last touches; the operator can work with it, and
+// settings and robots have been read.
+void StartRoutine::startMainWindow() {
+    try {
+        with_.windows.startMainWindow();
+    } catch (const std::exception& error) {
+        tellStartFailed(error.what());
+    } catch (...) {
+        tellStartFailed("?");
+    }
+}
+
 StartResult StartRoutine::trap(const std::string& reason) {
     with_.state.NoSave = true;
+    tellStartFailed(reason);
+    return StartResult::Trapped;
+}
+
+// Before a language is read there is no text for it but this one.
+void StartRoutine::tellStartFailed(const std::string& reason) {
     const std::string head = with_.messages.getMessage(message::startFailed);
     with_.boxes.tell(head.empty() ? "Start Error.(" + reason + ")" : head + reason,
                      BoxIcon::Exclamation);
-    return StartResult::Trapped;
 }
 
 } // namespace vantrel

@@ -36,7 +36,7 @@ class StartWindows {
     virtual void buildMainWindow() = 0;
     virtual void showMainWindow() = 0;
     virtual void focusPCList() = 0;
-    /// The main window's own start routine.
+    /// The main window's own start routine. What it has done stays when it throws.
     virtual void startMainWindow() = 0;
     /// Box and panes are there once the main window has been built.
     virtual RobotBox& robotBox() = 0;
@@ -86,7 +86,9 @@ class StartRoutine {
     void makeFolderAbsolute();
     void offerControllerDirectory();
     void openMainWindow();
+    void startMainWindow();
     StartResult trap(const std::string& reason);
+    void tellStartFailed(const std::string& reason);
 
     StartServices with_;
     Snappy* session_ = nullptr;

@@ -11,6 +11,7 @@
 #include "files/ViewerText.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "lang/SystemReasons.h"
 #include "link/OperatorDialog.h"
 #include "link/ShownText.h"
 
@@ -52,7 +53,8 @@ void ViewerCommands::print() {
     if (!with_.state.ViewerShown)
         return with_.dialog.tell(with_.messages.getMessage(message::nothingToPrint),
                                  BoxIcon::Exclamation);
-    const auto question = with_.messages.getMessage(message::askPrint) + "[" + shownText(name_) + "]";
+    const auto question =
+        with_.messages.getMessage(message::askPrint) + "[" + shownText(name_) + "]";
     if (!with_.dialog.askYesNo(question, BoxIcon::Question))
         return;
     Outcome printed = Done{};
@@ -82,7 +84,8 @@ std::optional<std::string> ViewerCommands::selectedJobFile() const {
 
 void ViewerCommands::tell(std::int32_t messageNumber, const std::string& name,
                           const std::string& reason) const {
-    with_.dialog.tell(with_.messages.getMessage(messageNumber) + "[" + shownText(name) + "]\n" + reason,
+    with_.dialog.tell(with_.messages.getMessage(messageNumber) + "[" + shownText(name) + "]\n" +
+                          reasonInLanguage(with_.messages, reason),
                       BoxIcon::Exclamation);
 }
 

@@ -98,9 +98,11 @@ std::optional<bool> truthValue(std::string_view text) {
         return true;
     if (equalsIgnoringAsciiCase(word, "False"))
         return false;
-    if (const auto number = wholeNumber(word))
-        return *number != 0;
-    return std::nullopt;
+    // A number that is too large for a number is none that is 0.
+    const Scanned scanned = scanSigned(word);
+    if (scanned.length == 0 || scanned.length != word.size())
+        return std::nullopt;
+    return scanned.value != 0;
 }
 
 std::optional<std::int32_t> rounded32(double value) {

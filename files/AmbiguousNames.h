@@ -15,7 +15,10 @@ namespace vantrel {
 /// controller the other.
 class AmbiguousNames {
   public:
-    explicit AmbiguousNames(const std::vector<std::string>& listing);
+    /// `fixedNames` are those that the listing has beside the directory's: one that the directory
+    /// spells otherwise is the same file.
+    explicit AmbiguousNames(const std::vector<std::string>& listing,
+                            const std::vector<std::string>& fixedNames = {});
 
     bool contains(std::string_view name) const;
 

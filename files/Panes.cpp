@@ -11,6 +11,7 @@
 #include "link/Snappy.h"
 
 #include <unordered_set>
+#include <utility>
 
 namespace vantrel {
 
@@ -23,14 +24,6 @@ void takeEntries(FolderListing& to, FolderListing&& from) {
     to.Names = std::move(from.Names);
     to.Sizes = std::move(from.Sizes);
     to.Dates = std::move(from.Dates);
-}
-
-/// The data files that a controller has under names of its own, whether or not its directory names
-/// them.
-void appendFixedNames(FolderListing& listing, const TransferTable& table, std::int16_t modelBit) {
-    for (const TransferRow& row : table.rows())
-        if (row.Name.find('*') == std::string::npos && (row.uploadMask & modelBit) != 0)
-            listing.append(row.Name, 0, DateText());
 }
 
 const ControllerModel& modelOf(ActiveSide side, const ApplicationState& state) {
@@ -53,6 +46,7 @@ bool Panes::scanPC(const std::string& folder) {
     takeEntries(state_.PCListing, std::move(*scanned));
     pcRows_.clear();
     state_.PCPath = folder;
+    session_.path = folder;
     return true;
 }
 
@@ -70,7 +64,8 @@ bool Panes::readController() {
     FolderListing read;
     for (std::string& name : names)
         read.append(std::move(name), 0, DateText());
-    appendFixedNames(read, table_, controllerModel(state_.Controler).bit);
+    for (std::string& name : table_.fixedNames(controllerModel(state_.Controler).bit))
+        read.append(std::move(name), 0, DateText());
     takeEntries(state_.CtrlListing, std::move(read));
     controllerRows_.clear();
     return true;

@@ -20,9 +20,9 @@ class Panes {
     Panes(ApplicationState& state, Snappy& session, const TransferTable& table,
           const MessageTable& messages, PaneWindow& window);
 
-    /// Lists `folder` into the PC listing and makes it the PC folder; false, with the listing and
-    /// the folder as they were, when it cannot be opened. What an interrupted fetch left there is
-    /// settled before, with a message.
+    /// Lists `folder` into the PC listing and makes it the PC folder, the session's too; false,
+    /// with the listing and the folder as they were, when it cannot be opened. What an interrupted
+    /// fetch left there is settled before, with a message.
     bool scanPC(const std::string& folder);
     /// Reads the controller's directory and adds the table's fixed names; false, with the listing
     /// as it was, when the session could not read it.

@@ -3,6 +3,7 @@
 #include "base/ApplicationState.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "lang/SystemReasons.h"
 #include "link/OperatorDialog.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
@@ -61,7 +62,8 @@ void TransferReports::aboutFile(const std::string& name, std::int32_t messageNum
 
 void TransferReports::aboutFile(const std::string& name, std::int32_t messageNumber,
                                 const std::string& reason) const {
-    tell(bracketed(name) + with_.messages.getMessage(messageNumber) + inParentheses(reason));
+    tell(bracketed(name) + with_.messages.getMessage(messageNumber) +
+         inParentheses(reasonInLanguage(with_.messages, reason)));
 }
 
 void TransferReports::aboutFiles(std::int32_t messageNumber,

@@ -63,6 +63,14 @@ bool TransferTable::load(const std::string& programFolder) {
     return false;
 }
 
+std::vector<std::string> TransferTable::fixedNames(std::int16_t modelBit) const {
+    std::vector<std::string> names;
+    for (const TransferRow& row : rows_)
+        if (!contains(row.Name, "*") && (row.uploadMask & modelBit) != 0)
+            names.push_back(row.Name);
+    return names;
+}
+
 bool TransferTable::isTransferable(std::string_view name, bool download,
                                    std::int16_t modelBit) const {
     const std::string upperName = upperCase(name);

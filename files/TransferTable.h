@@ -23,6 +23,10 @@ class TransferTable {
 
     const std::vector<TransferRow>& rows() const { return rows_; }
 
+    /// The data files that a controller of this model has under names of its own, whether or not
+    /// its directory names them.
+    std::vector<std::string> fixedNames(std::int16_t modelBit) const;
+
     /// `download` is true for a transfer from the PC into the controller.
     bool isTransferable(std::string_view name, bool download, std::int16_t modelBit) const;
 

@@ -61,22 +61,14 @@ constexpr MenuCaption menuTable[] = {
 };
 
 constexpr ToolTip toolTipTable[] = {
-    {"FileCopy", message::tipCopy, true},
-    {"FileMove", message::tipMove, true},
-    {"FileDelete", message::tipDelete, true},
-    {"AllSelect", message::tipSelectAll, true},
-    {"Refresh", message::tipRefresh, true},
-    {"modeHiSpeed", message::modeHispeed},
-    {"modeBsc", message::modeBsc},
-    {"DispBig", message::tipLargeIcons},
-    {"DispSmall", message::tipSmallIcons},
-    {"DispList", message::tipList},
-    {"DispDetail", message::tipDetails},
-    {"FileDisp", message::tipDisplayFile},
-    {"UpFolder", message::tipUpFolder},
-    {"Print", message::tipPrint},
-    {"PCButton", message::tipPCPane},
-    {"CTRLButton", message::tipControllerPane},
+    {"FileCopy", message::tipCopy},        {"FileMove", message::tipMove},
+    {"FileDelete", message::tipDelete},    {"AllSelect", message::tipSelectAll},
+    {"Refresh", message::tipRefresh},      {"modeHiSpeed", message::modeHispeed},
+    {"modeBsc", message::modeBsc},         {"DispBig", message::tipLargeIcons},
+    {"DispSmall", message::tipSmallIcons}, {"DispList", message::tipList},
+    {"DispDetail", message::tipDetails},   {"FileDisp", message::tipDisplayFile},
+    {"UpFolder", message::tipUpFolder},    {"Print", message::tipPrint},
+    {"PCButton", message::tipPCPane},      {"CTRLButton", message::tipControllerPane},
 };
 
 // Of `lblDisp` the element 3 is the heading that only the serial mode shows.
@@ -90,7 +82,6 @@ constexpr ControlCaption controlTable[] = {
     {"lblDisp", 4, message::labelFolder},
     {"lblRbtName", 0, message::labelRobot},
     {"lblIPaddr", 0, message::labelIPAddress},
-    {"Command1", 0, message::tipFolderTree},
 };
 
 constexpr std::array columnTable{message::columnName, message::columnSize, message::columnDate};
@@ -114,10 +105,6 @@ std::span<const ToolTip> toolTips() {
     return toolTipTable;
 }
 
-std::span<const ControlCaption> controlCaptions() {
-    return controlTable;
-}
-
 std::span<const std::int32_t> columnMessages() {
     return columnTable;
 }
@@ -126,12 +113,8 @@ std::optional<std::int32_t> menuMessage(MenuItem item) {
     return messageOf(menuCaptions(), [&](const MenuCaption& row) { return row.item == item; });
 }
 
-std::optional<std::int32_t> toolTipMessage(std::string_view key) {
-    return messageOf(toolTips(), [&](const ToolTip& row) { return row.key == key; });
-}
-
 std::optional<std::int32_t> controlMessage(std::string_view control, int index) {
-    return messageOf(controlCaptions(), [&](const ControlCaption& row) {
+    return messageOf(std::span<const ControlCaption>(controlTable), [&](const ControlCaption& row) {
         return row.control == control && row.index == index;
     });
 }

@@ -46,11 +46,11 @@ struct MenuCaption {
     std::int32_t message = 0;
 };
 
-/// A tool button's tip, by the button's key.
+/// A tool button's tip, by the button's key. Those of the file commands and "Refresh" are plain
+/// buttons, which are never left pressed.
 struct ToolTip {
     std::string_view key;
     std::int32_t message = 0;
-    bool released = false; ///< applying the captions also sets the button unpressed
 };
 
 /// The caption of a frame or label, by the control's name and its index in a control array.
@@ -65,12 +65,10 @@ struct ControlCaption {
 
 std::span<const MenuCaption> menuCaptions();
 std::span<const ToolTip> toolTips();
-std::span<const ControlCaption> controlCaptions();
 /// Column headers 1 to 3 of `lsvPC` and `lsvCtrl`.
 std::span<const std::int32_t> columnMessages();
 
 std::optional<std::int32_t> menuMessage(MenuItem item);
-std::optional<std::int32_t> toolTipMessage(std::string_view key);
 std::optional<std::int32_t> controlMessage(std::string_view control, int index = 0);
 
 } // namespace vantrel

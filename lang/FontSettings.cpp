@@ -12,8 +12,6 @@ namespace {
 
 constexpr std::string_view section = "Font Info";
 constexpr std::size_t valueBuffer = 100;
-// Beyond this no window of ours would fit a screen; such a value can only be a damaged file.
-constexpr std::int16_t largestFontSize = 200; ///< points
 
 void readTruthValue(const ProfileFile& settings, std::string_view key, bool& field) {
     field = truthValue(settings.text(section, key, "", valueBuffer)).value_or(field);
@@ -35,9 +33,8 @@ void readFontSettings(const std::string& settingsPath, ApplicationState& state) 
         state.FontName = std::move(name);
     readTruthValue(settings, "FontBOLD", state.FontBold);
     readTruthValue(settings, "FontItalic", state.FontItalic);
-    const auto size = leadingInteger16(settings.text(section, "FontSize", "", valueBuffer));
-    if (size >= 1 && size <= largestFontSize)
-        state.FontSize = size;
+    if (const auto size = settings.text(section, "FontSize", "", valueBuffer); !size.empty())
+        state.FontSize = leadingInteger16(size);
 }
 
 } // namespace vantrel

@@ -71,6 +71,16 @@ inline constexpr std::int32_t sourceChanged = 67;           ///< after [name]
 inline constexpr std::int32_t sentNotShown = 68;            ///< then the names
 inline constexpr std::int32_t sentNotKnown = 69;            ///< then the names
 inline constexpr std::int32_t furtherNames = 70;            ///< with the number inserted
+inline constexpr std::int32_t askLoseRobots = 85; ///< after `registryNotWritten` and its reason
+
+// Why the system refused a file.
+inline constexpr std::int32_t reasonMissing = 86;
+inline constexpr std::int32_t reasonDenied = 87;
+inline constexpr std::int32_t reasonFull = 88;
+inline constexpr std::int32_t reasonProtected = 89;
+inline constexpr std::int32_t reasonInUse = 90;
+inline constexpr std::int32_t reasonNoFile = 91;
+inline constexpr std::int32_t reasonNoText = 92; ///< then [robot's name]
 
 // What the operator is told of a file whose transfer to the PC ended with the program.
 inline constexpr std::int32_t transferInterrupted = 75; ///< after [name], then what became of it

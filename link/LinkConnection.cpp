@@ -20,8 +20,9 @@ constexpr const char* unsetAddress = "0.0.0.0";
 
 } // namespace
 
-void LinkConnection::begin() {
+void LinkConnection::begin(FolderUse use) {
     begunWith_ = ends();
+    folderUse_ = use;
     endedByUnsetAddress_ = false;
 }
 
@@ -36,12 +37,19 @@ bool LinkConnection::isAsBegun() {
     return false;
 }
 
+std::optional<std::string> LinkConnection::workingFolder() const {
+    auto folder = toCodePage(properties_.path);
+    if (folderUse_ == FolderUse::Files || (folder && isFolder(properties_.path)))
+        return folder;
+    return toCodePage(services_.programFolder);
+}
+
 std::int16_t LinkConnection::connect() {
     if (!isAsBegun())
         return noHandle;
     // The library keeps files of its own beside the program; without that folder it may still work.
     static_cast<void>(changeCurrentFolder(services_.programFolder));
-    const auto folder = toCodePage(properties_.path);
+    const auto folder = workingFolder();
     if (!folder) {
         error_.set(session_code::folderNotExpressible, "BscOpen", 0);
         return noHandle;

@@ -19,6 +19,12 @@ class LinkConnection {
   public:
     static constexpr std::int16_t noHandle = -1;
 
+    /// What an operation has to do with the PC folder.
+    enum class FolderUse {
+        Files, ///< files are read from it or written to it
+        None   ///< it works on the controller alone
+    };
+
     LinkConnection(const SessionServices& services, const SessionProperties& properties,
                    SessionErrorRecord& error)
         : services_(services), properties_(properties), error_(error) {}
@@ -47,7 +53,9 @@ class LinkConnection {
     /// work in the folder, that are set at its beginning: after a change in its middle the next
     /// `connect` fails. It neither follows the change, which would spread one list over two robots,
     /// nor goes on with what was set, on a robot that the screen no longer shows.
-    void begin();
+    /// An operation that has nothing to do with the PC folder goes on in the program's own folder
+    /// where that one is gone or cannot be told to the library.
+    void begin(FolderUse use = FolderUse::Files);
     void end() { begunWith_.reset(); }
     bool hasBegun() const { return begunWith_.has_value(); }
     /// False, with the reason recorded, when controller or folder are not those of the beginning.
@@ -66,6 +74,8 @@ class LinkConnection {
     };
 
     Ends ends() const;
+    /// The folder that the library is told, in its code page.
+    std::optional<std::string> workingFolder() const;
     bool addressUnset() const;
     std::int16_t refuseUnsetAddress(std::int16_t handle);
     bool configure(std::int16_t handle);
@@ -78,6 +88,7 @@ class LinkConnection {
     const SessionProperties& properties_;
     SessionErrorRecord& error_;
     std::optional<Ends> begunWith_; ///< nothing outside an operation
+    FolderUse folderUse_ = FolderUse::Files;
     bool endedByUnsetAddress_ = false;
 };
 

@@ -28,6 +28,8 @@ namespace vantrel {
 
 /// The session's members, each with one responsibility, wired up.
 struct Snappy::Parts {
+    using FolderUse = LinkConnection::FolderUse;
+
     Parts(SessionServices given, const SessionProperties& properties)
         : services(std::move(given)), link(services, properties, error),
           progress(properties, services.messages, services.progress),
@@ -47,7 +49,7 @@ struct Snappy::Parts {
     /// is begun while another runs, by an event that this one lets in, is refused: both would work
     /// on the same link, record and directory.
     template <typename Work>
-    bool operate(const Work& work);
+    bool operate(const Work& work, FolderUse use = FolderUse::Files);
     /// The controller's names, for the questions of a send. Hides the progress, as every reading of
     /// the directory does. False, too, when Cancel was pressed meanwhile: nothing is sent then.
     bool readDirectory();
@@ -92,8 +94,9 @@ namespace {
 /// The time of one operation.
 class Operation {
   public:
-    Operation(LinkConnection& link, SessionProgress& progress) : link_(link), progress_(progress) {
-        link_.begin();
+    Operation(LinkConnection& link, SessionProgress& progress, LinkConnection::FolderUse use)
+        : link_(link), progress_(progress) {
+        link_.begin(use);
         progress_.begin();
     }
     ~Operation() {
@@ -208,12 +211,12 @@ bool Snappy::settleInterruptedFetches(const std::string& folder,
 }
 
 template <typename Work>
-bool Snappy::Parts::operate(const Work& work) {
+bool Snappy::Parts::operate(const Work& work, FolderUse use) {
     if (link.hasBegun()) {
         error.set(session_code::operationRunning, "");
         return false;
     }
-    const Operation operation(link, progress);
+    const Operation operation(link, progress, use);
     sending.begin();
     operatorTold = false;
     entryTried = false;
@@ -287,7 +290,7 @@ bool Snappy::Parts::transferList(const SessionProperties& properties, JobBatch::
 
 bool Snappy::ReadDirectory(std::vector<std::string>& list) {
     list.clear();
-    return parts_->operate([&] { return parts_->read(list); });
+    return parts_->operate([&] { return parts_->read(list); }, Parts::FolderUse::None);
 }
 
 bool Snappy::JobDownLoad(const std::string& file, bool overwriteAll) {
@@ -299,10 +302,12 @@ bool Snappy::replaceJobs(const std::string& file, const std::vector<std::string>
 }
 
 bool Snappy::JobDelete(const std::string& name) {
-    return parts_->operate([&] {
-        parts_->progress.prepare(parts_->progress.deleting(name));
-        return parts_->deletion.remove(name);
-    });
+    return parts_->operate(
+        [&] {
+            parts_->progress.prepare(parts_->progress.deleting(name));
+            return parts_->deletion.remove(name);
+        },
+        Parts::FolderUse::None);
 }
 
 bool Snappy::JobUpLoad(const std::string& name, bool overwriteAll) {

@@ -4,6 +4,7 @@
 #include "app/SettingsFile.h"
 #include "app/Twips.h"
 #include "app/WindowLayout.h"
+#include "ui/SystemLook.h"
 
 #include <algorithm>
 #include <cmath>
@@ -49,18 +50,25 @@ wxSize pixels(WindowSize twips, int resolution) {
 WindowPlace::WindowPlace(wxTopLevelWindow& window) : window_(window) {
     settleTimer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
         if (window_.IsShown())
-            settled_ = Settled{window_.ClientToScreen(wxPoint(0, 0)), window_.GetSize()};
+            settle();
     });
+    window_.Bind(wxEVT_PAINT, &WindowPlace::painted, this);
 }
 
-void WindowPlace::put(const std::array<std::int32_t, 8>& stored, int resolution,
-                      bool isEnlarged) {
-    stored_ = stored;
+WindowPlace::~WindowPlace() {
+    window_.Unbind(wxEVT_PAINT, &WindowPlace::painted, this);
+}
+
+void WindowPlace::put(const std::array<std::int32_t, 8>& stored, int resolution, bool isEnlarged) {
     const wxPoint corner(pixelsFromTwips(stored[0], resolution),
                          pixelsFromTwips(stored[1], resolution));
-    const wxRect place(
-        corner, pixels(atLeastMinimum({double(stored[2]), double(stored[3])}), resolution));
-    putAt(isEnlarged ? withinItsScreen(place) : place, resolution);
+    const wxRect wished(corner,
+                        pixels(atLeastMinimum({double(stored[2]), double(stored[3])}), resolution));
+    const wxRect place = isEnlarged ? withinItsScreen(wished) : wished;
+    if (window_.IsShown() && stored == stored_ && place == place_ && resolution == resolution_)
+        return;
+    stored_ = stored;
+    putAt(place, resolution);
 }
 
 void WindowPlace::resize(const WindowPlacement& now, int resolution) {
@@ -85,15 +93,19 @@ void WindowPlace::resize(const WindowPlacement& now, int resolution) {
 }
 
 void WindowPlace::putAt(const wxRect& place, int resolution) {
-    settled_.reset();
-    settleTimer_.Stop();
+    settledOrigin_.reset();
+    settledExtent_.reset();
+    place_ = place;
+    resolution_ = resolution;
     window_.SetMinSize(pixels(minimumSize, resolution));
     const wxRect outer = onAScreen(place);
+    const std::array<int, 4> lengths{outer.x, outer.y, outer.width, outer.height};
+    for (std::size_t index = 0; index < lengths.size(); ++index)
+        put_.at(index) = twipsUnlessUnchanged(lengths.at(index), resolution, stored_.at(index));
+    settlesWithPaint_ = !window_.IsShown();
     moveTo(outer);
-    // From a place that was brought back no change is counted: what is seen is what is stored.
     constexpr int settleTime = 1000; // milliseconds
-    if (outer == place)
-        settleTimer_.StartOnce(settleTime);
+    settleTimer_.StartOnce(settleTime);
 }
 
 void WindowPlace::moveTo(const wxRect& outer) {
@@ -104,31 +116,64 @@ void WindowPlace::moveTo(const wxRect& outer) {
     window_.SetSize(outer);
 }
 
+// With its first picture a window has the size that the window manager gives it: what changes it
+// from then on is the operator, however soon.
+void WindowPlace::painted(wxPaintEvent& event) {
+    event.Skip();
+    if (!settlesWithPaint_ || !isOnScreen(window_))
+        return;
+    settlesWithPaint_ = false;
+    settledExtent_ = extent();
+}
+
+void WindowPlace::settle() {
+    settleTimer_.Stop();
+    settlesWithPaint_ = false;
+    settledOrigin_ = clientOrigin();
+    // A frame that came late has changed the size, not the operator.
+    if (!settledExtent_ || settledExtent_->frame() != extent().frame())
+        settledExtent_ = extent();
+}
+
+WindowPlace::Extent WindowPlace::extent() const {
+    return {window_.GetSize(), window_.GetClientSize()};
+}
+
+wxPoint WindowPlace::clientOrigin() const {
+    return window_.ClientToScreen(wxPoint(0, 0));
+}
+
+wxSize WindowPlace::changeOfSize() const {
+    const Extent now = extent();
+    if (!settledExtent_ || settledExtent_->frame() != now.frame())
+        return {};
+    return now.outer - settledExtent_->outer;
+}
+
+wxPoint WindowPlace::changeOfPlace() const {
+    return settledOrigin_ ? clientOrigin() - *settledOrigin_ : wxPoint(0, 0);
+}
+
 WindowPlacement WindowPlace::placement(int resolution,
                                        const std::array<int, 3>& columnWidths) const {
-    const auto twips = [&](int pixels, std::size_t index) {
+    const auto columnTwips = [&](int pixels, std::size_t index) {
         return twipsUnlessUnchanged(pixels, resolution, stored_.at(index));
     };
     // What only the window manager has adjusted is nobody's wish: the stored numbers stay, or the
     // window would drift with every start.
-    const auto wished = [&](int change, int now, std::size_t index) {
-        // Until then the numbers of the window itself may be those of before.
-        if (settleTimer_.IsRunning())
-            return double(stored_.at(index));
-        if (!settled_)
-            return twips(now, index);
-        return stored_.at(index) + twipsFromPixels(change, resolution);
+    const auto wished = [&](int change, std::size_t index) {
+        return change == 0 ? double(stored_.at(index))
+                           : put_.at(index) + twipsFromPixels(change, resolution);
     };
-    const wxRect outer = window_.GetRect();
-    const Settled settled = settled_.value_or(Settled{});
-    const wxPoint moved = window_.ClientToScreen(wxPoint(0, 0)) - settled.clientOrigin;
+    const wxPoint moved = changeOfPlace();
+    const wxSize grown = changeOfSize();
     return {.isNormal = !window_.IsIconized() && !window_.IsMaximized(),
-            .left = wished(moved.x, outer.x, 0),
-            .top = wished(moved.y, outer.y, 1),
-            .width = wished(outer.width - settled.size.x, outer.width, 2),
-            .height = wished(outer.height - settled.size.y, outer.height, 3),
-            .columnWidths = {twips(columnWidths[0], 4), twips(columnWidths[1], 5),
-                             twips(columnWidths[2], 6)}};
+            .left = wished(moved.x, 0),
+            .top = wished(moved.y, 1),
+            .width = wished(grown.x, 2),
+            .height = wished(grown.y, 3),
+            .columnWidths = {columnTwips(columnWidths[0], 4), columnTwips(columnWidths[1], 5),
+                             columnTwips(columnWidths[2], 6)}};
 }
 
 } // namespace vantrel

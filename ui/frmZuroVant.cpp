@@ -144,7 +144,7 @@ void frmZuroVant::close(wxCloseEvent& event) {
     else if (event.CanVeto())
         event.Veto();
     else
-        closesWhenUnlocked_ = true;
+        closesWhenUnlocked_ = guard_.isLocked();
 }
 
 void frmZuroVant::bindPane(ActiveSide side) {

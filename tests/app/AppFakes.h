@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -166,12 +167,15 @@ class LoggingBoxes final : public FakeMessageBoxes {
   public:
     explicit LoggingBoxes(Log& log) : log_(log) {}
 
+    std::function<void()> whenAsked = [] {}; ///< runs while an OK and Cancel box is open
+
     void tell(const std::string& text, BoxIcon icon) override {
         log_.push_back("tell " + text);
         FakeMessageBoxes::tell(text, icon);
     }
     bool askOkCancel(const std::string& text, BoxIcon icon) override {
         log_.push_back("askOkCancel " + text);
+        whenAsked();
         return FakeMessageBoxes::askOkCancel(text, icon);
     }
     bool askYesNo(const std::string& text, BoxIcon icon) override {

@@ -70,6 +70,7 @@ INSTANTIATE_TEST_SUITE_P(
                     NameRow{{"SingleQuoteBefore"}, "'a", Kind::NameRefused},
                     NameRow{{"SingleQuoteBehind"}, "a'", Kind::NameRefused},
                     NameRow{{"Sentinel"}, "@END@", Kind::NameRefused},
+                    NameRow{{"BytesThatAreNoText"}, "a\xFF", Kind::NameRefused},
                     NameRow{{"Taken"}, "Taken Ω", Kind::NameTaken},
                     NameRow{{"TakenInOtherCase"}, "TAKEN ω", Kind::NameTaken}),
     rowName);
@@ -114,6 +115,21 @@ TEST(RobotCheckTest, AChosenFolderHoldsNoCommaAndNoEqualsSign) {
     RobotRecord robot = good;
     robot.Path = "/jobs/溶接 [1]";
     EXPECT_EQ(faultOf(robot), std::nullopt);
+}
+
+TEST(RobotCheckTest, AChosenFolderCanBeWrittenAsText) {
+    RobotRecord robot = good;
+    robot.Path = "/jobs/\xFF";
+    EXPECT_EQ(faultOf(robot), (RobotFault{Kind::FolderRefused, 1}));
+}
+
+// They look the same in every list.
+TEST(RobotCheckTest, ANameThatAnOldRobotHasWithBlanksAroundItIsTaken) {
+    RobotRecord old = good, typed = good;
+    old.Name = " R1 ";
+    typed.Name = "r1";
+    const std::vector<RobotEntry> robots{untouched(old), edited(typed)};
+    EXPECT_EQ(findRobotFault(robots), (RobotFault{Kind::NameTaken, 1}));
 }
 
 TEST(RobotCheckTest, AFolderThatNobodyChoseIsNotJudged) {

@@ -16,14 +16,14 @@ struct NameCase {
     const char* written;
 };
 
-class WritableNameTest : public testing::TestWithParam<NameCase> {};
+class CleanNameTest : public testing::TestWithParam<NameCase> {};
 
-TEST_P(WritableNameTest, ReadsBackUnchanged) {
-    EXPECT_EQ(writableName(GetParam().given), GetParam().written);
+TEST_P(CleanNameTest, HasNothingThatAReaderStrips) {
+    EXPECT_EQ(cleanName(GetParam().given), GetParam().written);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    , WritableNameTest,
+    , CleanNameTest,
     testing::Values(NameCase{"Plain", "R1", "R1"}, NameCase{"InnerBlank", "my robot", "my robot"},
                     NameCase{"OuterBlanks", "  R1 ", "R1"},
                     NameCase{"DoubleQuotes", "\"R1\"", "R1"},
@@ -59,7 +59,8 @@ INSTANTIATE_TEST_SUITE_P(
                     FolderCase{"BelowTheProgramFolder", "/opt/van,trel/jobs/r1", "jobs/r1"},
                     FolderCase{"BelowItWithADelimiter", "/opt/van,trel/a,b", ""},
                     FolderCase{"BelowItLikeADrive", "/opt/van,trel/c:", ""},
-                    FolderCase{"LineEnd", "/srv/a\nb", ""}),
+                    FolderCase{"LineEnd", "/srv/a\nb", ""},
+                    FolderCase{"BytesThatAreNoText", "/srv/a\xFF", ""}),
     [](const auto& test) { return test.param.name; });
 
 RobotRecord robot(std::string name, std::string address, std::string folder) {

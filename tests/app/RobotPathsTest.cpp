@@ -31,6 +31,8 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"WindowsDrive", windows, "c:\\vantrel", "D:\\Jobs", "D:\\Jobs"},
         Case{"WindowsDriveRelative", windows, "c:\\vantrel", "D:Jobs", "D:Jobs"},
         Case{"WindowsRooted", windows, "c:\\vantrel", "\\Jobs", "\\Jobs"},
+        Case{"WindowsSlash", windows, "c:\\vantrel", "/jobs", "c:\\vantrel\\/jobs"},
+        Case{"WindowsSlashes", windows, "c:\\vantrel", "//pc/jobs", "c:\\vantrel\\//pc/jobs"},
         Case{"WindowsShare", windows, "c:\\vantrel", "\\\\pc\\jobs", "\\\\pc\\jobs"},
         Case{"PosixRelative", posix, "/opt/vantrel", "jobs", "/opt/vantrel/jobs"},
         Case{"PosixRelativeWrittenOnWindows", posix, "/opt/vantrel", "data\\r1",

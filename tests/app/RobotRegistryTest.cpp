@@ -149,13 +149,29 @@ TEST_F(RobotRegistryTest, WritingRewritesTheWholeFile) {
               boot("B") + blockOf("A", "", folder_.path()) + blockOf("B", "1.2.3.4", "/jobs"));
 }
 
-TEST_F(RobotRegistryTest, NamesThatCouldNotBeReadBackAreNotWritten) {
-    read("[Robot]\r\nName= 'R1' \r\n");
-    EXPECT_EQ(state_.CurrentRobot.Name, " 'R1' ");
+TEST_F(RobotRegistryTest, NamesThatDifferInTheirOutsideOnlyStayTwoRobots) {
+    const std::string robots = blockOf(" R1", "10.0.0.1", "/a") + blockOf("R1", "10.0.0.2", "/b") +
+                               blockOf("R1 ", "10.0.0.3", "/c") +
+                               blockOf("'R1'", "10.0.0.4", "/d") +
+                               blockOf("\"R1\"", "10.0.0.5", "/e");
+    read(robots);
+    for (std::size_t chosen = 0; chosen < 5; ++chosen) {
+        state_.CurrentRobot = state_.RobotList[chosen];
+        ASSERT_TRUE(registry_.write());
+        EXPECT_TRUE(file().ends_with(robots)) << file();
+        registry_.read(box_);
+        EXPECT_EQ(state_.CurrentRobotIndex, chosen);
+        EXPECT_EQ(state_.CurrentRobot.IPaddr, "10.0.0." + std::to_string(chosen + 1));
+    }
+}
+
+TEST_F(RobotRegistryTest, AnEditIsRememberedUntilItIsWritten) {
+    read("[Robot]\r\nName=A\r\n");
+    EXPECT_FALSE(registry_.hasUnwrittenEdit());
+    registry_.noteEdit();
+    EXPECT_TRUE(registry_.hasUnwrittenEdit());
     EXPECT_TRUE(registry_.write());
-    EXPECT_EQ(file(), boot("R1") + blockOf("R1", "", folder_.path()));
-    registry_.read(box_);
-    EXPECT_EQ(state_.CurrentRobot.Name, state_.BootName);
+    EXPECT_FALSE(registry_.hasUnwrittenEdit());
 }
 
 TEST_F(RobotRegistryTest, AnUnreadFileIsLeftAloneWhenNothingWasEdited) {
@@ -297,15 +313,28 @@ TEST_F(RobotRegistryTest, TheBootNameEndsAtANul) {
     EXPECT_EQ(state_.BootName, "R2");
 }
 
-TEST_F(RobotRegistryTest, ANameThatTheFilesEncodingLacksIsRefusedByName) {
-    const std::string bytes =
-        encodeText(boot("溶接") + blockOf("溶接", "", "/a"), TextEncoding::CodePage).value();
-    read(bytes);
-    state_.RobotList.insert(state_.RobotList.begin(), RobotRecord())->Name = "\xF0\x9F\xA4\x96";
+TEST_F(RobotRegistryTest, ACodePageFileGoesOnInUtf8WhereANameNeedsIt) {
+    read(encodeText(boot("溶接") + blockOf("溶接", "", "/a"), TextEncoding::CodePage).value());
+    const std::string name = "Prüfstand \xF0\x9F\xA4\x96";
+    state_.RobotList.insert(state_.RobotList.begin(), RobotRecord())->Name = name;
+    state_.RobotList[0].Path = "/Prüfung";
+    state_.CurrentRobot = state_.RobotList[0];
+    ASSERT_TRUE(registry_.write());
+    EXPECT_FALSE(file().starts_with("\xEF\xBB\xBF")) << "a mark would hide the first section";
+    registry_.read(box_);
+    EXPECT_EQ(box_.names, (std::vector<std::string>{name, "溶接"}));
+    EXPECT_EQ(state_.CurrentRobot.Name, name);
+    EXPECT_EQ(state_.CurrentRobot.Path, "/Prüfung");
+}
+
+TEST_F(RobotRegistryTest, ANameThatNoEncodingHoldsIsRefusedByName) {
+    read("[Robot]\r\nName=A\r\n");
+    const std::string before = file();
+    state_.RobotList.insert(state_.RobotList.begin(), RobotRecord())->Name = "half \xE3\x82";
     const Outcome written = registry_.write();
     ASSERT_FALSE(written);
-    EXPECT_NE(written.reason().find("[\xF0\x9F\xA4\x96]"), std::string::npos);
-    EXPECT_EQ(file(), bytes);
+    EXPECT_TRUE(written.reason().starts_with("m92[half ")) << written.reason();
+    EXPECT_EQ(file(), before);
 }
 
 TEST_F(RobotRegistryTest, GarbageGivesAnEmptyList) {

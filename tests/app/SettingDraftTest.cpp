@@ -59,6 +59,18 @@ TEST_F(SettingDraftTest, TakenUneditedGivesBackWhatIsStored) {
     EXPECT_EQ(values.CurrentRobot, 1U);
 }
 
+TEST_F(SettingDraftTest, AStoredSynchronisationThatIsNeitherStaysUntilItIsChanged) {
+    state.SyncroRobotDir = 2;
+    auto edited = draft();
+    EXPECT_FALSE(edited.isOn(SettingOption::SyncroRobotDir));
+    edited.set(SettingOption::JBR, true);
+    EXPECT_EQ(edited.take().SyncroRobotDir, 2);
+    edited.set(SettingOption::SyncroRobotDir, true);
+    EXPECT_EQ(edited.take().SyncroRobotDir, 1);
+    edited.set(SettingOption::SyncroRobotDir, false);
+    EXPECT_EQ(edited.take().SyncroRobotDir, 0);
+}
+
 TEST_F(SettingDraftTest, ARateThatIsNotOfferedBecomesTheOneThatIsShown) {
     state.Baudrate = 38400;
     EXPECT_EQ(draft().take().Baudrate, 9600);
@@ -68,7 +80,20 @@ TEST_F(SettingDraftTest, EveryKindOfEditCounts) {
     const std::vector<std::function<void(SettingDraft&)>> edits{
         [](SettingDraft& edited) { edited.chooseControler(1); },
         [](SettingDraft& edited) { edited.set(SettingOption::NoSave, true); },
+        [](SettingDraft& edited) { edited.set(SettingOption::JBR, true); },
+        [](SettingDraft& edited) { edited.set(SettingOption::Headder, true); },
+        [](SettingDraft& edited) { edited.set(SettingOption::SyncroRobotDir, false); },
         [](SettingDraft& edited) { edited.serial().setPort(2); },
+        [](SettingDraft& edited) { edited.serial().choose(SerialList::Baudrate, 0); },
+        [](SettingDraft& edited) { edited.serial().choose(SerialList::Parity, 0); },
+        [](SettingDraft& edited) { edited.serial().choose(SerialList::DataLen, 0); },
+        [](SettingDraft& edited) { edited.serial().choose(SerialList::StopBit, 1); },
+        [](SettingDraft& edited) { edited.serial().restoreDefaults(); },
+        [](SettingDraft& edited) { edited.robots().insertAfter(); },
+        [](SettingDraft& edited) { edited.robots().insertBefore(); },
+        [](SettingDraft& edited) { edited.robots().remove(); },
+        [](SettingDraft& edited) { edited.robots().setAddressPart(0, "11"); },
+        [](SettingDraft& edited) { edited.robots().setFolder("/elsewhere"); },
         [](SettingDraft& edited) { edited.robots().rename("X"); }};
     for (const auto& edit : edits) {
         auto edited = draft();

@@ -115,8 +115,14 @@ TEST_F(SettingsFileTest, EveryKeyIsRead) {
     EXPECT_EQ(state.CtrlListing.SortDir, 5);
 }
 
-TEST_F(SettingsFileTest, AnEmptyPathIsTheProgramFolderInFull) {
-    EXPECT_EQ(read("[Vantrel]\r\nPath=\r\n").PCPath, folder_.path());
+TEST_F(SettingsFileTest, AnEmptyPathStaysEmptyAsItStands) {
+    const ApplicationState state = read("[Vantrel]\r\nPath=\r\n");
+    EXPECT_EQ(state.PCPath, "");
+    EXPECT_EQ(state.CurrentRobot.Path, "");
+}
+
+TEST_F(SettingsFileTest, WithoutAPathItIsTheProgramFolderInFull) {
+    EXPECT_EQ(read("[Vantrel]\r\nPort=2\r\n").PCPath, folder_.path());
     // Longer than the buffer that values are read into.
     const std::string deep = folder_.makeFolder(std::string(150, 'd'));
     ApplicationState state;
@@ -220,6 +226,37 @@ TEST_F(SettingsFileTest, WhatIsWrittenReadsBack) {
     EXPECT_EQ(again.Port, -1);
     EXPECT_EQ(again.Controler, 99);
     EXPECT_EQ(static_cast<int>(again.TransMode), 2);
+}
+
+TEST_F(SettingsFileTest, AWindowOfThreeNumbersLeavesTheOthersZero) {
+    EXPECT_EQ(read("[Vantrel]\r\nWindow=10,20,30\r\n").WindowPos,
+              (std::array<std::int32_t, 8>{10, 20, 30, 0, 0, 0, 0, 0}));
+}
+
+// Every value differs from its default and from every other value.
+TEST_F(SettingsFileTest, EveryKeyGoesRound) {
+    const std::string all =
+        "[Vantrel]\r\nPath=/jobs\r\nPort=3\r\nBaudrate=1200\r\nParity=1\r\nDataLen=7\r\n"
+        "StopBit=11\r\nControler=5\r\nSyncroRobotDir=0\r\nJBR=True\r\nHeadder=True\r\n"
+        "Window=15,-30,9000,6000,1300.5,800,1600.25\r\nTransMode=16\r\n"
+        "JobListFile=jobs.lst\r\nVarListFile=variables.lst\r\n"
+        "[PCType]\r\nDispType=31\r\nSortType=21\r\nSortDir=12\r\n"
+        "[CtrlType]\r\nDispType=22\r\nSortType=13\r\nSortDir=14\r\n";
+    const ApplicationState state = read(all);
+    folder_.write("Vantrel.ini", "");
+    WindowPlacement placement{.left = 15, .top = -30, .width = 9000, .height = 6000};
+    placement.columnWidths = {1300.5, 800, 1600.25};
+    EXPECT_EQ(written(state, placement), all);
+}
+
+TEST_F(SettingsFileTest, EachTruthValueIsItsOwn) {
+    EXPECT_TRUE(read("[Vantrel]\r\nJBR=True\r\n").JBR);
+    EXPECT_FALSE(read("[Vantrel]\r\nJBR=True\r\n").Headder);
+    ApplicationState state;
+    state.Headder = true;
+    const std::string after = written(state);
+    EXPECT_NE(after.find("JBR=False\r\n"), std::string::npos);
+    EXPECT_NE(after.find("Headder=True\r\n"), std::string::npos);
 }
 
 TEST_F(SettingsFileTest, AMaximisedWindowKeepsThePlacementOfTheStart) {

@@ -135,6 +135,52 @@ TEST_F(ShutdownTest, ARegistryThatCannotBeWrittenIsToldOnce) {
     EXPECT_NE(settings().find("[Vantrel]"), std::string::npos);
 }
 
+TEST_F(ShutdownTest, RobotsThatCannotBeKeptAreLostOnlyWithConsent) {
+    block("robot.ini");
+    registry_.noteEdit();
+    desk_.boxes.answers = {true, false};
+    EXPECT_FALSE(shutdown_.close());
+    ASSERT_EQ(desk_.boxes.shown.size(), 2U);
+    EXPECT_EQ(desk_.boxes.shown[1].kind, tests::FakeMessageBoxes::Kind::OkCancel);
+    EXPECT_TRUE(desk_.boxes.shown[1].text.starts_with("m46"));
+    EXPECT_TRUE(desk_.boxes.shown[1].text.ends_with("\nm85"));
+    EXPECT_EQ(std::ranges::count(desk_.log, "session quit"), 0) << "the program goes on";
+
+    std::filesystem::remove_all(desk_.folder.path("robot.ini"));
+    desk_.boxes.answers = {true};
+    EXPECT_TRUE(shutdown_.close());
+    EXPECT_NE(registryFile().find("[Robot]"), std::string::npos) << "what was edited is kept";
+}
+
+TEST_F(ShutdownTest, RobotsThatCannotBeKeptMayBeGivenUp) {
+    block("robot.ini");
+    registry_.noteEdit();
+    desk_.boxes.answers = {true, true};
+    EXPECT_TRUE(shutdown_.close());
+    EXPECT_EQ(desk_.log.back(), "session quit");
+}
+
+TEST_F(ShutdownTest, TheEndOfTheOperatorsSessionAsksBeforeRobotsAreLost) {
+    block("robot.ini");
+    registry_.noteEdit();
+    desk_.boxes.answers = {false};
+    EXPECT_FALSE(shutdown_.closeUnasked());
+    EXPECT_EQ(desk_.boxes.shown.size(), 1U);
+}
+
+TEST_F(ShutdownTest, TheSettingsAreWrittenBeforeTheRobots) {
+    // What stands on the disk when the robots' file cannot be written is the settings.
+    block("robot.ini");
+    std::string settingsThen;
+    desk_.boxes.whenAsked = [&] {
+        settingsThen = desk_.folder.has("Vantrel.ini") ? settings() : "";
+    };
+    registry_.noteEdit();
+    desk_.boxes.answers = {true};
+    EXPECT_TRUE(shutdown_.closeUnasked());
+    EXPECT_NE(settingsThen, "");
+}
+
 TEST_F(ShutdownTest, ASecondCloseAsksNothing) {
     desk_.boxes.answers = {true};
     EXPECT_TRUE(shutdown_.close());

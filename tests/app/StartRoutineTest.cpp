@@ -133,6 +133,21 @@ TEST_F(StartRoutineTest, StepsRunInTheirOrder) {
     EXPECT_EQ(desk_.state.IniFileName, "Vantrel.ini");
 }
 
+TEST_F(StartRoutineTest, TheHelpFileIsTheSameForEveryLanguage) {
+    for (const char* language : {"Japanese", "English", "System"}) {
+        desk_.log.clear();
+        writeLanguage(language);
+        write("[Language Info]\r\nLanguage=" + std::string(language) + "\r\nLangSelect=0\r\n");
+        EXPECT_EQ(start(), StartResult::Running);
+        const std::string help = std::string("help ") + PathRules().separator() + "Vantrel.hlp";
+        EXPECT_EQ(std::ranges::count(desk_.log, help), 2) << language;
+        EXPECT_EQ(
+            std::ranges::count_if(
+                desk_.log, [](const std::string& entry) { return entry.starts_with("help "); }),
+            2);
+    }
+}
+
 TEST_F(StartRoutineTest, ARelativeStoredFolderCountsFromTheProgramsFolder) {
     const auto jobs = desk_.folder.makeFolder("jobs");
     addSettings("[Vantrel]\r\nPath=jobs\r\n");
@@ -313,10 +328,23 @@ TEST_F(StartRoutineTest, AnUnexpectedErrorIsToldAndNothingIsSaved) {
     EXPECT_FALSE(desk_.state.StartupDone);
 }
 
-TEST_F(StartRoutineTest, AnErrorInTheLastStepIsTrappedToo) {
-    windows_.whenStarted = [] { throw std::runtime_error("x"); };
-    EXPECT_EQ(start(), StartResult::Trapped);
-    EXPECT_FALSE(desk_.state.StartupDone);
+TEST_F(StartRoutineTest, AnErrorInTheMainWindowsStartIsToldAndWhatWasDoneIsKept) {
+    windows_.whenStarted = [this] {
+        desk_.state.PCPath = "/as far as it came";
+        throw std::runtime_error("no more lists");
+    };
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m1", "m43no more lists"}));
+    EXPECT_EQ(desk_.state.PCPath, "/as far as it came");
+    EXPECT_TRUE(desk_.state.StartupDone);
+    EXPECT_FALSE(desk_.state.NoSave) << "the robots of the run are kept";
+}
+
+TEST_F(StartRoutineTest, AnEmptyStoredFolderIsTheProgramsFolder) {
+    addSettings("[Vantrel]\r\nPath=\r\n");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.state.PCPath, desk_.folder.path());
+    EXPECT_EQ(desk_.session.path, desk_.folder.path());
 }
 
 TEST_F(StartRoutineTest, AFolderThatCannotBeEnteredIsTold) {

@@ -196,6 +196,8 @@ const TruthRow truthRows[] = {
     {"Zero", "0", false},
     {"ZeroWithAFraction", " 0.0 ", false},
     {"Fraction", "0.5", true},
+    {"OutOfRange", "99999", true},
+    {"BeyondEveryNumber", "-1e999", true},
     {"Empty", "", std::nullopt},
     {"OtherWord", "yes", std::nullopt},
     {"WordWithATail", "Truely", std::nullopt},

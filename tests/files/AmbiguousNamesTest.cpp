@@ -19,6 +19,18 @@ TEST(AmbiguousNamesTest, ANameThatIsListedTwiceIsOne) {
     EXPECT_FALSE(AmbiguousNames({"TOOL.CND", "TOOL.CND"}).contains("TOOL.CND"));
 }
 
+TEST(AmbiguousNamesTest, AFixedNameThatTheDirectorySpellsOtherwiseIsTheSameFile) {
+    const AmbiguousNames names({"tool.cnd", "TOOL.CND"}, {"TOOL.CND"});
+    EXPECT_FALSE(names.contains("tool.cnd"));
+    EXPECT_FALSE(names.contains("TOOL.CND"));
+}
+
+TEST(AmbiguousNamesTest, AFixedNameStandsInTheListOnceMore) {
+    EXPECT_TRUE(
+        AmbiguousNames({"tool.cnd", "TOOL.CND", "TOOL.CND"}, {"TOOL.CND"}).contains("tool.cnd"))
+        << "the directory names two files";
+}
+
 TEST(AmbiguousNamesTest, SmallGreekLettersAreOthersThanCapitalOnes) {
     EXPECT_FALSE(AmbiguousNames({"\u03B1.JBI", "\u0391.JBI"}).contains("\u0391.JBI"));
     EXPECT_TRUE(AmbiguousNames({"\u0430.JBI", "\u0410.JBI"}).contains("\u0410.JBI"));

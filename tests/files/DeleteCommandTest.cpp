@@ -102,6 +102,20 @@ TEST_F(DeleteCommandTest, JobsWhoseNamesDifferInLetterCaseOnlyAreNotDeleted) {
     EXPECT_THAT(robot().names(), ElementsAre("foo.JBI", "FOO.JBI"));
 }
 
+TEST_F(DeleteCommandTest, AFileOfTheTableThatTheDirectorySpellsOtherwiseIsDeleted) {
+    program.write("FileTable.tbl", "TOOL.JBI,1,1,1,1,1,1,1,1,1\r\n");
+    ASSERT_TRUE(table.load(program.path()));
+    state.Controler = 0;
+    robotJob("tool");
+    selectOnController({"tool.JBI"});
+    ASSERT_THAT(state.CtrlListing.Names, ElementsAre("tool.JBI", "TOOL.JBI"));
+    question.answers = {Answer::Yes};
+    commands.deleteOnController();
+    EXPECT_THAT(question.questions, ElementsAre("[tool.JBI] delete from the controller?"));
+    EXPECT_EQ(library.callCount("BscSelectJob"), 1) << "the controller is asked, not the listing";
+    EXPECT_THAT(boxes.texts(), testing::Not(testing::Contains("[tool.JBI] is ambiguous")));
+}
+
 TEST_F(DeleteCommandTest, AFailureIsReportedAndTheNextJobFollows) {
     robotJobs();
     question.answers = {Answer::All};

@@ -72,6 +72,14 @@ TEST_F(PanesTest, TheMarkOfATransferIsShownByNoFilter) {
     }
 }
 
+TEST_F(PanesTest, TheSessionWorksInTheFolderThatIsShown) {
+    const std::string folder = pc.makeFolder("SUB");
+    ASSERT_TRUE(panes.scanPC(folder));
+    EXPECT_EQ(session.path, folder);
+    EXPECT_FALSE(panes.scanPC(pc.path("MISSING")));
+    EXPECT_EQ(session.path, folder) << "as long as another cannot be shown";
+}
+
 TEST_F(PanesTest, AFolderThatCannotBeOpenedChangesNothing) {
     pc.write("A.JBI", "");
     showPC();
@@ -263,6 +271,32 @@ TEST_F(PanesTest, EachPaneHasItsOwnSortState) {
     showController();
     EXPECT_THAT(window.pc.names, ElementsAre("A.JBI", "B.JBI"));
     EXPECT_THAT(window.controller.names, ElementsAre("B.JBI", "A.JBI"));
+}
+
+TEST_F(PanesTest, SortingEitherPaneLeavesTheOther) {
+    for (const char* name : {"A", "B"}) {
+        pc.write(std::string(name) + ".JBI", "");
+        robotJob(name);
+    }
+    showPC();
+    showController();
+    const int pcShows = window.pc.shows;
+    window.pc.click({"B.JBI"});
+    state.CtrlListing.SortDir = 1;
+    panes.sort(ActiveSide::Controller);
+    EXPECT_THAT(window.controller.names, ElementsAre("B.JBI", "A.JBI"));
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI", "B.JBI"));
+    EXPECT_THAT(window.pc.selectedNames(), ElementsAre("B.JBI"));
+    EXPECT_EQ(window.pc.shows, pcShows);
+    EXPECT_EQ(state.PCListing.SortDir, 0);
+
+    const int controllerShows = window.controller.shows;
+    state.CtrlListing.SortDir = 0;
+    state.PCListing.SortDir = 1;
+    panes.sort(ActiveSide::PC);
+    EXPECT_THAT(window.pc.names, ElementsAre("B.JBI", "A.JBI"));
+    EXPECT_THAT(window.controller.names, ElementsAre("B.JBI", "A.JBI"));
+    EXPECT_EQ(window.controller.shows, controllerShows);
 }
 
 TEST_F(PanesTest, AnotherFolderOpenedDuringTheYieldIsWhatIsShownAtTheEnd) {

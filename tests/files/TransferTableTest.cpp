@@ -153,5 +153,16 @@ INSTANTIATE_TEST_SUITE_P(
         PermissionCase{"ModelWithoutBit", "A.JBI", download, 0, false}),
     [](const auto& row) { return std::string(row.param.title); });
 
+TEST(TransferTableFixedNames, AreTheWholeNamesThatTheModelMaySend) {
+    const tests::TemporaryFolder folder;
+    folder.write("FileTable.tbl", "*.JBI,1,1,1,1,1,1,1,1,1\r\nTOOL.CND,1,1,1,1,1,1,1,0,0\r\n"
+                                  "ALL*.PRM,1,1,1,1,1,1,1,1,1\r\nPANEL.DAT,1,1,1,1,1,1,0,1,0\r\n");
+    TransferTable table;
+    ASSERT_TRUE(table.load(folder.path()));
+    EXPECT_EQ(table.fixedNames(1), (std::vector<std::string>{"TOOL.CND"}));
+    EXPECT_EQ(table.fixedNames(2), (std::vector<std::string>{"PANEL.DAT"}));
+    EXPECT_TRUE(table.fixedNames(8).empty());
+}
+
 } // namespace
 } // namespace vantrel

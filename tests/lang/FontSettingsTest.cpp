@@ -61,10 +61,15 @@ INSTANTIATE_TEST_SUITE_P(
         Settings{"BooleanGarbage", "[Font Info]\nFontBOLD=perhaps\nFontItalic=yes\n",
                  "Base bold 8"},
         Settings{"IntegerPartOfSize", "[Font Info]\nFontSize=9.75\n", "Base bold 9"},
-        Settings{"SizeZero", "[Font Info]\nFontSize=0\n", "Base bold 8"},
-        Settings{"SizeNegative", "[Font Info]\nFontSize=-9\n", "Base bold 8"},
-        Settings{"SizeGarbage", "[Font Info]\nFontSize=big\n", "Base bold 8"},
-        Settings{"SizeHuge", "[Font Info]\nFontSize=99999\n", "Base bold 8"}),
+        Settings{"SizeZero", "[Font Info]\nFontSize=0\n", "Base bold 0"},
+        Settings{"SizeNegative", "[Font Info]\nFontSize=-9\n", "Base bold -9"},
+        Settings{"SizeGarbage", "[Font Info]\nFontSize=big\n", "Base bold 0"},
+        Settings{"SizeLarge", "[Font Info]\nFontSize=300\n", "Base bold 300"},
+        Settings{"SizeBeyondTheField", "[Font Info]\nFontSize=99999\n", "Base bold 32767"},
+        Settings{"BooleanOutOfRange", "[Font Info]\nFontBOLD=0\nFontItalic=99999\n",
+                 "Base italic 8"},
+        Settings{"BooleanBeyondEveryNumber", "[Font Info]\nFontBOLD=0\nFontItalic=1e999\n",
+                 "Base italic 8"}),
     [](const auto& row) { return row.param.name; });
 
 /// 99 characters and the end of the text.

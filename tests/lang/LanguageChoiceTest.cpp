@@ -67,6 +67,18 @@ TEST_F(ChoosingTheLanguage, WithoutAnyFileTheOperatorIsTold) {
                                   "Language File Read Error.(System.lng)", BoxIcon::Exclamation}));
 }
 
+TEST_F(ChoosingTheLanguage, ANameOfAHundredCharactersIsReadWhole) {
+    const std::string longest(100, 'L');
+    addLanguage(longest);
+    EXPECT_TRUE(choice().loadLanguagePreference(
+        settings("[Language Info]\r\nLanguage=" + longest + "\r\nLangSelect=0\r\n")));
+    EXPECT_EQ(state_.LanguageName, longest);
+    EXPECT_TRUE(choice().loadLanguagePreference(
+        settings("[Language Info]\r\nLanguage=" + longest + "X\r\nLangSelect=0\r\n")))
+        << "what is longer is cut";
+    EXPECT_EQ(state_.LanguageName, longest);
+}
+
 TEST_F(ChoosingTheLanguage, RecordedLanguageIsReadSilently) {
     addLanguage("English");
     state_.LanguageName = "Japanese";

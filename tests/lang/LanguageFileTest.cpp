@@ -1,10 +1,10 @@
 #include "lang/LanguageFile.h"
 
-#include <gtest/gtest.h>
-
 #include <random>
 #include <string>
 #include <tuple>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 

@@ -1,8 +1,8 @@
 #include "lang/MessageTable.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
+
+#include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {

@@ -263,5 +263,44 @@ TEST_F(SnappyTest, OfTwoRobotsOnlyTheOneOfTheAddressIsReached) {
     EXPECT_EQ(connected, world.library.callCount("BscOpen"));
 }
 
+/// Folders that no library can work in: one that the code page cannot tell, one that is gone.
+class UnusableFolderTest : public testing::TestWithParam<const char*> {
+  protected:
+    UnusableFolderTest() { world.session->path = world.pc.path(GetParam()); }
+    std::string opened() const { return world.library.trace().at(0); }
+    std::string programFolder() const { return "BscOpen(" + world.program.path() + ", 1)"; }
+
+    tests::SessionWorld world;
+};
+
+TEST_P(UnusableFolderTest, TheDirectoryIsReadInTheProgramsFolder) {
+    world.controller().put("A.JBI", tests::SessionWorld::job("A"));
+    std::vector<std::string> names;
+    ASSERT_TRUE(world.session->ReadDirectory(names)) << world.error();
+    EXPECT_EQ(names, (std::vector<std::string>{"A.JBI"}));
+    EXPECT_EQ(opened(), programFolder());
+}
+
+TEST_P(UnusableFolderTest, AJobIsDeletedInTheProgramsFolder) {
+    world.controller().put("A.JBI", tests::SessionWorld::job("A"));
+    ASSERT_TRUE(world.session->JobDelete("A.JBI")) << world.error();
+    EXPECT_FALSE(world.controller().has("A.JBI"));
+    EXPECT_EQ(opened(), programFolder());
+}
+
+TEST_P(UnusableFolderTest, NothingIsFetchedIntoAnotherFolder) {
+    world.controller().put("A.JBI", tests::SessionWorld::job("A"));
+    EXPECT_FALSE(world.session->JobUpLoad("A.JBI"));
+    EXPECT_FALSE(world.program.has("A.JBI"));
+}
+
+TEST_P(UnusableFolderTest, NothingIsSentFromAnotherFolder) {
+    world.program.write("A.JBI", tests::SessionWorld::job("A"));
+    EXPECT_FALSE(world.session->JobDownLoad("A.JBI"));
+    EXPECT_EQ(world.library.callCount("BscDownLoad"), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Folders, UnusableFolderTest, testing::Values("\xED\x95\x9C", "gone"));
+
 } // namespace
 } // namespace vantrel

@@ -63,8 +63,9 @@ class ProgramWorld {
                                         language + "\r\nLangSelect=0\r\n");
     }
 
-    StartResult startProgram() {
-        program = std::make_unique<Composition>(folder.path("Vantrel"), std::vector<std::string>{});
+    StartResult startProgram(const std::vector<std::string>& arguments = {},
+                             const std::string& name = "Vantrel") {
+        program = std::make_unique<Composition>(folder.path(name), arguments);
         return program->start();
     }
     /// The next dialog asks whether to read the controller's directory.

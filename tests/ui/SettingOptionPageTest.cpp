@@ -4,6 +4,8 @@
 
 #include <array>
 
+#include <wx/checkbox.h>
+
 namespace vantrel::tests {
 namespace {
 
@@ -35,6 +37,27 @@ TEST_P(SettingOptionPageTest, AModelAndOptionsAreTaken) {
     EXPECT_EQ(taken[0].Controler, 1);
     EXPECT_EQ(taken[0].SyncroRobotDir, 0);
     EXPECT_TRUE(taken[0].JBR && taken[0].Headder && taken[0].NoSave);
+}
+
+TEST_P(SettingOptionPageTest, EachCheckBoxShowsItsOwnSetting) {
+    state.SyncroRobotDir = 0;
+    state.NoSave = true;
+    const auto ticked = [this](const char* name) {
+        return control<wxCheckBox>(dialog(), name).GetValue();
+    };
+    EXPECT_TRUE(ticked("chkIniFile"));
+    for (const auto* const name : {"ChkRoboDir", "chkJBR", "chkHeadder"})
+        EXPECT_FALSE(ticked(name)) << name;
+}
+
+TEST_P(SettingOptionPageTest, TheOtherThreeAreOnWithoutIt) {
+    state.JBR = state.Headder = true;
+    const auto ticked = [this](const char* name) {
+        return control<wxCheckBox>(dialog(), name).GetValue();
+    };
+    EXPECT_FALSE(ticked("chkIniFile"));
+    for (const auto* const name : {"ChkRoboDir", "chkJBR", "chkHeadder"})
+        EXPECT_TRUE(ticked(name)) << name;
 }
 
 TEST_P(SettingOptionPageTest, AModelThatIsNoneOfTheSixShowsNone) {

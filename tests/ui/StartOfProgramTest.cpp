@@ -43,6 +43,55 @@ TEST_F(StartOfProgramTest, WithoutAnyLanguageFileItTellsSoAndEnds) {
     EXPECT_FALSE(folder.has("robot.ini"));
 }
 
+TEST_F(StartOfProgramTest, TheExitSwitchReadsShowsAndWritesNothing) {
+    for (const char* name :
+         {"English.lng", "Japanese.lng", "System.lng", "Vantrel.ini", "robot.ini"})
+        remove(name);
+    for (const char* argument : {"/EXIT", "jobs/EXITNOW"}) {
+        EXPECT_EQ(startProgram({"first", argument}), StartResult::ExitSwitch) << argument;
+        EXPECT_FALSE(program->mainWindow());
+    }
+    EXPECT_FALSE(folder.has("Vantrel.ini"));
+    EXPECT_FALSE(folder.has("robot.ini"));
+}
+
+TEST_F(StartOfProgramTest, AnotherLetterCaseOfTheExitSwitchStartsTheProgram) {
+    answerDirectoryQuestion(false);
+    EXPECT_EQ(startProgram({"/exit"}), StartResult::Running);
+    EXPECT_TRUE(program->mainWindow());
+}
+
+TEST_F(StartOfProgramTest, AnAutomationStartShowsNoWindowAndWritesNothing) {
+    const std::string settingsBefore = folder.read("Vantrel.ini");
+    remove("robot.ini");
+    for (const char* argument : {"-Embedding", "/automation"}) {
+        EXPECT_EQ(startProgram({argument}), StartResult::Automation) << argument;
+        EXPECT_FALSE(program->mainWindow());
+        for (wxWindow* const window : wxTopLevelWindows)
+            EXPECT_FALSE(window->IsShown()) << window->GetName();
+    }
+    EXPECT_EQ(folder.read("Vantrel.ini"), settingsBefore);
+    EXPECT_FALSE(folder.has("robot.ini"));
+}
+
+TEST_F(StartOfProgramTest, ARenamedExecutableReadsAndWritesItsOwnSettings) {
+    const std::string others = folder.read("Vantrel.ini");
+    folder.write("tool.ini", "[Vantrel]\r\nPath=" + folder.path("robot") +
+                                 "\r\nPort=9\r\n[Language Info]\r\nLanguage=Japanese\r\n"
+                                 "LangSelect=0\r\n");
+    answerDirectoryQuestion(false);
+    ASSERT_EQ(startProgram({}, "tool"), StartResult::Running);
+    runEvents();
+    EXPECT_EQ(controls().trvFolderName->GetToolTipText(), folder.path("robot"));
+    menu({Menu::mnuModeHiSpeed, 0});
+    modal.answer([](wxDialog&) { return wxID_OK; });
+    menu({Menu::mnuEnd, 0});
+    ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
+    EXPECT_NE(folder.read("tool.ini").find("Port=9\r\n"), std::string::npos);
+    EXPECT_NE(folder.read("tool.ini").find("TransMode=16\r\n"), std::string::npos);
+    EXPECT_EQ(folder.read("Vantrel.ini"), others);
+}
+
 TEST_F(StartOfProgramTest, TheFirstStartAsksForTheLanguageAndMakesItsFiles) {
     remove("Vantrel.ini");
     remove("robot.ini");

@@ -5,6 +5,7 @@
 #include "platform/Files.h"
 #include "support/Choices.h"
 #include "support/ModalScript.h"
+#include "ui/dialogs/WindowHolder.h"
 
 #include <gmock/gmock.h>
 #include <wx/fontdlg.h>
@@ -48,6 +49,17 @@ class frmLanguageTest : public DialogInLanguage {
     }();
     frmLanguage dialog{nullptr, draft, messages, world.state};
 };
+
+TEST_P(frmLanguageTest, HasTheCaptionsThatItWasDesignedWithWhereTheLanguageHasNone) {
+    const MessageTable foreign;
+    const WindowHolder<frmLanguage> other(new frmLanguage(nullptr, draft, foreign, world.state));
+    EXPECT_EQ(other->GetTitle(), "Select Language");
+    EXPECT_EQ(labelOf(*other, "Check1"), "Ignore language selection at program start");
+    EXPECT_EQ(labelOf(*other, "Command1"), "OK");
+    EXPECT_EQ(labelOf(*other, "Command2"), "Cancel");
+    EXPECT_EQ(labelOf(*other, "Command3"), "Edit");
+    EXPECT_EQ(labelOf(*other, "Command4"), "Font");
+}
 
 TEST_P(frmLanguageTest, ShowsTheLanguagesAndTheCurrentOne) {
     EXPECT_EQ(dialog.GetTitle().utf8_string(), messages.getMessage(340));

@@ -3,6 +3,8 @@
 #include "SettingWorld.h"
 
 #include <array>
+#include <functional>
+#include <utility>
 
 #include <gmock/gmock.h>
 #include <wx/notebook.h>
@@ -51,6 +53,83 @@ TEST_P(frmSettingTest, ShowsItsCaptionsAndCutsNoneOff) {
         }
         click(dialog(), "cmdCancel");
     });
+}
+
+// With a language file that knows none of the dialog's numbers.
+TEST_P(frmSettingTest, HasTheCaptionsThatItWasDesignedWithWhereTheLanguageHasNone) {
+    messages.replace({});
+    struct Designed {
+        const char* control;
+        const char* caption;
+    };
+    for (const auto& [name, caption] :
+         std::initializer_list<Designed>{{"frmRgstRbt", "登録リスト"},
+                                         {"cmdAdd0", "後挿入"},
+                                         {"cmdAdd1", "前挿入"},
+                                         {"cmdDel", "削除"},
+                                         {"frmSelRbt", "選択しているﾛﾎﾞｯﾄ"},
+                                         {"lblRbtName", "ﾛﾎﾞｯﾄ名"},
+                                         {"lblIPaddr", "IPｱﾄﾞﾚｽ"},
+                                         {"frmInitDir", "初期ﾃﾞｨﾚｸﾄﾘ"},
+                                         {"fraPort", "通信ポートの設定"},
+                                         {"FrmRbCtrl", "コントローラの設定"},
+                                         {"ChkRoboDir", "ﾛﾎﾞｯﾄの選択とPCﾃﾞｨﾚｸﾄﾘを同期表示させる"},
+                                         {"chkJBR", "関連ジョブとして受信する(&J)"},
+                                         {"chkHeadder", "ジョブヘッダも表示／印刷する(&H)"},
+                                         {"chkIniFile", "今回の設定値を保存しない(&I)"},
+                                         {"cmdRefresh", "更新"},
+                                         {"cmdOK", "OK"},
+                                         {"cmdCancel", "ｷｬﾝｾﾙ"}})
+        EXPECT_EQ(labelOf(dialog(), name), caption) << name;
+    EXPECT_NE(labelOf(dialog(), "cmdReturn"), "");
+    EXPECT_FALSE(dialog().GetTitle().empty());
+    for (std::size_t page = 0; page < pages().GetPageCount(); ++page)
+        EXPECT_FALSE(pages().GetPageText(page).empty()) << page;
+}
+
+TEST_P(frmSettingTest, EveryKindOfEditCanBeApplied) {
+    const auto typed = [this](const char* name, const char* text) {
+        return [this, name, text] { type(dialog(), name, text); };
+    };
+    const auto picked = [this](const char* name, int entry) {
+        return [this, name, entry] { pick(choice(name), entry); };
+    };
+    const auto ticked = [this](const char* name, bool on) {
+        return [this, name, on] { tick(dialog(), name, on); };
+    };
+    const auto clicked = [this](const char* name) {
+        return [this, name] { click(dialog(), name); };
+    };
+    const std::pair<const char*, std::function<void()>> edits[] = {
+        {"name", typed("txtRbtName", "LINE7")},
+        {"first part", typed("txtIP1", "10")},
+        {"second part", typed("txtIP2", "10")},
+        {"third part", typed("txtIP3", "10")},
+        {"fourth part", typed("txtIP4", "10")},
+        {"folder", picked("Drive1", 1)},
+        {"insert after", clicked("cmdAdd0")},
+        {"delete", clicked("cmdDel")},
+        {"insert before", clicked("cmdAdd1")},
+        {"port", [this] { swallows(box("txtPort"), WXK_UP); }},
+        {"rate", picked("cmbBaudrate", 0)},
+        {"parity", picked("cmbParity", 0)},
+        {"length", picked("cmbDataLen", 0)},
+        {"stop", picked("cmbStopBit", 2)},
+        {"defaults", clicked("cmdReturn")},
+        {"model", [this] { pick(control<wxRadioButton>(dialog(), "optCtrl1")); }},
+        {"folder of the robot", ticked("ChkRoboDir", false)},
+        {"related jobs", ticked("chkJBR", true)},
+        {"header", ticked("chkHeadder", true)},
+        {"not saved", ticked("chkIniFile", true)},
+    };
+    for (const auto& [name, edit] : edits) {
+        ASSERT_FALSE(canApply()) << "before " << name;
+        edit();
+        EXPECT_TRUE(canApply()) << name;
+        click(dialog(), "cmdRefresh");
+    }
+    EXPECT_EQ(taken.size(), std::size(edits));
+    EXPECT_THAT(boxes.texts(), IsEmpty());
 }
 
 class frmSettingFontTest : public frmSettingTest {

@@ -8,6 +8,7 @@
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "lang/SystemReasons.h"
 #include "platform/Files.h"
 #include "platform/ProfileFile.h"
 
@@ -92,7 +93,7 @@ void LanguageDraft::edit() const {
     if (!opened)
         services_.boxes.tell(bracketed(services_.state.LanguageName + ".lng") +
                                  services_.messages.getMessage(message::editorNotStarted) + ' ' +
-                                 opened.reason(),
+                                 reasonInLanguage(services_.messages, opened.reason()),
                              BoxIcon::Exclamation);
 }
 
@@ -101,7 +102,8 @@ bool LanguageDraft::confirm() {
     const auto read = services_.files.readInto(state.LanguageName, services_.messages);
     if (!read) {
         services_.boxes.tell(services_.messages.getMessage(message::languageFileNotRead) +
-                                 bracketed(state.LanguageName + ".lng") + ' ' + read.reason(),
+                                 bracketed(state.LanguageName + ".lng") + ' ' +
+                                 reasonInLanguage(services_.messages, read.reason()),
                              BoxIcon::Exclamation);
         return false;
     }

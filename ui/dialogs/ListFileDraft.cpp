@@ -3,9 +3,11 @@
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
 #include "base/Text.h"
+#include "lang/FormCaptions.h"
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "lang/SystemReasons.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
 #include "ui/dialogs/AnswerCaptions.h"
@@ -61,13 +63,11 @@ const std::string& ListFileDraft::folder() const {
 }
 
 std::string ListFileDraft::okCaption() const {
-    const std::string caption = messages_.getMessage(message::ok);
-    return caption.empty() ? "OK" : caption;
+    return formCaption(messages_, message::ok);
 }
 
 std::string ListFileDraft::cancelCaption() const {
-    const std::string caption = messages_.getMessage(message::cancel);
-    return caption.empty() ? answerCaption(messages_, Answer::Cancel) : caption;
+    return formCaption(messages_, message::cancel, answerCaption(messages_, Answer::Cancel));
 }
 
 bool ListFileDraft::canConfirm() const {
@@ -109,7 +109,8 @@ void ListFileDraft::tellWhyNotRead(const std::string& file) const {
         return;
     const std::string& reason = session_.systemReason();
     boxes_.tell(messages_.getMessage(message::listFileNotRead) + '[' + shownText(file) + "] " +
-                    (reason.empty() ? messages_.errorText(session_.ErrorCode()) : reason),
+                    (reason.empty() ? messages_.errorText(session_.ErrorCode())
+                                    : reasonInLanguage(messages_, reason)),
                 BoxIcon::Exclamation);
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/SettingDraft.h"
 #include "files/ControllerModels.h"
+#include "lang/FormCaptions.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "ui/dialogs/WxText.h"
@@ -49,7 +50,7 @@ SettingOptionPage::SettingOptionPage(wxWindow* parent, SettingDraft& draft,
 
 wxSizer* SettingOptionPage::buildModels(const MessageTable& messages) {
     auto* const frame = new wxStaticBoxSizer(
-        wxVERTICAL, this, toWx(messages.getMessage(message::controllerSettings)));
+        wxVERTICAL, this, toWx(formCaption(messages, message::controllerSettings)));
     auto* const box = frame->GetStaticBox();
     box->SetName("FrmRbCtrl");
     // Of a group one button is always on. Where the stored model is none of the six, this is it.
@@ -81,7 +82,7 @@ wxSizer* SettingOptionPage::buildOptions(const MessageTable& messages) {
     auto* const column = new wxBoxSizer(wxVERTICAL);
     for (const auto& [option, name, caption] : optionRows) {
         auto* const box =
-            new wxCheckBox(this, wxID_ANY, toWx(messages.getMessage(caption)), wxDefaultPosition,
+            new wxCheckBox(this, wxID_ANY, toWx(formCaption(messages, caption)), wxDefaultPosition,
                            wxDefaultSize, 0, wxDefaultValidator, name);
         box->SetValue(draft_.isOn(option));
         box->Bind(wxEVT_CHECKBOX, [this, option = option](wxCommandEvent& event) {

@@ -1,6 +1,7 @@
 #include "ui/dialogs/SettingPortPage.h"
 
 #include "app/SerialDraft.h"
+#include "lang/FormCaptions.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "ui/SystemLook.h"
@@ -48,21 +49,23 @@ SettingPortPage::SettingPortPage(wxWindow* parent, SerialDraft& serial,
                                  const MessageTable& messages)
     : wxPanel(parent, wxID_ANY), serial_(serial) {
     auto* const frame =
-        new wxStaticBoxSizer(wxVERTICAL, this, toWx(messages.getMessage(message::portSettings)));
+        new wxStaticBoxSizer(wxVERTICAL, this, toWx(formCaption(messages, message::portSettings)));
     auto* const box = frame->GetStaticBox();
     box->SetName("fraPort");
     const int border = FromDIP(gap);
     auto* const fields = new wxFlexGridSizer(2, wxSize(2 * border, border));
-    fields->Add(newLabel(box, messages.getMessage(message::port)), wxSizerFlags().CentreVertical());
+    fields->Add(newLabel(box, formCaption(messages, message::port)),
+                wxSizerFlags().CentreVertical());
     fields->Add(buildPort(box, messages), wxSizerFlags().Expand());
     for (std::size_t index = 0; index < listRows.size(); ++index) {
         const auto& [list, name, caption] = listRows[index];
-        fields->Add(newLabel(box, messages.getMessage(caption)), wxSizerFlags().CentreVertical());
+        fields->Add(newLabel(box, formCaption(messages, caption)), wxSizerFlags().CentreVertical());
         lists_[index] = {list, buildList(box, list, messages)};
         fields->Add(lists_[index].second, wxSizerFlags().Expand());
     }
     frame->Add(fields, wxSizerFlags().Border(wxALL, border));
-    cmdReturn_ = newCaptionButton(box, messages.getMessage(message::restoreDefaults), "cmdReturn");
+    cmdReturn_ =
+        newCaptionButton(box, formCaption(messages, message::restoreDefaults), "cmdReturn");
     frame->Add(cmdReturn_, wxSizerFlags().Border(wxALL, border));
 
     auto* const column = new wxBoxSizer(wxVERTICAL);
@@ -83,7 +86,7 @@ wxSizer* SettingPortPage::buildPort(wxWindow* box, const MessageTable& messages)
                                 wxSP_VERTICAL | wxSP_ARROW_KEYS, "udcPort");
     for (wxWindow* const control :
          {static_cast<wxWindow*>(txtPort_), static_cast<wxWindow*>(udcPort_)})
-        setAccessibleName(*control, toWx(messages.getMessage(message::port)));
+        setAccessibleName(*control, toWx(formCaption(messages, message::port)));
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     // The up-down may be taller than one line of text.
     row->Add(txtPort_, wxSizerFlags(1).CentreVertical());
@@ -97,7 +100,7 @@ wxChoice* SettingPortPage::buildList(wxWindow* box, SerialList list, const Messa
         entries.Add(toWx(std::string(entry)));
     auto* const choice = new wxChoice(box, wxID_ANY, wxDefaultPosition, wxDefaultSize, entries, 0,
                                       wxDefaultValidator, rowOf(list).name);
-    setAccessibleName(*choice, toWx(messages.getMessage(rowOf(list).caption)));
+    setAccessibleName(*choice, toWx(formCaption(messages, rowOf(list).caption)));
     return choice;
 }
 

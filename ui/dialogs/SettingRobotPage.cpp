@@ -2,6 +2,7 @@
 
 #include "app/RobotCheck.h"
 #include "app/RobotListDraft.h"
+#include "lang/FormCaptions.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/ShownText.h"
@@ -72,15 +73,15 @@ void SettingRobotPage::fitFields() {
 
 wxSizer* SettingRobotPage::buildList(const MessageTable& messages) {
     auto* const frame =
-        newFrame(this, messages.getMessage(message::registeredRobots), "frmRgstRbt");
+        newFrame(this, formCaption(messages, message::registeredRobots), "frmRgstRbt");
     auto* const box = frame->GetStaticBox();
     lstRgstRbt_ = new wxListBox(
         box, wxID_ANY, wxDefaultPosition, wxSize(listCharacters * GetCharWidth(), -1), 0, nullptr,
         wxLB_SINGLE | wxLB_NEEDED_SB | wxLB_HSCROLL, wxDefaultValidator, "lstRgstRbt");
-    setAccessibleName(*lstRgstRbt_, toWx(messages.getMessage(message::registeredRobots)));
-    cmdAdd_ = {newCaptionButton(box, messages.getMessage(message::insertAfter), "cmdAdd0"),
-               newCaptionButton(box, messages.getMessage(message::insertBefore), "cmdAdd1")};
-    cmdDel_ = newCaptionButton(box, messages.getMessage(message::deleteRobot), "cmdDel");
+    setAccessibleName(*lstRgstRbt_, toWx(formCaption(messages, message::registeredRobots)));
+    cmdAdd_ = {newCaptionButton(box, formCaption(messages, message::insertAfter), "cmdAdd0"),
+               newCaptionButton(box, formCaption(messages, message::insertBefore), "cmdAdd1")};
+    cmdDel_ = newCaptionButton(box, formCaption(messages, message::deleteRobot), "cmdDel");
     const int border = FromDIP(gap);
     frame->Add(lstRgstRbt_, wxSizerFlags(1).Expand().Border(wxALL, border));
     for (auto* const button : {cmdAdd_[0], cmdAdd_[1], cmdDel_})
@@ -89,12 +90,12 @@ wxSizer* SettingRobotPage::buildList(const MessageTable& messages) {
 }
 
 wxSizer* SettingRobotPage::buildRobot(const MessageTable& messages, FolderSources sources) {
-    auto* const frame = newFrame(this, messages.getMessage(message::selectedRobot), "frmSelRbt");
+    auto* const frame = newFrame(this, formCaption(messages, message::selectedRobot), "frmSelRbt");
     auto* const box = frame->GetStaticBox();
     const int border = FromDIP(gap);
     frame->Add(buildFields(box, messages), wxSizerFlags().Expand().Border(wxALL, border));
 
-    const std::string caption = messages.getMessage(message::initialFolder);
+    const std::string caption = formCaption(messages, message::initialFolder);
     auto* const folderFrame = newFrame(box, caption, "frmInitDir");
     folder_ = new FolderChoicePanel(folderFrame->GetStaticBox(), std::move(sources), caption);
     folderFrame->Add(folder_, wxSizerFlags(1).Expand().Border(wxALL, border));
@@ -104,7 +105,7 @@ wxSizer* SettingRobotPage::buildRobot(const MessageTable& messages, FolderSource
 
 wxSizer* SettingRobotPage::buildFields(wxWindow* box, const MessageTable& messages) {
     const auto label = [&](int text, const char* name) {
-        return new wxStaticText(box, wxID_ANY, toWx(messages.getMessage(text)), wxDefaultPosition,
+        return new wxStaticText(box, wxID_ANY, toWx(formCaption(messages, text)), wxDefaultPosition,
                                 wxDefaultSize, 0, name);
     };
     auto* const fields = new wxFlexGridSizer(2, FromDIP(wxSize(gap, gap)));
@@ -121,7 +122,7 @@ wxSizer* SettingRobotPage::buildFields(wxWindow* box, const MessageTable& messag
             address->Add(new wxStaticText(box, wxID_ANY, "."),
                          wxSizerFlags().Bottom().Border(wxLEFT | wxRIGHT, FromDIP(3)));
         txtIP_[part] = newBox(box, names[part]);
-        setAccessibleName(*txtIP_[part], toWx(messages.getMessage(message::settingsIPAddress) +
+        setAccessibleName(*txtIP_[part], toWx(formCaption(messages, message::settingsIPAddress) +
                                               " " + std::to_string(part + 1)));
         address->Add(txtIP_[part]);
     }

@@ -1,6 +1,7 @@
 #include "ui/dialogs/frmLanguage.h"
 
 #include "base/ApplicationState.h"
+#include "lang/FormCaptions.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "ui/IconSet.h"
@@ -11,7 +12,7 @@
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
 
-#include <array>
+#include <cstdint>
 #include <utility>
 
 #include <wx/button.h>
@@ -33,6 +34,16 @@ constexpr int listWidth = 220;
 constexpr int listHeight = 150;
 constexpr int pictureSize = 48;
 
+struct ButtonRow {
+    const char* name;
+    std::int32_t caption;
+    const char* designed;
+};
+constexpr ButtonRow buttonRows[] = {{"Command1", message::ok, "OK"},
+                                    {"Command2", message::cancel, "Cancel"},
+                                    {"Command3", message::editLanguageFile, "Edit"},
+                                    {"Command4", message::chooseFont, "Font"}};
+
 wxBitmapBundle bitmapOf(const std::string& iconPath) {
     if (!wxImage::FindHandler(wxBITMAP_TYPE_ICO))
         wxImage::AddHandler(new wxICOHandler);
@@ -52,7 +63,8 @@ wxBitmapBundle bitmapOf(const std::string& iconPath) {
 
 frmLanguage::frmLanguage(wxWindow* parent, LanguageDraft& draft, const MessageTable& messages,
                          const ApplicationState& state)
-    : wxDialog(parent, wxID_ANY, toWx(messages.getMessage(message::languageTitle)),
+    : wxDialog(parent, wxID_ANY,
+               toWx(formCaption(messages, message::languageTitle, "Select Language")),
                wxDefaultPosition, wxDefaultSize,
                wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER | (parent ? 0 : wxDIALOG_NO_PARENT),
                "frmLanguage"),
@@ -62,7 +74,9 @@ frmLanguage::frmLanguage(wxWindow* parent, LanguageDraft& draft, const MessageTa
     row->Add(buildChoice(), wxSizerFlags(1).Expand());
     row->Add(buildButtons(messages), wxSizerFlags().Expand().Border(wxLEFT, FromDIP(16)));
     auto* const Check1 =
-        new wxCheckBox(this, wxID_ANY, toWx(messages.getMessage(message::ignoreLanguageSelection)),
+        new wxCheckBox(this, wxID_ANY,
+                       toWx(formCaption(messages, message::ignoreLanguageSelection,
+                                        "Ignore language selection at program start")),
                        wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator, "Check1");
     Check1->SetValue(draft.ignoreAtStart());
     auto* const column = new wxBoxSizer(wxVERTICAL);
@@ -95,14 +109,9 @@ wxSizer* frmLanguage::buildButtons(const MessageTable& messages) {
     Picture1_ = new wxStaticBitmap(this, wxID_ANY, wxBitmapBundle(), wxDefaultPosition,
                                    FromDIP(wxSize(pictureSize, pictureSize)), 0, "Picture1");
     Picture1_->SetMinSize(FromDIP(wxSize(pictureSize, pictureSize)));
-    const std::array<std::pair<int, const char*>, 4> buttons{
-        {{message::ok, "Command1"},
-         {message::cancel, "Command2"},
-         {message::editLanguageFile, "Command3"},
-         {message::chooseFont, "Command4"}}};
     auto* const column = new wxBoxSizer(wxVERTICAL);
-    for (const auto& [caption, name] : buttons) {
-        auto* const button = newCaptionButton(this, messages.getMessage(caption), name);
+    for (const auto& [name, caption, designed] : buttonRows) {
+        auto* const button = newCaptionButton(this, formCaption(messages, caption, designed), name);
         column->Add(button, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(8)));
     }
     column->AddStretchSpacer();

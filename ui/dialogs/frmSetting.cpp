@@ -2,6 +2,7 @@
 
 #include "app/SettingDraft.h"
 #include "base/ApplicationState.h"
+#include "lang/FormCaptions.h"
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -25,7 +26,7 @@
 namespace vantrel {
 
 frmSetting::frmSetting(wxWindow* parent, SettingDraft& draft, SettingWindowServices services)
-    : wxDialog(parent, wxID_ANY, toWx(services.messages.getMessage(message::settingsTitle)),
+    : wxDialog(parent, wxID_ANY, toWx(formCaption(services.messages, message::settingsTitle)),
                wxDefaultPosition, wxDefaultSize, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER,
                "frmSetting"),
       draft_(draft), services_(std::move(services)) {
@@ -52,7 +53,7 @@ frmSetting::frmSetting(wxWindow* parent, SettingDraft& draft, SettingWindowServi
 
 template <typename Page>
 Page* frmSetting::addPage(Page* page, int caption) {
-    SSTab1_->AddPage(page, toWx(services_.messages.getMessage(caption)));
+    SSTab1_->AddPage(page, toWx(formCaption(services_.messages, caption)));
     page->onEdited = [this] { refreshButtons(); };
     return page;
 }
@@ -70,10 +71,11 @@ void frmSetting::buildPages() {
 
 wxSizer* frmSetting::buildButtons() {
     const auto& messages = services_.messages;
-    auto* const cmdOK = newCaptionButton(this, messages.getMessage(message::ok), "cmdOK");
+    auto* const cmdOK = newCaptionButton(this, formCaption(messages, message::ok), "cmdOK");
     auto* const cmdCancel =
-        newCaptionButton(this, messages.getMessage(message::cancel), "cmdCancel");
-    cmdRefresh_ = newCaptionButton(this, messages.getMessage(message::applySettings), "cmdRefresh");
+        newCaptionButton(this, formCaption(messages, message::cancel), "cmdCancel");
+    cmdRefresh_ =
+        newCaptionButton(this, formCaption(messages, message::applySettings), "cmdRefresh");
     cmdOK->SetDefault();
     SetEscapeId(cmdCancel->GetId());
     auto* const row = new wxBoxSizer(wxHORIZONTAL);

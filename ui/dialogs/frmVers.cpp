@@ -1,6 +1,7 @@
 #include "ui/dialogs/frmVers.h"
 
 #include "base/ApplicationState.h"
+#include "lang/FormCaptions.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "ui/IconSet.h"
@@ -78,7 +79,7 @@ void frmVers::buildControls(const std::string& version) {
 void frmVers::applyCaptions() {
     SetTitle(toWx(withoutMnemonic(messages_.getMessage(message::menuAbout))));
     FindWindow("Label1")->SetLabel(toWx(messages_.getMessage(message::versionHeading)));
-    FindWindow("Command1")->SetLabel(toWx(messages_.getMessage(message::ok)));
+    FindWindow("Command1")->SetLabel(toWx(formCaption(messages_, message::ok)));
     applyCaptionFont(*this, state_);
     FindWindow("lblProduct")->SetFont(captionFont(state_).Scaled(productNameScale).Bold());
     fitToContents(*this);

@@ -1,0 +1,51 @@
+#include "lang/SystemReasons.h"
+
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
+namespace vantrel {
+namespace {
+
+struct KnownReason {
+    std::string_view words;
+    std::int32_t number;
+};
+
+/// English words of Linux, of Windows and of our own platform room.
+constexpr KnownReason knownReasons[] = {
+    {"No such file or directory", message::reasonMissing},
+    {"Not a directory", message::reasonMissing},
+    {"The system cannot find the file specified", message::reasonMissing},
+    {"The system cannot find the path specified", message::reasonMissing},
+    {"Permission denied", message::reasonDenied},
+    {"Operation not permitted", message::reasonDenied},
+    {"Access is denied", message::reasonDenied},
+    {"No space left on device", message::reasonFull},
+    {"Disk quota exceeded", message::reasonFull},
+    {"There is not enough space on the disk", message::reasonFull},
+    {"Read-only file system", message::reasonProtected},
+    {"The media is write protected", message::reasonProtected},
+    {"Device or resource busy", message::reasonInUse},
+    {"Text file busy", message::reasonInUse},
+    {"The process cannot access the file because it is being used by another process",
+     message::reasonInUse},
+    {"Is a directory", message::reasonNoFile},
+    {"Is a folder", message::reasonNoFile},
+    {"Not a regular file", message::reasonNoFile},
+};
+
+} // namespace
+
+std::string reasonInLanguage(const MessageTable& messages, const std::string& reason) {
+    const auto* const known = std::ranges::find(knownReasons, reason, &KnownReason::words);
+    if (known == std::end(knownReasons))
+        return reason;
+    const std::string text = messages.getMessage(known->number);
+    return text.empty() ? reason : text;
+}
+
+} // namespace vantrel
