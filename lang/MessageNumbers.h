@@ -71,6 +71,7 @@ inline constexpr std::int32_t sourceChanged = 67;           ///< after [name]
 inline constexpr std::int32_t sentNotShown = 68;            ///< then the names
 inline constexpr std::int32_t sentNotKnown = 69;            ///< then the names
 inline constexpr std::int32_t furtherNames = 70;            ///< with the number inserted
+inline constexpr std::int32_t readingDirectory = 93;        ///< of the controller, in progress
 
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;

@@ -29,17 +29,16 @@ void SessionProgress::end() {
     hide();
 }
 
-void SessionProgress::prepare(const std::string& message) {
-    if (!silent())
-        panel_.step(message, 0, 1, messages_.getMessage(message::waitingForController));
-}
-
-void SessionProgress::open(const std::string& message, bool cancelButton, bool bar) {
+void SessionProgress::prepare(const std::string& message, bool cancelButton, bool bar) {
     if (silent())
         return;
     panel_.showCancelButton(cancelButton);
     panel_.showBar(bar);
-    prepare(message);
+    panel_.step(message, 0, 1, messages_.getMessage(message::waitingForController));
+}
+
+void SessionProgress::open(const std::string& message, bool cancelButton, bool bar) {
+    prepare(message, cancelButton, bar);
     show(message);
 }
 
@@ -86,6 +85,10 @@ bool SessionProgress::isCancelledPassingOver(const std::string& name, std::int32
         return isCancelled();
     step(transferring(name), item, count);
     return isCancelledAfterYield();
+}
+
+std::string SessionProgress::readingDirectory() const {
+    return messages_.getMessage(message::readingDirectory);
 }
 
 std::string SessionProgress::transferring(const std::string& name) const {

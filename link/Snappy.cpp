@@ -44,11 +44,11 @@ struct Snappy::Parts {
     /// on the same link, record and directory.
     template <typename Work>
     bool operate(const Work& work);
-    /// The controller's names, for the questions of a send. Hides the progress, as every reading of
-    /// the directory does.
+    /// Reads the controller's names, and remembers what a reading that succeeded has shown. The
+    /// progress is shown meanwhile.
+    bool readNames(std::vector<std::string>& names);
+    /// The same for the questions of a send.
     bool readDirectory();
-    /// Reads it into `names` and remembers what a reading that succeeded has shown.
-    bool read(std::vector<std::string>& names);
     /// Works through the job list; `transfer` does one entry.
     bool transferList(const SessionProperties& properties, JobBatch::Transfer transfer);
     bool sendSingle(const std::string& file, const ReplaceConsent& consent);
@@ -210,16 +210,17 @@ bool Snappy::Parts::operate(const Work& work) {
 
 // Jobs.
 
-bool Snappy::Parts::read(std::vector<std::string>& names) {
+bool Snappy::Parts::readNames(std::vector<std::string>& names) {
+    progress.open(progress.readingDirectory(), true, false);
     const bool isRead = reader.read(names);
     if (isRead)
         reading = {reading.number + 1, names};
+    progress.hide();
     return isRead;
 }
 
 bool Snappy::Parts::readDirectory() {
-    const bool isRead = read(directory);
-    progress.hide();
+    const bool isRead = readNames(directory);
     directoryNames.assign(directory);
     return isRead;
 }
@@ -268,7 +269,7 @@ bool Snappy::Parts::transferList(const SessionProperties& properties, JobBatch::
 
 bool Snappy::ReadDirectory(std::vector<std::string>& list) {
     list.clear();
-    return parts_->operate([&] { return parts_->read(list); });
+    return parts_->operate([&] { return parts_->readNames(list); });
 }
 
 bool Snappy::JobDownLoad(const std::string& file, bool overwriteAll) {
@@ -281,7 +282,7 @@ bool Snappy::replaceJobs(const std::string& file, const std::vector<std::string>
 
 bool Snappy::JobDelete(const std::string& name) {
     return parts_->operate([&] {
-        parts_->progress.prepare(parts_->progress.deleting(name));
+        parts_->progress.prepare(parts_->progress.deleting(name), false, true);
         return parts_->deletion.remove(name);
     });
 }

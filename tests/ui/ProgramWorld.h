@@ -64,7 +64,8 @@ class ProgramWorld {
     }
 
     StartResult startProgram() {
-        program = std::make_unique<Composition>(folder.path("Vantrel"), std::vector<std::string>{});
+        program = std::make_unique<Composition>(folder.path("Vantrel"), std::vector<std::string>{},
+                                                library);
         return program->start();
     }
     /// The next dialog asks whether to read the controller's directory.
@@ -138,6 +139,7 @@ class ProgramWorld {
     CurrentFolderKept currentFolder;
     TemporaryFolder folder;
     ModalScript modal;
+    Zurolink* library = nullptr; ///< in place of the simulator
     std::unique_ptr<Composition> program;
 };
 
