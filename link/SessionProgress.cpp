@@ -25,21 +25,20 @@ void SessionProgress::begin() {
 }
 
 void SessionProgress::end() {
-    panel_.keepPress(false);
     hide();
+    panel_.keepPress(false);
 }
 
-void SessionProgress::prepare(const std::string& message) {
-    if (!silent())
-        panel_.step(message, 0, 1, messages_.getMessage(message::waitingForController));
-}
-
-void SessionProgress::open(const std::string& message, bool cancelButton, bool bar) {
+void SessionProgress::prepare(const std::string& message, bool cancelButton, bool bar) {
     if (silent())
         return;
     panel_.showCancelButton(cancelButton);
     panel_.showBar(bar);
-    prepare(message);
+    panel_.step(message, 0, 1, messages_.getMessage(message::waitingForController));
+}
+
+void SessionProgress::open(const std::string& message, bool cancelButton, bool bar) {
+    prepare(message, cancelButton, bar);
     show(message);
 }
 
@@ -60,6 +59,9 @@ void SessionProgress::step(const std::string& message, std::int32_t item, std::i
 }
 
 void SessionProgress::hide() {
+    // The next message clears the mark of the window.
+    if (panel_.isVisible())
+        isCancelled();
     if (shown_ || !silent())
         panel_.hide();
     shown_ = false;
@@ -97,6 +99,10 @@ bool SessionProgress::isCancelledReading(std::int32_t entries) {
     if (panel_.isVisible() && !silent() && entries % yieldingOnes == 0)
         panel_.yield();
     return isCancelledInView();
+}
+
+std::string SessionProgress::readingDirectory() const {
+    return messages_.getMessage(message::readingDirectory);
 }
 
 std::string SessionProgress::transferring(const std::string& name) const {

@@ -28,7 +28,7 @@ class SessionProgress {
     void end();
 
     /// Text, bar and second label for work on a single thing, shown with the next message.
-    void prepare(const std::string& message);
+    void prepare(const std::string& message, bool cancelButton, bool bar);
     void open(const std::string& message, bool cancelButton, bool bar);
     void show(const std::string& message);
     /// Text, bar and second label for entry `item` (counted from 0) of `count`; nothing yields.
@@ -49,6 +49,8 @@ class SessionProgress {
     /// events run before.
     bool isCancelledReading(std::int32_t entries);
 
+    /// What is done while the controller's directory is read.
+    std::string readingDirectory() const;
     /// "Transferring " and "Deleting " with a name; without one they stand alone.
     std::string transferring(const std::string& name = {}) const;
     std::string deleting(const std::string& name) const;

@@ -50,11 +50,12 @@ struct Snappy::Parts {
     /// on the same link, record and directory.
     template <typename Work>
     bool operate(const Work& work, FolderUse use = FolderUse::Files);
-    /// The controller's names, for the questions of a send. Hides the progress, as every reading of
-    /// the directory does. False, too, when Cancel was pressed meanwhile: nothing is sent then.
+    /// Reads the controller's names, and remembers what a reading that succeeded has shown. The
+    /// progress is shown meanwhile, and a press of its Cancel noted.
+    bool readNames(std::vector<std::string>& names);
+    /// The same for the questions of a send. False, too, when Cancel was pressed: nothing is sent
+    /// then.
     bool readDirectory();
-    /// Reads it into `names` and remembers what a reading that succeeded has shown.
-    bool read(std::vector<std::string>& names);
     /// Works through the job list; `transfer` does one entry.
     bool transferList(const SessionProperties& properties, JobBatch::Transfer transfer);
     bool sendSingle(const std::string& file, const ReplaceConsent& consent);
@@ -225,21 +226,21 @@ bool Snappy::Parts::operate(const Work& work, FolderUse use) {
 
 // Jobs.
 
-bool Snappy::Parts::read(std::vector<std::string>& names) {
+bool Snappy::Parts::readNames(std::vector<std::string>& names) {
     const bool isSerial = services.TransMode == TransferMode::Bsc;
     const SessionProperties& with = tools.properties;
     const std::string robot = isSerial ? "COM" + std::to_string(with.port) : with.IPaddress;
+    progress.open(progress.readingDirectory(), true, false);
     const bool isRead = reader.read(names);
     if (isRead)
         reading = {reading.number + 1, names, robot};
+    progress.hide();
     return isRead;
 }
 
 bool Snappy::Parts::readDirectory() {
-    const bool isRead = read(directory);
-    // The next message of the progress clears its mark.
+    const bool isRead = readNames(directory);
     const bool cancelled = progress.isCancelledInView();
-    progress.hide();
     directoryNames.assign(directory);
     if (isRead && cancelled)
         error.set(session_code::cancelled, "", 0);
@@ -290,7 +291,7 @@ bool Snappy::Parts::transferList(const SessionProperties& properties, JobBatch::
 
 bool Snappy::ReadDirectory(std::vector<std::string>& list) {
     list.clear();
-    return parts_->operate([&] { return parts_->read(list); }, Parts::FolderUse::None);
+    return parts_->operate([&] { return parts_->readNames(list); }, Parts::FolderUse::None);
 }
 
 bool Snappy::JobDownLoad(const std::string& file, bool overwriteAll) {
@@ -304,7 +305,7 @@ bool Snappy::replaceJobs(const std::string& file, const std::vector<std::string>
 bool Snappy::JobDelete(const std::string& name) {
     return parts_->operate(
         [&] {
-            parts_->progress.prepare(parts_->progress.deleting(name));
+            parts_->progress.prepare(parts_->progress.deleting(name), false, true);
             return parts_->deletion.remove(name);
         },
         Parts::FolderUse::None);

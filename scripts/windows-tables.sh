@@ -3,7 +3,8 @@
 #   scripts/windows-tables.sh BUILD
 # Program and stand-in library may need libraries of the system only and start from Windows 7 on, and
 # the library has to export its functions under their plain names, and nothing else. In 32 bits each of
-# them also has to clean exactly its arguments from the stack.
+# them also has to clean exactly its arguments from the stack. The program has to keep the
+# system from taking a blocking call for its end.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$1
@@ -41,5 +42,8 @@ difference=$(diff <(wanted) <(exports "$build/simulator/Zurolink.dll")) ||
 if "$dump" -f "$build/simulator/Zurolink.dll" | grep -q pei-i386; then
     scripts/standard-calls.py "$build/simulator/Zurolink.dll" || failed=1
 fi
+# A library call may block for long, and a program in the middle of a transfer must not be ended.
+"$dump" -p "$build/ui/Vantrel.exe" | grep -w DisableProcessWindowsGhosting >/dev/null ||
+    fail "the system will offer to end Vantrel.exe while a call of the library blocks"
 [ "$failed" -eq 0 ] && echo "Import and export tables of $build are as they should be."
 exit "$failed"

@@ -21,16 +21,22 @@
 
 namespace vantrel {
 
-Composition::Composition(std::string executable, std::span<const std::string> arguments)
+Composition::Composition(std::string executable, std::span<const std::string> arguments,
+                         Zurolink* library)
     : executable_(std::move(executable)), programFolder_(PathRules().parent(executable_)),
       commandLine_(readCommandLine(arguments)), languages_(programFolder_), boxes_(messages_),
       printer_(messages_), questions_(messages_, state_), dialog_(progress_, questions_, boxes_),
       languageChoice_(state_, messages_, languages_, boxes_, localeLanguageName()),
       settings_(programFolder_, settingsFileName(executable_)),
       registry_(state_, messages_, boxes_, programFolder_),
-      library_(programFolder_, [this](const LibraryProblem& problem) { reportLibrary(problem); }) {
+      library_(programFolder_, [this](const LibraryProblem& problem) { reportLibrary(problem); }),
+      gate_(library ? *library : library_, [this] { bringScreenUpToDate(); }) {
     // Until the start is over, what the operator does to the windows being built is refused.
     guard_.lock();
+    guard_.onBegun = [this] {
+        if (progressWindow_)
+            progressWindow_->beginCommand();
+    };
 }
 
 // A window that is still there shows rows and a text that the commands hold; at once, since a
@@ -72,9 +78,9 @@ void Composition::setHelpFile(const std::string& path) {
 }
 
 Snappy& Composition::createSession() {
-    progressWindow_.reset(new frmMsgStat(progress_, messages_, state_, [this] { guard_.yield(); }));
+    progressWindow_.reset(new frmMsgStat(progress_, messages_, state_, [this] { yield(); }));
     session_ = std::make_unique<Snappy>(SessionServices{
-        .library = library_,
+        .library = gate_,
         .TransMode = state_.TransMode,
         .messages = messages_,
         .languages = languages_,
@@ -106,7 +112,7 @@ void Composition::showLanguageDialog() {
 
 void Composition::showStartMessage() {
     startMessage_.reset(new FrmMessage("", messages_, state_));
-    startMessage_->showPainted([this] { guard_.yield(); });
+    startMessage_->showPainted([this] { yield(); });
 }
 
 void Composition::unloadStartMessage() {
@@ -244,9 +250,10 @@ void Composition::bringVersionWindowForward() {
 }
 
 /// A dialog behind the version window of the start could not be answered, nor could the version
-/// window be closed then.
+/// window be closed then. One that is only loaded has still to come.
 void Composition::closeVersionWindowFor(wxDialog& dialog) {
-    if (versionWindow_ && versionWindow_.get() != &dialog && !versionWindow_->IsModal())
+    if (versionWindow_ && versionWindow_.get() != &dialog && versionWindow_->IsShown() &&
+        !versionWindow_->IsModal())
         versionWindow_.unload();
 }
 
@@ -262,6 +269,16 @@ void Composition::changeLanguage() {
 void Composition::showSimulationNotice() {
     if (library_.simulation())
         window_->showNotice(messages_.getMessage(message::simulationNotice));
+}
+
+void Composition::yield() {
+    guard_.yield();
+    bringScreenUpToDate();
+}
+
+void Composition::bringScreenUpToDate() {
+    const OperationLock lock(guard_);
+    screen_.bringUpToDate();
 }
 
 void Composition::reportLibrary(const LibraryProblem& problem) {

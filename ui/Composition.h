@@ -23,8 +23,10 @@
 #include "link/ProgressPanel.h"
 #include "link/Snappy.h"
 #include "link/ZurolinkBinding.h"
+#include "link/ZurolinkGate.h"
 #include "ui/ListFileDialogs.h"
 #include "ui/OperationGuard.h"
+#include "ui/ScreenPaint.h"
 #include "ui/WxFilePrinter.h"
 #include "ui/dialogs/FrmMessage.h"
 #include "ui/dialogs/ModalWatch.h"
@@ -48,8 +50,10 @@ class frmZuroVant;
 /// hands out references. It holds no rule.
 class Composition : private StartWindows, private ShutdownWindows, private RobotSelectionWindow {
   public:
-    /// `executable` is absolute; `arguments` are those after the program's own name.
-    Composition(std::string executable, std::span<const std::string> arguments);
+    /// `executable` is absolute; `arguments` are those after the program's own name. `library`
+    /// takes the place of the one in the program's folder, if it is given.
+    Composition(std::string executable, std::span<const std::string> arguments,
+                Zurolink* library = nullptr);
     ~Composition() override;
     Composition(const Composition&) = delete;
     Composition& operator=(const Composition&) = delete;
@@ -112,6 +116,8 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
     void closeVersionWindowFor(wxDialog& dialog);
     void changeLanguage();
     void showSimulationNotice();
+    void yield();
+    void bringScreenUpToDate();
     void reportLibrary(const LibraryProblem& problem);
 
     std::string executable_;
@@ -120,6 +126,7 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
 
     ApplicationState state_;
     OperationGuard guard_;
+    ScreenPaint screen_;
     MessageTable messages_;
     LanguageFiles languages_;
     WxMessageBoxes boxes_;
@@ -132,6 +139,7 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
     RobotRegistry registry_;
     TransferTable table_;
     ZurolinkBinding library_;
+    ZurolinkGate gate_;
     std::unique_ptr<Snappy> session_;
 
     WindowHolder<frmMsgStat> progressWindow_;

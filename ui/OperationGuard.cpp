@@ -39,6 +39,11 @@ OperationGuard::~OperationGuard() {
     wxEvtHandler::RemoveFilter(this);
 }
 
+void OperationGuard::lock() {
+    if (depth_++ == 0 && onBegun)
+        onBegun();
+}
+
 void OperationGuard::unlock() {
     if (depth_ > 0)
         --depth_;

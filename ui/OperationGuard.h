@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <wx/event.h>
 #include <wx/eventfilter.h>
 
@@ -21,9 +23,12 @@ class OperationGuard : public wxEventFilter {
     void guard(wxWindow* window) { guarded_ = window; }
 
     /// Calls nest.
-    void lock() { ++depth_; }
+    void lock();
     void unlock();
     bool isLocked() const { return depth_ > 0; }
+
+    /// Called when the first of nested locks is set: an operation begins.
+    std::function<void()> onBegun;
 
     /// Lets pending events run once, locked; does nothing when called from within itself.
     void yield();

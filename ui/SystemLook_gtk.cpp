@@ -33,6 +33,8 @@ void prepareSystem() {
 }
 
 void applySystemLook() {
+    // A button that fades to grey is still half black when a library call stops all painting.
+    g_object_set(gtk_settings_get_default(), "gtk-enable-animations", FALSE, nullptr);
     auto* provider = gtk_css_provider_new();
     gtk_css_provider_load_from_data(provider, denseControls, -1, nullptr);
     gtk_style_context_add_provider_for_screen(gdk_screen_get_default(),

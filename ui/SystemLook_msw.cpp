@@ -13,9 +13,13 @@
 
 namespace vantrel {
 
+// The system offers to end a program that has not asked for its events for some seconds, which no
+// library call does: it would be ended in the middle of a transfer.
+//
 // No library is ever taken from the current directory, which is an operator's folder at times, and
 // a drive without a medium is an error for us, not for a box of the system's.
 void prepareSystem() {
+    ::DisableProcessWindowsGhosting();
     ::SetDllDirectoryW(L"");
     ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
 }

@@ -27,6 +27,27 @@ TEST_F(DirectoryReaderTest, EntriesComeInTheControllersOrder) {
                          {"BscFindFirst(1, 255)", "BscFindNext(1, 255)", "BscFindNext(1, 255)"}));
 }
 
+TEST_F(DirectoryReaderTest, TheProgressStandsBeforeEveryCallAndIsHiddenAtTheEnd) {
+    world.messages.replace({{93, "reading directory", "reading directory"}});
+    world.controller().put("A.JBI", "");
+    world.library.onCall = [this](const std::string& function) {
+        const bool isShown = world.panel.isVisible() && !world.panel.barShown() &&
+                             world.panel.cancelButtonShown() &&
+                             world.panel.message() == "reading directory";
+        EXPECT_TRUE(isShown) << function;
+    };
+    // What an earlier operation has left is another picture.
+    world.panel.showBar(true);
+    world.panel.showCancelButton(false);
+    for (const char* failing : {"", "BscOpen", "BscFindFirst", "BscFindNext", "BscDisConnect"}) {
+        if (*failing)
+            world.library.disturb({.function = failing});
+        EXPECT_EQ(read(), !*failing) << failing;
+        EXPECT_FALSE(world.panel.isVisible()) << failing;
+        world.library.tolerateMisuse(); // a link that would not disconnect stays open
+    }
+}
+
 TEST_F(DirectoryReaderTest, AnEmptyDirectoryIsNoFailure) {
     EXPECT_TRUE(read());
     EXPECT_TRUE(list.empty());

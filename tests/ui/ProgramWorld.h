@@ -65,7 +65,7 @@ class ProgramWorld {
 
     StartResult startProgram(const std::vector<std::string>& arguments = {},
                              const std::string& name = "Vantrel") {
-        program = std::make_unique<Composition>(folder.path(name), arguments);
+        program = std::make_unique<Composition>(folder.path(name), arguments, library);
         return program->start();
     }
     /// The next dialog asks whether to read the controller's directory.
@@ -139,6 +139,7 @@ class ProgramWorld {
     CurrentFolderKept currentFolder;
     TemporaryFolder folder;
     ModalScript modal;
+    Zurolink* library = nullptr; ///< in place of the simulator
     std::unique_ptr<Composition> program;
 };
 

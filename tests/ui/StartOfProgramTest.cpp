@@ -1,5 +1,6 @@
 #include "ProgramWorld.h"
 #include "support/ReadOnlyFolder.h"
+#include "support/ScreenPicture.h"
 #include "ui/PathDisplay.h"
 
 #include <wx/menu.h>
@@ -9,6 +10,26 @@
 
 namespace vantrel::tests {
 namespace {
+
+/// Looks at the start message while the main window is built behind it.
+class StartMessageWatch : public wxEventFilter {
+  public:
+    StartMessageWatch() { wxEvtHandler::AddFilter(this); }
+    ~StartMessageWatch() override { wxEvtHandler::RemoveFilter(this); }
+
+    int windows = 0;         ///< to be seen then
+    std::size_t colours = 0; ///< of its text
+
+  private:
+    int FilterEvent(wxEvent& event) override {
+        wxWindow* const message = wxWindow::FindWindowByName("FrmMessage");
+        if (event.GetEventType() != wxEVT_CREATE || windows > 0 || !message || !message->IsShown())
+            return Event_Skip;
+        windows = windowsOnScreen();
+        colours = ScreenPicture(control<wxWindow>(*message, "lblMsg")).colours();
+        return Event_Skip;
+    }
+};
 
 /// The whole program from its start to its end, with whatever files are there.
 class StartOfProgramTest : public testing::Test, public ProgramWorld {
@@ -175,6 +196,17 @@ TEST_F(StartOfProgramTest, TheLanguageIsAskedForAtEveryStartThatIsToldTo) {
     EXPECT_EQ(startProgram(), StartResult::Running);
 }
 
+TEST_F(StartOfProgramTest, TheStartMessageStandsOnTheScreenWhileFilesAreReadAndIsGoneAfter) {
+    const StartMessageWatch watch;
+    modal.answer([](wxDialog&) {
+        EXPECT_EQ(wxWindow::FindWindowByName("FrmMessage"), nullptr);
+        return wxID_NO;
+    });
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    EXPECT_EQ(watch.windows, 1);
+    EXPECT_GT(watch.colours, 2u);
+}
+
 TEST_F(StartOfProgramTest, YesReadsTheDirectoryAndShowsTheVersion) {
     robotJob("X");
     answerDirectoryQuestion(true);
@@ -204,6 +236,8 @@ TEST_F(StartOfProgramTest, ADirectoryThatCannotBeReadIsToldAndTheProgramStarts) 
     ASSERT_EQ(startProgram(), StartResult::Running);
     EXPECT_EQ(count(1), "Controller: 0 items");
     EXPECT_EQ(pcList().GetItemCount(), 1);
+    ASSERT_TRUE(versionWindow()) << "the message has not taken it away";
+    EXPECT_TRUE(versionWindow()->IsShown());
     choose(*controls().lsvCtrl, {});
     menu({Menu::mnuRefresh, 0});
     EXPECT_EQ(count(1), "Controller: 1 items");

@@ -37,6 +37,22 @@ TEST_P(frmVersTest, ShowsNameAndVersion) {
     EXPECT_FALSE(window->IsShown());
 }
 
+TEST_P(frmVersTest, IsCentredAtEachLoad) {
+    const wxRect screen = wxGetClientDisplayRect();
+    const auto isCentred = [&] {
+        const wxRect place = window->GetRect();
+        return std::abs(place.x + place.width / 2 - screen.width / 2) < 40 &&
+               std::abs(place.y + place.height / 2 - screen.height / 2) < 40;
+    };
+    for (int load = 0; load < 2; ++load)
+        whileOpen([&] {
+            EXPECT_TRUE(waitFor(isCentred));
+            window->Move(10, 10);
+            EXPECT_TRUE(waitFor([&] { return window->GetPosition().x < 100; }));
+            click(*window, "Command1");
+        });
+}
+
 TEST_P(frmVersTest, IsLoadedHidden) {
     runEvents();
     EXPECT_FALSE(window->IsShown());

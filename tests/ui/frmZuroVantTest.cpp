@@ -4,7 +4,9 @@
 #include "app/SettingsFile.h"
 #include "app/WindowLayout.h"
 #include "lang/MessageNumbers.h"
+#include "support/ScreenPicture.h"
 #include "ui/FileListControl.h"
+#include "ui/IconSet.h"
 #include "ui/KeyedToolBar.h"
 #include "ui/OperationGuard.h"
 #include "ui/PathDisplay.h"
@@ -13,6 +15,7 @@
 #include <wx/choice.h>
 #include <wx/display.h>
 #include <wx/menu.h>
+#include <wx/statbmp.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 #include <wx/statusbr.h>
@@ -99,6 +102,42 @@ TEST_P(MainWindowTest, TheHighlightFollowsTheActiveSide) {
     window.showActiveSide(ActiveSide::Controller);
     EXPECT_FALSE(controls.pcHighlight->IsShown());
     EXPECT_TRUE(controls.controllerHighlight->IsShown());
+}
+
+TEST_P(MainWindowTest, EachShapeIsSeenInTheColourOfTheMode) {
+    constexpr std::uint32_t blue = 0x0000C0, green = 0x00C000;
+    for (const bool hispeed : {true, false}) {
+        window.showMode(
+            modeLook(hispeed ? TransferMode::HispeedLink : TransferMode::Bsc, messages));
+        for (const auto side : {ActiveSide::Controller, ActiveSide::PC}) {
+            window.showActiveSide(side);
+            paintInGoodTime();
+            const ScreenPicture shape(side == ActiveSide::PC ? *controls.pcHighlight
+                                                             : *controls.controllerHighlight);
+            EXPECT_EQ(shape.at(0, 0), hispeed ? green : blue);
+            EXPECT_EQ(shape.colours(), 1u);
+        }
+    }
+}
+
+TEST_P(MainWindowTest, TheArrowPointsAwayFromTheActiveSide) {
+    const auto pixels = [](const wxBitmap& picture) {
+        const wxImage image = picture.ConvertToImage();
+        const auto count = static_cast<std::size_t>(image.GetWidth() * image.GetHeight());
+        return std::string(reinterpret_cast<const char*>(image.GetData()), 3 * count) +
+               std::string(reinterpret_cast<const char*>(image.GetAlpha()), count);
+    };
+    const auto delivered = [&](const char* name) {
+        const wxSize size(32, 32);
+        return pixels(icon(name, size).GetBitmap(size));
+    };
+    ASSERT_NE(delivered("arrowToPC"), delivered("arrowToController"));
+    for (int round = 0; round < 2; ++round) {
+        window.showActiveSide(ActiveSide::Controller);
+        EXPECT_EQ(pixels(controls.pctDirectArrow->GetBitmap()), delivered("arrowToPC"));
+        window.showActiveSide(ActiveSide::PC);
+        EXPECT_EQ(pixels(controls.pctDirectArrow->GetBitmap()), delivered("arrowToController"));
+    }
 }
 
 TEST_P(MainWindowTest, StatesReachMenusAndButtons) {

@@ -67,9 +67,9 @@ void FrmMessage::buildControls(const std::string& body, const MessageTable& mess
 }
 
 void FrmMessage::showPainted(const std::function<void()>& yield) {
-    paint_.expect();
     Show();
-    FirstPaint::await(*this, paint_, yield);
+    // An event may take the window away.
+    yield();
 }
 
 } // namespace vantrel

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "ui/dialogs/FirstPaint.h"
-
 #include <functional>
 #include <string>
 
@@ -20,7 +18,7 @@ class FrmMessage : public wxDialog {
     FrmMessage(const std::string& body, const MessageTable& messages,
                const ApplicationState& state);
 
-    /// Shows the window and lets events run until it is painted; `yield` runs pending events once.
+    /// Shows the window; `yield` runs pending events once and then paints.
     void showPainted(const std::function<void()>& yield);
 
     /// The program ends with its main window, not with this one.
@@ -28,8 +26,6 @@ class FrmMessage : public wxDialog {
 
   private:
     void buildControls(const std::string& body, const MessageTable& messages);
-
-    FirstPaint paint_{*this};
 };
 
 } // namespace vantrel

@@ -8,7 +8,6 @@ set(DIALOG_SOURCES
     dialogs/DialogParent.cpp
     dialogs/DialogSize.cpp
     dialogs/FileNameList.cpp
-    dialogs/FirstPaint.cpp
     dialogs/FolderChoicePanel.cpp
     dialogs/FrmMessage.cpp
     dialogs/IconSet.cpp

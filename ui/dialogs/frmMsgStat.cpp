@@ -144,7 +144,11 @@ void frmMsgStat::showControls(const ProgressPanel& panel) {
     const int range = std::max(panel.count(), 1);
     if (pgbInf_->GetRange() != range)
         pgbInf_->SetRange(range);
-    pgbInf_->SetValue(std::clamp(panel.item(), 0, range));
+    const int item = std::clamp(panel.item(), 0, range);
+    // Some systems let a bar glide forward to its place, but go back to it at once.
+    if (pgbInf_->GetValue() < item)
+        pgbInf_->SetValue(std::min(item + 1, range));
+    pgbInf_->SetValue(item);
     pgbInf_->Show(panel.barShown());
     cmdCancel_->Show(panel.cancelButtonShown());
     cmdCancel_->Enable(!panel.isPressTaken());
@@ -159,14 +163,13 @@ void frmMsgStat::showOrHide(bool visible) {
     }
     if (!std::exchange(placed_, true))
         centreOverMainWindow(*this);
-    paint_.expect();
     ShowWithoutActivating();
 }
 
 void frmMsgStat::yield() {
     // An event may take the window away, and its members.
     const auto yield = yield_;
-    FirstPaint::await(*this, paint_, yield);
+    yield();
 }
 
 void frmMsgStat::unload() {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "link/ProgressPanel.h"
-#include "ui/dialogs/FirstPaint.h"
 
 #include <functional>
 
@@ -20,7 +19,8 @@ class MessageTable;
 /// top of all windows and never takes the focus.
 class frmMsgStat : public wxDialog, public ProgressView {
   public:
-    /// Loads the window hidden and attaches it to the panel. `yield` lets pending events run once.
+    /// Loads the window hidden and attaches it to the panel. `yield` lets pending events run once,
+    /// and then paints.
     frmMsgStat(ProgressPanel& panel, const MessageTable& messages, const ApplicationState& state,
                std::function<void()> yield);
     ~frmMsgStat() override;
@@ -31,6 +31,9 @@ class frmMsgStat : public wxDialog, public ProgressView {
 
     /// The window itself may go later, when the panel is no longer there.
     bool Destroy() override;
+
+    /// The next show is the first one of a command: the window is placed anew.
+    void beginCommand() { placed_ = false; }
 
     /// After a change of language or font: the texts and the font of the application state.
     void applyCaptions();
@@ -55,7 +58,6 @@ class frmMsgStat : public wxDialog, public ProgressView {
     wxGauge* pgbInf_ = nullptr;
     wxStaticText* lblWaiting_ = nullptr;
     wxButton* cmdCancel_ = nullptr;
-    FirstPaint paint_{*this};
     bool placed_ = false;
 };
 

@@ -94,6 +94,7 @@ void frmVers::openModal() {
     // Shown anew it comes to the front: modal and behind the main window, it would seem to block
     // the whole program.
     Hide();
+    CentreOnScreen();
     ShowModal();
 }
 
