@@ -25,7 +25,7 @@ FileCommandsOffered offeredByController(const CommandInput& input) {
 }
 
 FileCommandsOffered offeredByPC(const CommandInput& input) {
-    const bool transferable = input.focusedKind == FileKind::JobFile;
+    const bool transferable = input.selectedKind == FileKind::JobFile;
     return {.copy = transferable, .move = transferable, .remove = true};
 }
 
@@ -73,7 +73,7 @@ void setFileCommands(CommandStates& states, const CommandInput& input, bool cont
     // A press in `tlbFile` makes the controller pane the active one first.
     offer(states.tlbFile, offeredByController(input));
     // A click on a folder takes the deletion off the buttons and the pop-up menu.
-    if (!controller && input.focusedKind == FileKind::Folder) {
+    if (!controller && input.selectedKind == FileKind::Folder) {
         states.button("FileDelete").enabled = false;
         states.mnuRightFile[fileDelete].enabled = false;
     }

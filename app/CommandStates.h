@@ -20,8 +20,8 @@ struct CommandInput {
     bool hispeedAvailable = true;
     bool locked = false;      ///< an operation runs
     bool viewerShown = false; ///< the viewer stands in place of the controller pane
-    /// Of the item that has the focus in `lsvPC`; nothing when there is none or its name is empty.
-    std::optional<FileKind> focusedKind = {};
+    /// Of the selected item of `lsvPC`; nothing when there is none or its name is empty.
+    std::optional<FileKind> selectedKind = {};
     int controllerFilter = 0; ///< the chosen entry of `cmbCtrlFileType`
     bool JBR = false;
 };

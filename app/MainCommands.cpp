@@ -16,6 +16,7 @@
 #include "link/ShownText.h"
 #include "link/Snappy.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vantrel {
@@ -231,16 +232,27 @@ void MainCommands::edit(const std::string& path) {
 }
 
 void MainCommands::upFolder() {
-    activate(ActiveSide::PC);
+    workIn(ActiveSide::PC);
     const auto parent = PathRules().parent(with_.state.PCPath);
     if (parent != with_.state.PCPath)
         openPCFolder(parent, FolderTree::driveAndFolder(parent));
     updateStates();
 }
 
+/// Folders and files of no transferable kind may be among what is dropped: the command names them.
+bool MainCommands::canDrop(ActiveSide source) const {
+    const auto& rows = with_.panes.rows(source);
+    const auto selected = with_.window.list(source).selectedRows();
+    return std::ranges::any_of(selected, [&](std::size_t row) {
+        return source == ActiveSide::Controller || rows.kind(row) == FileKind::JobFile;
+    });
+}
+
 void MainCommands::drop(ActiveSide source) {
+    if (!canDrop(source))
+        return;
     activate(source);
-    if (with_.state.Active == source && currentStates().mnuFile[fileCopy].enabled)
+    if (with_.state.Active == source)
         mnuFile(fileCopy);
 }
 
@@ -258,6 +270,12 @@ void MainCommands::activate(ActiveSide side) {
     updateStates();
 }
 
+void MainCommands::workIn(ActiveSide side) {
+    activate(side);
+    if (!with_.state.Busy && with_.state.Active == side)
+        with_.window.list(side).focus();
+}
+
 void MainCommands::chooseFilter(ActiveSide side) {
     with_.panes.fill(side);
     updateStates();
@@ -265,6 +283,14 @@ void MainCommands::chooseFilter(ActiveSide side) {
 
 void MainCommands::updateStates() {
     with_.view.showStates(currentStates());
+}
+
+std::optional<FileKind> MainCommands::selectedKind() const {
+    const auto row = with_.window.list(ActiveSide::PC).selectedRow();
+    const auto& rows = with_.panes.rows(ActiveSide::PC);
+    if (!row || rows.name(*row).empty())
+        return std::nullopt;
+    return rows.kind(*row);
 }
 
 CommandStates MainCommands::currentStates() const {
@@ -279,7 +305,7 @@ CommandStates MainCommands::currentStates() const {
         .hispeedAvailable = hispeedAvailable(state),
         .locked = state.Busy,
         .viewerShown = state.ViewerShown,
-        .focusedKind = with_.view.focusedKind(),
+        .selectedKind = selectedKind(),
         .controllerFilter = with_.window.filterIndex(ActiveSide::Controller),
         .JBR = state.JBR,
     });

@@ -3,10 +3,12 @@
 #include "app/MainServices.h"
 #include "app/ViewerCommands.h"
 #include "base/ApplicationState.h"
+#include "files/FileKinds.h"
 #include "lang/Captions.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -48,13 +50,18 @@ class MainCommands {
     void openItem(ActiveSide side, std::size_t row);
     /// One folder up in the PC pane; a root stays.
     void upFolder();
-    /// The selection of `source` was dropped onto the other pane: copied, where a copy is offered.
+    /// Whether something in the selection of `source` could be copied to the other pane.
+    bool canDrop(ActiveSide source) const;
+    /// The selection of `source` was dropped onto the other pane: what can be copied is copied.
     void drop(ActiveSide source);
     void mnuEnd();
 
     /// Makes a pane the active one; the controller pane cannot be while the viewer stands in its
     /// place.
     void activate(ActiveSide side);
+    /// The same, and gives the pane's list the keyboard: the active pane is the one that keys act
+    /// on.
+    void workIn(ActiveSide side);
     /// Refills a pane after another entry of its filter box was chosen.
     void chooseFilter(ActiveSide side);
     /// Lists a folder in the PC pane and shows `tree` in place of the old folder tree; a failure is
@@ -73,6 +80,7 @@ class MainCommands {
     void edit(const std::string& path);
     void toggleViewer();
     CommandStates currentStates() const;
+    std::optional<FileKind> selectedKind() const;
     void sortAnew(ActiveSide side);
     void switchTo(TransferMode mode);
     void showMode();

@@ -1,12 +1,9 @@
 #pragma once
 
 #include "base/ApplicationState.h"
-#include "files/FileKinds.h"
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 
 namespace vantrel {
@@ -35,9 +32,6 @@ class MainWindowView {
     virtual void showView(ActiveSide side, std::int16_t displayType) = 0;
 
     virtual void selectAll(ActiveSide side) = 0;
-    /// Of the item that has the focus in `lsvPC`.
-    virtual std::optional<FileKind> focusedKind() const = 0;
-    virtual std::optional<std::size_t> focusedRow() const = 0;
     virtual void closeWindow() = 0;
 };
 

@@ -1,7 +1,6 @@
 #include "app/ViewerCommands.h"
 
 #include "app/FilePrinter.h"
-#include "app/MainWindowView.h"
 #include "app/ViewerPane.h"
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
@@ -15,7 +14,6 @@
 #include "link/OperatorDialog.h"
 #include "link/ShownText.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace vantrel {
@@ -68,18 +66,12 @@ void ViewerCommands::print() {
         tell(message::printFailed, name_, printed.reason());
 }
 
-/// The item with the focus, as long as it is selected, else the first selected one.
 std::optional<std::string> ViewerCommands::selectedJobFile() const {
-    const auto selected = with_.window.list(ActiveSide::PC).selectedRows();
-    if (selected.empty())
+    const auto row = with_.window.list(ActiveSide::PC).selectedRow();
+    const auto& rows = with_.panes.rows(ActiveSide::PC);
+    if (!row || *row >= rows.size() || rows.kind(*row) != FileKind::JobFile)
         return std::nullopt;
-    const auto focused = with_.view.focusedRow();
-    const bool isSelected = focused && std::ranges::find(selected, *focused) != selected.end();
-    const auto row = isSelected ? *focused : selected.front();
-    const auto& rows = std::as_const(with_.panes).rows(ActiveSide::PC);
-    if (row >= rows.size() || rows.kind(row) != FileKind::JobFile)
-        return std::nullopt;
-    return rows.name(row);
+    return rows.name(*row);
 }
 
 void ViewerCommands::tell(std::int32_t messageNumber, const std::string& name,

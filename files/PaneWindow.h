@@ -3,6 +3,7 @@
 #include "base/ApplicationState.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,9 @@ class PaneList {
     virtual void show(const PaneRows& rows) = 0;
     /// Positions of the selected rows, in list order.
     virtual std::vector<std::size_t> selectedRows() const = 0;
+    /// The row that is meant where only one can be: the one with the keyboard focus as long as it
+    /// is selected, else the first selected one.
+    virtual std::optional<std::size_t> selectedRow() const = 0;
     /// Selects these rows and no others, and focuses the first of them.
     virtual void select(const std::vector<std::size_t>& rows) = 0;
     virtual void focus() = 0;

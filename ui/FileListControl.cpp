@@ -249,8 +249,8 @@ void FileListControl::selectAll() {
     changed();
 }
 
-/// The commands are offered by the focused item: with a folder focused none of them would be,
-/// although all files are selected.
+/// The commands are offered by the selected item that has the focus: with a folder none of them
+/// would be, although all files are selected.
 void FileListControl::focusFirstFile() {
     for (std::size_t row = 0; rows_ && row < rows_->size(); ++row) {
         if (rows_->kind(row) == FileKind::Folder)
@@ -258,13 +258,6 @@ void FileListControl::focusFirstFile() {
         list_->SetItemState(long(row), wxLIST_STATE_FOCUSED, wxLIST_STATE_FOCUSED);
         return;
     }
-}
-
-std::optional<FileKind> FileListControl::focusedKind() const {
-    const long row = focusedRow();
-    if (!rows_ || row < 0 || std::size_t(row) >= rows_->size())
-        return {};
-    return rows_->kind(std::size_t(row));
 }
 
 void FileListControl::focus() {
@@ -275,9 +268,17 @@ std::size_t FileListControl::itemCount() const {
     return std::size_t(list_->GetItemCount());
 }
 
+/// The row that has the keyboard focus, or the first selected one, or -1.
 long FileListControl::focusedRow() const {
     const long focused = list_->GetFocusedItem();
     return focused != -1 && focused < list_->GetItemCount() ? focused : list_->GetFirstSelected();
+}
+
+std::optional<std::size_t> FileListControl::selectedRow() const {
+    const long focused = focusedRow();
+    const long row =
+        focused == -1 || list_->IsSelected(focused) ? focused : list_->GetFirstSelected();
+    return row == -1 ? std::nullopt : std::optional(std::size_t(row));
 }
 
 /// A change of 1,000 items raises 1,000 events; the listener hears of it once, when they are done.
@@ -292,10 +293,13 @@ void FileListControl::changed() {
     });
 }
 
-/// A press activates the pane also when its list has the focus already.
+/// A press activates the pane also when its list has the focus already. Not every press gives the
+/// list the focus, and a menu that closes gives it back to the list that had it, with the pane.
 void FileListControl::bindPresses(wxWindow& window) {
     for (const auto& press : {wxEVT_LEFT_DOWN, wxEVT_RIGHT_DOWN})
         window.Bind(press, [this](wxMouseEvent& event) {
+            if (!list_->HasFocus())
+                focus();
             if (onActivated)
                 onActivated();
             event.Skip();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "files/FileKinds.h"
 #include "files/PaneWindow.h"
 
 #include <array>
@@ -44,14 +43,11 @@ class FileListControl : public wxPanel, public PaneList {
 
     void show(const PaneRows& rows) override;
     std::vector<std::size_t> selectedRows() const override;
+    std::optional<std::size_t> selectedRow() const override;
     void select(const std::vector<std::size_t>& rows) override;
     void focus() override;
 
     std::size_t itemCount() const;
-    /// The row that has the keyboard focus, or the first selected one, or -1.
-    long focusedRow() const;
-    /// Of that row; nothing when there is none.
-    std::optional<FileKind> focusedKind() const;
     void selectAll();
     /// The native list, for what only it can do. It changes with the view.
     wxListView& native() { return *list_; }
@@ -81,6 +77,7 @@ class FileListControl : public wxPanel, public PaneList {
     void fillItems();
     bool showsRowsAlready() const;
     void focusFirstFile();
+    long focusedRow() const;
     wxPoint focusedItemPlace() const;
     void changed();
 

@@ -2,8 +2,10 @@
 
 #include "app/CommandStates.h"
 #include "lang/MessageTable.h"
+#include "ui/MenuBarEntry.h"
 #include "ui/dialogs/WxText.h"
 
+#include <algorithm>
 #include <span>
 
 #include <wx/frame.h>
@@ -54,7 +56,7 @@ const std::vector<Top>& barTable() {
          {{Menu::mnuSort, 0, "", wxITEM_CHECK},
           {Menu::mnuSort, 1, "", wxITEM_CHECK},
           {Menu::mnuSort, 2, "", wxITEM_CHECK}}},
-        {Menu::mnuRefresh, {{Menu::mnuRefresh, 0, "F5"}}},
+        {Menu::mnuRefresh, {}}, // a command, not a menu
         {Menu::mnuOptMain,
          {{Menu::mnuOpt, 0},
           {},
@@ -75,7 +77,7 @@ const std::vector<Line>& popUpTable() {
                                          {Menu::mnuRightFile, 2},
                                          {Menu::mnuRightFile, 3},
                                          {},
-                                         {Menu::mnuRightRefresh, 0}};
+                                         {Menu::mnuRightRefresh, 0, "F5"}};
     return table;
 }
 
@@ -125,6 +127,7 @@ MainMenus::MainMenus(wxFrame& window) : window_(window), bar_(new wxMenuBar) {
     buildBar();
     buildPopUp();
     window_.SetMenuBar(bar_);
+    buildCommands();
     window_.Bind(
         wxEVT_MENU,
         [this](wxCommandEvent& event) {
@@ -139,11 +142,24 @@ MainMenus::~MainMenus() = default;
 
 void MainMenus::buildBar() {
     for (const auto& top : barTable()) {
+        if (top.lines.empty())
+            continue;
         auto* menu = new wxMenu;
         appendLines(*menu, top.lines);
         bar_->Append(menu, noCaptionYet);
         tops_.push_back({{top.menu, 0}, menu});
     }
+}
+
+/// After the window has its bar, to which these are added.
+void MainMenus::buildCommands() {
+    const auto place = std::ranges::find(barTable(), Menu::mnuRefresh, &Top::menu);
+    refresh_ = std::make_unique<MenuBarEntry>(window_, int(place - barTable().begin()), [this] {
+        // As an entry of a menu is chosen, so that what refuses those refuses this one.
+        wxCommandEvent event(wxEVT_MENU, idOf({Menu::mnuRefresh, 0}));
+        event.SetEventObject(&window_);
+        window_.HandleWindowEvent(event);
+    });
 }
 
 void MainMenus::buildPopUp() {
@@ -170,6 +186,7 @@ void MainMenus::applyCaptions(const MessageTable& messages) {
     };
     for (std::size_t index = 0; index < tops_.size(); ++index)
         bar_->SetMenuLabel(index, caption(tops_[index].item));
+    refresh_->setCaption(caption({Menu::mnuRefresh, 0}));
     for (const auto& top : popUpSubMenus())
         if (auto* entry = find({top.menu, 0}))
             entry->SetItemLabel(caption({top.menu, 0}));
@@ -208,7 +225,6 @@ void MainMenus::applyStates(const CommandStates& states) {
     apply(Menu::mnuHelp, states.mnuHelp);
     const std::pair<Menu, CommandState> single[] = {{Menu::mnuModeHiSpeed, states.mnuModeHiSpeed},
                                                     {Menu::mnuModeBsc, states.mnuModeBsc},
-                                                    {Menu::mnuRefresh, states.mnuRefresh},
                                                     {Menu::mnuRightRefresh, states.mnuRightRefresh},
                                                     {Menu::mnuVer, states.mnuVer},
                                                     {Menu::mnuEnd, states.mnuEnd}};
@@ -216,6 +232,7 @@ void MainMenus::applyStates(const CommandStates& states) {
         setState({menu, 0}, state.enabled, state.checked);
     for (std::size_t index = 0; index < tops_.size(); ++index)
         bar_->EnableTop(index, states.unlocked);
+    refresh_->enable(states.unlocked && states.mnuRefresh.enabled);
 }
 
 void MainMenus::popUp(wxWindow& owner, const wxPoint& screenPosition) {

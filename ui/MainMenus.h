@@ -16,6 +16,7 @@ struct wxPoint;
 namespace vantrel {
 
 struct CommandStates;
+class MenuBarEntry;
 class MessageTable;
 
 /// The menu bar and the pane pop-up menu, built from one table, captions and states applied by the
@@ -44,6 +45,7 @@ class MainMenus {
     };
 
     void buildBar();
+    void buildCommands();
     void buildPopUp();
     void setState(MenuItem item, bool enabled, bool checked);
 
@@ -51,6 +53,7 @@ class MainMenus {
     wxMenuBar* bar_;
     std::unique_ptr<wxMenu> popUp_;
     std::vector<TopMenu> tops_;
+    std::unique_ptr<MenuBarEntry> refresh_; ///< `mnuRefresh`, a command among the menus
 };
 
 } // namespace vantrel

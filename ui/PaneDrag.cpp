@@ -70,7 +70,7 @@ void PaneDrag::whileDragging(ActiveSide source, const std::function<void()>& dra
 }
 
 bool PaneDrag::accepts(ActiveSide target) const {
-    return source_ && *source_ != target && !guard_.isLocked();
+    return source_ && *source_ != target && !guard_.isLocked() && canDrop && canDrop(*source_);
 }
 
 bool PaneDrag::drop(ActiveSide target) {

@@ -19,6 +19,8 @@ class PaneDrag {
     /// The panes are windows of their own whose children come and go; they outlive this object.
     PaneDrag(wxWindow& pcPane, wxWindow& controllerPane, const OperationGuard& guard);
 
+    /// Asks whether a drop of this pane's selection on the other one would do something.
+    std::function<bool(ActiveSide source)> canDrop;
     /// Called after the drop was answered, with the pane whose selection was dropped on the other.
     std::function<void(ActiveSide source)> onDropped;
 

@@ -110,6 +110,8 @@ void frmZuroVant::bindEvents() {
     Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
         if (event.GetKeyCode() == WXK_F1)
             chosen({Menu::mnuHelp, 0});
+        else if (event.GetKeyCode() == WXK_F5 && !event.HasAnyModifiers())
+            chosen({Menu::mnuRefresh, 0});
         else
             event.Skip();
     });
@@ -130,6 +132,7 @@ void frmZuroVant::bindEvents() {
         if (commands_)
             commands_->clickColumn(column);
     };
+    drag_.canDrop = [this](ActiveSide source) { return commands_ && commands_->canDrop(source); };
     drag_.onDropped = [this](ActiveSide source) {
         if (commands_)
             commands_->drop(source);
@@ -170,7 +173,7 @@ void frmZuroVant::bindPane(ActiveSide side) {
     });
     auto* frame = side == ActiveSide::PC ? controls_.fraPC.panel : controls_.fraCtrl.panel;
     frame->Bind(wxEVT_LEFT_DOWN, [this, side](wxMouseEvent& event) {
-        pane(side).focus();
+        workIn(side);
         event.Skip();
     });
 }
@@ -178,15 +181,27 @@ void frmZuroVant::bindPane(ActiveSide side) {
 void frmZuroVant::bindToolBars() {
     for (auto* bar : {controls_.tlbMain, controls_.tlbPC})
         bar->onPressed = [this](const std::string& key) { toolPressed(key); };
-    controls_.tlbPCButton->onPressed = [this](const std::string&) { pane(ActiveSide::PC).focus(); };
+    controls_.tlbPCButton->onPressed = [this](const std::string&) { workIn(ActiveSide::PC); };
     controls_.tlbCtrlButton->onPressed = [this](const std::string&) {
-        pane(ActiveSide::Controller).focus();
+        workIn(ActiveSide::Controller);
     };
     controls_.tlbFile->onPressed = [this](const std::string& key) {
-        if (commands_)
-            commands_->activate(ActiveSide::Controller);
+        workIn(ActiveSide::Controller);
         toolPressed(key);
     };
+}
+
+void frmZuroVant::workIn(ActiveSide side) {
+    if (commands_)
+        commands_->workIn(side);
+}
+
+/// A list that is locked may hand the keyboard on to the other one, which is not the active one for
+/// that; the keys would act on it all the same.
+void frmZuroVant::keepFocusInActivePane() {
+    const auto other = state_.Active == ActiveSide::PC ? ActiveSide::Controller : ActiveSide::PC;
+    if (!state_.Busy && pane(other).IsDescendant(FindFocus()))
+        pane(state_.Active).focus();
 }
 
 void frmZuroVant::toolPressed(const std::string& key) {
@@ -259,6 +274,9 @@ void frmZuroVant::setLocked(bool locked) {
     state_.Busy = guard_.isLocked();
     if (closesWhenUnlocked_ && !state_.Busy)
         CallAfter([this] { Close(true); });
+    // A command that works on a pane for a moment is over by then.
+    if (!state_.Busy)
+        CallAfter(&frmZuroVant::keepFocusInActivePane);
     if (commands_)
         commands_->updateStates();
 }
@@ -346,15 +364,6 @@ void frmZuroVant::showView(ActiveSide side, std::int16_t displayType) {
 
 void frmZuroVant::selectAll(ActiveSide side) {
     pane(side).selectAll();
-}
-
-std::optional<FileKind> frmZuroVant::focusedKind() const {
-    return pane(ActiveSide::PC).focusedKind();
-}
-
-std::optional<std::size_t> frmZuroVant::focusedRow() const {
-    const long row = pane(ActiveSide::PC).focusedRow();
-    return row < 0 ? std::nullopt : std::optional(std::size_t(row));
 }
 
 void frmZuroVant::showFile(const std::string& name, std::string_view text) {

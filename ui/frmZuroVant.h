@@ -10,7 +10,6 @@
 #include "ui/WindowPlace.h"
 
 #include <functional>
-#include <optional>
 #include <string>
 
 #include <wx/frame.h>
@@ -70,8 +69,6 @@ class frmZuroVant : public wxFrame,
     void showFolder(const std::string& path) override;
     void showView(ActiveSide side, std::int16_t displayType) override;
     void selectAll(ActiveSide side) override;
-    std::optional<FileKind> focusedKind() const override;
-    std::optional<std::size_t> focusedRow() const override;
     void closeWindow() override;
 
     void showFile(const std::string& name, std::string_view text) override;
@@ -98,6 +95,8 @@ class frmZuroVant : public wxFrame,
     void toolPressed(const std::string& key);
     void chosen(MenuItem item);
     void listKey(wxKeyEvent& event, ActiveSide side);
+    void workIn(ActiveSide side);
+    void keepFocusInActivePane();
     void lay();
 
     ApplicationState& state_;

@@ -116,6 +116,7 @@ class RecordingList final : public PaneList {
             names.push_back(rows.name(row));
     }
     std::vector<std::size_t> selectedRows() const override { return {}; }
+    std::optional<std::size_t> selectedRow() const override { return {}; }
     void select(const std::vector<std::size_t>&) override {}
     void focus() override {}
 };

@@ -13,7 +13,7 @@ constexpr CommandInput controllerInput{.active = ActiveSide::Controller};
 
 CommandInput onPC(std::optional<FileKind> kind) {
     CommandInput input = pcInput;
-    input.focusedKind = kind;
+    input.selectedKind = kind;
     return input;
 }
 
@@ -185,7 +185,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CommandStatesTest, ThePCsItemDoesNotDecideForTheController) {
     CommandInput input = controllerInput;
-    input.focusedKind = FileKind::Folder;
+    input.selectedKind = FileKind::Folder;
     EXPECT_EQ(fileMarks(commandStates(input).mnuRightFile), "CMD");
 }
 

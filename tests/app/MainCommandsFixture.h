@@ -11,7 +11,6 @@
 #include "files/CommandFixture.h"
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,8 +39,6 @@ class RecordingView : public MainWindowView {
         (side == ActiveSide::PC ? pcView : controllerView) = type;
     }
     void selectAll(ActiveSide side) override { selectedAll.push_back(side); }
-    std::optional<FileKind> focusedKind() const override { return kind; }
-    std::optional<std::size_t> focusedRow() const override { return row; }
     void closeWindow() override { ++closes; }
 
     std::vector<std::string> log;
@@ -53,8 +50,6 @@ class RecordingView : public MainWindowView {
     int pcView = -1;
     int controllerView = -1;
     std::vector<ActiveSide> selectedAll;
-    std::optional<FileKind> kind = FileKind::JobFile;
-    std::optional<std::size_t> row;
     int closes = 0;
 };
 

@@ -69,8 +69,10 @@ TEST_F(PaneCommandsTest, TheSortMenuKeepsTheDirection) {
 TEST_F(PaneCommandsTest, APressOnUpIsAPressInThePCPane) {
     showPanes();
     main.activate(ActiveSide::Controller);
+    const int focuses = window.pc.focuses;
     main.tool("UpFolder");
     EXPECT_EQ(state.Active, ActiveSide::PC);
+    EXPECT_EQ(window.pc.focuses, focuses + 1);
 }
 
 TEST_F(PaneCommandsTest, ADropOfThePCSelectionSendsIt) {
@@ -94,13 +96,67 @@ TEST_F(PaneCommandsTest, ADropOfTheControllersSelectionFetchesIt) {
     EXPECT_TRUE(robot().has("OLD.JBI"));
 }
 
-TEST_F(PaneCommandsTest, ADropIsACopyOnlyWhereACopyIsOffered) {
+TEST_F(PaneCommandsTest, ADropWithNothingToCopyIsNone) {
+    pc.makeFolder("FOLDER");
+    pc.write("NOTES.TXT", "x");
+    showPanes();
+    for (const auto& selection : std::vector<std::vector<std::string>>{
+             {}, {"FOLDER"}, {"NOTES.TXT"}, {"FOLDER", "NOTES.TXT"}}) {
+        window.pc.click(selection);
+        EXPECT_FALSE(main.canDrop(ActiveSide::PC));
+        main.drop(ActiveSide::PC);
+    }
+    window.controller.click({});
+    EXPECT_FALSE(main.canDrop(ActiveSide::Controller));
+    EXPECT_TRUE(library.calls().empty());
+    EXPECT_TRUE(boxes.texts().empty());
+}
+
+TEST_F(PaneCommandsTest, ADropOfAMixtureSendsWhatCanBeSentAndNamesTheRest) {
+    pc.makeFolder("FOLDER");
     pcJob("NEW");
     showPanes();
-    window.pc.click({"NEW.JBI"});
-    view.kind = FileKind::PlainFile;
+    window.pc.click({"FOLDER", "NEW.JBI"});
+    window.pc.focused = window.pc.selected.front();
+    ASSERT_TRUE(main.canDrop(ActiveSide::PC));
     main.drop(ActiveSide::PC);
-    EXPECT_FALSE(robot().has("NEW.JBI"));
+    EXPECT_TRUE(robot().has("NEW.JBI"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("[FOLDER] is a folder"));
+}
+
+TEST_F(PaneCommandsTest, CopyAndMoveFollowTheSelectionNotAFocusBesideIt) {
+    pc.makeFolder("FOLDER");
+    pcJob("NEW");
+    showPanes();
+    constexpr std::size_t folder = 0, job = 1;
+    const auto offered = [&](const char* name, std::size_t focused) {
+        window.pc.click({name});
+        window.pc.focused = focused;
+        main.updateStates();
+        const auto& copy = view.states.mnuFile[fileCopy];
+        EXPECT_EQ(copy, view.states.button("FileMove"));
+        return copy.enabled;
+    };
+    EXPECT_TRUE(offered("NEW.JBI", folder));
+    EXPECT_FALSE(offered("FOLDER", job));
+    EXPECT_FALSE(offered("nothing", job));
+    EXPECT_TRUE(offered("NEW.JBI", job));
+}
+
+TEST_F(PaneCommandsTest, WorkingInAPaneGivesItTheKeyboardThoughItIsTheActiveOne) {
+    main.workIn(ActiveSide::PC);
+    EXPECT_EQ(window.pc.focuses, 1);
+    main.workIn(ActiveSide::Controller);
+    EXPECT_EQ(state.Active, ActiveSide::Controller);
+    EXPECT_EQ(window.controller.focuses, 1);
+    state.Busy = true;
+    main.workIn(ActiveSide::PC);
+    EXPECT_EQ(state.Active, ActiveSide::Controller);
+    state.Busy = false;
+    state.ViewerShown = true;
+    state.Active = ActiveSide::PC;
+    main.workIn(ActiveSide::Controller);
+    EXPECT_EQ(window.controller.focuses, 1) << "the viewer covers it";
 }
 
 } // namespace

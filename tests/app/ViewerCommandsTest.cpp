@@ -100,13 +100,13 @@ TEST_F(ViewerCommandsTest, EveryJobKindIsShown) {
 
 TEST_F(ViewerCommandsTest, OfSeveralTheOneWithTheFocusIsShown) {
     window.pc.click({"A.JBI", "B.DAT"});
-    view.row = rowOfData;
+    window.pc.focused = rowOfData;
     press();
     EXPECT_EQ(viewer.name, "B.DAT");
 }
 
 TEST_F(ViewerCommandsTest, AFocusOutsideTheSelectionDoesNotCount) {
-    view.row = rowOfData;
+    window.pc.focused = rowOfData;
     press();
     EXPECT_EQ(viewer.name, "A.JBI");
 }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,13 @@ class FakePaneList : public PaneList {
         ++shows;
     }
     std::vector<std::size_t> selectedRows() const override { return selected; }
+    std::optional<std::size_t> selectedRow() const override {
+        if (selected.empty())
+            return std::nullopt;
+        const bool isSelected =
+            focused && std::find(selected.begin(), selected.end(), *focused) != selected.end();
+        return isSelected ? *focused : selected.front();
+    }
     void select(const std::vector<std::size_t>& rows) override { selected = rows; }
     void focus() override {
         ++focuses;
@@ -43,6 +51,7 @@ class FakePaneList : public PaneList {
 
     std::vector<std::string> names;
     std::vector<std::size_t> selected;
+    std::optional<std::size_t> focused; ///< the row with the keyboard focus
     int shows = 0;
     int focuses = 0;
     bool focusedWhileLocked = false;

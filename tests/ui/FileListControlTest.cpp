@@ -32,6 +32,20 @@ class FileListControlTest : public testing::TestWithParam<ListView> {
         runEvents();
     }
 
+    std::optional<FileKind> selectedKind() {
+        const auto row = list.selectedRow();
+        return row ? std::optional(world.rows.kind(*row)) : std::nullopt;
+    }
+    void focusRow(long row) {
+        list.native().SetItemState(row, wxLIST_STATE_FOCUSED, wxLIST_STATE_FOCUSED);
+    }
+    wxPoint placeOf(long row) {
+        wxRect item;
+        const int part = GetParam() == ListView::LargeIcons ? wxLIST_RECT_ICON : wxLIST_RECT_LABEL;
+        EXPECT_TRUE(list.native().GetItemRect(row, item, part));
+        return list.native().ClientToScreen(item.GetPosition() + item.GetSize() / 2);
+    }
+
     wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "lists");
     FileListControl& list = *new FileListControl(frame, "lsvPC");
     PaneWorld world{{"B.JBI", "A.JBI", "FOLDER/", "C.TXT"}};
@@ -59,8 +73,8 @@ TEST_P(FileListControlTest, KeepsItsRowsWhenItsAppearanceChanges) {
 
 TEST_P(FileListControlTest, SelectsTheFirstRowAfterAFill) {
     EXPECT_THAT(list.selectedRows(), ElementsAre(0u));
-    EXPECT_EQ(list.focusedRow(), 0);
-    EXPECT_EQ(list.focusedKind(), FileKind::Folder);
+    EXPECT_EQ(list.selectedRow(), 0u);
+    EXPECT_EQ(selectedKind(), FileKind::Folder);
 }
 
 TEST_P(FileListControlTest, ShowsNothingOfAnEmptyPane) {
@@ -68,7 +82,7 @@ TEST_P(FileListControlTest, ShowsNothingOfAnEmptyPane) {
     list.show(world.rows);
     EXPECT_EQ(list.itemCount(), 0u);
     EXPECT_TRUE(list.selectedRows().empty());
-    EXPECT_EQ(list.focusedKind(), std::nullopt);
+    EXPECT_EQ(list.selectedRow(), std::nullopt);
 }
 
 TEST_P(FileListControlTest, ShowsWhatChangedBetweenTwoFillsOfTheSameLength) {
@@ -79,22 +93,21 @@ TEST_P(FileListControlTest, ShowsWhatChangedBetweenTwoFillsOfTheSameLength) {
     // A file that has become a folder of the same name keeps its place.
     world.fill({"B.JBI", "A.JBI/"});
     list.show(world.rows);
-    EXPECT_EQ(list.focusedKind(), FileKind::Folder);
+    EXPECT_EQ(selectedKind(), FileKind::Folder);
     world.fill({"A.JBI", "B.JBI"});
     list.show(world.rows);
     wxListItem first;
     first.SetId(0);
     first.SetMask(wxLIST_MASK_IMAGE);
-    if (list.native().GetItem(first) && GetParam() != ListView::Details) {
-        constexpr int jobImage = 1;
-        EXPECT_EQ(first.GetImage(), jobImage);
-    }
+    ASSERT_TRUE(list.native().GetItem(first));
+    constexpr int jobImage = 1;
+    EXPECT_EQ(first.GetImage(), jobImage);
 }
 
 TEST_P(FileListControlTest, SelectsTheseRowsAndNoOthers) {
     list.select({1, 3});
     EXPECT_THAT(list.selectedRows(), ElementsAre(1u, 3u));
-    EXPECT_EQ(list.focusedKind(), FileKind::JobFile);
+    EXPECT_EQ(selectedKind(), FileKind::JobFile);
     list.select({2});
     EXPECT_THAT(list.selectedRows(), ElementsAre(2u));
 }
@@ -102,7 +115,53 @@ TEST_P(FileListControlTest, SelectsTheseRowsAndNoOthers) {
 TEST_P(FileListControlTest, SelectsAll) {
     list.selectAll();
     EXPECT_THAT(list.selectedRows(), ElementsAre(0u, 1u, 2u, 3u));
-    EXPECT_EQ(list.focusedKind(), FileKind::JobFile) << "the commands would be off";
+    EXPECT_EQ(selectedKind(), FileKind::JobFile) << "the commands would be off";
+}
+
+TEST_P(FileListControlTest, TheFocusedRowIsMeantOnlyAsLongAsItIsSelected) {
+    list.select({1, 3});
+    focusRow(3);
+    EXPECT_EQ(list.selectedRow(), 3u);
+    focusRow(2);
+    EXPECT_EQ(list.selectedRow(), 1u);
+    list.native().Select(1, false);
+    list.native().Select(3, false);
+    EXPECT_EQ(list.selectedRow(), std::nullopt) << "the focus alone selects nothing";
+}
+
+TEST_P(FileListControlTest, EveryRowHasThePictureOfItsKind) {
+    // Folder, job and plain file, as the list of pictures has them.
+    const int expected[] = {0, 1, 1, 2};
+    for (long row = 0; row < 4; ++row) {
+        wxListItem item;
+        item.SetId(row);
+        item.SetMask(wxLIST_MASK_IMAGE);
+        ASSERT_TRUE(list.native().GetItem(item));
+        EXPECT_EQ(item.GetImage(), expected[row]) << row;
+    }
+}
+
+TEST_P(FileListControlTest, ADragOfSeveralTakesThemAll) {
+    std::vector<std::size_t> dragged;
+    list.onDragBegun = [&] { dragged = list.selectedRows(); };
+    list.focus();
+    list.select({1, 2});
+    runEvents();
+    wxUIActionSimulator mouse;
+    const wxPoint from = placeOf(2);
+    mouse.MouseMove(from);
+    runEvents();
+    mouse.MouseDown();
+    runEvents();
+    for (int step = 1; step <= 10 && dragged.empty(); ++step) {
+        mouse.MouseMove(from + wxPoint(4 * step, 4 * step));
+        runEvents();
+    }
+    EXPECT_TRUE(waitFor([&] { return !dragged.empty(); }));
+    mouse.MouseUp();
+    EXPECT_THAT(dragged, ElementsAre(1u, 2u));
+    EXPECT_TRUE(waitFor([] { return !wxGetMouseState().LeftIsDown(); }));
+    runEvents();
 }
 
 TEST_P(FileListControlTest, ARightPressActivatesThePaneAndSelectsTheItemBeforeItsMenu) {

@@ -85,7 +85,7 @@ TEST_F(HelpInMainWindowTest, F1IsConsumed) {
     start(false);
     EXPECT_TRUE(swallows(window(), WXK_F1));
     EXPECT_TRUE(waitFor([this] { return opened() == openings(manual); })) << opened();
-    EXPECT_FALSE(swallows(window(), WXK_F5));
+    EXPECT_FALSE(swallows(window(), WXK_F6));
 }
 
 TEST_F(HelpInMainWindowTest, F1IsRefusedWhileAnOperationRuns) {

@@ -63,6 +63,12 @@ class SettingWorld : public DialogInLanguage {
         return waitFor([&] { return wxWindow::FindFocus() == &wanted; });
     }
 
+    /// The control or a part of it has the focus.
+    bool hasFocusIn(const std::string& name) {
+        auto& wanted = control<wxWindow>(dialog(), name);
+        return waitFor([&] { return wanted.IsDescendant(wxWindow::FindFocus()); });
+    }
+
     wxListBox& robots() { return control<wxListBox>(dialog(), "lstRgstRbt"); }
     std::vector<std::string> robotNames() {
         std::vector<std::string> names;

@@ -2,6 +2,7 @@
 
 #include "DialogTest.h"
 #include "LanguageWorld.h"
+#include "LateKeys.h"
 #include "platform/Files.h"
 #include "support/Choices.h"
 #include "support/ModalScript.h"
@@ -95,6 +96,23 @@ TEST_P(frmLanguageTest, ADoubleClickIsOK) {
         pick(list(), 1);
         pick(list(), 1, wxEVT_LISTBOX_DCLICK);
     });
+    EXPECT_EQ(world.messages.getMessage(1), "Japanese");
+}
+
+TEST_P(frmLanguageTest, EnterInTheListIsOKOnce) {
+    whileModal(dialog, [&] {
+        pick(list(), 0);
+        std::filesystem::remove(world.program.path("English.lng"));
+        list().SetFocus();
+        ASSERT_TRUE(waitFor([&] { return dialog.IsActive() && list().HasFocus(); }));
+        pressKeyAndWait(WXK_RETURN);
+        EXPECT_EQ(world.boxes.shown.size(), 1U);
+        EXPECT_TRUE(dialog.IsModal());
+        pick(list(), 1);
+        list().SetFocus();
+        pressKeyAndWait(WXK_RETURN);
+    });
+    EXPECT_EQ(world.boxes.shown.size(), 1U);
     EXPECT_EQ(world.messages.getMessage(1), "Japanese");
 }
 

@@ -1,6 +1,7 @@
 #include "ui/dialogs/frmListFile.h"
 
 #include "DialogTest.h"
+#include "LateKeys.h"
 #include "link/SessionWorld.h"
 #include "ui/dialogs/ListFileDraft.h"
 
@@ -111,12 +112,25 @@ TEST_P(frmListFileTest, TheKeyboardTypesANameAndConfirmsIt) {
 
 TEST_P(frmListFileTest, EnterWithoutANameDoesNothing) {
     whileModal(dialog, [&] {
-        wxCommandEvent enter(wxEVT_TEXT_ENTER, control<wxTextCtrl>(dialog, "txtFile").GetId());
-        control<wxTextCtrl>(dialog, "txtFile").HandleWindowEvent(enter);
-        EXPECT_TRUE(dialog.IsModal());
+        auto& text = control<wxTextCtrl>(dialog, "txtFile");
+        ASSERT_TRUE(waitFor([&] { return dialog.IsActive() && text.HasFocus(); }));
+        pressKeyAndWait(WXK_RETURN);
+        ASSERT_TRUE(dialog.IsModal());
         click(dialog, "cmdCancel");
     });
     EXPECT_TRUE(world.boxes.shown.empty());
+}
+
+TEST_P(frmListFileTest, EnterReadsAListOnce) {
+    whileModal(dialog, [&] {
+        auto& text = control<wxTextCtrl>(dialog, "txtFile");
+        type(dialog, "txtFile", "nowhere");
+        ASSERT_TRUE(waitFor([&] { return dialog.IsActive() && text.HasFocus(); }));
+        pressKey(WXK_RETURN);
+        waitFor([&] { return !dialog.IsModal(); });
+    });
+    outwaitToolkit();
+    EXPECT_EQ(world.boxes.shown.size(), 1U);
 }
 
 TEST_P(frmListFileTest, StartsWithTheLastListFileSelected) {

@@ -1,5 +1,6 @@
 #include "ui/dialogs/frmSetting.h"
 
+#include "LateKeys.h"
 #include "SettingWorld.h"
 
 #include <array>
@@ -181,24 +182,64 @@ TEST_P(frmSettingTest, EnterMovesTheFocusAndPressesNothing) {
         for (const auto& [from, to] : steps) {
             control<wxWindow>(dialog(), from).SetFocus();
             ASSERT_TRUE(waitFor([&] { return dialog().IsActive() && box(from).HasFocus(); }));
-            pressKey(WXK_RETURN);
+            pressKeyAndWait(WXK_RETURN);
             EXPECT_TRUE(hasFocus(to)) << from;
             ASSERT_TRUE(dialog().IsModal()) << from;
         }
-        robots().SetFocus();
-        ASSERT_TRUE(hasFocus("lstRgstRbt"));
-        pressKey(WXK_RETURN);
-        EXPECT_TRUE(hasFocus("txtRbtName"));
         pages().SetSelection(1);
         box("txtPort").SetFocus();
         ASSERT_TRUE(hasFocus("txtPort"));
-        tell(box("txtPort"), wxEVT_TEXT_ENTER);
+        pressKeyAndWait(WXK_RETURN);
         EXPECT_TRUE(hasFocus("cmbBaudrate"));
-        EXPECT_TRUE(dialog().IsModal());
+        ASSERT_TRUE(dialog().IsModal());
         click(dialog(), "cmdCancel");
     });
     EXPECT_THAT(taken, IsEmpty());
     EXPECT_FALSE(edited().isEdited());
+}
+
+TEST_P(frmSettingTest, EnterInTheListOfRobotsGoesToTheNameAndPressesNothing) {
+    whileModal(dialog(), [&] {
+        type(dialog(), "txtRbtName", "NOT YET");
+        for (const int enter : {int(WXK_RETURN), int(WXK_NUMPAD_ENTER)}) {
+            robots().SetFocus();
+            ASSERT_TRUE(waitFor([&] { return dialog().IsActive() && robots().HasFocus(); }));
+            pressKeyAndWait(enter);
+            EXPECT_TRUE(hasFocus("txtRbtName"));
+            ASSERT_TRUE(dialog().IsModal());
+        }
+        click(dialog(), "cmdCancel");
+    });
+    EXPECT_THAT(taken, IsEmpty());
+}
+
+TEST_P(frmSettingTest, EnterInTheListsOfFoldersAndFilesPressesNothing) {
+    whileModal(dialog(), [&] {
+        // The second robot's folder has no files, and with no robot left nothing has any.
+        for (const int robot : {0, 1}) {
+            pick(robots(), robot);
+            for (const char* const name : {"Dir1", "File1"}) {
+                control<wxWindow>(dialog(), name).SetFocus();
+                ASSERT_TRUE(waitFor([&] { return dialog().IsActive(); }));
+                ASSERT_TRUE(hasFocusIn(name));
+                pressKeyAndWait(WXK_RETURN);
+                ASSERT_TRUE(dialog().IsModal()) << name << robot;
+            }
+        }
+        click(dialog(), "cmdCancel");
+    });
+    EXPECT_THAT(taken, IsEmpty());
+}
+
+TEST_P(frmSettingTest, EnterInAClosedDropDownListPressesNothing) {
+    whileModal(dialog(), [&] {
+        choice("Drive1").SetFocus();
+        ASSERT_TRUE(waitFor([&] { return dialog().IsActive() && choice("Drive1").HasFocus(); }));
+        pressKeyAndWait(WXK_RETURN);
+        ASSERT_TRUE(dialog().IsModal());
+        click(dialog(), "cmdCancel");
+    });
+    EXPECT_THAT(taken, IsEmpty());
 }
 
 TEST_P(frmSettingTest, ApplyTakesTheEditsAndStaysOpen) {

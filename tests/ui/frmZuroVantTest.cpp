@@ -11,6 +11,9 @@
 #include "ui/OperationGuard.h"
 #include "ui/PathDisplay.h"
 
+#include <cmath>
+#include <tuple>
+
 #include <wx/bmpbuttn.h>
 #include <wx/choice.h>
 #include <wx/display.h>
@@ -19,6 +22,7 @@
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 #include <wx/statusbr.h>
+#include <wx/timer.h>
 
 namespace vantrel::tests {
 namespace {
@@ -44,6 +48,64 @@ TEST_P(MainWindowTest, EveryCaptionHasAText) {
           static_cast<wxWindow*>(controls.lblFolder), static_cast<wxWindow*>(controls.lblSerial),
           static_cast<wxWindow*>(controls.lblRbtName), static_cast<wxWindow*>(controls.lblIPaddr)})
         EXPECT_FALSE(label->GetLabel().empty()) << label->GetName();
+}
+
+TEST_P(MainWindowTest, EveryFrameAndLabelHasItsOwnCaption) {
+    const std::pair<const wxWindow*, int> expected[] = {
+        {controls.fraPC.box, 153},     {controls.fraCtrl.box, 155},     {controls.lblFile, 156},
+        {controls.lblPCFileType, 157}, {controls.lblCtrlFileType, 157}, {controls.lblSerial, 158},
+        {controls.lblFolder, 159},     {controls.lblRbtName, 230},      {controls.lblIPaddr, 192}};
+    for (const auto& [control, number] : expected)
+        EXPECT_EQ(control->GetLabel().utf8_string(), messages.getMessage(number)) << number;
+}
+
+TEST_P(MainWindowTest, EveryColumnHasItsOwnTitle) {
+    for (auto* list : {controls.lsvPC, controls.lsvCtrl}) {
+        list->setView(ListView::Details);
+        ASSERT_EQ(list->native().GetColumnCount(), 3);
+        for (int column = 0; column < 3; ++column) {
+            wxListItem title;
+            title.SetMask(wxLIST_MASK_TEXT);
+            list->native().GetColumn(column, title);
+            EXPECT_EQ(title.GetText().utf8_string(), messages.getMessage(211 + column));
+        }
+    }
+}
+
+TEST_P(MainWindowTest, EveryToolButtonHasItsOwnTip) {
+    const std::tuple<const KeyedToolBar*, const char*, int> expected[] = {
+        {controls.tlbMain, "FileCopy", 140},     {controls.tlbMain, "FileMove", 141},
+        {controls.tlbMain, "FileDelete", 142},   {controls.tlbMain, "AllSelect", 143},
+        {controls.tlbMain, "Refresh", 145},      {controls.tlbMain, "modeHiSpeed", 190},
+        {controls.tlbMain, "modeBsc", 191},      {controls.tlbMain, "DispBig", 146},
+        {controls.tlbMain, "DispSmall", 147},    {controls.tlbMain, "DispList", 148},
+        {controls.tlbMain, "DispDetail", 149},   {controls.tlbMain, "FileDisp", 150},
+        {controls.tlbPC, "UpFolder", 151},       {controls.tlbPC, "Print", 152},
+        {controls.tlbPCButton, "PCButton", 214}, {controls.tlbCtrlButton, "CTRLButton", 215},
+        {controls.tlbFile, "FileCopy", 140},     {controls.tlbFile, "FileMove", 141},
+        {controls.tlbFile, "FileDelete", 142},   {controls.tlbFile, "AllSelect", 143}};
+    for (const auto& [bar, key, number] : expected)
+        EXPECT_EQ(bar->toolTip(key).utf8_string(), messages.getMessage(number)) << key;
+}
+
+TEST_P(MainWindowTest, EveryMenuEntryHasItsOwnCaption) {
+    int found = 0;
+    for (const auto& caption : menuCaptions()) {
+        const auto* const entry = window.menus().find(caption.item);
+        if (!entry)
+            continue;
+        ++found;
+        EXPECT_EQ(entry->GetItemLabel().BeforeFirst('\t').utf8_string(),
+                  messages.getMessage(caption.message))
+            << caption.message;
+    }
+    constexpr int heads = 6, commands = 1; // of the menu bar; these are no entries of a menu
+    EXPECT_EQ(found, int(menuCaptions().size()) - heads - commands);
+    const int headMessages[] = {101, 109, 130, 114, 119, 126};
+    ASSERT_EQ(window.GetMenuBar()->GetMenuCount(), std::size(headMessages));
+    for (std::size_t head = 0; head < std::size(headMessages); ++head)
+        EXPECT_EQ(window.GetMenuBar()->GetMenuLabel(head).utf8_string(),
+                  messages.getMessage(headMessages[head]));
 }
 
 TEST_P(MainWindowTest, OnlyThePCsDetailsAreFlat) {
@@ -219,6 +281,84 @@ TEST_P(MainWindowTest, ATooSmallStoredSizeIsRaised) {
     EXPECT_TRUE(waitFor([this] { return window.GetSize().x >= window.FromDIP(586); }));
     EXPECT_GE(window.GetSize().y, window.FromDIP(313));
     EXPECT_GT(controls.lsvPC->GetSize().y, 0);
+}
+
+TEST_P(MainWindowTest, NoSideOfTheWindowGetsSmallerThanItsMinimum) {
+    // Captions that need more room make the window larger.
+    const double scale = window.GetMinSize().x / 8800.0;
+    EXPECT_GE(window.GetMinSize().x, window.FromDIP(587));
+    const auto pixels = [scale](double twips) { return int(std::lround(twips * scale)); };
+    const auto isAbout = [&](int width, int height) {
+        const wxSize size = window.GetSize();
+        return std::abs(size.x - pixels(width)) <= 1 && std::abs(size.y - pixels(height)) <= 1;
+    };
+    state.WindowPos = {0, 0, 8799, 6000, 0, 0, 0, 0};
+    window.place(state.WindowPos);
+    EXPECT_TRUE(waitFor([&] { return isAbout(8800, 6000); }))
+        << window.GetSize().x << 'x' << window.GetSize().y;
+    window.SetSize(wxSize(100, 100));
+    EXPECT_TRUE(waitFor([&] { return isAbout(8800, 4700); }))
+        << window.GetSize().x << 'x' << window.GetSize().y;
+}
+
+TEST_P(MainWindowTest, AMaximisedOrMinimisedWindowIsNoPlaceToStore) {
+    EXPECT_TRUE(window.placement().isNormal);
+    window.Maximize();
+    EXPECT_TRUE(waitFor([this] { return window.IsMaximized(); }));
+    EXPECT_FALSE(window.placement().isNormal);
+    window.Maximize(false);
+    EXPECT_TRUE(waitFor([this] { return !window.IsMaximized(); }));
+    EXPECT_TRUE(window.placement().isNormal);
+    window.Iconize();
+    EXPECT_TRUE(waitFor([this] { return window.IsIconized(); }));
+    EXPECT_FALSE(window.placement().isNormal);
+    window.Iconize(false);
+    EXPECT_TRUE(waitFor([this] { return !window.IsIconized(); }));
+}
+
+TEST_P(MainWindowTest, NothingIsLaidOutWhileMinimised) {
+    window.Iconize();
+    ASSERT_TRUE(waitFor([this] { return window.IsIconized(); }));
+    auto& pane = *controls.fraPC.panel;
+    const wxSize before = pane.GetSize();
+    const wxSize other = before - wxSize(20, 20);
+    pane.SetSize(other);
+    wxSizeEvent resize(wxSize(200, 200), window.GetId());
+    resize.SetEventObject(&window);
+    window.HandleWindowEvent(resize);
+    EXPECT_EQ(pane.GetSize(), other);
+    window.Iconize(false);
+    ASSERT_TRUE(waitFor([this] { return !window.IsIconized(); }));
+    window.HandleWindowEvent(resize);
+    EXPECT_EQ(pane.GetSize(), before);
+}
+
+TEST_P(MainWindowTest, AWindowThatWasMovedAndResizedIsStoredSo) {
+    // The window has settled before this timer ends, which was begun later and takes as long.
+    wxTimer settled;
+    bool hasSettled = false;
+    settled.Bind(wxEVT_TIMER, [&](wxTimerEvent&) { hasSettled = true; });
+    settled.StartOnce(1000);
+    ASSERT_TRUE(waitFor([&] { return hasSettled; }));
+    const auto before = window.placement();
+    const auto corner = [this] { return window.ClientToScreen(wxPoint(0, 0)); };
+    const wxPoint from = corner();
+    const wxSize size = window.GetSize();
+    const double twipsPerPixel = before.width / size.x;
+    window.Move(window.GetPosition() + wxPoint(90, 60));
+    window.SetSize(size + wxSize(120, 80));
+    ASSERT_TRUE(waitFor([&] { return corner() != from && window.GetSize() != size; }));
+    EXPECT_TRUE(waitFor([&] {
+        const auto now = window.placement();
+        const wxPoint moved = corner() - from;
+        const wxSize grown = window.GetSize() - size;
+        return std::abs(now.left - before.left - moved.x * twipsPerPixel) < twipsPerPixel &&
+               std::abs(now.top - before.top - moved.y * twipsPerPixel) < twipsPerPixel &&
+               std::abs(now.width - before.width - grown.x * twipsPerPixel) < twipsPerPixel &&
+               std::abs(now.height - before.height - grown.y * twipsPerPixel) < twipsPerPixel;
+    }));
+    EXPECT_GT(window.placement().width, before.width);
+    EXPECT_GT(window.placement().left, before.left);
 }
 
 TEST_P(MainWindowTest, CloseIsRefusedSilentlyWhileLocked) {

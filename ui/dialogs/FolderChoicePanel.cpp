@@ -4,6 +4,7 @@
 #include "ui/FolderImages.h"
 #include "ui/FolderNodes.h"
 #include "ui/SystemLook.h"
+#include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/FileNameList.h"
 #include "ui/dialogs/WxText.h"
 
@@ -85,14 +86,12 @@ void FolderChoicePanel::bindEvents() {
         Dir1_->CallAfter([this] { showSelectedFolder(*Dir1_); });
     });
     // Enter opens and closes a folder here; the dialog's button is not meant.
-    Dir1_->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
-        const int key = event.GetKeyCode();
+    onEnter(*Dir1_, [this] {
         const auto item = Dir1_->GetSelection();
-        if ((key != WXK_RETURN && key != WXK_NUMPAD_ENTER) || !item.IsOk())
-            event.Skip();
-        else if (Dir1_->ItemHasChildren(item))
+        if (item.IsOk() && Dir1_->ItemHasChildren(item))
             Dir1_->Toggle(item);
     });
+    onEnter(*File1_, [] {});
 }
 
 void FolderChoicePanel::show(const std::string& folder) {

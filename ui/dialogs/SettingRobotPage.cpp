@@ -8,6 +8,7 @@
 #include "link/ShownText.h"
 #include "ui/SystemLook.h"
 #include "ui/dialogs/CaptionButton.h"
+#include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/FolderChoicePanel.h"
 #include "ui/dialogs/WxText.h"
@@ -27,10 +28,6 @@ namespace {
 /// Device-independent pixels.
 constexpr int listCharacters = 22; ///< of a robot's name, as wide as an average one
 constexpr int gap = 8;
-
-bool isEnter(const wxKeyEvent& event) {
-    return event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER;
-}
 
 /// The point of the main keyboard, or whatever decimal sign the keypad has.
 bool isPoint(const wxKeyEvent& event) {
@@ -144,8 +141,7 @@ void SettingRobotPage::bindList() {
         refreshFields();
     });
     lstRgstRbt_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { focusName(); });
-    lstRgstRbt_->Bind(wxEVT_CHAR_HOOK,
-                      [this](wxKeyEvent& event) { isEnter(event) ? focusName() : event.Skip(); });
+    onEnter(*lstRgstRbt_, [this] { focusName(); });
     cmdAdd_[0]->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
         robots_.insertAfter();
         showInserted();

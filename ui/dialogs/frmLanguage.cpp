@@ -139,6 +139,7 @@ void frmLanguage::bindEvents() {
         refreshIcon();
     });
     List1_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { confirm(); });
+    onEnter(*List1_, [this] { confirm(); });
     swallowF1(*this);
 }
 

@@ -1,0 +1,55 @@
+#include "ui/MenuBarEntry.h"
+
+#include <utility>
+
+#include <wx/frame.h>
+#include <wx/menu.h>
+#include <wx/msw/private.h>
+#include <wx/msw/wrapcctl.h>
+
+namespace vantrel {
+
+namespace {
+
+/// Of the command that the system sends; below those of the toolkit's own menus and controls.
+constexpr UINT_PTR commandId = 0x10;
+
+HMENU barOf(const wxFrame& window) {
+    return static_cast<HMENU>(window.GetMenuBar()->GetHMenu());
+}
+
+LRESULT CALLBACK handled(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
+                         DWORD_PTR onChosen) {
+    // Of a menu, not of an accelerator or a control.
+    if (message == WM_COMMAND && second == 0 && HIWORD(first) == 0 && LOWORD(first) == id) {
+        (*reinterpret_cast<std::function<void()>*>(onChosen))();
+        return 0;
+    }
+    return ::DefSubclassProc(window, message, first, second);
+}
+
+} // namespace
+
+MenuBarEntry::MenuBarEntry(wxFrame& window, int place, std::function<void()> onChosen)
+    : window_(window), place_(place), onChosen_(std::move(onChosen)), entry_(window.GetHWND()) {
+    ::InsertMenuW(barOf(window_), UINT(place_), MF_BYPOSITION | MF_STRING, commandId, L"-");
+    ::SetWindowSubclass(static_cast<HWND>(entry_), handled, commandId,
+                        reinterpret_cast<DWORD_PTR>(&onChosen_));
+}
+
+MenuBarEntry::~MenuBarEntry() {
+    ::RemoveWindowSubclass(static_cast<HWND>(entry_), handled, commandId);
+}
+
+void MenuBarEntry::setCaption(const wxString& caption) {
+    ::ModifyMenuW(barOf(window_), UINT(place_), MF_BYPOSITION | MF_STRING, commandId,
+                  caption.wc_str());
+    ::DrawMenuBar(static_cast<HWND>(entry_));
+}
+
+void MenuBarEntry::enable(bool enabled) {
+    ::EnableMenuItem(barOf(window_), commandId, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+    ::DrawMenuBar(static_cast<HWND>(entry_));
+}
+
+} // namespace vantrel
