@@ -154,9 +154,8 @@ void ListTransferCommands::reportFailure(const std::string& details) const {
         session.ErrorFunction().empty() && session.ErrorCode() == session_code::cancelled;
     if (cancelled || session.operatorIsTold())
         return TransferReports(with_).unreplacedJobs();
-    const auto index = session.failedIndex();
     const std::string place =
-        index ? with_.messages.getMessage(message::listIndex) + inParentheses(*index) : "";
+        with_.messages.getMessage(message::listIndex) + inParentheses(session.failedIndex());
     with_.dialog.tell(with_.messages.getMessage(message::transferFailed) + session.ErrorFunction() +
                           inParentheses(session.ErrorCode()) + session.errorText() + place +
                           details + TransferReports(with_).furtherLines(),

@@ -86,10 +86,9 @@ bool TransferReports::listTransferFailed() const {
         session.ErrorFunction().empty() && session.ErrorCode() == session_code::cancelled;
     if (cancelled || session.operatorIsTold())
         return false;
-    const auto index = session.failedIndex();
-    const std::string end = index ? " (" + std::to_string(*index) + ")" : std::string();
-    tellTransferFailure(end, session.triedAnEntry() ? session.JobList(index.value_or(-1))
-                                                    : std::string());
+    const std::int32_t index = session.failedIndex();
+    tellTransferFailure(" (" + std::to_string(index) + ")",
+                        session.triedAnEntry() ? session.JobList(index) : std::string());
     return true;
 }
 

@@ -168,9 +168,9 @@ std::string Snappy::errorText() const {
                : messages.errorText(ErrorCode());
 }
 
-std::optional<std::int32_t> Snappy::failedIndex() const {
+std::int32_t Snappy::failedIndex() const {
     const bool isOfThisFailure = parts_->error.hasIndex || parts_->entryTried;
-    return isOfThisFailure ? std::optional(parts_->error.ErrorIndex) : std::nullopt;
+    return isOfThisFailure ? parts_->error.ErrorIndex : 0;
 }
 
 bool Snappy::triedAnEntry() const {

@@ -6,7 +6,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -81,8 +80,9 @@ class Snappy : public SessionProperties {
     /// The text of `ErrorCode`, never empty. What a function of the library has returned has a text
     /// only where the controllers' codes are; our own findings have theirs.
     std::string errorText() const;
-    /// `ErrorIndex` where it was recorded with the last failure; an older one says nothing of it.
-    std::optional<std::int32_t> failedIndex() const;
+    /// `ErrorIndex` where it was recorded with the last failure; else 0, as for every step of a
+    /// connection: an older one says nothing of it.
+    std::int32_t failedIndex() const;
     /// Whether the last operation came as far as a file or a variable.
     bool triedAnEntry() const;
     /// What the system said to the last failure, where it was the system that refused a list file

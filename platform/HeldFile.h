@@ -11,7 +11,7 @@ namespace vantrel {
 /// A small file that is open as long as the object lives and that nobody else can hold meanwhile,
 /// in this program or another one. The system lets go of it when its holder ends, however that
 /// comes: whoever finds the file and can hold it knows that its holder is no more. On a disk where
-/// the system knows no such locks nothing can be held.
+/// the system knows no such locks a file can be made, but never be taken from anybody.
 class HeldFile {
   public:
     /// Makes the file; one that is there and not held is taken over.

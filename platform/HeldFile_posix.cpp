@@ -42,14 +42,20 @@ bool isThere(const Descriptor& file, const std::string& path) {
            opened.st_dev == named.st_dev;
 }
 
+bool knowsNoLocks(int error) {
+    return error == ENOLCK || error == EOPNOTSUPP || error == ENOSYS || error == EINVAL;
+}
+
 } // namespace
 
 Result<HeldFile> HeldFile::hold(const std::string& path, bool make) {
     if (hasNul(path))
         return systemFailure(EINVAL);
     Descriptor file = openForHolding(path, make ? O_CREAT : 0);
+    if (!file.isOpen())
+        return systemFailure(errno);
     // The lock belongs to this opening of the file, so it also keeps this program from another.
-    if (!file.isOpen() || ::flock(file.number(), LOCK_EX | LOCK_NB) != 0)
+    if (::flock(file.number(), LOCK_EX | LOCK_NB) != 0 && !(make && knowsNoLocks(errno)))
         return systemFailure(errno);
     if (!isThere(file, path))
         return systemFailure(ENOENT);
