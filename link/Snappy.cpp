@@ -56,8 +56,9 @@ struct Snappy::Parts {
     /// The same for the questions of a send. False, too, when Cancel was pressed: nothing is sent
     /// then.
     bool readDirectory();
-    /// Works through the job list; `transfer` does one entry.
-    bool transferList(const SessionProperties& properties, JobBatch::Transfer transfer);
+    /// Works through `entries`; `transfer` does one of them.
+    bool transferList(const SessionProperties& properties, const std::vector<std::string>& entries,
+                      JobBatch::Transfer transfer);
     bool sendSingle(const std::string& file, const ReplaceConsent& consent);
     /// Hides the progress and turns the outcome of a single transfer into record and result.
     bool concludeSingle(TransferOutcome outcome);
@@ -280,12 +281,12 @@ bool Snappy::Parts::concludeSingle(TransferOutcome outcome) {
     return goesOn(outcome);
 }
 
-bool Snappy::Parts::transferList(const SessionProperties& properties, JobBatch::Transfer transfer) {
+bool Snappy::Parts::transferList(const SessionProperties& properties,
+                                 const std::vector<std::string>& entries,
+                                 JobBatch::Transfer transfer) {
     JobBatch batch(
         {properties, link, progress, error, localJobs, services.messages, services.dialog},
         std::move(transfer));
-    // A copy: the list is open to every caller, and a batch lets events run.
-    const std::vector<std::string> entries = jobs.entries().all();
     return batch.run(entries);
 }
 
@@ -324,11 +325,14 @@ bool Snappy::JobUpLoad(const std::string& name, bool overwriteAll) {
 
 bool Snappy::JobListDownLoad() {
     return parts_->operate([&] {
+        // A copy: the list is open to every caller, and events run from here on.
+        const std::vector<std::string> entries = parts_->jobs.entries().all();
         parts_->localJobs.read(path);
         if (!parts_->readDirectory())
             return false;
         return parts_->transferList(
-            *this, [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
+            *this, entries,
+            [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
                 parts_->entryTried = true;
                 return parts_->sending.send(entry, index, {.toAll = overwriteAll});
             });
@@ -337,11 +341,14 @@ bool Snappy::JobListDownLoad() {
 
 bool Snappy::JobListUpLoad() {
     return parts_->operate([&] {
+        // A copy: the list is open to every caller, and events run from here on.
+        const std::vector<std::string> entries = parts_->jobs.entries().all();
         parts_->localJobs.read(path);
         if (!parts_->fetching.listFolder())
             return false;
         return parts_->transferList(
-            *this, [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
+            *this, entries,
+            [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
                 parts_->entryTried = true;
                 return parts_->fetching.fetch(entry, index, overwriteAll);
             });

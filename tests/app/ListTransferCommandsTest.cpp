@@ -7,6 +7,7 @@
 #include <array>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -172,8 +173,10 @@ TEST_P(EachListTransfer, AnUnsetAddressIsToldOnceByTheSession) {
 
 TEST_P(EachListTransfer, ACancelledTransferIsNoFailure) {
     list(GetParam().lines);
-    library.onCall = [this](const std::string& function) {
-        if (function != "BscFindFirst" && function != "BscOpen" && progress.isVisible())
+    bool pressed = false;
+    library.onCall = [this, &pressed](const std::string& function) {
+        const bool isTransfer = function != "BscFindFirst" && function != "BscOpen";
+        if (isTransfer && progress.isVisible() && !std::exchange(pressed, true))
             progress.pressCancel();
     };
     run(GetParam().entry);

@@ -70,6 +70,7 @@ class CommandFixture : public testing::Test {
             text(56, " is local"),
             text(62, " is ambiguous"),
             text(57, "nothing to print"),
+            text(93, "reading directory"),
             text(65, "gone and not replaced:"),
             text(66, " other name"),
             text(67, " changed meanwhile, stays"),

@@ -76,7 +76,8 @@ TEST_F(DeleteCommandTest, EachJobIsShownInTheCommandsOwnProgress) {
     question.answers = {Answer::All};
     EXPECT_TRUE(commands.deleteOnController());
     EXPECT_THAT(progressView.messages(),
-                ElementsAre("Deleting ", "Deleting A.JBI", "Deleting B.JBI", "Deleting C.JBI"));
+                ElementsAre("Deleting ", "Deleting A.JBI", "Deleting B.JBI", "Deleting C.JBI",
+                            "reading directory"));
 }
 
 TEST_F(DeleteCommandTest, AVeryLongNameIsAskedForAndShownShortened) {
@@ -87,7 +88,7 @@ TEST_F(DeleteCommandTest, AVeryLongNameIsAskedForAndShownShortened) {
     EXPECT_TRUE(commands.deleteOnController());
     const std::string shown = std::string(200, 'A') + "\u2026";
     EXPECT_THAT(question.questions, ElementsAre("[" + shown + "] delete from the controller?"));
-    EXPECT_THAT(progressView.messages(), ElementsAre("Deleting ", "Deleting " + shown));
+    EXPECT_THAT(progressView.messages(), ElementsAre("Deleting ", "Deleting " + shown, "reading directory"));
 }
 
 TEST_F(DeleteCommandTest, JobsWhoseNamesDifferInLetterCaseOnlyAreNotDeleted) {

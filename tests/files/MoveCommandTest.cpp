@@ -53,7 +53,8 @@ TEST_F(MoveCommandTest, TheSessionWorksSilentlyWhileTheCommandShowsEachFile) {
     };
     EXPECT_TRUE(commands.sendMove());
     EXPECT_THAT(progressView.messages(),
-                ElementsAre("Transferring ", "Transferring A.JBI", "Transferring B.JBI"));
+                ElementsAre("Transferring ", "Transferring A.JBI", "Transferring B.JBI",
+                            "reading directory"));
 }
 
 TEST_F(MoveCommandTest, TheOverwriteQuestionNamesTheFile) {

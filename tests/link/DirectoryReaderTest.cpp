@@ -28,7 +28,6 @@ TEST_F(DirectoryReaderTest, EntriesComeInTheControllersOrder) {
 }
 
 TEST_F(DirectoryReaderTest, TheProgressStandsBeforeEveryCallAndIsHiddenAtTheEnd) {
-    world.messages.replace({{93, "reading directory", "reading directory"}});
     world.controller().put("A.JBI", "");
     world.library.onCall = [this](const std::string& function) {
         const bool isShown = world.panel.isVisible() && !world.panel.barShown() &&

@@ -31,7 +31,7 @@ TEST_F(JobBatchLocalTest, SkippedEntriesAreToldOnceWhenTheListFailsToo) {
 TEST_F(JobBatchLocalTest, SkippedEntriesAreToldOnceWhenTheListIsCancelledToo) {
     addFiles({"LOCAL", "A", "B"});
     world.pc.write("LocalJob.lst", "LOCAL");
-    pressCancelAtYield(2);
+    pressCancelAtYield(3);
     EXPECT_FALSE(world.session->JobListDownLoad());
     EXPECT_EQ(world.error(), " 3 1");
     EXPECT_THAT(world.boxes.texts(), ElementsAre("1 skipped"));
@@ -123,7 +123,7 @@ TEST_F(JobBatchLocalTest, APressBeforeTheFirstPassedOverEntryEndsTheListThere) {
 TEST_F(JobBatchLocalTest, APressIsSeenAfterPassedOverEntriesAtTheEnd) {
     world.pc.write("LocalJob.lst", "LOCAL#");
     addFiles({"A", "LOCAL1", "LOCAL2"});
-    pressCancelAtYield(4); // opened, A shown, after A
+    pressCancelAtYield(5); // directory, opened, A shown, after A
     EXPECT_FALSE(world.session->JobListDownLoad());
     EXPECT_EQ(world.error(), " 3 2");
 }

@@ -152,6 +152,17 @@ TEST_F(JobBatchTest, APressIsNotLostWhenTheNextMessageClearsItsMark) {
     EXPECT_FALSE(world.controller().has("B.JBI"));
 }
 
+TEST_F(JobBatchTest, APressWhileTheDirectoryIsReadSendsNothing) {
+    addFiles({"A", "B"});
+    world.view.onYield = [this](int) {
+        if (world.panel.message() == "reading directory")
+            world.panel.pressCancel();
+    };
+    EXPECT_FALSE(world.session->JobListDownLoad());
+    EXPECT_EQ(world.error(), " 3 0");
+    EXPECT_FALSE(world.controller().has("A.JBI"));
+}
+
 TEST_F(JobBatchTest, APressOfAnEarlierTimeDoesNotCount) {
     addFiles({"A"});
     world.panel.pressCancel();
@@ -226,8 +237,8 @@ TEST_F(JobBatchTest, ANameLineWithAnExtensionIsRememberedAsItIs) {
 TEST_F(JobBatchTest, ProgressShowsEachItemItsPlaceAndWhatIsWaitedFor) {
     addFiles({"A", "B"});
     EXPECT_TRUE(world.session->JobListDownLoad());
-    EXPECT_THAT(world.view.messages(),
-                ElementsAre("Transferring ", "Transferring A.JBI", "Transferring B.JBI"));
+    EXPECT_THAT(world.view.messages(), ElementsAre("reading directory", "Transferring ",
+                                                   "Transferring A.JBI", "Transferring B.JBI"));
     const auto& last = world.view.pictures[world.view.pictures.size() - 2];
     EXPECT_EQ(last.waitingFor, "item 2 of 2  waiting");
     EXPECT_EQ(last.item, 1);

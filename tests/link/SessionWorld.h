@@ -47,6 +47,7 @@ inline MessageTable sessionMessages() {
     add(78, "; check");
     add(79, "; old kept as ");
     add(80, "; nothing");
+    add(93, "reading directory");
     add(502, "already exists. Overwrite it?");
     add(504, "Transferring ");
     add(507, "Deleting ");

@@ -243,7 +243,7 @@ TEST_P(ScreenInsideCalls, TheProgressIsCentredForEachCommandAndStaysWhereItIsPut
         if (command > 1)
             answerQuestion("cmdYesNo0");
         inCall("BscDownLoad", command, [&] {
-            EXPECT_TRUE(isCentred()) << command;
+            EXPECT_TRUE(isCentred()) << command << ' ' << progress()->GetPosition().x;
             progress()->Move(700, 700);
             EXPECT_TRUE(waitFor([&] { return progress()->GetPosition().y > 600; }));
         });

@@ -199,12 +199,14 @@ TEST_F(StartOfProgramTest, TheLanguageIsAskedForAtEveryStartThatIsToldTo) {
 TEST_F(StartOfProgramTest, TheStartMessageStandsOnTheScreenWhileFilesAreReadAndIsGoneAfter) {
     const StartMessageWatch watch;
     modal.answer([](wxDialog&) {
-        EXPECT_EQ(wxWindow::FindWindowByName("FrmMessage"), nullptr);
+        const wxWindow* const message = wxWindow::FindWindowByName("FrmMessage");
+        EXPECT_TRUE(!message || !message->IsShown());
         return wxID_NO;
     });
     ASSERT_EQ(startProgram(), StartResult::Running);
     EXPECT_EQ(watch.windows, 1);
     EXPECT_GT(watch.colours, 2u);
+    EXPECT_TRUE(waitFor([] { return !wxWindow::FindWindowByName("FrmMessage"); }));
 }
 
 TEST_F(StartOfProgramTest, YesReadsTheDirectoryAndShowsTheVersion) {
