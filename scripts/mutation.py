@@ -260,7 +260,7 @@ class Copy:
                     pass
                 process.wait()
         text = output.read_text(errors="replace")
-        red = list(dict.fromkeys(re.findall(r"^\[  FAILED  \] ([\w/.]+)", text, re.M)))
+        red = list(dict.fromkeys(re.findall(r"^\[  FAILED  \] ([\w/]+\.[\w/]+)", text, re.M)))
         begun = re.findall(r"^\[ RUN      \] ([\w/.]+)", text, re.M)
         if code in (-signal.SIGXCPU, -signal.SIGKILL):
             red.append(f"timeout in {begun[-1] if begun else name}")

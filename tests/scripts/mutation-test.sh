@@ -41,6 +41,7 @@ int main() {
     if (isLate(18) && !isLate(9) && rounds(3) == 3)
         return 0;
     std::puts("[  FAILED  ] HoursTest.TellsLateFromEarly");
+    std::puts("[  FAILED  ] 1 test, listed below:");
     return 1;
 }
 END
