@@ -165,7 +165,7 @@ TEST_F(TransferReportsTest, ALinkThatWillNotCloseAfterTheDirectoryNamesNoFileAnd
         EXPECT_FALSE(commands.sendCopy());
         ASSERT_FALSE(boxes.shown.empty());
         EXPECT_EQ(boxes.shown[0].text,
-                  std::string("Transfer failed: ") + function + " ( line broken (2000) )");
+                  std::string("Transfer failed: ") + function + " ( line broken (2000) ) (0)");
         boxes.shown.clear();
         ++linksLeftOpen; // on purpose
     }

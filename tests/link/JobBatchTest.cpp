@@ -146,7 +146,7 @@ TEST_F(JobBatchTest, APressIsNotLostWhenTheNextMessageClearsItsMark) {
     addFiles({"A", "B"});
     addOlder({"A"});
     world.question.answers = {Answer::Yes};
-    pressCancelAtYield(1);
+    pressCancelAtYield(2); // as the list opens, after the directory
     EXPECT_FALSE(world.session->JobListDownLoad());
     EXPECT_EQ(world.error(), " 3 0");
     EXPECT_FALSE(world.controller().has("B.JBI"));

@@ -217,6 +217,10 @@ TEST_P(ManualText, GivesEveryMenuEntryItsKeys) {
         EXPECT_TRUE(isKeyOf(row[2], unbracketed(row[4]))) << row[0];
         listed.insert(unbracketed(row[4]));
     }
+    for (const auto& row : matches(tables("keys"), R"(\|`Alt\+(.)` \|\*\*([^*]+)\*\*)")) {
+        EXPECT_TRUE(isKeyOf(row[1], unbracketed(row[2]))) << row[0];
+        listed.insert(unbracketed(row[2]));
+    }
     for (const auto& [first, last] :
          {std::pair(102, 108), {110, 113}, {115, 118}, {120, 125}, {128, 129}, {131, 132}})
         for (int number = first; number <= last; ++number)
