@@ -132,6 +132,9 @@ void MainWindowControls::makeViewerPane() {
 void MainWindowControls::makeHighlights() {
     pcHighlight = new wxPanel(surface, wxID_ANY);
     controllerHighlight = new wxPanel(surface, wxID_ANY);
+    // An empty panel would be a stop of the Tab key.
+    for (auto* const highlight : {pcHighlight, controllerHighlight})
+        highlight->SetCanFocus(false);
 }
 
 } // namespace vantrel

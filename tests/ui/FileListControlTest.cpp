@@ -41,9 +41,11 @@ class FileListControlTest : public testing::TestWithParam<ListView> {
     }
     wxPoint placeOf(long row) {
         wxRect item;
-        const int part = GetParam() == ListView::LargeIcons ? wxLIST_RECT_ICON : wxLIST_RECT_LABEL;
-        EXPECT_TRUE(list.native().GetItemRect(row, item, part));
-        return list.native().ClientToScreen(item.GetPosition() + item.GetSize() / 2);
+        EXPECT_TRUE(list.native().GetItemRect(row, item, wxLIST_RECT_LABEL));
+        // On the text, which stands at the bottom of what the large icons take for their label.
+        constexpr int aboveBottom = 8;
+        return list.native().ClientToScreen(
+            {item.x + item.width / 2, item.GetBottom() - aboveBottom});
     }
 
     wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "lists");
