@@ -73,7 +73,9 @@ bool isFolderRefused(const RobotEntry& entry) {
 }
 
 std::optional<RobotFault> faultOf(const RobotEntry& entry, std::size_t place, NameCount& names) {
-    if (const auto kind = nameFault(entry.robot.Name, names))
+    // A name that came with the list is no reason to refuse another field of its robot.
+    const bool isNamed = entry.isNew || entry.robot.Name != entry.stored.Name;
+    if (const auto kind = isNamed ? nameFault(entry.robot.Name, names) : std::nullopt)
         return RobotFault{*kind, place};
     if (const auto part = refusedAddressPart(entry.robot))
         return RobotFault{Kind::AddressRefused, place, *part};

@@ -92,13 +92,16 @@ std::string RobotRegistry::defaultText() const {
 // dead network path would hold up the start. A folder is entered when its robot is chosen.
 bool RobotRegistry::readList(const std::string& content) {
     const DecodedText decoded = decodeText(content);
-    encoding_ = decoded.encoding;
-    plain_ = encoding_ == TextEncoding::Utf8 && isAscii(content);
+    // A mark at the start would hide the first section from the profile functions.
+    encoding_ = decoded.encoding == TextEncoding::Utf8WithMark ? TextEncoding::Utf8
+                                                               : decoded.encoding;
+    plain_ = encoding_ == TextEncoding::Utf8 && isAscii(decoded.text);
     readBootName(decoded.text);
     TextLines lines(decoded.text);
     RobotFileReader reader(lines, boxes_, programFolder_);
     state_.RobotList = reader.readList();
-    readWhole_ = !reader.endedEarly();
+    // Bytes that mean nothing in any encoding are shown, but writing would lose them.
+    readWhole_ = !reader.endedEarly() && encodeText(decoded.text, decoded.encoding) == content;
     return makeFoldersAbsolute(state_.RobotList, RobotPaths(state_.BaseDir));
 }
 

@@ -15,7 +15,8 @@ class MessageTable;
 /// The caption in the language in force, else `designed`.
 std::string formCaption(const MessageTable& messages, std::int32_t number,
                         std::string_view designed);
-/// The same with the designed captions of the settings dialog.
+/// The same with the designed captions of the settings and language dialogs; a number that has none
+/// there falls back to nothing.
 std::string formCaption(const MessageTable& messages, std::int32_t number);
 
 } // namespace vantrel

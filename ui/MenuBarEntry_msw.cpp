@@ -42,7 +42,8 @@ MenuBarEntry::~MenuBarEntry() {
 }
 
 void MenuBarEntry::setCaption(const wxString& caption) {
-    ::ModifyMenuW(barOf(window_), UINT(place_), MF_BYPOSITION | MF_STRING, commandId,
+    const UINT state = ::GetMenuState(barOf(window_), commandId, MF_BYCOMMAND) & MF_GRAYED;
+    ::ModifyMenuW(barOf(window_), commandId, MF_BYCOMMAND | MF_STRING | state, commandId,
                   caption.wc_str());
     ::DrawMenuBar(static_cast<HWND>(entry_));
 }

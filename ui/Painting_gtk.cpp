@@ -96,18 +96,18 @@ bool areWindowEventsPending() {
 bool takeWindowEvents() {
     GdkDisplay* const display = gdk_display_get_default();
     gdk_display_sync(display);
-    std::vector<Event> held;
+    // All of them first: what the handling of one brings is for the next call, so that this one ends.
+    std::vector<Event> events;
+    while (Event event{gdk_display_get_event(display)})
+        events.push_back(std::move(event));
     bool tookSome = false;
-    while (Event event{gdk_display_get_event(display)}) {
-        if (isAboutWindow(*event)) {
+    for (const Event& event : events)
+        if (!isAboutWindow(*event)) {
+            gdk_display_put_event(display, event.get());
+        } else {
             gtk_main_do_event(event.get());
             tookSome = true;
-        } else {
-            held.push_back(std::move(event));
         }
-    }
-    for (const Event& event : held)
-        gdk_display_put_event(display, event.get());
     return tookSome;
 }
 

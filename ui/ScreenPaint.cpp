@@ -79,7 +79,8 @@ void ScreenPaint::awaitWindows() {
     while (!isDone && Clock::now() < deadline) {
         // Before the events are taken: of what came to the screen later some may be under way.
         givenUp_ = missingWindows();
-        const bool answered = awaitWindowManager(deadline);
+        const bool answered = !managerAnswers_ || awaitWindowManager(deadline);
+        managerAnswers_ = managerAnswers_ && answered;
         const bool tookSome = takeWindowEvents();
         paintChanges();
         quietRounds = answered && !tookSome ? quietRounds + 1 : 0;

@@ -26,6 +26,7 @@ class ScreenPaint : public wxEventFilter {
     bool eventsRan_ = true;      ///< since the last time
     bool windowsChanged_ = true; ///< one was shown or hidden since
     int givenUp_ = 0;            ///< shown windows that did not come to the screen
+    bool managerAnswers_ = true; ///< until the window manager left a question open
 };
 
 } // namespace vantrel

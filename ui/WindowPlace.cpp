@@ -45,11 +45,20 @@ wxSize pixels(WindowSize twips, int resolution) {
     return {pixelsFromTwips(twips.width, resolution), pixelsFromTwips(twips.height, resolution)};
 }
 
+constexpr int settleTime = 1000; // milliseconds
+
+bool isNormal(const wxTopLevelWindow& window) {
+    return !window.IsIconized() && !window.IsMaximized() && !window.IsFullScreen();
+}
+
 } // namespace
 
 WindowPlace::WindowPlace(wxTopLevelWindow& window) : window_(window) {
     settleTimer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
-        if (window_.IsShown())
+        // A minimised or maximised window has a place that is not its own.
+        if (!isNormal(window_))
+            settleTimer_.StartOnce(settleTime);
+        else if (window_.IsShown())
             settle();
     });
     window_.Bind(wxEVT_PAINT, &WindowPlace::painted, this);
@@ -104,7 +113,6 @@ void WindowPlace::putAt(const wxRect& place, int resolution) {
         put_.at(index) = twipsUnlessUnchanged(lengths.at(index), resolution, stored_.at(index));
     settlesWithPaint_ = !window_.IsShown();
     moveTo(outer);
-    constexpr int settleTime = 1000; // milliseconds
     settleTimer_.StartOnce(settleTime);
 }
 
@@ -120,7 +128,7 @@ void WindowPlace::moveTo(const wxRect& outer) {
 // from then on is the operator, however soon.
 void WindowPlace::painted(wxPaintEvent& event) {
     event.Skip();
-    if (!settlesWithPaint_ || !isOnScreen(window_))
+    if (!settlesWithPaint_ || !isOnScreen(window_) || !isNormal(window_))
         return;
     settlesWithPaint_ = false;
     settledExtent_ = extent();

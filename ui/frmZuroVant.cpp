@@ -111,7 +111,8 @@ void frmZuroVant::bindEvents() {
         if (event.GetKeyCode() == WXK_F1)
             chosen({Menu::mnuHelp, 0});
         else if (event.GetKeyCode() == WXK_F5 && !event.HasAnyModifiers())
-            chosen({Menu::mnuRefresh, 0});
+            // One system tells of a key from inside a hook, where nothing may take long.
+            CallAfter([this] { chosen({Menu::mnuRefresh, 0}); });
         else
             event.Skip();
     });
@@ -166,7 +167,12 @@ void frmZuroVant::bindPane(ActiveSide side) {
             commands_->openItem(side, std::size_t(row));
     };
     list.onDragBegun = [this, side] { drag_.begin(side); };
-    list.onMenuRequested = [this, side](wxPoint place) { menus_.popUp(pane(side), place); };
+    list.onMenuRequested = [this, side](wxPoint place) {
+        // The press may have selected another item a moment ago.
+        if (commands_)
+            commands_->updateStates();
+        menus_.popUp(pane(side), place);
+    };
     filter(side).Bind(wxEVT_CHOICE, [this, side](wxCommandEvent&) {
         if (commands_)
             commands_->chooseFilter(side);

@@ -132,6 +132,17 @@ TEST(RobotCheckTest, ANameThatAnOldRobotHasWithBlanksAroundItIsTaken) {
     EXPECT_EQ(findRobotFault(robots), (RobotFault{Kind::NameTaken, 1}));
 }
 
+TEST(RobotCheckTest, ANameThatNobodyChangedLetsTheAddressBeMended) {
+    RobotRecord first = good, stored = good;
+    first.Name = "R1";
+    stored.Name = " R1";
+    RobotRecord mended = stored;
+    mended.IP4 = "77";
+    mended.IPaddr = joinedAddress(mended);
+    const std::vector<RobotEntry> robots{untouched(first), {2, mended, stored, false}};
+    EXPECT_EQ(findRobotFault(robots), std::nullopt);
+}
+
 TEST(RobotCheckTest, AFolderThatNobodyChoseIsNotJudged) {
     RobotRecord stored = good;
     stored.Path = "/installed, there";

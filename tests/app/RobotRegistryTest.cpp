@@ -337,6 +337,24 @@ TEST_F(RobotRegistryTest, ANameThatNoEncodingHoldsIsRefusedByName) {
     EXPECT_EQ(file(), before);
 }
 
+TEST_F(RobotRegistryTest, AFileWithBytesOfAnotherCodePageIsLeftAsItIs) {
+    // Two names that are told apart only by what this code page does not know.
+    const std::string content = boot("R\xFC") + blockOf("R\xFC", "10.0.0.1", "/a") +
+                                blockOf("R\xFE", "10.0.0.2", "/b");
+    read(content);
+    ASSERT_TRUE(registry_.write());
+    EXPECT_EQ(file(), content);
+}
+
+TEST_F(RobotRegistryTest, AMarkAtTheStartIsNotWrittenBack) {
+    const std::string content =
+        boot("R\xC3\xBC") + blockOf("R\xC3\xBC", "10.0.0.1", folder_.path("a"));
+    read("\xEF\xBB\xBF" + content);
+    EXPECT_EQ(state_.BootName, "R\xC3\xBC");
+    ASSERT_TRUE(registry_.write());
+    EXPECT_TRUE(file().starts_with("[Boot]\r\n")) << file();
+}
+
 TEST_F(RobotRegistryTest, GarbageGivesAnEmptyList) {
     for (const std::string& garbage :
          {std::string(10'000'000, 'x'), std::string("\0\0\xFF\xFE\0", 5), std::string("\xFF\xFE["),

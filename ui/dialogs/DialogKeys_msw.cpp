@@ -8,9 +8,10 @@
 namespace vantrel {
 
 void onEnter(wxWindow& control, std::function<void()> action) {
-    control.Bind(wxEVT_CHAR_HOOK, [action = std::move(action)](wxKeyEvent& event) {
+    control.Bind(wxEVT_CHAR_HOOK, [&control, action = std::move(action)](wxKeyEvent& event) {
+        // The system tells of a key from inside a hook, where no other window may open.
         if (event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER)
-            action();
+            control.CallAfter(action);
         else
             event.Skip();
     });

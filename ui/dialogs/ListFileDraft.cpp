@@ -41,8 +41,9 @@ std::string ListFileDraft::title() const {
         return messages_.getMessage(mode_ == list_file_mark::saveVariables
                                         ? message::saveVariablesTitle
                                         : message::loadVariablesTitle);
-    return messages_.getMessage(mode_ == list_file_mark::saveJobs ? message::saveJobsTitle
-                                                                  : message::loadJobsTitle);
+    if (mode_ == list_file_mark::saveJobs)
+        return formCaption(messages_, message::saveJobsTitle, "ジョブの一括セーブ");
+    return messages_.getMessage(message::loadJobsTitle);
 }
 
 std::string ListFileDraft::fieldLabel() const {
