@@ -10,7 +10,8 @@ class ProgressPanel;
 class ProgressView {
   public:
     virtual ~ProgressView() = default;
-    /// Brings the window in line with the panel, and paints it.
+    /// Brings the window in line with the panel. Painting is left to the yields and to the gate
+    /// before the library: a bar that is painted before it is laid out stands one step behind.
     virtual void refresh(const ProgressPanel& panel) = 0;
     /// Lets pending events run once, so that a press of Cancel can be delivered.
     virtual void yield() = 0;

@@ -116,6 +116,9 @@ void Composition::showStartMessage() {
 }
 
 void Composition::unloadStartMessage() {
+    // The last window of all would stay on the screen until the program is idle.
+    if (startMessage_)
+        startMessage_->Hide();
     startMessage_.unload();
 }
 

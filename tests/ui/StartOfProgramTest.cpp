@@ -21,9 +21,10 @@ class StartMessageWatch : public wxEventFilter {
     std::size_t colours = 0; ///< of its text
 
   private:
-    int FilterEvent(wxEvent& event) override {
+    int FilterEvent(wxEvent& /*event*/) override {
         wxWindow* const message = wxWindow::FindWindowByName("FrmMessage");
-        if (event.GetEventType() != wxEVT_CREATE || windows > 0 || !message || !message->IsShown())
+        if (windows > 0 || !message || !message->IsShown() ||
+            !wxWindow::FindWindowByName("frmZuroVant"))
             return Event_Skip;
         windows = windowsOnScreen();
         colours = ScreenPicture(control<wxWindow>(*message, "lblMsg")).colours();

@@ -207,27 +207,6 @@ TEST_P(frmMsgStatTest, StandsOverTheMainWindow) {
     wxTheApp->SetTopWindow(nullptr);
 }
 
-TEST_P(frmMsgStatTest, IsCentredAtTheFirstShowOfACommandAndStaysWhereItIsPutDuringIt) {
-    const wxRect screen = wxGetClientDisplayRect();
-    const auto isCentred = [&] {
-        const wxRect place = window->GetRect();
-        return std::abs(place.x + place.width / 2 - screen.width / 2) < 40;
-    };
-    for (int command = 0; command < 2; ++command) {
-        window->beginCommand();
-        panel.show("text");
-        EXPECT_TRUE(waitFor(isCentred)) << command;
-        window->Move(10, 10);
-        ASSERT_TRUE(waitFor([&] { return window->GetPosition().x < 100; }));
-        panel.hide();
-        runEvents();
-        panel.showAgain();
-        runEvents();
-        EXPECT_FALSE(isCentred()) << "back after a question";
-        panel.hide();
-    }
-}
-
 TEST_P(frmMsgStatTest, UnloadingDetachesItFromThePanel) {
     panel.show("text");
     panel.unload();

@@ -18,6 +18,7 @@
 #include <wx/iconbndl.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
+#include <wx/weakref.h>
 
 namespace vantrel {
 namespace {
@@ -126,8 +127,6 @@ void frmMsgStat::refresh(const ProgressPanel& panel) {
     showTexts(panel);
     showControls(panel);
     showOrHide(panel.isVisible());
-    if (panel.isVisible())
-        Update();
 }
 
 void frmMsgStat::showTexts(const ProgressPanel& panel) {
@@ -161,7 +160,7 @@ void frmMsgStat::showOrHide(bool visible) {
         Hide();
         return;
     }
-    if (!std::exchange(placed_, true))
+    if (!placed_)
         centreOverMainWindow(*this);
     ShowWithoutActivating();
 }
@@ -169,7 +168,12 @@ void frmMsgStat::showOrHide(bool visible) {
 void frmMsgStat::yield() {
     // An event may take the window away, and its members.
     const auto yield = yield_;
+    const wxWeakRef<frmMsgStat> there(this);
     yield();
+    if (!there || !IsShown() || std::exchange(placed_, true))
+        return;
+    // A window that was moved comes back where it was, whatever it was told while it was hidden.
+    centreOverMainWindow(*this);
 }
 
 void frmMsgStat::unload() {
