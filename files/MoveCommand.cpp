@@ -66,6 +66,10 @@ std::vector<std::string> MoveCommand::movable(const std::vector<SelectedItem>& i
 }
 
 bool MoveCommand::move(const std::string& name) {
+    if (goesOverOwn(name)) {
+        TransferReports(with_).aboutFile(name, message::nameIsAmbiguous);
+        return true;
+    }
     const Arrival arrival = transfer(name);
     if (arrival != Arrival::Arrived)
         return arrival == Arrival::NotArrived;
@@ -80,8 +84,13 @@ MoveCommand::Arrival MoveCommand::transfer(const std::string& name) {
     if (!callSession(name, overwrite))
         arrival = overwrite || !existsAlready() ? failed(name) : askAndTransfer(name);
     if (arrival == Arrival::Arrived)
-        arrived_.insert(arrivalName(name));
+        arrived_.insert(direction_ == Direction::Send ? with_.session.lastSent().arrivesAs : name);
     return arrival;
+}
+
+// The controller takes a data file without a question, over the one whose PC file goes.
+bool MoveCommand::goesOverOwn(const std::string& name) const {
+    return direction_ == Direction::Send && !isJobFileName(name) && hasArrived(name);
 }
 
 MoveCommand::Arrival MoveCommand::askAndTransfer(const std::string& name,
@@ -204,6 +213,9 @@ MoveCommand::Arrival MoveCommand::failed(const std::string& name) {
         outcome_.controllerTouched = false;
         return Arrival::EndOfCommand;
     }
+    // Pressed while the directory was read.
+    if (progress_.isCancelled() && existsAlready())
+        return Arrival::EndOfCommand;
     TransferReports(with_).transferFailed(name);
     return Arrival::NotArrived;
 }

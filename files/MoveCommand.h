@@ -35,6 +35,8 @@ class MoveCommand {
     /// False when the command ends with this file.
     bool move(const std::string& name);
     Arrival transfer(const std::string& name);
+    /// Whether the file would go over a data file that this very command has sent.
+    bool goesOverOwn(const std::string& name) const;
     /// Asks for whatever the session has found in the way, by its name, but for what the operator
     /// was `asked` about before.
     Arrival askAndTransfer(const std::string& name, std::vector<std::string> asked = {});

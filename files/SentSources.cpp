@@ -24,13 +24,14 @@ void SentSources::removeArrived() {
         else if (isShown(source.sent, reading))
             remove(source);
         else
-            notShown_.push_back(source.name);
+            noteNotShown(source);
     waiting_ = std::move(waiting);
 }
 
 void SentSources::conclude() {
     removeArrived();
     tell(message::sentNotShown, notShown_);
+    tell(message::notReplaced, lost_);
     std::vector<std::string> notKnown;
     for (const Source& source : waiting_)
         notKnown.push_back(source.name);
@@ -52,6 +53,12 @@ void SentSources::remove(const Source& source) {
         return;
     allWent_ = false;
     reports.aboutFile(source.name, message::originalNotDeleted, removed.reason());
+}
+
+void SentSources::noteNotShown(const Source& source) {
+    notShown_.push_back(source.name);
+    const auto& deleted = source.sent.deleted;
+    lost_.insert(lost_.end(), deleted.begin(), deleted.end());
 }
 
 void SentSources::tell(std::int32_t messageNumber, const std::vector<std::string>& names) {

@@ -34,11 +34,13 @@ class SentSources {
     };
 
     void remove(const Source& source);
+    void noteNotShown(const Source& source);
     void tell(std::int32_t messageNumber, const std::vector<std::string>& names);
 
     TransferServices with_;
-    std::vector<Source> waiting_; ///< one at a time, since each send begins with a reading
+    std::vector<Source> waiting_; ///< mostly one: each send begins with a reading, which may fail
     std::vector<std::string> notShown_;
+    std::vector<std::string> lost_; ///< the robot's jobs that were deleted for files not shown
     bool allWent_ = true;
 };
 

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <unordered_set>
-#include <utility>
 
 namespace vantrel {
 namespace {
@@ -37,7 +36,8 @@ bool DirectoryReader::read(std::vector<std::string>& list) {
     return false;
 }
 
-DirectoryReader::End DirectoryReader::readEntries(std::int16_t handle, std::vector<std::string>& list) {
+DirectoryReader::End DirectoryReader::readEntries(std::int16_t handle,
+                                                  std::vector<std::string>& list) {
     Zurolink& library = link_.library();
     std::unordered_set<std::string> told;
     std::int32_t repeats = 0;
@@ -46,11 +46,11 @@ DirectoryReader::End DirectoryReader::readEntries(std::int16_t handle, std::vect
     while (found == entryFound) {
         if (taken_ == mostEntries || repeats == mostRepeats)
             return {session_code::directoryEndless, true};
-        std::string entry = takeEntry();
-        const std::string text = fromCodePage(entry);
-        if (const auto name = trimmed(text); !name.empty())
+        const std::string text = fromCodePage(takeEntry());
+        if (const auto name = trimmed(text); !name.empty()) {
             list.emplace_back(name);
-        repeats += told.insert(std::move(entry)).second ? 0 : 1;
+            repeats = told.emplace(name).second ? 0 : repeats + 1;
+        }
         if (progress_.isCancelledReading(++taken_))
             return {session_code::cancelled, true};
         found = library.BscFindNext(handle, buffer_.data(), bufferLength);

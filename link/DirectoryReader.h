@@ -18,8 +18,8 @@ class DirectoryReader {
     /// A controller holds some thousand files at most; ten times as many are still read, which is
     /// minutes on a serial line. A directory that goes on is taken for endless.
     static constexpr std::int32_t mostEntries = 50'000;
-    /// Entries that were told before: a library may name a file more than once, but one that goes
-    /// round and round does not end.
+    /// Entries in a row that were told before: a library may name every file more than once, but
+    /// one that goes round and round does not end.
     static constexpr std::int32_t mostRepeats = 100;
 
     DirectoryReader(LinkConnection& link, SessionProgress& progress, SessionErrorRecord& error)
@@ -31,7 +31,8 @@ class DirectoryReader {
     bool read(std::vector<std::string>& list);
 
   private:
-    /// What the library returned last, or the session's own code when the session ended the reading.
+    /// What the library returned last, or the session's own code when the session ended the
+    /// reading.
     struct End {
         std::int16_t code;
         bool isOwn;

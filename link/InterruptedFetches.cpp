@@ -69,6 +69,11 @@ bool InterruptedFetches::settle(const std::string& folder, const std::vector<std
     return true;
 }
 
+bool InterruptedFetches::isOpen(const std::string& folder, const std::string& name) const {
+    const std::string path = pathOf(folder, FetchMark::fileNameFor(name));
+    return anythingExists(path) && !told_.contains(path);
+}
+
 std::string InterruptedFetches::settleOne(const std::string& folder, const FetchMark& mark) {
     const std::string head = inBrackets(mark.name) + text(message::transferInterrupted);
     const std::string path = pathOf(folder, mark.name);

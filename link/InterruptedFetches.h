@@ -28,6 +28,9 @@ class InterruptedFetches {
     /// `names` are the folder's. True when there was something to settle, so that the folder now
     /// has other names. What cannot be mended is told once.
     bool settle(const std::string& folder, const std::vector<std::string>& names);
+    /// Whether the file may be half of one, and the operator was not told so: its transfer is
+    /// running, or nobody has looked at the folder since it was interrupted.
+    bool isOpen(const std::string& folder, const std::string& name) const;
 
   private:
     /// A box shows so many; the others come with the next look.

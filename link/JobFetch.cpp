@@ -57,7 +57,8 @@ TransferOutcome JobFetch::fetch(const std::string& name, std::int32_t index, boo
     }
     if (!goesOn(outcome))
         return outcome;
-    if (!receive(name, *libraryName, index))
+    const bool mayReplace = overwriteAll || !tools_.inTheWay.empty();
+    if (!receive(name, *libraryName, index, mayReplace))
         return TransferOutcome::Failed;
     tools_.directory.insert(name);
     return outcome;
@@ -70,10 +71,17 @@ bool JobFetch::existsOnPC(const std::string& name) const {
            anythingExists(PathRules().join(tools_.properties.path, name));
 }
 
-bool JobFetch::receive(const std::string& name, const std::string& libraryName,
-                       std::int32_t index) {
+// Connecting takes long and lets events run: what came meanwhile was asked for by nobody.
+bool JobFetch::receive(const std::string& name, const std::string& libraryName, std::int32_t index,
+                       bool mayReplace) {
     const std::int16_t handle = tools_.link.connect();
-    return handle >= 0 && receiveOver(handle, name, libraryName, index);
+    if (handle < 0)
+        return false;
+    if (mayReplace || !anythingExists(PathRules().join(tools_.properties.path, name)))
+        return receiveOver(handle, name, libraryName, index);
+    tools_.link.disconnect(handle);
+    tools_.error.set(session_code::fileChanged, "", index);
+    return false;
 }
 
 bool JobFetch::receiveOver(std::int16_t handle, const std::string& name,
@@ -84,10 +92,14 @@ bool JobFetch::receiveOver(std::int16_t handle, const std::string& name,
         tools_.error.set(file.problem(), "", index);
         return false;
     }
-    if (receiveInto(file, handle, libraryName, index))
+    if (!receiveInto(file, handle, libraryName, index)) {
+        putBack(file, name, index);
+        return false;
+    }
+    if (file.asideName().empty())
         return true;
-    putBack(file, name, index);
-    return false;
+    tellLeftover(file, name);
+    return tools_.link.isAsBegun();
 }
 
 bool JobFetch::receiveInto(ReplacedFile& file, std::int16_t handle, const std::string& libraryName,
@@ -99,10 +111,20 @@ bool JobFetch::receiveInto(ReplacedFile& file, std::int16_t handle, const std::s
         tools_.error.set(session_code::fileDidNotArrive, "BscUpLoad", index);
         return false;
     }
+    // A move deletes the original next, and would do so on another robot.
+    if (!tools_.link.isAsBegun())
+        return false;
     const std::int16_t problem = file.keep();
     if (problem != 0)
         tools_.error.set(problem, "BscUpLoad", index);
     return problem == 0;
+}
+
+void JobFetch::tellLeftover(const ReplacedFile& file, const std::string& name) const {
+    tools_.dialog.tell("[" + shownText(name) + "]" +
+                           tools_.messages.getMessage(message::oldFileKeptAs) + "[" +
+                           file.asideName() + "]",
+                       BoxIcon::Exclamation);
 }
 
 void JobFetch::putBack(ReplacedFile& file, const std::string& name, std::int32_t index) {

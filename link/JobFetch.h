@@ -22,8 +22,7 @@ class JobFetch {
         : tools_(tools), files_(files), interrupted_(interrupted) {}
 
     /// Reads which names the PC folder has, after settling what interrupted fetches left in it.
-    /// False, with the reason recorded, when it cannot be
-    /// read.
+    /// False, with the reason recorded, when it cannot be read.
     bool listFolder();
     /// `index` is the file's place among several, for the error record.
     TransferOutcome fetch(const std::string& name, std::int32_t index, bool overwriteAll);
@@ -31,11 +30,15 @@ class JobFetch {
   private:
     Outcome readNames(std::vector<std::string>& names) const;
     bool existsOnPC(const std::string& name) const;
-    bool receive(const std::string& name, const std::string& libraryName, std::int32_t index);
+    /// `mayReplace` tells that the operator has agreed to what lies under the name going.
+    bool receive(const std::string& name, const std::string& libraryName, std::int32_t index,
+                 bool mayReplace);
     bool receiveOver(std::int16_t handle, const std::string& name, const std::string& libraryName,
                      std::int32_t index);
     bool receiveInto(ReplacedFile& file, std::int16_t handle, const std::string& libraryName,
                      std::int32_t index);
+    /// Tells of an old version that could not be removed after a good fetch.
+    void tellLeftover(const ReplacedFile& file, const std::string& name) const;
     /// Leaves the folder as it was before a failed transfer; that it could not be done is told
     /// whatever `DisplayMonitor` says: nobody would look for the old file under its other name, and
     /// everybody would take half a new one for a whole.

@@ -1,6 +1,7 @@
 #include "link/JobSend.h"
 
 #include "base/PathRules.h"
+#include "link/InterruptedFetches.h"
 #include "link/JobDeletion.h"
 #include "link/JobFile.h"
 #include "link/JobNameSet.h"
@@ -14,6 +15,7 @@
 #include "platform/TextEncoding.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace vantrel {
 namespace {
@@ -31,12 +33,19 @@ void JobSend::begin() {
     storedAs_.clear();
 }
 
+bool JobSend::isWhole(const std::string& file, std::int32_t index) {
+    if (!interrupted_.isOpen(tools_.properties.path, file))
+        return true;
+    tools_.error.set(session_code::fileNotReadable, "", index);
+    return false;
+}
+
 TransferOutcome JobSend::send(const std::string& file, std::int32_t index,
                               const ReplaceConsent& consent, SentFile* sent) {
     tools_.inTheWay.clear();
     storedAs_.clear();
     const auto libraryName = tools_.link.libraryFileName(file, "BscDownLoad", index);
-    if (!libraryName || !tools_.link.isAsBegun())
+    if (!libraryName || !tools_.link.isAsBegun() || !isWhole(file, index))
         return TransferOutcome::Failed;
     const std::string path = PathRules().join(tools_.properties.path, file);
     auto job = isJobFileName(file) || sent ? read(file, index) : JobFile();
@@ -48,11 +57,13 @@ TransferOutcome JobSend::send(const std::string& file, std::int32_t index,
     const std::string& inside = job->name().text;
     const std::string arrivesAs = inside.empty() ? file : jobFileName(inside);
     const std::string shownBefore = tools_.directory.entry(arrivesAs);
+    const std::vector<std::string> deleted = deletedUnder(arrivesAs);
     if (!transmit(file, *libraryName, arrivesAs, index))
         return TransferOutcome::Failed;
     tools_.directory.insert(arrivesAs);
     if (sent)
-        *sent = {path, job->takeContent(), arrivesAs, shownBefore, jobExtension(file) != ".JBI"};
+        *sent = {path,        job->takeContent(),           arrivesAs,
+                 shownBefore, jobExtension(file) != ".JBI", deleted};
     return outcome;
 }
 
@@ -119,7 +130,7 @@ TransferOutcome JobSend::agree(const std::string& file, JobFile& job, std::int32
 
 bool JobSend::isAsAsked(const std::string& file, JobFile& job, std::int32_t index) {
     auto now = read(file, index);
-    if (!now)
+    if (!now || !isWhole(file, index))
         return false;
     const bool isSame = now->name() == job.name();
     if (!isSame)
@@ -185,6 +196,13 @@ bool JobSend::transmit(const std::string& file, const std::string& libraryName,
     if (sent == 0)
         replaced(arrivesAs);
     return tools_.link.finish(handle, sent, "BscDownLoad", index);
+}
+
+std::vector<std::string> JobSend::deletedUnder(const std::string& arrivesAs) const {
+    std::vector<std::string> jobs;
+    std::ranges::copy_if(unreplaced_, std::back_inserter(jobs),
+                         [&](const std::string& job) { return isSameJob(job, arrivesAs); });
+    return jobs;
 }
 
 void JobSend::replaced(const std::string& arrivesAs) {

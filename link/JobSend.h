@@ -10,6 +10,7 @@
 
 namespace vantrel {
 
+class InterruptedFetches;
 class JobDeletion;
 class JobFile;
 struct SentFile;
@@ -24,11 +25,15 @@ struct ReplaceConsent {
 /// Sends one file of the PC folder into the controller.
 class JobSend {
   public:
-    JobSend(const TransferTools& tools, JobDeletion& deletion)
-        : tools_(tools), deletion_(deletion) {}
+    JobSend(const TransferTools& tools, JobDeletion& deletion,
+            const InterruptedFetches& interrupted)
+        : tools_(tools), deletion_(deletion), interrupted_(interrupted) {}
 
     /// Forgets what the last operation has deleted.
     void begin();
+    /// False, with the reason recorded, while the file is being fetched, by whatever program, or
+    /// was and nobody has settled it: half a job must not replace a whole one.
+    bool isWhole(const std::string& file, std::int32_t index);
     /// `index` is the file's place among several, for the error record. `sent`, when given, becomes
     /// what was sent, for somebody who is to delete the file on the PC: then data files are read
     /// too.
@@ -70,11 +75,14 @@ class JobSend {
     bool removeAll(const std::vector<std::string>& jobs);
     bool transmit(const std::string& file, const std::string& libraryName,
                   const std::string& arrivesAs, std::int32_t index);
+    /// Of the deleted jobs those whose place a file that arrives as this takes.
+    std::vector<std::string> deletedUnder(const std::string& arrivesAs) const;
     /// Something has taken the place of that job.
     void replaced(const std::string& arrivesAs);
 
     TransferTools tools_;
     JobDeletion& deletion_;
+    const InterruptedFetches& interrupted_;
     std::vector<std::string> unreplaced_;
     std::string storedAs_;
 };

@@ -93,15 +93,25 @@ bool ReplacedFile::hasArrived() const {
 // controller's would be taken for a part, and a move deletes the controller's next. An old version
 // that cannot be removed does no harm, and without a mark nobody ever puts it back.
 std::int16_t ReplacedFile::keep() {
+    if (!oldLiesAside()) {
+        decided_ = true;
+        return session_code::fileDidNotArrive;
+    }
     if (!files_.flush(pathOf(mark_.name)))
         return session_code::fileNotFlushed;
     if (!files_.remove(*held_))
         return session_code::fetchNotMarked;
     held_.reset();
     decided_ = true;
-    if (!mark_.aside.empty())
-        static_cast<void>(files_.remove(pathOf(mark_.aside)));
+    if (!mark_.aside.empty() && files_.remove(pathOf(mark_.aside)))
+        mark_.aside.clear();
     return noProblem;
+}
+
+// Another machine that does not see who holds the mark may have settled the transfer, with the old
+// version under its own name again.
+bool ReplacedFile::oldLiesAside() const {
+    return mark_.aside.empty() || mark_.describes(pathOf(mark_.aside));
 }
 
 Outcome ReplacedFile::putBack() {

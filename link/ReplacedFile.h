@@ -32,8 +32,10 @@ class ReplacedFile {
     /// Whether a file has arrived under the name that can be read and holds something. Whether it
     /// is a whole job is not looked at: what a controller gives is kept as it gives it.
     bool hasArrived() const;
-    /// The new file is complete: once it is on the disk and the mark is gone, the old one goes. 0,
-    /// or the session's code for a failure, with which nothing is decided yet.
+    /// The new file is complete: once it is on the disk and the mark is gone, the old one goes;
+    /// where it cannot, `asideName` goes on telling where it is. 0, or the session's code for a
+    /// failure, with which nothing is decided yet, unless the old version no longer lies aside as
+    /// it was: then somebody else was at work here, and everything stays as it is, the mark too.
     std::int16_t keep();
     /// The new file goes and the old one comes back. On failure the old one stays under
     /// `asideName`, or without an old one a part of the new one where it is, and the mark stays
@@ -49,6 +51,7 @@ class ReplacedFile {
     /// Whether the old version could be described; true without one.
     bool describeOld();
     std::int16_t setMark();
+    bool oldLiesAside() const;
     Outcome removePartial();
     Outcome bringBack();
     std::string pathOf(const std::string& name) const;

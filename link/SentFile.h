@@ -20,6 +20,7 @@ struct SentFile {
     std::string arrivesAs;   ///< the name that the controller's directory is to show
     std::string shownBefore; ///< its entry for that name when the sending began, or empty
     bool isInPlace = false;  ///< the controller puts it over what it has under the name
+    std::vector<std::string> deleted{}; ///< the controller's jobs whose place it was to take
 };
 
 /// Whether a reading made after the send shows the file. Where the name was free, as it is for

@@ -91,12 +91,15 @@ bool SessionProgress::isCancelledPassingOver(const std::string& name, std::int32
 }
 
 bool SessionProgress::isCancelledInView() {
-    return panel_.isVisible() ? isCancelled() : pressed_;
+    if (!panel_.isVisible())
+        return pressed_;
+    pressed_ = pressed_ || panel_.isCancelled();
+    return isCancelled();
 }
 
 bool SessionProgress::isCancelledReading(std::int32_t entries) {
     constexpr std::int32_t yieldingOnes = 100; ///< a second of a line that is slow
-    if (panel_.isVisible() && !silent() && entries % yieldingOnes == 0)
+    if (panel_.isVisible() && entries % yieldingOnes == 0)
         panel_.yield();
     return isCancelledInView();
 }

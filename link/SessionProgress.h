@@ -42,8 +42,8 @@ class SessionProgress {
     /// Whether Cancel was pressed, asked for an entry that is passed over. Lists may hold millions
     /// of these, so only now and then, and at the list's end, one is shown and a press let in.
     bool isCancelledPassingOver(const std::string& name, std::int32_t item, std::int32_t count);
-    /// Whether it was pressed, as long as the window is to be seen: what the mark of a hidden one
-    /// holds is of work that is over.
+    /// Whether it was pressed, as long as the window is to be seen, be it the calling command's:
+    /// what the mark of a hidden one holds is of work that is over.
     bool isCancelledInView();
     /// The same while a directory is read, of which `entries` are there already; now and then
     /// events run before.

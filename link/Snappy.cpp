@@ -39,9 +39,9 @@ struct Snappy::Parts {
                                           question,       directoryNames,
                                           inTheWay,       services.messages,
                                           services.dialog},
-          sending(tools, deletion), files(services.files ? *services.files : systemFiles),
+          files(services.files ? *services.files : systemFiles),
           interrupted(files, services.messages, services.dialog),
-          fetching(tools, files, interrupted),
+          sending(tools, deletion, interrupted), fetching(tools, files, interrupted),
           jobs({properties, error, services.messages, services.dialog}), variable(link, error),
           variables(properties, error) {}
 
@@ -76,10 +76,10 @@ struct Snappy::Parts {
     std::vector<std::string> inTheWay; ///< of the file transferred last
     JobDeletion deletion;
     TransferTools tools;
-    JobSend sending;
     FetchFiles systemFiles;
     FetchFiles& files;
     InterruptedFetches interrupted;
+    JobSend sending;
     JobFetch fetching;
     LocalJobList localJobs;
     JobListStore jobs;
@@ -251,8 +251,9 @@ bool Snappy::Parts::readDirectory() {
 bool Snappy::Parts::sendSingle(const std::string& file, const ReplaceConsent& consent) {
     return operate([&] {
         inTheWay.clear();
-        // A name that will be refused opens no link, not even the directory's.
-        if (!link.libraryFileName(file, "BscDownLoad", 0) || !readDirectory())
+        // A name or file that will be refused opens no link, not even the directory's.
+        if (!link.libraryFileName(file, "BscDownLoad", 0) || !sending.isWhole(file, 0) ||
+            !readDirectory())
             return false;
         progress.open(progress.transferring(file), false, true);
         entryTried = true;

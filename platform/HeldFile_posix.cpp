@@ -2,8 +2,6 @@
 #include "platform/Files.h"
 #include "platform/HeldFile.h"
 
-#include <array>
-
 #include <fcntl.h>
 #include <sys/file.h>
 

@@ -52,9 +52,8 @@ TEST_F(MoveCommandTest, TheSessionWorksSilentlyWhileTheCommandShowsEachFile) {
         }
     };
     EXPECT_TRUE(commands.sendMove());
-    EXPECT_THAT(progressView.messages(),
-                ElementsAre("Transferring ", "Transferring A.JBI", "Transferring B.JBI",
-                            "reading directory"));
+    EXPECT_THAT(progressView.messages(), ElementsAre("Transferring ", "Transferring A.JBI",
+                                                     "Transferring B.JBI", "reading directory"));
 }
 
 TEST_F(MoveCommandTest, TheOverwriteQuestionNamesTheFile) {
@@ -423,6 +422,59 @@ TEST_F(MoveCommandTest, RejectedFilesOnlyLeaveTheSessionAlone) {
     selectOnPC({"A.TXT"});
     EXPECT_TRUE(commands.sendMove());
     EXPECT_EQ(library.callCount(), 0);
+}
+
+TEST_F(MoveCommandTest, AnotherRobotChosenInTheLastCallsOfAFetchKeepsItsJob) {
+    robotJob("A");
+    library.at("COM2").put("A.JBI", "of the other robot");
+    selectOnController({"A.JBI"});
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscClose" && library.callCount("BscUpLoad") == 1)
+            session.port = 2;
+    };
+    EXPECT_FALSE(commands.receiveMove());
+    EXPECT_TRUE(robot().has("A.JBI"));
+    EXPECT_TRUE(library.at("COM2").has("A.JBI"));
+    EXPECT_FALSE(pc.has("A.JBI"));
+}
+
+/// The operator presses Cancel while the directory is read for a file.
+class MoveCancelledReading : public MoveCommandTest {
+  protected:
+    void pressInReading(int reading) {
+        library.onCall = [this, reading](const std::string& function) {
+            if (function == "BscFindNext" && library.callCount("BscFindFirst") == reading)
+                progress.pressCancel();
+        };
+    }
+};
+
+TEST_F(MoveCancelledReading, EndsTheCommandBeforeAnythingIsSent) {
+    pcJob("A");
+    pcJob("B");
+    robotJob("C");
+    selectOnPC({"A.JBI", "B.JBI"});
+    pressInReading(1);
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_EQ(library.callCount("BscDownLoad"), 0);
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_TRUE(pc.has("B.JBI"));
+    EXPECT_TRUE(boxes.texts().empty());
+}
+
+TEST_F(MoveCancelledReading, IsNoFailureToTellAfterAll) {
+    pcJob("A", "new");
+    pcJob("B", "new");
+    robotJob("A", "old");
+    robotJob("B", "old");
+    selectOnPC({"A.JBI", "B.JBI"});
+    question.answers = {Answer::All};
+    pressInReading(3); // one for A's question, one for A
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_EQ(library.callCount("BscDownLoad"), 1);
+    EXPECT_EQ(robot().bytes("B.JBI"), job("B", "old"));
+    EXPECT_TRUE(pc.has("B.JBI"));
+    EXPECT_TRUE(boxes.texts().empty());
 }
 
 } // namespace

@@ -19,5 +19,27 @@ TEST_F(PosixNamesTest, ANameWithADriveInItIsRefusedByName) {
     EXPECT_THAT(robot().names(), ElementsAre("GOOD.JBI"));
 }
 
+/// The robot keeps both under one name, and a data file goes over another unasked.
+TEST_F(PosixNamesTest, OfDataFilesThatDifferInLetterCaseOnlyAMoveSendsTheFirst) {
+    pc.write("V.DAT", "1");
+    pc.write("v.DAT", "2");
+    pc.write("W.DAT", "3");
+    robot();
+    selectOnPC({"V.DAT", "v.DAT", "W.DAT"});
+    library.onCall = [this](const std::string& function) {
+        if (function != "BscFindFirst" || !robot().has("v.DAT"))
+            return;
+        robot().put("V.DAT", robot().bytes("v.DAT"));
+        robot().erase("v.DAT");
+    };
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_EQ(library.callCount("BscDownLoad"), 2);
+    EXPECT_THAT(boxes.texts(), ElementsAre(testing::EndsWith(".DAT] is ambiguous")));
+    EXPECT_THAT(robot().names(), ElementsAre("V.DAT", "W.DAT"));
+    EXPECT_EQ(window.pc.names.size(), 1u);
+    EXPECT_EQ(pc.has("V.DAT"), robot().bytes("V.DAT") == "2");
+    EXPECT_EQ(pc.has("v.DAT"), robot().bytes("V.DAT") == "1");
+}
+
 } // namespace
 } // namespace vantrel

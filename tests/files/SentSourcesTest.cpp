@@ -212,5 +212,18 @@ TEST_F(SentSourcesTest, CancelLeavesNothingUnjudged) {
     EXPECT_TRUE(pc.has("B.JBI"));
 }
 
+TEST_F(SentSourcesTest, AJobThatWasDeletedForAFileThatDidNotArriveIsNamed) {
+    pcJob("A", "new");
+    robotJob("A", "old");
+    robotJob("B", "old");
+    selectOnPC({"A.JBI"});
+    question.answers = {Answer::Yes};
+    library.disturb({"BscDownLoad", 1, false, true});
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_THAT(robot().names(), ElementsAre("B.JBI"));
+    EXPECT_THAT(boxes.texts(),
+                ElementsAre("not shown:\n[A.JBI]", "gone and not replaced:\n[A.JBI]"));
+}
+
 } // namespace
 } // namespace vantrel

@@ -285,5 +285,37 @@ TEST_F(DirectoryReaderTest, ProgressOfACommandStaysWhileTheMonitorIsOff) {
     EXPECT_TRUE(world.panel.isVisible());
 }
 
+TEST_F(DirectoryReaderTest, ASilentReadIsCancelledInTheWindowOfItsCommand) {
+    for (int i = 0; i < 300; ++i)
+        world.controller().put("JOB" + std::to_string(i), "");
+    world.session->DisplayMonitor = false;
+    world.panel.show("command");
+    world.view.onYield = [this, first = world.view.yields](int yield) {
+        if (yield == first + 2)
+            world.panel.pressCancel();
+    };
+    EXPECT_FALSE(read());
+    EXPECT_EQ(world.error(), " 3 200");
+    EXPECT_TRUE(world.panel.isVisible());
+    EXPECT_TRUE(world.panel.isCancelled()) << "for the command, too";
+    EXPECT_EQ(world.library.openLinks(), 0);
+}
+
+TEST_F(DirectoryReaderTest, ALibraryThatTellsEveryFileTwiceIsReadToItsEnd) {
+    for (int i = 0; i < 150; ++i)
+        for (const char* behind : {"", " "})
+            world.controller().put("JOB" + std::to_string(i) + behind, "");
+    EXPECT_TRUE(read());
+    EXPECT_EQ(list.size(), 300u);
+}
+
+TEST_F(DirectoryReaderTest, BlankEntriesAreNoRepeats) {
+    world.controller().put("A", "");
+    for (std::size_t i = 1; i < 150; ++i)
+        world.controller().put(std::string(i, ' '), "");
+    EXPECT_TRUE(read());
+    EXPECT_THAT(list, ElementsAre("A"));
+}
+
 } // namespace
 } // namespace vantrel

@@ -45,6 +45,7 @@ class FailingFiles : public FetchFiles {
     bool failsWrite = false;
     bool failsRemoveMark = false;
     bool failsFlush = false;
+    bool failsRemove = false;
 
     Result<HeldFile> hold(const std::string& path) override {
         return failsHold ? Failure{"no"} : FetchFiles::hold(path);
@@ -55,7 +56,9 @@ class FailingFiles : public FetchFiles {
     Outcome remove(HeldFile& file) override {
         return failsRemoveMark ? Failure{"no"} : FetchFiles::remove(file);
     }
-    using FetchFiles::remove;
+    Outcome remove(const std::string& path) override {
+        return failsRemove ? Failure{"no"} : FetchFiles::remove(path);
+    }
     Outcome flush(const std::string& path) override {
         return failsFlush ? Failure{"no"} : FetchFiles::flush(path);
     }

@@ -2,6 +2,8 @@
 
 #include "JobBatchFixture.h"
 #include "base/TextCase.h"
+#include "link/FetchFiles.h"
+#include "link/InterruptedFetches.h"
 #include "link/JobDeletion.h"
 #include "link/JobNameSet.h"
 #include "link/JobSend.h"
@@ -276,10 +278,12 @@ TEST_F(JobBatchTest, TenThousandEntriesAgainstTenThousandJobsAreLinear) {
     SessionProgress progress(*world.session, world.messages, world.panel);
     const OverwriteQuestion question(*world.session, world.messages, world.dialog);
     JobDeletion deletion(link, progress);
+    FetchFiles disk;
+    InterruptedFetches interrupted(disk, world.messages, world.dialog);
     std::vector<std::string> inTheWay;
     JobSend send({*world.session, link, progress, error, question, names, inTheWay, world.messages,
                   world.dialog},
-                 deletion);
+                 deletion, interrupted);
     const LocalJobList local;
     JobBatch batch({*world.session, link, progress, error, local, world.messages, world.dialog},
                    [&send](const std::string& entry, std::int32_t index, bool overwriteAll) {

@@ -330,5 +330,50 @@ TEST_F(JobFetchTest, ProgressShowsTheNameWithoutCancel) {
     EXPECT_FALSE(world.panel.isVisible());
 }
 
+TEST_F(JobFetchTest, AFileThatCameDuringTheConnectIsNotReplacedUnasked) {
+    world.library.onCall = [this](const std::string& function) {
+        if (function == "BscConnect")
+            world.pc.write("WELD.JBI", "mine");
+    };
+    EXPECT_FALSE(fetch("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 36 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "mine");
+    EXPECT_EQ(world.library.callCount("BscUpLoad"), 0);
+    EXPECT_EQ(world.library.openLinks(), 0);
+    EXPECT_EQ(fileCount(), 1u);
+}
+
+TEST_F(JobFetchTest, AFileThatCameDuringTheConnectIsReplacedByOneWhoMayReplaceAll) {
+    world.library.onCall = [this](const std::string& function) {
+        if (function == "BscConnect")
+            world.pc.write("WELD.JBI", "mine");
+    };
+    EXPECT_TRUE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.pc.read("WELD.JBI"), weld);
+    EXPECT_EQ(fileCount(), 1u);
+}
+
+TEST_F(JobFetchTest, AnotherRobotChosenInTheLastCallsEndsTheFetch) {
+    world.pc.write("WELD.JBI", "old");
+    world.library.onCall = [this](const std::string& function) {
+        if (function == "BscClose")
+            world.session->port = 2;
+    };
+    EXPECT_FALSE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.error(), " 29 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "old");
+    EXPECT_EQ(fileCount(), 1u);
+}
+
+TEST_F(FailingDiskTest, AnOldVersionThatCannotBeRemovedIsToldAndTheFetchIsDone) {
+    files.failsRemove = true;
+    world.session->DisplayMonitor = false;
+    EXPECT_TRUE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.pc.read("WELD.JBI"), weld);
+    EXPECT_EQ(world.pc.read("WELD.JBI.replaced-1"), "old");
+    EXPECT_THAT(world.boxes.texts(), ElementsAre("[WELD.JBI]; old kept as [WELD.JBI.replaced-1]"));
+    EXPECT_FALSE(world.pc.has(FetchMark::fileNameFor("WELD.JBI")));
+}
+
 } // namespace
 } // namespace vantrel

@@ -1,6 +1,9 @@
 #include "link/JobSend.h"
 
+#include "EndingFiles.h"
 #include "SessionWorld.h"
+#include "link/FetchMark.h"
+#include "link/ReplacedFile.h"
 #include "support/NamedRow.h"
 
 #include <algorithm>
@@ -148,11 +151,13 @@ TEST_F(JobSendTest, WhatIsInTheWayOfOneFileIsForgottenWhenTheNextOneFailsEarly) 
     failsEarly([this] { world.session->JobUpLoad("../A.JBI"); });
 }
 
-TEST_F(JobSendTest, ACommandsCancelMarkIsNotTheSessionsWhileTheMonitorIsOff) {
+TEST_F(JobSendTest, ACommandsCancelMarkEndsASilentSendBeforeItsFileAndStaysTheCommands) {
     world.session->DisplayMonitor = false;
     world.panel.show("command");
     world.panel.pressCancel();
-    EXPECT_TRUE(send("WELD.JBI"));
+    EXPECT_FALSE(send("WELD.JBI"));
+    EXPECT_EQ(world.error(), " 3 0");
+    EXPECT_EQ(world.library.callCount("BscDownLoad"), 0);
     EXPECT_TRUE(world.panel.isCancelled());
     EXPECT_TRUE(world.panel.isVisible());
 }
@@ -547,6 +552,58 @@ TEST_F(JobSendTest, ProgressStaysOpenFromTheNestedDeletionToTheSend) {
         hidden += picture.visible ? 0 : 1;
     EXPECT_TRUE(visibleAtSend);
     EXPECT_EQ(hidden, 2) << "after the directory, and at the end";
+}
+
+/// A file that another program is fetching is half of one.
+struct FetchedJobSendTest : JobSendTest {
+    const std::string mark = FetchMark::fileNameFor("WELD.JBI");
+    tests::FailingFiles files;
+
+    void expectRefused() {
+        EXPECT_EQ(world.error(), " 21 0");
+        EXPECT_EQ(world.controller().bytes("WELD.JBI"), older);
+    }
+};
+
+TEST_F(FetchedJobSendTest, IsRefusedBeforeTheDirectoryIsRead) {
+    world.controller().put("WELD.JBI", older);
+    const ReplacedFile running(files, world.pc.path(), "WELD.JBI");
+    world.pc.write("WELD.JBI", weld);
+    EXPECT_FALSE(send("WELD.JBI", true));
+    expectRefused();
+    EXPECT_EQ(world.library.callCount(), 0);
+}
+
+TEST_F(FetchedJobSendTest, IsRefusedInAListToo) {
+    world.controller().put("WELD.JBI", older);
+    world.pc.write(mark, FetchMark{.name = "WELD.JBI"}.format());
+    world.session->AddJobList("WELD.JBI");
+    world.question.answers = {Answer::Yes};
+    EXPECT_FALSE(world.session->JobListDownLoad());
+    expectRefused();
+    EXPECT_THAT(world.question.questions, IsEmpty());
+}
+
+TEST_F(FetchedJobSendTest, IsRefusedWhenTheFetchBeganDuringTheQuestion) {
+    world.controller().put("WELD.JBI", older);
+    world.question.answers = {Answer::Yes};
+    world.question.whileOpen = [this] {
+        world.pc.write(mark, FetchMark{.name = "WELD.JBI"}.format());
+    };
+    EXPECT_FALSE(send("WELD.JBI"));
+    expectRefused();
+}
+
+TEST_F(FetchedJobSendTest, OneThatTheOperatorWasToldOfIsSent) {
+    world.services.files = &files;
+    world.session = std::make_unique<Snappy>(world.services);
+    world.session->path = world.pc.path();
+    files.failsRemoveMark = true;
+    world.pc.write(mark, FetchMark{.name = "WELD.JBI"}.format());
+    EXPECT_TRUE(world.session->settleInterruptedFetches(world.pc.path(), {mark}));
+    EXPECT_TRUE(world.pc.has(mark));
+    world.pc.write("WELD.JBI", weld);
+    EXPECT_TRUE(send("WELD.JBI"));
 }
 
 } // namespace

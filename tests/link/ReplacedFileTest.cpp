@@ -204,5 +204,32 @@ TEST_F(ReplacedFileTest, WhatIsNotOnTheDiskOrStillMarkedIsNotKept) {
     }
 }
 
+/// By another machine, say, that does not see who holds the mark: the new file may be in pieces.
+TEST_F(ReplacedFileTest, WhatSomebodyElseHasSettledIsNotKept) {
+    folder.write("A.JBI", "old");
+    {
+        ReplacedFile file(files, folder.path(), "A.JBI");
+        std::filesystem::rename(folder.path("A.JBI.replaced-1"), folder.path("A.JBI"));
+        std::filesystem::remove(folder.path(FetchMark::fileNameFor("A.JBI")));
+        EXPECT_EQ(file.keep(), session_code::fileDidNotArrive);
+    }
+    EXPECT_EQ(folder.read("A.JBI"), "old");
+    EXPECT_EQ(fileCount(), 1u);
+}
+
+TEST_F(ReplacedFileTest, AnOldVersionThatWasChangedMeanwhileIsNeitherRemovedNorPutBack) {
+    folder.write("A.JBI", "old");
+    {
+        ReplacedFile file(files, folder.path(), "A.JBI");
+        folder.write("A.JBI", "new");
+        folder.write("A.JBI.replaced-1", "changed");
+        EXPECT_EQ(file.keep(), session_code::fileDidNotArrive);
+        EXPECT_TRUE(file.putBack());
+    }
+    EXPECT_EQ(folder.read("A.JBI"), "new");
+    EXPECT_EQ(folder.read("A.JBI.replaced-1"), "changed");
+    EXPECT_TRUE(folder.has(FetchMark::fileNameFor("A.JBI"))) << "the next look tells of them";
+}
+
 } // namespace
 } // namespace vantrel

@@ -203,15 +203,15 @@ INSTANTIATE_TEST_SUITE_P(
                            [](tests::SessionWorld& world) { world.session->SetTansMode(1); }}),
     tests::rowName);
 
-TEST_F(SnappyTest, AFolderThatChangesInTheMiddleOfAFetchEndsItBeforeAQuestionAboutTheOther) {
+TEST_F(SnappyTest, AFolderThatChangesBetweenTwoFetchedFilesEndsItBeforeAQuestionAboutTheOther) {
     const tests::TemporaryFolder other;
     other.write("B.JBI", "mine");
     for (const char* name : {"A.JBI", "B.JBI"}) {
         world.controller().put(name, tests::SessionWorld::job(name));
         world.session->AddJobList(name);
     }
-    world.library.onCall = [this, &other](const std::string& function) {
-        if (function == "BscUpLoad")
+    world.view.onYield = [this, &other](int) {
+        if (world.pc.has("A.JBI"))
             world.session->path = other.path();
     };
     EXPECT_FALSE(world.session->JobListUpLoad());
