@@ -42,10 +42,10 @@ class FileListControlTest : public testing::TestWithParam<ListView> {
     wxPoint placeOf(long row) {
         wxRect item;
         EXPECT_TRUE(list.native().GetItemRect(row, item, wxLIST_RECT_LABEL));
-        // On the text, which stands at the bottom of what the large icons take for their label.
-        constexpr int aboveBottom = 8;
-        return list.native().ClientToScreen(
-            {item.x + item.width / 2, item.GetBottom() - aboveBottom});
+        // A large icon's text stands below its picture, around which no drag begins.
+        const int below = GetParam() == ListView::LargeIcons ? 22 : 0;
+        return list.native().ClientToScreen(item.GetPosition() + item.GetSize() / 2 +
+                                            wxPoint(0, below));
     }
 
     wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "lists");
