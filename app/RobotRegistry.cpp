@@ -92,10 +92,8 @@ std::string RobotRegistry::defaultText() const {
 // dead network path would hold up the start. A folder is entered when its robot is chosen.
 bool RobotRegistry::readList(const std::string& content) {
     const DecodedText decoded = decodeText(content);
-    // A mark at the start would hide the first section from the profile functions.
-    encoding_ = decoded.encoding == TextEncoding::Utf8WithMark ? TextEncoding::Utf8
-                                                               : decoded.encoding;
-    plain_ = encoding_ == TextEncoding::Utf8 && isAscii(decoded.text);
+    encoding_ = decoded.encoding;
+    plain_ = encoding_ == TextEncoding::Utf8 && isAscii(content);
     readBootName(decoded.text);
     TextLines lines(decoded.text);
     RobotFileReader reader(lines, boxes_, programFolder_);

@@ -346,15 +346,6 @@ TEST_F(RobotRegistryTest, AFileWithBytesOfAnotherCodePageIsLeftAsItIs) {
     EXPECT_EQ(file(), content);
 }
 
-TEST_F(RobotRegistryTest, AMarkAtTheStartIsNotWrittenBack) {
-    const std::string content =
-        boot("R\xC3\xBC") + blockOf("R\xC3\xBC", "10.0.0.1", folder_.path("a"));
-    read("\xEF\xBB\xBF" + content);
-    EXPECT_EQ(state_.BootName, "R\xC3\xBC");
-    ASSERT_TRUE(registry_.write());
-    EXPECT_TRUE(file().starts_with("[Boot]\r\n")) << file();
-}
-
 TEST_F(RobotRegistryTest, GarbageGivesAnEmptyList) {
     for (const std::string& garbage :
          {std::string(10'000'000, 'x'), std::string("\0\0\xFF\xFE\0", 5), std::string("\xFF\xFE["),
