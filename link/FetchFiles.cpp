@@ -9,6 +9,10 @@ Result<HeldFile> FetchFiles::hold(const std::string& path) {
     return HeldFile::make(path);
 }
 
+bool FetchFiles::isHeldAlone(const HeldFile& file) {
+    return file.isHeldAlone();
+}
+
 Outcome FetchFiles::write(HeldFile& file, const std::string& content) {
     return file.write(content);
 }

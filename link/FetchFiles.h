@@ -14,6 +14,8 @@ class FetchFiles {
   public:
     virtual ~FetchFiles() = default;
     virtual Result<HeldFile> hold(const std::string& path);
+    /// Whether nobody else can hold it; false where the disk does not tell.
+    virtual bool isHeldAlone(const HeldFile& file);
     virtual Outcome write(HeldFile& file, const std::string& content);
     virtual Outcome remove(HeldFile& file);
     virtual Outcome remove(const std::string& path);

@@ -75,6 +75,13 @@ std::optional<FetchMark> FetchMark::parse(std::string_view content) {
     return mark;
 }
 
+bool FetchMark::isTorn(std::string_view content) {
+    if (content.find_first_not_of('\0') == std::string_view::npos)
+        return true;
+    const bool hasEnd = content.ends_with(std::string(lastLine) + "\n");
+    return !hasEnd && (content.starts_with(firstLine) || firstLine.starts_with(content));
+}
+
 void FetchMark::describeOld(std::string_view content) {
     size = content.size();
     digest = digestOf(content);

@@ -25,6 +25,8 @@ struct FetchMark {
     /// Nothing when that is no whole mark: the program ended while it was written, and so before
     /// anything else was touched.
     static std::optional<FetchMark> parse(std::string_view content);
+    /// Whether that is what such a program leaves: nothing, the mark's beginning, or zeros.
+    static bool isTorn(std::string_view content);
 
     void describeOld(std::string_view content);
     /// Whether there is a plain file with just the content of the old version.

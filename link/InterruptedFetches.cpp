@@ -28,14 +28,15 @@ struct HeldMark {
     FetchMark mark;
 };
 
-/// Nothing where somebody holds the file or it is no mark. An empty one is of a program that ended
+/// Nothing where somebody holds the file or it is no mark. A torn one is of a program that ended
 /// before it touched anything.
-std::optional<HeldMark> takeMark(const std::string& path, const std::string& name) {
+std::optional<HeldMark> takeMark(FetchFiles& files, const std::string& path,
+                                 const std::string& name) {
     auto held = HeldFile::take(path);
     const auto content = held ? held->read() : Failure{};
     if (!content)
         return {};
-    if (content->empty())
+    if (FetchMark::isTorn(*content) && files.isHeldAlone(*held))
         static_cast<void>(held->remove());
     auto mark = FetchMark::parse(*content);
     if (!mark || FetchMark::fileNameFor(mark->name) != name)
@@ -52,26 +53,37 @@ bool InterruptedFetches::settle(const std::string& folder, const std::vector<std
     std::string told;
     for (const std::string& name : names) {
         const std::string path = pathOf(folder, name);
-        if (!FetchMark::isFileName(name) || told_.contains(path) || settled.size() == mostAtOnce)
+        const bool isKnown = told_.contains(path) || path == running_;
+        if (!FetchMark::isFileName(name) || isKnown || settled.size() == mostAtOnce)
             continue;
-        auto found = takeMark(path, name);
+        auto found = takeMark(files_, path, name);
         if (!found)
             continue;
-        told += (told.empty() ? "" : "\n") + settleOne(folder, found->mark);
+        const bool isOver = files_.isHeldAlone(found->held);
+        told += (told.empty() ? "" : "\n") +
+                (isOver ? settleOne(folder, found->mark) : describe(folder, found->mark));
         settled.emplace_back(path, std::move(found->held));
     }
     if (settled.empty())
         return false;
     dialog_.tell(told, BoxIcon::Exclamation);
     for (auto& [path, held] : settled)
-        if (!files_.remove(held))
+        if (!files_.isHeldAlone(held) || !files_.remove(held))
             told_.insert(path);
     return true;
 }
 
 bool InterruptedFetches::isOpen(const std::string& folder, const std::string& name) const {
-    const std::string path = pathOf(folder, FetchMark::fileNameFor(name));
-    return anythingExists(path) && !told_.contains(path);
+    return anythingExists(pathOf(folder, FetchMark::fileNameFor(name))) && !isTold(folder, name);
+}
+
+bool InterruptedFetches::isTold(const std::string& folder, const std::string& name) const {
+    return told_.contains(pathOf(folder, FetchMark::fileNameFor(name)));
+}
+
+void InterruptedFetches::begin(const std::string& folder, const std::string& name) {
+    running_ = pathOf(folder, FetchMark::fileNameFor(name));
+    told_.erase(running_);
 }
 
 std::string InterruptedFetches::settleOne(const std::string& folder, const FetchMark& mark) {
@@ -88,8 +100,13 @@ std::string InterruptedFetches::settleOne(const std::string& folder, const Fetch
     if (mark.describes(path))
         return head + text(message::oldFileIsBack);
     // Somebody else was at work here meanwhile: what lies there may be his.
-    const bool hasOld = anythingExists(pathOf(folder, mark.aside));
-    return head + text(message::fileMayBeIncomplete) +
+    return describe(folder, mark);
+}
+
+std::string InterruptedFetches::describe(const std::string& folder, const FetchMark& mark) const {
+    const bool hasOld = !mark.aside.empty() && anythingExists(pathOf(folder, mark.aside));
+    return inBrackets(mark.name) + text(message::transferInterrupted) +
+           text(message::fileMayBeIncomplete) +
            (hasOld ? text(message::oldFileKeptAs) + inBrackets(mark.aside) : std::string());
 }
 

@@ -19,7 +19,8 @@ struct FetchMark;
 /// version gets its name back, what had arrived is put away under a name that is no job's, and the
 /// operator is told. Nothing is ever deleted but the mark, and that only after the operator was
 /// told. The mark of a transfer that is running, here or in another program, is held and so left
-/// alone; so is one that cannot be held at all.
+/// alone. Where the disk does not tell whether it is, nothing is touched, and the operator is told
+/// that the file may be incomplete.
 class InterruptedFetches {
   public:
     InterruptedFetches(FetchFiles& files, const MessageTable& messages, OperatorDialog& dialog)
@@ -31,6 +32,11 @@ class InterruptedFetches {
     /// Whether the file may be half of one, and the operator was not told so: its transfer is
     /// running, or nobody has looked at the folder since it was interrupted.
     bool isOpen(const std::string& folder, const std::string& name) const;
+    /// Whether the operator was told of a transfer whose mark still lies there.
+    bool isTold(const std::string& folder, const std::string& name) const;
+    /// This program's own transfer, of which nothing is told while it runs.
+    void begin(const std::string& folder, const std::string& name);
+    void end() { running_.clear(); }
 
   private:
     /// A box shows so many; the others come with the next look.
@@ -38,6 +44,8 @@ class InterruptedFetches {
 
     /// What to tell of one file, after doing what can be done.
     std::string settleOne(const std::string& folder, const FetchMark& mark);
+    /// What to tell of one that may be running.
+    std::string describe(const std::string& folder, const FetchMark& mark) const;
     std::string bringBack(const std::string& folder, const FetchMark& mark);
     /// Gives what lies under the file's name another one, which is returned; empty when it stays.
     std::string putAway(const std::string& folder, const FetchMark& mark);
@@ -47,7 +55,8 @@ class InterruptedFetches {
     FetchFiles& files_;
     const MessageTable& messages_;
     OperatorDialog& dialog_;
-    std::set<std::string> told_; ///< paths of marks that could not be removed
+    std::set<std::string> told_; ///< paths of marks that stay
+    std::string running_;        ///< path of this program's own mark, or empty
 };
 
 } // namespace vantrel

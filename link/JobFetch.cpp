@@ -18,6 +18,24 @@
 #include "platform/Files.h"
 
 namespace vantrel {
+namespace {
+
+/// The time in which this program's own mark may lie in the folder.
+class OwnFetch {
+  public:
+    OwnFetch(InterruptedFetches& fetches, const std::string& folder, const std::string& name)
+        : fetches_(fetches) {
+        fetches_.begin(folder, name);
+    }
+    ~OwnFetch() { fetches_.end(); }
+    OwnFetch(const OwnFetch&) = delete;
+    OwnFetch& operator=(const OwnFetch&) = delete;
+
+  private:
+    InterruptedFetches& fetches_;
+};
+
+} // namespace
 
 bool JobFetch::listFolder() {
     std::vector<std::string> names;
@@ -86,7 +104,10 @@ bool JobFetch::receive(const std::string& name, const std::string& libraryName, 
 
 bool JobFetch::receiveOver(std::int16_t handle, const std::string& name,
                            const std::string& libraryName, std::int32_t index) {
-    ReplacedFile file(files_, tools_.properties.path, name);
+    const std::string folder = tools_.properties.path;
+    const bool isTold = interrupted_.isTold(folder, name);
+    const OwnFetch own(interrupted_, folder, name);
+    ReplacedFile file(files_, folder, name, isTold);
     if (file.problem() != 0) {
         tools_.link.disconnect(handle);
         tools_.error.set(file.problem(), "", index);

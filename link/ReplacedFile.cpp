@@ -29,22 +29,23 @@ bool isReplaceable(const std::string& path) {
 
 } // namespace
 
-ReplacedFile::ReplacedFile(FetchFiles& files, std::string folder, std::string name)
+ReplacedFile::ReplacedFile(FetchFiles& files, std::string folder, std::string name,
+                           bool takesMarkOver)
     : files_(files), folder_(std::move(folder)), problem_(noProblem) {
     mark_.name = std::move(name);
-    problem_ = prepare();
+    problem_ = prepare(takesMarkOver);
     // While the old version has another name the mark stays, and with it the way back.
     if (problem_ != noProblem && (mark_.aside.empty() || anythingExists(pathOf(mark_.name))))
         forget();
 }
 
 // The mark first: from it on the old version can be found again.
-std::int16_t ReplacedFile::prepare() {
+std::int16_t ReplacedFile::prepare(bool takesMarkOver) {
     const std::string path = pathOf(mark_.name);
     const bool hasOld = anythingExists(path);
     if (hasOld && !describeOld())
         return session_code::fileNotReplaceable;
-    if (const std::int16_t problem = setMark(); problem != noProblem)
+    if (const std::int16_t problem = setMark(takesMarkOver); problem != noProblem)
         return problem;
     if (!hasOld || files_.rename(path, pathOf(mark_.aside)))
         return noProblem;
@@ -67,12 +68,14 @@ bool ReplacedFile::describeOld() {
 }
 
 // A whole mark that is there already tells of an older transfer, which nobody could settle yet.
-std::int16_t ReplacedFile::setMark() {
+std::int16_t ReplacedFile::setMark(bool takesMarkOver) {
     auto held = files_.hold(pathOf(FetchMark::fileNameFor(mark_.name)));
     if (!held)
         return session_code::fetchNotMarked;
     const auto before = held->read();
-    if (!before || FetchMark::parse(*before))
+    const bool isFree =
+        before && (!FetchMark::parse(*before) || (takesMarkOver && !files_.isHeldAlone(*held)));
+    if (!isFree)
         return session_code::fetchNotMarked;
     held_ = std::move(*held);
     return files_.write(*held_, mark_.format()) ? noProblem : session_code::fetchNotMarked;

@@ -21,7 +21,11 @@ class ReplacedFile {
     /// Only a plain file that may be written is set aside. Anything else stays where it is, and
     /// nothing can be received over it: a folder, a symbolic link, which would silently become a
     /// file, and a write-protected file, which the operator has locked.
-    ReplacedFile(FetchFiles& files, std::string folder, std::string name);
+    ///
+    /// `takesMarkOver` on a disk that does not tell who holds a mark: the operator knows of the
+    /// transfer whose mark is there.
+    ReplacedFile(FetchFiles& files, std::string folder, std::string name,
+                 bool takesMarkOver = false);
     /// Puts back what nobody has decided about.
     ~ReplacedFile();
     ReplacedFile(const ReplacedFile&) = delete;
@@ -47,10 +51,10 @@ class ReplacedFile {
     const std::string& asideName() const { return mark_.aside; }
 
   private:
-    std::int16_t prepare();
+    std::int16_t prepare(bool takesMarkOver);
     /// Whether the old version could be described; true without one.
     bool describeOld();
-    std::int16_t setMark();
+    std::int16_t setMark(bool takesMarkOver);
     bool oldLiesAside() const;
     Outcome removePartial();
     Outcome bringBack();

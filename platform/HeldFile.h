@@ -11,7 +11,7 @@ namespace vantrel {
 /// A small file that is open as long as the object lives and that nobody else can hold meanwhile,
 /// in this program or another one. The system lets go of it when its holder ends, however that
 /// comes: whoever finds the file and can hold it knows that its holder is no more. On a disk where
-/// the system knows no such locks a file can be made, but never be taken from anybody.
+/// the system knows no such locks everybody gets it, and nobody knows whether it has a holder.
 class HeldFile {
   public:
     /// Makes the file; one that is there and not held is taken over.
@@ -19,6 +19,8 @@ class HeldFile {
     /// Fails when there is no such file or somebody holds it.
     static Result<HeldFile> take(const std::string& path);
 
+    /// False on a disk without locks: somebody else may hold the file as well.
+    bool isHeldAlone() const;
     /// No more than the first 64 KB.
     Result<std::string> read() const;
     /// The whole new content; it and the file's name are on the disk afterwards.

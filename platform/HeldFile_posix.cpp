@@ -10,6 +10,7 @@ namespace vantrel {
 struct HeldFile::Open {
     std::string path;
     Descriptor file;
+    bool isLocked;
 };
 
 namespace {
@@ -53,11 +54,12 @@ Result<HeldFile> HeldFile::hold(const std::string& path, bool make) {
     if (!file.isOpen())
         return systemFailure(errno);
     // The lock belongs to this opening of the file, so it also keeps this program from another.
-    if (::flock(file.number(), LOCK_EX | LOCK_NB) != 0 && !(make && knowsNoLocks(errno)))
+    const bool isLocked = ::flock(file.number(), LOCK_EX | LOCK_NB) == 0;
+    if (!isLocked && !knowsNoLocks(errno))
         return systemFailure(errno);
     if (!isThere(file, path))
         return systemFailure(ENOENT);
-    return HeldFile(std::make_shared<Open>(Open{path, std::move(file)}));
+    return HeldFile(std::make_shared<Open>(Open{path, std::move(file), isLocked}));
 }
 
 Result<HeldFile> HeldFile::make(const std::string& path) {
@@ -66,6 +68,10 @@ Result<HeldFile> HeldFile::make(const std::string& path) {
 
 Result<HeldFile> HeldFile::take(const std::string& path) {
     return hold(path, false);
+}
+
+bool HeldFile::isHeldAlone() const {
+    return open_->isLocked;
 }
 
 Result<std::string> HeldFile::read() const {

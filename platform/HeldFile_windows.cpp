@@ -35,6 +35,11 @@ Result<HeldFile> HeldFile::take(const std::string& path) {
     return hold(path, false);
 }
 
+// A disk that did not know how files are shared would not have opened it.
+bool HeldFile::isHeldAlone() const {
+    return true;
+}
+
 Result<std::string> HeldFile::read() const {
     constexpr DWORD mostRead = 65536;
     std::string content(mostRead, '\0');

@@ -46,9 +46,13 @@ class FailingFiles : public FetchFiles {
     bool failsRemoveMark = false;
     bool failsFlush = false;
     bool failsRemove = false;
+    bool knowsNoLocks = false;
 
     Result<HeldFile> hold(const std::string& path) override {
         return failsHold ? Failure{"no"} : FetchFiles::hold(path);
+    }
+    bool isHeldAlone(const HeldFile& file) override {
+        return !knowsNoLocks && FetchFiles::isHeldAlone(file);
     }
     Outcome write(HeldFile& file, const std::string& content) override {
         return failsWrite ? Failure{"no"} : FetchFiles::write(file, content);

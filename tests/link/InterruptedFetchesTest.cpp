@@ -181,8 +181,7 @@ TEST_F(InterruptedFetchesTest, WhatIsNoMarkIsLeftAlone) {
     world.pc.write(job, "mine");
     const FetchMark other{.name = "B.JBI"};
     for (const std::string& content :
-         {std::string(), std::string("Vantrel fetch 1\nA.JBI\n"), std::string(100, '\0'),
-          std::string("Vantrel fetch 1\n../A.JBI\n\n0\n0\nend\n"),
+         {std::string("Vantrel fetch 1\n../A.JBI\n\n0\n0\nend\n"),
           std::string("Vantrel fetch 1\nA.JBI\nB.JBI\n0\n0\nend\n"),
           std::string("Vantrel fetch 1\nA.JBI\n../A.JBI.replaced-1\n0\n0\nend\n"),
           std::string("Vantrel fetch 1\nA.JBI\n\n-1\n0\nend\n"),
@@ -260,6 +259,23 @@ TEST_P(EndedProgramTest, LeavesNothingHalfWhenItEndsInTheMiddleOfMendingEither) 
 INSTANTIATE_TEST_SUITE_P(Fetches, EndedProgramTest,
                          testing::Values(EndRow{true, true}, EndRow{true, false},
                                          EndRow{false, true}, EndRow{false, false}));
+
+TEST_F(InterruptedFetchesTest, ATornMarkGoesWithoutAWord) {
+    const std::string name = FetchMark::fileNameFor(job);
+    world.pc.write(job, "mine");
+    for (const std::string& content :
+         {std::string(), std::string("Vant"), std::string("Vantrel fetch 1\nA.JBI\n"),
+          std::string(100, '\0')}) {
+        world.pc.write(name, content);
+        EXPECT_FALSE(settle()) << content;
+        EXPECT_FALSE(world.pc.has(name)) << content;
+    }
+    world.pc.write(name, "somebody's notes");
+    EXPECT_FALSE(settle());
+    EXPECT_TRUE(world.pc.has(name));
+    EXPECT_EQ(contentOf(job), "mine");
+    EXPECT_THAT(world.boxes.shown, IsEmpty());
+}
 
 } // namespace
 } // namespace vantrel

@@ -375,5 +375,47 @@ TEST_F(FailingDiskTest, AnOldVersionThatCannotBeRemovedIsToldAndTheFetchIsDone) 
     EXPECT_FALSE(world.pc.has(FetchMark::fileNameFor("WELD.JBI")));
 }
 
+/// A disk that does not tell whether a mark's program is still there.
+struct UnlockedDiskTest : FailingDiskTest {
+    const std::string mark = FetchMark::fileNameFor("WELD.JBI");
+
+    UnlockedDiskTest() {
+        files.knowsNoLocks = true;
+        tests::EndingFiles ending(3);
+        const ReplacedFile killed(ending, world.pc.path(), "WELD.JBI");
+        world.pc.write("WELD.JBI", "half");
+    }
+};
+
+TEST_F(UnlockedDiskTest, ALookTouchesNothingAndTellsOnce) {
+    EXPECT_TRUE(world.session->settleInterruptedFetches(world.pc.path(), {mark}));
+    EXPECT_FALSE(world.session->settleInterruptedFetches(world.pc.path(), {mark}));
+    EXPECT_THAT(world.boxes.texts(), ElementsAre("[WELD.JBI] interrupted; check; old kept as "
+                                                 "[WELD.JBI.replaced-1]"));
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "half");
+    EXPECT_EQ(world.pc.read("WELD.JBI.replaced-1"), "old");
+    EXPECT_TRUE(world.pc.has(mark));
+}
+
+TEST_F(UnlockedDiskTest, AfterItWasToldTheJobCanBeFetched) {
+    EXPECT_TRUE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.pc.read("WELD.JBI"), weld);
+    EXPECT_EQ(world.pc.read("WELD.JBI.replaced-1"), "old");
+    EXPECT_FALSE(world.pc.has(mark));
+    EXPECT_EQ(fileCount(), 2u);
+}
+
+TEST_F(UnlockedDiskTest, OnlyAMarkThatWasToldIsTakenOver) {
+    world.library.onCall = [this](const std::string& function) {
+        if (function == "BscConnect")
+            world.pc.write(FetchMark::fileNameFor("NEW.JBI"),
+                           FetchMark{.name = "NEW.JBI"}.format());
+    };
+    world.controller().put("NEW.JBI", SessionWorld::job("NEW"));
+    EXPECT_FALSE(fetch("NEW.JBI"));
+    EXPECT_EQ(world.error(), " 45 0");
+    EXPECT_TRUE(world.pc.has(FetchMark::fileNameFor("NEW.JBI")));
+}
+
 } // namespace
 } // namespace vantrel
