@@ -103,6 +103,7 @@ Outcome removeFile(const std::string& path) {
 Outcome flushFile(const std::string& path) {
     if (hasNul(path))
         return systemFailure(ERROR_INVALID_NAME);
+    constexpr DWORD sharedWithAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const Handle file(::CreateFileW(systemPath(path).c_str(), GENERIC_WRITE, sharedWithAll, nullptr,
                                     OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file.isOpen() || !::FlushFileBuffers(file.get()))
