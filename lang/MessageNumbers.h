@@ -90,7 +90,7 @@ inline constexpr std::int32_t fileMayBeIncomplete = 78;
 inline constexpr std::int32_t oldFileKeptAs = 79; ///< then [other name]
 inline constexpr std::int32_t nothingArrived = 80;
 
-inline constexpr std::int32_t readingDirectory = 93;        ///< of the controller, in progress
+inline constexpr std::int32_t readingDirectory = 93; ///< of the controller, in progress
 
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;

@@ -96,7 +96,8 @@ bool areWindowEventsPending() {
 bool takeWindowEvents() {
     GdkDisplay* const display = gdk_display_get_default();
     gdk_display_sync(display);
-    // All of them first: what the handling of one brings is for the next call, so that this one ends.
+    // All of them first: what the handling of one brings is for the next call, so that this one
+    // ends.
     std::vector<Event> events;
     while (Event event{gdk_display_get_event(display)})
         events.push_back(std::move(event));

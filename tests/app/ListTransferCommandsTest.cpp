@@ -344,8 +344,9 @@ TEST_F(ListTransferCommandsTest, AListFileThatCannotBeWrittenIsNamedWithTheReaso
     };
     run(saveVariables);
     ASSERT_EQ(boxes.texts().size(), 1U);
-    EXPECT_THAT(boxes.texts().front(), StartsWith("Transfer failed:  ( 6 )list not opened at ( 0 )\n"
-                                                  "list not written: [LIST.LST] "));
+    EXPECT_THAT(boxes.texts().front(),
+                StartsWith("Transfer failed:  ( 6 )list not opened at ( 0 )\n"
+                           "list not written: [LIST.LST] "));
     EXPECT_FALSE(boxes.texts().front().ends_with("] ")) << boxes.texts().front();
 }
 

@@ -339,8 +339,8 @@ TEST_F(RobotRegistryTest, ANameThatNoEncodingHoldsIsRefusedByName) {
 
 TEST_F(RobotRegistryTest, AFileWithBytesOfAnotherCodePageIsLeftAsItIs) {
     // Two names that are told apart only by what this code page does not know.
-    const std::string content = boot("R\xFC") + blockOf("R\xFC", "10.0.0.1", "/a") +
-                                blockOf("R\xFE", "10.0.0.2", "/b");
+    const std::string content =
+        boot("R\xFC") + blockOf("R\xFC", "10.0.0.1", "/a") + blockOf("R\xFE", "10.0.0.2", "/b");
     read(content);
     ASSERT_TRUE(registry_.write());
     EXPECT_EQ(file(), content);

@@ -270,8 +270,7 @@ TEST_F(StartRoutineTest, AFailingReadIsToldAndTheStartGoesOn) {
     desk_.library.refusesConnection = true;
     desk_.state.CtrlListing.append("OLD.JBI", 0, DateText());
     EXPECT_EQ(start(), StartResult::Running);
-    ASSERT_EQ(desk_.boxes.texts(),
-              (std::vector<std::string>{"m1", "m2\nCOM1\nBscConnect ( 0 )"}));
+    ASSERT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m1", "m2\nCOM1\nBscConnect ( 0 )"}));
     EXPECT_EQ(desk_.boxes.shown[1].icon, BoxIcon::Exclamation);
     EXPECT_EQ(desk_.state.CtrlListing.Count, 0);
     EXPECT_TRUE(logged("show version"));

@@ -88,7 +88,8 @@ TEST_F(DeleteCommandTest, AVeryLongNameIsAskedForAndShownShortened) {
     EXPECT_TRUE(commands.deleteOnController());
     const std::string shown = std::string(200, 'A') + "\u2026";
     EXPECT_THAT(question.questions, ElementsAre("[" + shown + "] delete from the controller?"));
-    EXPECT_THAT(progressView.messages(), ElementsAre("Deleting ", "Deleting " + shown, "reading directory"));
+    EXPECT_THAT(progressView.messages(),
+                ElementsAre("Deleting ", "Deleting " + shown, "reading directory"));
 }
 
 TEST_F(DeleteCommandTest, JobsWhoseNamesDifferInLetterCaseOnlyAreNotDeleted) {
