@@ -140,22 +140,6 @@ TEST_F(ReplacedFileTest, PuttingBackWorksOnceAndWithoutAnOldFileToo) {
     EXPECT_EQ(folder.read("A.JBI"), "later");
 }
 
-TEST_F(ReplacedFileTest, TheFolderIsMarkedAsLongAsNothingIsDecided) {
-    folder.write("A.JBI", "old");
-    const std::string name = FetchMark::fileNameFor("A.JBI");
-    EXPECT_EQ(name.find('.'), std::string::npos) << "filters show names with a point only";
-    {
-        const ReplacedFile file(files, folder.path(), "A.JBI");
-        const auto mark = FetchMark::parse(folder.read(name));
-        ASSERT_TRUE(mark);
-        EXPECT_EQ(mark->name, "A.JBI");
-        EXPECT_EQ(mark->aside, "A.JBI.replaced-1");
-        EXPECT_TRUE(mark->describes(folder.path("A.JBI.replaced-1")));
-        EXPECT_FALSE(HeldFile::take(folder.path(name)));
-    }
-    EXPECT_FALSE(folder.has(name));
-}
-
 TEST_F(ReplacedFileTest, NothingIsTouchedInAFolderThatTakesNoMark) {
     folder.write("A.JBI", "old");
     for (bool tests::FailingFiles::*step :
@@ -205,18 +189,6 @@ TEST_F(ReplacedFileTest, WhatIsNotOnTheDiskOrStillMarkedIsNotKept) {
 }
 
 /// By another machine, say, that does not see who holds the mark: the new file may be in pieces.
-TEST_F(ReplacedFileTest, WhatSomebodyElseHasSettledIsNotKept) {
-    folder.write("A.JBI", "old");
-    {
-        ReplacedFile file(files, folder.path(), "A.JBI");
-        std::filesystem::rename(folder.path("A.JBI.replaced-1"), folder.path("A.JBI"));
-        std::filesystem::remove(folder.path(FetchMark::fileNameFor("A.JBI")));
-        EXPECT_EQ(file.keep(), session_code::fileDidNotArrive);
-    }
-    EXPECT_EQ(folder.read("A.JBI"), "old");
-    EXPECT_EQ(fileCount(), 1u);
-}
-
 TEST_F(ReplacedFileTest, AnOldVersionThatWasChangedMeanwhileIsNeitherRemovedNorPutBack) {
     folder.write("A.JBI", "old");
     {
