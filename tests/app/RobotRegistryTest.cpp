@@ -142,18 +142,18 @@ TEST_F(RobotRegistryTest, AListWithoutSentinelIsRefused) {
 TEST_F(RobotRegistryTest, WritingRewritesTheWholeFile) {
     read(
         "; mine\r\n[Boot]\r\nName=A\r\n[Other]\r\nx=y\r\n[Robot]\r\nName=A\r\n[Robot]\r\nName=B\r\n"
-        "IPaddr=1.2.3.4\r\nPath=/jobs\r\n");
+        "IPaddr=1.2.3.4\r\nPath=C:\\jobs\r\n");
     state_.CurrentRobot = state_.RobotList[1];
     EXPECT_TRUE(registry_.write());
     EXPECT_EQ(file(),
-              boot("B") + blockOf("A", "", folder_.path()) + blockOf("B", "1.2.3.4", "/jobs"));
+              boot("B") + blockOf("A", "", folder_.path()) + blockOf("B", "1.2.3.4", "C:\\jobs"));
 }
 
 TEST_F(RobotRegistryTest, NamesThatDifferInTheirOutsideOnlyStayTwoRobots) {
-    const std::string robots = blockOf(" R1", "10.0.0.1", "/a") + blockOf("R1", "10.0.0.2", "/b") +
-                               blockOf("R1 ", "10.0.0.3", "/c") +
-                               blockOf("'R1'", "10.0.0.4", "/d") +
-                               blockOf("\"R1\"", "10.0.0.5", "/e");
+    const std::string robots =
+        blockOf(" R1", "10.0.0.1", "C:\\a") + blockOf("R1", "10.0.0.2", "C:\\b") +
+        blockOf("R1 ", "10.0.0.3", "C:\\c") + blockOf("'R1'", "10.0.0.4", "C:\\d") +
+        blockOf("\"R1\"", "10.0.0.5", "C:\\e");
     read(robots);
     for (std::size_t chosen = 0; chosen < 5; ++chosen) {
         state_.CurrentRobot = state_.RobotList[chosen];
@@ -225,13 +225,13 @@ class RobotRegistryEncodingTest : public RobotRegistryTest,
                                   public testing::WithParamInterface<EncodingCase> {};
 
 TEST_P(RobotRegistryEncodingTest, IsKept) {
-    const std::string text = boot("溶接ﾛﾎﾞｯﾄ") + blockOf("塗装", "1.2.3.4", "/a") +
-                             blockOf("溶接ﾛﾎﾞｯﾄ", "5.6.7.8", "/作業");
+    const std::string text = boot("溶接ﾛﾎﾞｯﾄ") + blockOf("塗装", "1.2.3.4", "C:\\a") +
+                             blockOf("溶接ﾛﾎﾞｯﾄ", "5.6.7.8", "C:\\作業");
     const std::string bytes = encodeText(text, GetParam().encoding).value();
     read(bytes);
     EXPECT_EQ(state_.CurrentRobotIndex, 1);
     EXPECT_EQ(state_.CurrentRobot.Name, "溶接ﾛﾎﾞｯﾄ");
-    EXPECT_EQ(state_.CurrentRobot.Path, "/作業");
+    EXPECT_EQ(state_.CurrentRobot.Path, "C:\\作業");
     EXPECT_TRUE(registry_.write());
     EXPECT_EQ(file(), bytes);
 }
@@ -317,14 +317,14 @@ TEST_F(RobotRegistryTest, ACodePageFileGoesOnInUtf8WhereANameNeedsIt) {
     read(encodeText(boot("溶接") + blockOf("溶接", "", "/a"), TextEncoding::CodePage).value());
     const std::string name = "Prüfstand \xF0\x9F\xA4\x96";
     state_.RobotList.insert(state_.RobotList.begin(), RobotRecord())->Name = name;
-    state_.RobotList[0].Path = "/Prüfung";
+    state_.RobotList[0].Path = "C:\\Prüfung";
     state_.CurrentRobot = state_.RobotList[0];
     ASSERT_TRUE(registry_.write());
     EXPECT_FALSE(file().starts_with("\xEF\xBB\xBF")) << "a mark would hide the first section";
     registry_.read(box_);
     EXPECT_EQ(box_.names, (std::vector<std::string>{name, "溶接"}));
     EXPECT_EQ(state_.CurrentRobot.Name, name);
-    EXPECT_EQ(state_.CurrentRobot.Path, "/Prüfung");
+    EXPECT_EQ(state_.CurrentRobot.Path, "C:\\Prüfung");
 }
 
 TEST_F(RobotRegistryTest, ANameThatNoEncodingHoldsIsRefusedByName) {
