@@ -164,6 +164,14 @@ TEST_F(JobFetchTest, AFolderIsNotFetchedOver) {
     expectBlocked();
 }
 
+TEST_F(JobFetchTest, WhatCannotBeReplacedIsTheReasonEvenWhenTheLinkThenStaysOpen) {
+    world.pc.makeFolder("WELD.JBI");
+    world.library.disturb({.function = "BscDisConnect", .code = -3});
+    EXPECT_FALSE(fetch("WELD.JBI", true));
+    EXPECT_EQ(world.error(), " 26 0");
+    EXPECT_EQ(world.library.openLinks(), 1);
+}
+
 TEST_F(JobFetchTest, AFileThatAppearsDuringTheListIsAskedFor) {
     world.controller().put("PICK.JBI", SessionWorld::job("PICK"));
     world.session->AddJobList("WELD.JBI");
