@@ -53,7 +53,8 @@ bool isNormal(const wxTopLevelWindow& window) {
 
 } // namespace
 
-WindowPlace::WindowPlace(wxTopLevelWindow& window) : window_(window) {
+WindowPlace::WindowPlace(wxTopLevelWindow& window, wxWindow& surface)
+    : window_(window), surface_(surface) {
     settleTimer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
         // A minimised or maximised window has a place that is not its own.
         if (!isNormal(window_))
@@ -61,11 +62,11 @@ WindowPlace::WindowPlace(wxTopLevelWindow& window) : window_(window) {
         else if (window_.IsShown())
             settle();
     });
-    window_.Bind(wxEVT_PAINT, &WindowPlace::painted, this);
+    surface_.Bind(wxEVT_PAINT, &WindowPlace::painted, this);
 }
 
 WindowPlace::~WindowPlace() {
-    window_.Unbind(wxEVT_PAINT, &WindowPlace::painted, this);
+    surface_.Unbind(wxEVT_PAINT, &WindowPlace::painted, this);
 }
 
 void WindowPlace::put(const std::array<std::int32_t, 8>& stored, int resolution, bool isEnlarged) {

@@ -9,6 +9,7 @@
 #include <wx/timer.h>
 
 class wxTopLevelWindow;
+class wxWindow;
 
 namespace vantrel {
 
@@ -17,8 +18,9 @@ struct WindowPlacement;
 /// Where a window stands: puts it at its stored place and says where the operator has moved it.
 class WindowPlace {
   public:
-    /// The window lives longer.
-    explicit WindowPlace(wxTopLevelWindow& window);
+    /// `surface` is the child that covers the window's inside: where children are left out of a
+    /// window's picture, the window itself is never asked for one. Both live longer.
+    WindowPlace(wxTopLevelWindow& window, wxWindow& surface);
     ~WindowPlace();
     WindowPlace(const WindowPlace&) = delete;
     WindowPlace& operator=(const WindowPlace&) = delete;
@@ -54,6 +56,7 @@ class WindowPlace {
     wxPoint changeOfPlace() const;
 
     wxTopLevelWindow& window_;
+    wxWindow& surface_;
     std::array<std::int32_t, 8> stored_{};
     std::array<double, 4> put_{}; ///< twips: the stored place as it was raised or brought back
     wxRect place_;

@@ -49,7 +49,7 @@ frmZuroVant::frmZuroVant(ApplicationState& state, const MessageTable& messages,
     : wxFrame(nullptr, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
               wxDEFAULT_FRAME_STYLE, "frmZuroVant"),
       state_(state), messages_(messages), guard_(guard), controls_(*this), menus_(*this),
-      drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard), place_(*this) {
+      drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard), place_(*this, *controls_.surface) {
     SetIcons(programIcons());
     // No help for menu entries in the panel that shows the PC's count.
     SetStatusBarPane(-1);

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include <wx/frame.h>
+#include <wx/panel.h>
 
 namespace vantrel::tests {
 namespace {
@@ -30,11 +31,11 @@ class WindowPlaceTest : public testing::Test {
             event.Skip();
             isPainted = true;
         };
-        window->Bind(wxEVT_PAINT, onPaint);
+        surface->Bind(wxEVT_PAINT, onPaint);
         place->put(stored, resolution, false);
         window->Show();
         EXPECT_TRUE(waitFor([&] { return isPainted; }));
-        window->Unbind(wxEVT_PAINT, onPaint);
+        surface->Unbind(wxEVT_PAINT, onPaint);
         runEvents();
     }
     WindowPlacement now() const { return place->placement(resolution, {0, 0, 0}); }
@@ -54,7 +55,8 @@ class WindowPlaceTest : public testing::Test {
     }
 
     WindowHolder<wxFrame> window{new wxFrame(nullptr, wxID_ANY, "placed")};
-    std::unique_ptr<WindowPlace> place = std::make_unique<WindowPlace>(*window);
+    wxPanel* surface = new wxPanel(window.get());
+    std::unique_ptr<WindowPlace> place = std::make_unique<WindowPlace>(*window, *surface);
 };
 
 TEST_F(WindowPlaceTest, AnUntouchedWindowIsStoredAsItWasRead) {

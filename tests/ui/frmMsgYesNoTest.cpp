@@ -3,6 +3,11 @@
 #include "DialogTest.h"
 #include "support/ModalScript.h"
 
+#include <cstdlib>
+
+#include <wx/display.h>
+#include <wx/frame.h>
+
 namespace vantrel::tests {
 namespace {
 
@@ -24,6 +29,25 @@ TEST_P(frmMsgYesNoTest, ShowsTheQuestionAndFourAnswers) {
         expectNothingCutOff(dialog);
         saveScreenshot(dialog, "question-" + language());
         click(dialog, "cmdYesNo3");
+    });
+}
+
+/// Wherever the main window is: the operator looks for it in one place.
+TEST_P(frmMsgYesNoTest, StandsInTheMiddleOfTheScreen) {
+    wxFrame corner(nullptr, wxID_ANY, "Snappy", wxPoint(0, 0), wxSize(320, 200));
+    corner.Show();
+    runEvents();
+    frmMsgYesNo question(&corner, "Snappy", overwriteQuestion("WELD_01.JBI"), messages, state);
+    const auto isInTheMiddle = [&question] {
+        constexpr int frame = 60; // what a window manager adds at one side only, in half pixels
+        const wxRect screen = wxDisplay(&question).GetClientArea();
+        const wxRect place = question.GetScreenRect();
+        return std::abs(2 * (place.x - screen.x) + place.width - screen.width) <= frame &&
+               std::abs(2 * (place.y - screen.y) + place.height - screen.height) <= frame;
+    };
+    whileModal(question, [&] {
+        EXPECT_TRUE(waitFor(isInTheMiddle));
+        click(question, "cmdYesNo3");
     });
 }
 
