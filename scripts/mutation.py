@@ -31,7 +31,7 @@ PROGRAMS = {
 }
 OPPOSITES = {" == ": " != ", " != ": " == ", " < ": " <= ", " <= ": " < ", " > ": " >= ", " >= ": " > "}
 WALL_SECONDS = 900  # a test program that waits for something that never comes
-WRITTEN_BYTES = 1 << 30
+WRITTEN_BYTES = 6 << 30  # a test makes a file of 5 GB, though without content
 MEMORY_BYTES = 6 << 30
 
 Change = collections.namedtuple("Change", "file kind start end text")

@@ -3,6 +3,7 @@
 #include "files/TransferTable.h"
 #include "files/TransferTableLine.h"
 #include "platform/Files.h"
+#include "support/ProjectFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <algorithm>
@@ -23,7 +24,7 @@ constexpr bool download = true;
 constexpr bool upload = false;
 
 std::string delivered(const std::string& file) {
-    const auto bytes = readFile(VANTREL_DATA_FOLDER "/" + file);
+    const auto bytes = readFile(tests::dataFolder() + "/" + file);
     EXPECT_TRUE(bytes) << file;
     return bytes ? *bytes : std::string{};
 }
@@ -164,7 +165,7 @@ TEST(DeliveredFileTables, OfferWhatTheTrialsControllersHaveButDoNotList) {
         EXPECT_EQ(offered, controller.hidden) << controller.folder;
         for (const auto& name : offered)
             EXPECT_TRUE(
-                isRegularFile(VANTREL_DATA_FOLDER "/samples/" + controller.folder + "/" + name))
+                isRegularFile(tests::dataFolder() + "/samples/" + controller.folder + "/" + name))
                 << controller.folder << name;
     }
 }
@@ -173,8 +174,8 @@ TEST(DeliveredFileTables, HaveNoFixedNameThatATrialsControllerLists) {
     const auto table = loaded(fullTable);
     for (const auto& controller : trialControllers())
         for (const auto& row : table.rows()) {
-            const bool isKept =
-                isRegularFile(VANTREL_DATA_FOLDER "/samples/" + controller.folder + "/" + row.Name);
+            const bool isKept = isRegularFile(tests::dataFolder() + "/samples/" +
+                                              controller.folder + "/" + row.Name);
             EXPECT_TRUE(!isFixed(row.Name) || !isKept || controller.hidden.contains(row.Name))
                 << controller.folder << row.Name;
         }

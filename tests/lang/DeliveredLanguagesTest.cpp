@@ -4,6 +4,7 @@
 #include "lang/LanguageFile.h"
 #include "platform/Files.h"
 #include "platform/TextEncoding.h"
+#include "support/ProjectFiles.h"
 
 #include <algorithm>
 #include <cctype>
@@ -32,7 +33,7 @@ std::string contentOf(const std::string& path) {
 }
 
 std::string languageFile(const std::string& language) {
-    return contentOf(VANTREL_DATA_FOLDER "/" + language + ".lng");
+    return contentOf(tests::dataFolder() + "/" + language + ".lng");
 }
 
 Texts textsOf(const std::string& language) {
@@ -58,7 +59,7 @@ std::set<std::int32_t> numbersOf(const std::string& language) {
 constexpr std::int32_t resourceOffset = 500;
 
 std::string header(const std::string& file) {
-    return contentOf(VANTREL_SOURCE_FOLDER "/" + file);
+    return contentOf(tests::sourceFolder() + "/" + file);
 }
 
 /// The values of the whole-number constants that a header defines.
@@ -86,7 +87,7 @@ std::string programSources() {
     std::string sources;
     for (const char* room : {"lang", "link", "files", "app", "ui"})
         for (const auto& entry : std::filesystem::recursive_directory_iterator(
-                 std::filesystem::path(VANTREL_SOURCE_FOLDER) / room))
+                 std::filesystem::path(tests::sourceFolder()) / room))
             if (entry.path().extension() == ".cpp")
                 sources += contentOf(entry.path().string());
     return sources;

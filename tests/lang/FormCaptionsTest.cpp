@@ -3,6 +3,7 @@
 #include "lang/LanguageFiles.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "support/ProjectFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +27,7 @@ TEST(FormCaptionsTest, AreTheDesignedOnesWhereTheLanguageHasNone) {
 // What the settings dialog was designed with is what the Japanese file says of it.
 TEST(FormCaptionsTest, OfTheSettingsAreTheJapaneseOnes) {
     MessageTable japanese;
-    ASSERT_TRUE(LanguageFiles(VANTREL_DATA_FOLDER).readInto("Japanese", japanese));
+    ASSERT_TRUE(LanguageFiles(tests::dataFolder()).readInto("Japanese", japanese));
     for (auto number = message::settingsTitle; number <= message::cancel; ++number) {
         EXPECT_FALSE(formCaption({}, number).empty()) << number;
         EXPECT_EQ(formCaption({}, number), japanese.getMessage(number)) << number;

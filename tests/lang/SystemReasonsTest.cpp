@@ -3,6 +3,7 @@
 #include "lang/LanguageFiles.h"
 #include "lang/MessageTable.h"
 #include "platform/Files.h"
+#include "support/ProjectFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ namespace {
 
 MessageTable delivered(const std::string& language) {
     MessageTable messages;
-    EXPECT_TRUE(LanguageFiles(VANTREL_DATA_FOLDER).readInto(language, messages)) << language;
+    EXPECT_TRUE(LanguageFiles(tests::dataFolder()).readInto(language, messages)) << language;
     return messages;
 }
 

@@ -2,12 +2,13 @@
 
 #include "link/ZurolinkBinding.h"
 #include "platform/Environment.h"
+#include "support/ProjectFiles.h"
 #include "support/TemporaryFolder.h"
-
-#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <string>
+
+#include <gtest/gtest.h>
 
 namespace vantrel::tests {
 
@@ -16,7 +17,7 @@ namespace vantrel::tests {
 class SimulatedWorld {
   public:
     SimulatedWorld() {
-        std::filesystem::copy_file(VANTREL_SIMULATOR, program.path(libraryFileName()));
+        std::filesystem::copy_file(simulatorFile(), program.path(libraryFileName()));
         program.makeFolder("first");
         program.makeFolder("second");
         script("");

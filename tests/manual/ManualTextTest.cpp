@@ -3,6 +3,7 @@
 #include "lang/MessageNumbers.h"
 #include "platform/Files.h"
 #include "support/NamedRow.h"
+#include "support/ProjectFiles.h"
 
 #include <algorithm>
 #include <regex>
@@ -21,7 +22,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using tests::NamedRow;
 
-const std::string sources = VANTREL_SOURCE_FOLDER;
+const std::string sources = tests::sourceFolder();
 
 std::string contentOf(const std::string& file) {
     const auto bytes = readFile(sources + "/" + file);

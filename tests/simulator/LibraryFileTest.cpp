@@ -2,6 +2,7 @@
 #include "platform/Environment.h"
 #include "simulator/ResultCodes.h"
 #include "simulator/ZurolinkExports.h"
+#include "support/ProjectFiles.h"
 #include "support/TemporaryFolder.h"
 
 #include <array>
@@ -18,7 +19,7 @@ class LibraryFile : public testing::Test {
         folder.makeFolder("robot");
         folder.makeFolder("pc");
         folder.write("simulator.ini", "[Controller1]\nFolder=robot\nPort=3\n");
-        std::filesystem::copy_file(ZUROLINK_LIBRARY, folder.path(libraryFileName()));
+        std::filesystem::copy_file(tests::simulatorFile(), folder.path(libraryFileName()));
         auto loaded = DynamicLibrary::load(folder.path(libraryFileName()));
         EXPECT_TRUE(loaded) << loaded.reason();
         library = std::move(*loaded);

@@ -8,6 +8,7 @@
 #include "simulator/SimulatorSettings.h"
 #include "simulator/VariableKinds.h"
 #include "simulator/VariableStore.h"
+#include "support/ProjectFiles.h"
 
 #include <filesystem>
 #include <set>
@@ -23,7 +24,7 @@ using testing::Le;
 using testing::Not;
 using testing::SizeIs;
 
-const std::string data = VANTREL_DATA;
+const std::string data = tests::dataFolder();
 
 std::vector<std::filesystem::path> sampleFiles() {
     std::vector<std::filesystem::path> files;

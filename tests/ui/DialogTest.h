@@ -3,11 +3,12 @@
 #include "base/ApplicationState.h"
 #include "lang/LanguageFiles.h"
 #include "lang/MessageTable.h"
+#include "support/ProjectFiles.h"
 #include "support/Windows.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
+
+#include <gtest/gtest.h>
 
 namespace vantrel::tests {
 
@@ -15,7 +16,7 @@ namespace vantrel::tests {
 class DialogTest : public testing::Test {
   public:
     explicit DialogTest(const std::string& language = "English") : language_(language) {
-        const auto read = LanguageFiles(VANTREL_DATA_FOLDER).readInto(language, messages);
+        const auto read = LanguageFiles(dataFolder()).readInto(language, messages);
         EXPECT_TRUE(bool(read)) << language;
         const bool japanese = language == "Japanese";
         state.LanguageName = language;

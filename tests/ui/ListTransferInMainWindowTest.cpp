@@ -1,5 +1,6 @@
 #include "DialogTest.h"
 #include "ProgramWorld.h"
+#include "support/ProjectFiles.h"
 
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
@@ -68,7 +69,7 @@ class ListFileOfEntry : public ListTransferInMainWindowTest,
   protected:
     ListFileOfEntry() {
         settings("TransMode=1\r\n", GetParam());
-        EXPECT_TRUE(bool(LanguageFiles(VANTREL_DATA_FOLDER).readInto(GetParam(), messages)));
+        EXPECT_TRUE(bool(LanguageFiles(dataFolder()).readInto(GetParam(), messages)));
     }
 
     MessageTable messages;

@@ -4,6 +4,7 @@
 #include "support/Choices.h"
 #include "support/CurrentFolderKept.h"
 #include "support/ModalScript.h"
+#include "support/ProjectFiles.h"
 #include "support/TemporaryFolder.h"
 #include "support/Windows.h"
 #include "ui/Composition.h"
@@ -28,9 +29,9 @@ class ProgramWorld {
   public:
     ProgramWorld() {
         for (const char* name : {"English.lng", "Japanese.lng", "System.lng", "FileTable.tbl"})
-            std::filesystem::copy_file(std::filesystem::path(VANTREL_DATA_FOLDER) / name,
+            std::filesystem::copy_file(std::filesystem::path(dataFolder()) / name,
                                        folder.path(name));
-        std::filesystem::copy_file(VANTREL_SIMULATOR, folder.path(libraryFileName()));
+        std::filesystem::copy_file(simulatorFile(), folder.path(libraryFileName()));
         for (const char* name : {"jobs", "robot", "other"})
             folder.makeFolder(name);
         script("");

@@ -6,6 +6,7 @@
 #include "platform/Files.h"
 #include "support/Choices.h"
 #include "support/ModalScript.h"
+#include "support/ProjectFiles.h"
 #include "ui/dialogs/WindowHolder.h"
 
 #include <gmock/gmock.h>
@@ -45,7 +46,7 @@ class frmLanguageTest : public DialogInLanguage {
         world.state.LanguageName = language();
         world.program.write("Klingon.lng", "Start:\n");
         for (const char* icon : {"English.ico", "Japanese.ico", "System.ico"})
-            world.program.write(icon, *readFile(std::string(VANTREL_DATA_FOLDER "/") + icon));
+            world.program.write(icon, *readFile(dataFolder() + "/" + icon));
         return LanguageDraft(world.services());
     }();
     frmLanguage dialog{nullptr, draft, messages, world.state};

@@ -2,6 +2,7 @@
 
 #include "DialogTest.h"
 #include "support/ModalScript.h"
+#include "support/ProjectFiles.h"
 #include "ui/dialogs/WindowHolder.h"
 
 #include <wx/frame.h>
@@ -105,7 +106,7 @@ TEST_P(frmVersTest, F1IsSwallowed) {
 }
 
 TEST_P(frmVersTest, OpensInTheLanguageNowInForce) {
-    ASSERT_TRUE(bool(LanguageFiles(VANTREL_DATA_FOLDER).readInto("System", messages)));
+    ASSERT_TRUE(bool(LanguageFiles(dataFolder()).readInto("System", messages)));
     whileOpen([&] {
         EXPECT_EQ(labelOf(*window, "Label1"), messages.getMessage(25));
         click(*window, "Command1");
