@@ -35,25 +35,22 @@ std::string inParentheses(std::int32_t number) {
 
 } // namespace
 
-void ListTransferCommands::mnuOpt(int index) {
-    constexpr int saveJobsEntry = 2, loadJobsEntry = 3, saveVariablesEntry = 4,
-                  loadVariablesEntry = 5;
-    switch (index) {
-    case saveJobsEntry:
-        return run(list_file_mark::saveJobs, message::saveJobsTitle,
-                   &ListTransferCommands::saveJobs);
-    case loadJobsEntry:
-        return run(list_file_mark::loadJobs, message::loadJobsTitle,
-                   &ListTransferCommands::loadJobs);
-    case saveVariablesEntry:
-        return run(list_file_mark::saveVariables, message::saveVariablesTitle,
-                   &ListTransferCommands::saveVariables);
-    case loadVariablesEntry:
-        return run(list_file_mark::loadVariables, message::loadVariablesTitle,
-                   &ListTransferCommands::loadVariables);
-    default:
-        return;
-    }
+void ListTransferCommands::saveJobs() {
+    run(list_file_mark::saveJobs, message::saveJobsTitle, &ListTransferCommands::receiveJobs);
+}
+
+void ListTransferCommands::loadJobs() {
+    run(list_file_mark::loadJobs, message::loadJobsTitle, &ListTransferCommands::sendJobs);
+}
+
+void ListTransferCommands::saveVariables() {
+    run(list_file_mark::saveVariables, message::saveVariablesTitle,
+        &ListTransferCommands::receiveVariables);
+}
+
+void ListTransferCommands::loadVariables() {
+    run(list_file_mark::loadVariables, message::loadVariablesTitle,
+        &ListTransferCommands::sendVariables);
 }
 
 /// A list in a locked window cannot take the focus, so that comes after the lock.
@@ -87,12 +84,12 @@ CommandOutcome ListTransferCommands::showProgress(std::int32_t title, Transfer t
     return (this->*transfer)(progress);
 }
 
-CommandOutcome ListTransferCommands::saveJobs(const CommandProgress& progress) {
+CommandOutcome ListTransferCommands::receiveJobs(const CommandProgress& progress) {
     return {.pcTouched = transferJobs(Direction::Receive, progress)};
 }
 
 /// After an unset address another attempt would only bring the same message again.
-CommandOutcome ListTransferCommands::loadJobs(const CommandProgress& progress) {
+CommandOutcome ListTransferCommands::sendJobs(const CommandProgress& progress) {
     const bool called = transferJobs(Direction::Send, progress);
     if (!called)
         return {};
@@ -125,7 +122,7 @@ void ListTransferCommands::keepPermitted(Direction direction) {
         with_.session.AddJobList(name);
 }
 
-CommandOutcome ListTransferCommands::saveVariables(const CommandProgress&) {
+CommandOutcome ListTransferCommands::receiveVariables(const CommandProgress&) {
     const std::string& file = with_.state.VarListFile;
     if (!with_.session.VarListUpLoad())
         reportEntry(with_.session.VarList(with_.session.ErrorIndex()));
@@ -136,7 +133,7 @@ CommandOutcome ListTransferCommands::saveVariables(const CommandProgress&) {
     return {.pcTouched = true};
 }
 
-CommandOutcome ListTransferCommands::loadVariables(const CommandProgress&) {
+CommandOutcome ListTransferCommands::sendVariables(const CommandProgress&) {
     if (!with_.session.VarListDownLoad())
         reportEntry(with_.session.VarList(with_.session.ErrorIndex()));
     return {};

@@ -21,9 +21,10 @@ class ListTransferCommands {
     ListTransferCommands(const TransferServices& services, ListFileWindow& dialog)
         : with_(services), dialog_(dialog) {}
 
-    /// Entry 2 saves jobs, 3 loads jobs, 4 saves variables, 5 loads variables; another does
-    /// nothing.
-    void mnuOpt(int index);
+    void saveJobs();
+    void loadJobs();
+    void saveVariables();
+    void loadVariables();
 
   private:
     using Transfer = CommandOutcome (ListTransferCommands::*)(const CommandProgress&);
@@ -32,10 +33,10 @@ class ListTransferCommands {
     /// Tells the operator of a list without entries.
     bool holdsSomething(std::string_view mode) const;
     CommandOutcome showProgress(std::int32_t title, Transfer transfer);
-    CommandOutcome saveJobs(const CommandProgress& progress);
-    CommandOutcome loadJobs(const CommandProgress& progress);
-    CommandOutcome saveVariables(const CommandProgress& progress);
-    CommandOutcome loadVariables(const CommandProgress& progress);
+    CommandOutcome receiveJobs(const CommandProgress& progress);
+    CommandOutcome sendJobs(const CommandProgress& progress);
+    CommandOutcome receiveVariables(const CommandProgress& progress);
+    CommandOutcome sendVariables(const CommandProgress& progress);
     /// False when the session was left alone, since nothing was to be transferred.
     bool transferJobs(Direction direction, const CommandProgress& progress);
     void keepPermitted(Direction direction);

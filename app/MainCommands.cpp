@@ -1,6 +1,5 @@
 #include "app/MainCommands.h"
 
-#include "app/CommandStates.h"
 #include "app/MainWindowView.h"
 #include "app/ModeCommands.h"
 #include "app/PCFolder.h"
@@ -23,102 +22,47 @@ namespace vantrel {
 
 namespace {
 
-/// The buttons that forward to a menu, by their keys.
-struct ToolCommand {
-    std::string_view key;
-    MenuItem item;
-};
-
-constexpr ToolCommand toolCommands[] = {
-    {"FileCopy", {Menu::mnuFile, fileCopy}},     {"FileMove", {Menu::mnuFile, fileMove}},
-    {"FileDelete", {Menu::mnuFile, fileDelete}}, {"AllSelect", {Menu::mnuFile, fileSelectAll}},
-    {"Refresh", {Menu::mnuRefresh, 0}},          {"modeHiSpeed", {Menu::mnuModeHiSpeed, 0}},
-    {"modeBsc", {Menu::mnuModeBsc, 0}},          {"DispBig", {Menu::mnuDisp, 0}},
-    {"DispSmall", {Menu::mnuDisp, 1}},           {"DispList", {Menu::mnuDisp, 2}},
-    {"DispDetail", {Menu::mnuDisp, 3}},          {"FileDisp", {Menu::mnuFile, fileDisplay}},
-    {"Print", {Menu::mnuFile, filePrint}},
-};
-
 /// A kind is told by the last three characters; the editor wants a point before them.
 bool hasExtension(const std::string& jobKindName) {
     constexpr std::size_t withPoint = 4;
     return jobKindName.size() >= withPoint && jobKindName[jobKindName.size() - withPoint] == '.';
 }
 
-constexpr int keyBackspace = 8;
-constexpr int keyDelete = 127;
-
 } // namespace
 
-bool MainCommands::menu(MenuItem item) {
-    const auto index = static_cast<std::int16_t>(item.index);
-    switch (item.menu) {
-    case Menu::mnuFile:
-    case Menu::mnuRightFile:
-        return mnuFile(item.index), true;
-    case Menu::mnuDisp:
-    case Menu::mnuFileDisp:
-        return mnuDisp(index), true;
-    case Menu::mnuSort:
-    case Menu::mnuSortIcon:
-        return mnuSort(index), true;
-    case Menu::mnuModeBsc:
-        return mnuModeBsc(), true;
-    case Menu::mnuModeHiSpeed:
-        return mnuModeHiSpeed(), true;
-    case Menu::mnuRefresh:
-    case Menu::mnuRightRefresh:
-        return mnuRefresh(), true;
-    case Menu::mnuEnd:
-        return mnuEnd(), true;
-    default:
-        return false;
-    }
-}
-
-void MainCommands::tool(std::string_view key) {
-    if (key == "UpFolder")
-        return upFolder();
-    for (const auto& command : toolCommands)
-        if (command.key == key)
-            menu(command.item);
-}
-
-bool MainCommands::listKey(ActiveSide side, int key, bool control) {
-    activate(side);
-    const auto states = currentStates();
-    if (key == keyDelete && states.mnuFile[fileDelete].enabled)
-        mnuFile(fileDelete);
-    else if (control && key == 'A')
-        mnuFile(fileSelectAll);
-    else if (key == keyBackspace && side == ActiveSide::PC)
-        upFolder();
-    else
-        return false;
-    return true;
-}
-
-void MainCommands::mnuFile(int index) {
+void MainCommands::copy() {
     const bool controller = with_.state.Active == ActiveSide::Controller;
-    if (index == fileCopy)
-        controller ? with_.transfers.receiveCopy() : with_.transfers.sendCopy();
-    else if (index == fileMove)
-        controller ? with_.transfers.receiveMove() : with_.transfers.sendMove();
-    else if (index == fileDelete)
-        controller ? with_.transfers.deleteOnController() : with_.transfers.deleteOnPC();
-    else if (index == fileSelectAll)
-        with_.view.selectAll(with_.state.Active);
-    else if (index == fileDisplay)
-        toggleViewer();
-    else if (index == filePrint)
-        viewer_.print();
+    controller ? with_.transfers.receiveCopy() : with_.transfers.sendCopy();
     updateStates();
 }
 
-void MainCommands::toggleViewer() {
+void MainCommands::move() {
+    const bool controller = with_.state.Active == ActiveSide::Controller;
+    controller ? with_.transfers.receiveMove() : with_.transfers.sendMove();
+    updateStates();
+}
+
+void MainCommands::remove() {
+    const bool controller = with_.state.Active == ActiveSide::Controller;
+    controller ? with_.transfers.deleteOnController() : with_.transfers.deleteOnPC();
+    updateStates();
+}
+
+void MainCommands::selectAll() {
+    with_.view.selectAll(with_.state.Active);
+    updateStates();
+}
+
+void MainCommands::displayFile() {
     viewer_.showOrHide();
     if (with_.state.ViewerShown)
         activate(ActiveSide::PC);
+    updateStates();
+}
+
+void MainCommands::print() {
+    viewer_.print();
+    updateStates();
 }
 
 void MainCommands::mnuDisp(std::int16_t index) {
@@ -253,7 +197,7 @@ void MainCommands::drop(ActiveSide source) {
         return;
     activate(source);
     if (with_.state.Active == source)
-        mnuFile(fileCopy);
+        copy();
 }
 
 void MainCommands::mnuEnd() {
@@ -282,7 +226,7 @@ void MainCommands::chooseFilter(ActiveSide side) {
 }
 
 void MainCommands::updateStates() {
-    with_.view.showStates(currentStates());
+    with_.view.showStates(input());
 }
 
 std::optional<FileKind> MainCommands::selectedKind() const {
@@ -293,9 +237,9 @@ std::optional<FileKind> MainCommands::selectedKind() const {
     return rows.kind(*row);
 }
 
-CommandStates MainCommands::currentStates() const {
+CommandInput MainCommands::input() const {
     const auto& state = with_.state;
-    return commandStates({
+    return {
         .active = state.Active,
         .pcDispType = state.PCDispType,
         .ctrlDispType = state.CtrlDispType,
@@ -308,7 +252,7 @@ CommandStates MainCommands::currentStates() const {
         .selectedKind = selectedKind(),
         .controllerFilter = with_.window.filterIndex(ActiveSide::Controller),
         .JBR = state.JBR,
-    });
+    };
 }
 
 } // namespace vantrel

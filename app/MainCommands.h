@@ -1,38 +1,34 @@
 #pragma once
 
+#include "app/Commands.h"
 #include "app/MainServices.h"
 #include "app/ViewerCommands.h"
 #include "base/ApplicationState.h"
 #include "files/FileKinds.h"
-#include "lang/Captions.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace vantrel {
 
 class FolderTree;
-struct CommandStates;
 
-/// The commands of the main window, by their names in its menus. Each acts on the active pane and
-/// ends by bringing menus and buttons in line.
+/// What the commands of the main window do. Each acts on the active pane and ends by bringing menus
+/// and buttons in line.
 class MainCommands {
   public:
     explicit MainCommands(const MainServices& services) : with_(services), viewer_(services) {}
 
-    /// Runs a menu entry; false when it is none of these commands.
-    bool menu(MenuItem item);
-    /// Runs a tool button by its key; another key does nothing.
-    void tool(std::string_view key);
-    /// A key pressed in a pane's list, which becomes the active one, by its character code; false
-    /// when the list itself handles it.
-    bool listKey(ActiveSide side, int key, bool control);
-
-    /// 0 copy, 1 move, 2 delete, 3 select all, 5 display file, 6 print.
-    void mnuFile(int index);
+    void copy();
+    void move();
+    void remove();
+    void selectAll();
+    /// Shows the selected file in the viewer, or hides the viewer.
+    void displayFile();
+    /// Prints the file displayed.
+    void print();
     /// View 0 to 3 of the active pane.
     void mnuDisp(std::int16_t index);
     /// Sort type of the active pane; an index without a column sorts by name.
@@ -75,11 +71,11 @@ class MainCommands {
     void recaption();
     /// Brings menus and buttons in line with the state.
     void updateStates();
+    /// What decides now what is offered.
+    CommandInput input() const;
 
   private:
     void edit(const std::string& path);
-    void toggleViewer();
-    CommandStates currentStates() const;
     std::optional<FileKind> selectedKind() const;
     void sortAnew(ActiveSide side);
     void switchTo(TransferMode mode);

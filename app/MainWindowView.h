@@ -8,7 +8,7 @@
 
 namespace vantrel {
 
-struct CommandStates;
+struct CommandInput;
 struct ModeLook;
 
 /// The main window as its commands and its start see it: it shows what it is told and knows no
@@ -23,7 +23,8 @@ class MainWindowView {
     /// Twips; of the window and of the first three columns of `lsvPC`, the last number unused.
     virtual void place(const std::array<std::int32_t, 8>& windowPositions) = 0;
 
-    virtual void showStates(const CommandStates& states) = 0;
+    /// Menus and buttons offer what can do its work now.
+    virtual void showStates(const CommandInput& input) = 0;
     virtual void showMode(const ModeLook& look) = 0;
     virtual void showActiveSide(ActiveSide side) = 0;
     virtual void showSerialLine(const std::string& port, const std::string& format) = 0;

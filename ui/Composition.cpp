@@ -63,7 +63,8 @@ Composition::Commands::Commands(Composition& owner, frmZuroVant& window)
       listFiles(window, owner.state_, *owner.session_, owner.boxes_, owner.messages_),
       lists(transferServices, listFiles), help(owner.state_, owner.programFolder_, openDocument),
       shutdown({owner.state_, owner.settings_, owner.registry_, *owner.session_, owner.messages_,
-                owner.boxes_, owner}) {}
+                owner.boxes_, owner}),
+      runner(commandTable(), {main, lists, help, owner}) {}
 
 StartResult Composition::start() {
     const auto result = StartRoutine({state_, table_, languageChoice_, messages_, boxes_, settings_,
@@ -135,12 +136,11 @@ void Composition::buildMainWindow() {
     window_.reset(new frmZuroVant(state_, messages_, guard_));
     wxTheApp->SetTopWindow(window_.get());
     commands_ = std::make_unique<Commands>(*this, *window_);
-    window_->connect(commands_->main);
+    window_->connect(commands_->main, commands_->runner);
     window_->controls().trvFolderList->connect(commands_->folderTree);
     window_->onClose = [this] { return commands_->shutdown.close(); };
     window_->onForcedClose = [this] { return commands_->shutdown.closeUnasked(); };
     window_->onRobotChosen = [this](int index) { commands_->robots.choose(index); };
-    window_->onOtherEntry = [this](MenuItem item) { otherEntry(item); };
     commands_->panes.fillFilterChoices();
 }
 
@@ -203,25 +203,6 @@ void Composition::refreshStates() {
 
 void Composition::refreshActivePane() {
     commands_->main.refreshActivePane();
-}
-
-void Composition::otherEntry(MenuItem item) {
-    if (item.menu == Menu::mnuVer)
-        openVersionWindow();
-    else if (item.menu == Menu::mnuHelp)
-        commands_->help.mnuHelp(item.index);
-    else if (item.menu == Menu::mnuOpt)
-        openOption(item.index);
-}
-
-void Composition::openOption(int index) {
-    constexpr int settings = 0, language = 7;
-    if (index == settings)
-        openSettings();
-    else if (index == language)
-        changeLanguage();
-    else
-        commands_->lists.mnuOpt(index);
 }
 
 void Composition::openSettings() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/CommandRunner.h"
 #include "app/FolderTreeCommands.h"
 #include "app/HelpCommands.h"
 #include "app/ListTransferCommands.h"
@@ -48,7 +49,10 @@ class frmZuroVant;
 
 /// The composition root: builds every object once, in the order in which they need each other, and
 /// hands out references. It holds no rule.
-class Composition : private StartWindows, private ShutdownWindows, private RobotSelectionWindow {
+class Composition : private StartWindows,
+                    private ShutdownWindows,
+                    private RobotSelectionWindow,
+                    private CommandWindows {
   public:
     /// `executable` is absolute; `arguments` are those after the program's own name. `library`
     /// takes the place of the one in the program's folder, if it is given.
@@ -80,6 +84,7 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
         ListTransferCommands lists;
         HelpCommands help;
         Shutdown shutdown;
+        CommandRunner runner;
 
         Commands(Composition& owner, frmZuroVant& window);
     };
@@ -108,13 +113,12 @@ class Composition : private StartWindows, private ShutdownWindows, private Robot
     void refreshStates() override;
     void refreshActivePane() override;
 
-    void otherEntry(MenuItem item);
-    void openOption(int index);
-    void openSettings();
-    void openVersionWindow();
+    void openSettings() override;
+    void changeLanguage() override;
+    void openVersionWindow() override;
+
     void bringVersionWindowForward();
     void closeVersionWindowFor(wxDialog& dialog);
-    void changeLanguage();
     void showSimulationNotice();
     void yield();
     void bringScreenUpToDate();

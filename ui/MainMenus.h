@@ -1,9 +1,11 @@
 #pragma once
 
-#include "lang/Captions.h"
+#include "app/Commands.h"
 
 #include <functional>
 #include <memory>
+#include <span>
+#include <string_view>
 #include <vector>
 
 class wxFrame;
@@ -15,45 +17,55 @@ struct wxPoint;
 
 namespace vantrel {
 
-struct CommandStates;
 class MenuBarEntry;
 class MessageTable;
 
-/// The menu bar and the pane pop-up menu, built from one table, captions and states applied by the
-/// names of the entries.
+/// The menu bar and the panes' pop-up menu, made from the table of commands.
 class MainMenus {
   public:
-    explicit MainMenus(wxFrame& window);
+    /// The table outlives the menus.
+    MainMenus(wxFrame& window, std::span<const CommandRow> table);
     ~MainMenus();
 
     void applyCaptions(const MessageTable& messages);
-    void applyStates(const CommandStates& states);
+    void applyStates(const CommandInput& input);
     /// Shows `mnuRightClick`; returns when it was closed.
     void popUp(wxWindow& owner, const wxPoint& screenPosition);
 
-    /// Called with the entry that was chosen.
-    std::function<void(MenuItem)> onChosen;
+    /// Called with the command whose entry was chosen, and the menu.
+    std::function<void(const CommandRow&, CommandPlace)> onChosen;
 
-    /// The control identifier of an entry.
-    static int idOf(MenuItem item);
-    wxMenuItem* find(MenuItem item) const;
+    /// The control identifier of an entry by its name; `wxID_NONE` when there is no such entry.
+    int idOf(std::string_view name) const;
+    /// Null for a command that stands in the menu bar itself.
+    wxMenuItem* find(std::string_view name) const;
 
   private:
-    struct TopMenu {
-        MenuItem item;
+    /// A menu of the bar or of the pop-up menu.
+    struct Head {
+        MenuHead head;
         wxMenu* menu;
+    };
+    struct Entry {
+        const CommandRow* command;
+        CommandOffer offer;
+        wxMenuItem* item; ///< null in the menu bar itself
     };
 
     void buildBar();
-    void buildCommands();
     void buildPopUp();
-    void setState(MenuItem item, bool enabled, bool checked);
+    void buildBarEntries();
+    void append(wxMenu& menu, CommandPlace place);
+    void chosen(int number);
 
     wxFrame& window_;
+    std::span<const CommandRow> table_;
     wxMenuBar* bar_;
     std::unique_ptr<wxMenu> popUp_;
-    std::vector<TopMenu> tops_;
-    std::unique_ptr<MenuBarEntry> refresh_; ///< `mnuRefresh`, a command among the menus
+    std::vector<Head> heads_;
+    std::vector<wxMenuItem*> popUpHeads_; ///< in their order
+    std::vector<Entry> entries_;
+    std::vector<std::unique_ptr<MenuBarEntry>> barEntries_; ///< of the entries without an item
 };
 
 } // namespace vantrel

@@ -1,17 +1,16 @@
 #include "ui/MainWindowCaptions.h"
 
-#include "app/WindowLayout.h"
-#include "lang/Captions.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "ui/CommandToolBar.h"
 #include "ui/FileListControl.h"
 #include "ui/FolderTreeDropDown.h"
-#include "ui/KeyedToolBar.h"
 #include "ui/MainWindowControls.h"
 #include "ui/dialogs/WxText.h"
 
 #include <array>
-#include <tuple>
+#include <cstdint>
+#include <utility>
 
 #include <wx/statbox.h>
 #include <wx/stattext.h>
@@ -21,36 +20,33 @@ namespace vantrel {
 namespace {
 
 void captionToolBars(const MainWindowControls& controls, const MessageTable& messages) {
-    for (const auto& tip : toolTips())
-        for (auto* bar : {controls.tlbMain, controls.tlbPC, controls.tlbFile, controls.tlbPCButton,
-                          controls.tlbCtrlButton})
-            bar->setToolTip(tip.key, toWx(messages.getMessage(tip.message)));
+    for (CommandToolBar* bar : controls.toolBars())
+        bar->applyTips(messages);
 }
 
 void captionLabels(const MainWindowControls& controls, const MessageTable& messages) {
-    const std::tuple<wxWindow*, const char*, int> labels[] = {
-        {controls.fraPC.box, "fraPC", 0},
-        {controls.fraCtrl.box, "fraCtrl", 0},
-        {controls.lblFile, "lblDisp", viewerFileLabel},
-        {controls.lblPCFileType, "lblDisp", pcTypeLabel},
-        {controls.lblCtrlFileType, "lblDisp", controllerTypeLabel},
-        {controls.lblSerial, "lblDisp", serialLabelIndex},
-        {controls.lblFolder, "lblDisp", folderLabel},
-        {controls.lblRbtName, "lblRbtName", 0},
-        {controls.lblIPaddr, "lblIPaddr", 0}};
-    for (const auto& [control, name, index] : labels)
-        if (const auto message = controlMessage(name, index))
-            control->SetLabel(toWx(messages.getMessage(*message)));
-    // The viewer's frame has no caption of its own: it is named after the command that shows it.
-    controls.fraFile.box->SetLabel(toWx(messages.getMessage(message::tipDisplayFile)));
+    const std::pair<wxWindow*, std::int32_t> captions[] = {
+        {controls.fraPC.box, message::framePC},
+        {controls.fraCtrl.box, message::frameController},
+        // The viewer's frame has no caption of its own: it is named after the command that shows
+        // it.
+        {controls.fraFile.box, message::tipDisplayFile},
+        {controls.lblFile, message::labelFile},
+        {controls.lblPCFileType, message::labelFileType},
+        {controls.lblCtrlFileType, message::labelFileType},
+        {controls.lblSerial, message::labelSerialLine},
+        {controls.lblFolder, message::labelFolder},
+        {controls.lblRbtName, message::labelRobot},
+        {controls.lblIPaddr, message::labelIPAddress}};
+    for (const auto& [control, message] : captions)
+        control->SetLabel(toWx(messages.getMessage(message)));
     controls.trvFolderList->setCaption(toWx(messages.getMessage(message::tipFolderTree)));
 }
 
 void captionColumns(const MainWindowControls& controls, const MessageTable& messages) {
-    std::array<wxString, FileListControl::columnCount> titles;
-    std::size_t column = 0;
-    for (const auto message : columnMessages())
-        titles.at(column++) = toWx(messages.getMessage(message));
+    const std::array titles{toWx(messages.getMessage(message::columnName)),
+                            toWx(messages.getMessage(message::columnSize)),
+                            toWx(messages.getMessage(message::columnDate))};
     controls.lsvPC->setColumnTitles(titles);
     controls.lsvCtrl->setColumnTitles(titles);
 }

@@ -1,10 +1,11 @@
 #include "ui/MainWindowControls.h"
 
+#include "app/Commands.h"
+#include "ui/CommandToolBar.h"
 #include "ui/FileListControl.h"
 #include "ui/FileViewer.h"
 #include "ui/FolderTreeDropDown.h"
 #include "ui/IconSet.h"
-#include "ui/KeyedToolBar.h"
 #include "ui/PathDisplay.h"
 #include "ui/SystemLook.h"
 
@@ -20,8 +21,6 @@
 namespace vantrel {
 
 namespace {
-
-using Kind = KeyedToolBar::Kind;
 
 const wxSize smallIcon{16, 16};
 const wxSize arrowIcon{32, 32};
@@ -48,12 +47,13 @@ wxChoice* makeChoice(wxWindow* parent, const wxString& name) {
 
 } // namespace
 
-MainWindowControls::MainWindowControls(wxFrame& window) : surface(new wxPanel(&window)) {
-    makeToolBar();
+MainWindowControls::MainWindowControls(wxFrame& window, std::span<const CommandRow> table)
+    : surface(new wxPanel(&window)),
+      tlbMain(new CommandToolBar(surface, "tlbMain", table, CommandPlace::tlbMain)) {
     makeConnectionBlock();
-    makePCPane();
+    makePCPane(table);
     pctDirectArrow = new wxStaticBitmap(surface, wxID_ANY, icon("arrowToController", arrowIcon));
-    makeControllerPane();
+    makeControllerPane(table);
     makeViewerPane();
     makeHighlights();
     constexpr int panels = 3;
@@ -61,25 +61,6 @@ MainWindowControls::MainWindowControls(wxFrame& window) : surface(new wxPanel(&w
     // Shares of the width: the notice is the longest text and says that nothing here is real.
     constexpr int shares[panels] = {-3, -3, -5};
     stsFileInf->SetStatusWidths(panels, shares);
-}
-
-void MainWindowControls::makeToolBar() {
-    tlbMain = new KeyedToolBar(surface, "tlbMain",
-                               {{"FileCopy"},
-                                {"FileMove"},
-                                {"FileDelete"},
-                                {"AllSelect"},
-                                {"Refresh"},
-                                {"", Kind::Separator},
-                                {"modeHiSpeed", Kind::Check},
-                                {"modeBsc", Kind::Check},
-                                {"", Kind::Separator},
-                                {"DispBig", Kind::Check},
-                                {"DispSmall", Kind::Check},
-                                {"DispList", Kind::Check},
-                                {"DispDetail", Kind::Check},
-                                {"", Kind::Separator},
-                                {"FileDisp", Kind::Check}});
 }
 
 void MainWindowControls::makeConnectionBlock() {
@@ -91,17 +72,17 @@ void MainWindowControls::makeConnectionBlock() {
     lblIPAddr2 = makeLabel(surface, "lblIPAddr2");
 }
 
-void MainWindowControls::makePCPane() {
+void MainWindowControls::makePCPane(std::span<const CommandRow> table) {
     fraPC = makeFrame(surface, "fraPC");
     auto* pane = fraPC.panel;
-    tlbPCButton = new KeyedToolBar(pane, "tlbPCButton", {{"PCButton", Kind::Check}});
+    tlbPCButton = new CommandToolBar(pane, "tlbPCButton", table, CommandPlace::tlbPCButton);
     Picture1 = new wxStaticBitmap(pane, wxID_ANY, icon("folder", smallIcon));
     lblFolder = makeLabel(pane, "lblDisp2");
     trvFolderName = new PathDisplay(pane, "trvFolderName");
     Command1 = new wxBitmapButton(pane, wxID_ANY, icon("dropDown", dropDownIcon), wxDefaultPosition,
                                   wxDefaultSize, wxBU_EXACTFIT, wxDefaultValidator, "Command1");
     allowNarrow(*Command1);
-    tlbPC = new KeyedToolBar(pane, "tlbPC", {{"UpFolder"}, {"Print"}});
+    tlbPC = new CommandToolBar(pane, "tlbPC", table, CommandPlace::tlbPC);
     lsvPC = new FileListControl(pane, "lsvPC");
     // After the list, so that it lies above it.
     trvFolderList = new FolderTreeDropDown(pane, "trvFolderList", *Command1);
@@ -109,12 +90,11 @@ void MainWindowControls::makePCPane() {
     cmbPCFileType = makeChoice(pane, "cmbPCFileType");
 }
 
-void MainWindowControls::makeControllerPane() {
+void MainWindowControls::makeControllerPane(std::span<const CommandRow> table) {
     fraCtrl = makeFrame(surface, "fraCtrl");
     auto* pane = fraCtrl.panel;
-    tlbCtrlButton = new KeyedToolBar(pane, "tlbCtrlButton", {{"CTRLButton", Kind::Check}});
-    tlbFile = new KeyedToolBar(pane, "tlbFile",
-                               {{"FileCopy"}, {"FileMove"}, {"FileDelete"}, {"AllSelect"}});
+    tlbCtrlButton = new CommandToolBar(pane, "tlbCtrlButton", table, CommandPlace::tlbCtrlButton);
+    tlbFile = new CommandToolBar(pane, "tlbFile", table, CommandPlace::tlbFile);
     lsvCtrl = new FileListControl(pane, "lsvCtrl");
     lblCtrlFileType = makeLabel(pane, "lblDisp1");
     cmbCtrlFileType = makeChoice(pane, "cmbCtrlFileType");

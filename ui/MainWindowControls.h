@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 
 class wxBitmapButton;
@@ -15,11 +16,12 @@ class wxWindow;
 
 namespace vantrel {
 
+class CommandToolBar;
 class FileListControl;
 class FileViewer;
 class FolderTreeDropDown;
-class KeyedToolBar;
 class PathDisplay;
+struct CommandRow;
 
 /// A frame of the main window: a panel with a titled box behind its controls. The controls are the
 /// panel's own children, so that their places count from its corner on every system.
@@ -31,11 +33,12 @@ struct PaneFrame {
 /// The controls of the main window, made once from top to bottom in tab order; the window owns
 /// them.
 struct MainWindowControls {
-    explicit MainWindowControls(wxFrame& window);
+    /// The table outlives the controls.
+    MainWindowControls(wxFrame& window, std::span<const CommandRow> table);
 
     wxPanel* surface = nullptr; ///< what everything stands on
 
-    KeyedToolBar* tlbMain = nullptr;
+    CommandToolBar* tlbMain = nullptr;
     wxStaticText* lblSerial = nullptr; ///< element 3 of `lblDisp`: heading of the serial line
     wxStaticText* lbl232CParam = nullptr;
     wxStaticText* lblRbtName = nullptr;
@@ -44,12 +47,12 @@ struct MainWindowControls {
     wxStaticText* lblIPAddr2 = nullptr;
 
     PaneFrame fraPC;
-    KeyedToolBar* tlbPCButton = nullptr;
+    CommandToolBar* tlbPCButton = nullptr;
     wxStaticBitmap* Picture1 = nullptr;
     wxStaticText* lblFolder = nullptr; ///< element 2 of `lblDisp`
     PathDisplay* trvFolderName = nullptr;
     wxBitmapButton* Command1 = nullptr;
-    KeyedToolBar* tlbPC = nullptr;
+    CommandToolBar* tlbPC = nullptr;
     FolderTreeDropDown* trvFolderList = nullptr;
     FileListControl* lsvPC = nullptr;
     wxStaticText* lblPCFileType = nullptr; ///< element 0 of `lblDisp`
@@ -58,8 +61,8 @@ struct MainWindowControls {
     wxStaticBitmap* pctDirectArrow = nullptr;
 
     PaneFrame fraCtrl;
-    KeyedToolBar* tlbCtrlButton = nullptr;
-    KeyedToolBar* tlbFile = nullptr;
+    CommandToolBar* tlbCtrlButton = nullptr;
+    CommandToolBar* tlbFile = nullptr;
     FileListControl* lsvCtrl = nullptr;
     wxStaticText* lblCtrlFileType = nullptr; ///< element 1 of `lblDisp`
     wxChoice* cmbCtrlFileType = nullptr;
@@ -73,11 +76,14 @@ struct MainWindowControls {
     wxPanel* controllerHighlight = nullptr;
     wxStatusBar* stsFileInf = nullptr;
 
+    std::array<CommandToolBar*, 5> toolBars() const {
+        return {tlbMain, tlbPCButton, tlbPC, tlbCtrlButton, tlbFile};
+    }
+
   private:
-    void makeToolBar();
     void makeConnectionBlock();
-    void makePCPane();
-    void makeControllerPane();
+    void makePCPane(std::span<const CommandRow> table);
+    void makeControllerPane(std::span<const CommandRow> table);
     void makeViewerPane();
     void makeHighlights();
 };

@@ -1,14 +1,12 @@
 #include "ui/MainWindowLook.h"
 
-#include "app/CommandStates.h"
+#include "app/Commands.h"
 #include "app/ModeCommands.h"
+#include "ui/CommandToolBar.h"
 #include "ui/IconSet.h"
-#include "ui/KeyedToolBar.h"
 #include "ui/MainWindowControls.h"
 
-#include <array>
 #include <cstdint>
-#include <string_view>
 
 #include <wx/choice.h>
 #include <wx/panel.h>
@@ -27,34 +25,17 @@ wxColour colour(std::uint32_t redGreenBlue) {
             static_cast<unsigned char>(redGreenBlue)};
 }
 
-void showButton(KeyedToolBar& bar, std::string_view key, const CommandState& state) {
-    bar.setEnabled(key, state.enabled);
-    bar.setPressed(key, state.checked);
-}
-
-void showButtons(const MainWindowControls& controls, const CommandStates& states) {
-    for (const auto& button : states.tlbMain)
-        showButton(*controls.tlbMain, button.key, button.state);
-    for (const auto& button : states.tlbPC)
-        showButton(*controls.tlbPC, button.key, button.state);
-    showButton(*controls.tlbPCButton, states.tlbPCButton.key, states.tlbPCButton.state);
-    showButton(*controls.tlbCtrlButton, states.tlbCtrlButton.key, states.tlbCtrlButton.state);
-    static constexpr std::array<std::string_view, 4> fileKeys{"FileCopy", "FileMove", "FileDelete",
-                                                              "AllSelect"};
-    for (std::size_t index = 0; index < fileKeys.size(); ++index)
-        showButton(*controls.tlbFile, fileKeys.at(index), states.tlbFile.at(index));
-}
-
 } // namespace
 
-void showCommandStates(const MainWindowControls& controls, const CommandStates& states) {
-    showButtons(controls, states);
+void showCommandStates(const MainWindowControls& controls, const CommandInput& input) {
+    for (CommandToolBar* bar : controls.toolBars())
+        bar->applyStates(input);
     for (wxWindow* part :
          {static_cast<wxWindow*>(controls.tlbMain), static_cast<wxWindow*>(controls.fraPC.panel),
           static_cast<wxWindow*>(controls.fraCtrl.panel),
           static_cast<wxWindow*>(controls.fraFile.panel),
           static_cast<wxWindow*>(controls.cmbRbtName)})
-        part->Enable(states.unlocked);
+        part->Enable(!input.locked);
 }
 
 void showTransferMode(const MainWindowControls& controls, const ModeLook& look) {

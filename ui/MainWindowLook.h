@@ -4,13 +4,13 @@
 
 namespace vantrel {
 
-struct CommandStates;
+struct CommandInput;
 struct MainWindowControls;
 struct ModeLook;
 
 /// Dims and presses the tool bars' buttons, and dims all that a running operation locks; the menus
 /// have their own states.
-void showCommandStates(const MainWindowControls& controls, const CommandStates& states);
+void showCommandStates(const MainWindowControls& controls, const CommandInput& states);
 
 /// Shows the heading of the serial line or of the robot, and colours the highlights. What was
 /// placed while it was hidden is to be placed again.

@@ -2,10 +2,10 @@
 
 #include "app/Twips.h"
 #include "app/WindowLayout.h"
+#include "ui/CommandToolBar.h"
 #include "ui/FileListControl.h"
 #include "ui/FileViewer.h"
 #include "ui/FolderTreeDropDown.h"
-#include "ui/KeyedToolBar.h"
 #include "ui/MainWindowControls.h"
 #include "ui/PathDisplay.h"
 

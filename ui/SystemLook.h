@@ -31,7 +31,8 @@ void hideScrollBars(wxTreeCtrl& tree);
 /// Undoes that bringing an item into view has scrolled the tree sideways.
 void scrollToLeftEdge(wxTreeCtrl& tree);
 
-/// How large a tree that shows one line only wants to be, where the toolkit would have it be `best`.
+/// How large a tree that shows one line only wants to be, where the toolkit would have it be
+/// `best`.
 wxSize oneLineSize(const wxTreeCtrl& tree, const wxSize& best);
 
 /// Brings a control that is shown before the siblings that it overlaps.

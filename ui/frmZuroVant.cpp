@@ -1,5 +1,6 @@
 #include "ui/frmZuroVant.h"
 
+#include "app/CommandRunner.h"
 #include "app/MainCommands.h"
 #include "app/ModeCommands.h"
 #include "app/SettingsFile.h"
@@ -10,11 +11,11 @@
 #include "link/ShownText.h"
 #include "ui/CaptionRoom.h"
 #include "ui/ChoiceKeys.h"
+#include "ui/CommandToolBar.h"
 #include "ui/FileListControl.h"
 #include "ui/FileViewer.h"
 #include "ui/FolderTreeDropDown.h"
 #include "ui/IconSet.h"
-#include "ui/KeyedToolBar.h"
 #include "ui/MainWindowCaptions.h"
 #include "ui/MainWindowLook.h"
 #include "ui/MainWindowPlaces.h"
@@ -24,6 +25,7 @@
 #include "ui/dialogs/WindowFont.h"
 #include "ui/dialogs/WxText.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -45,11 +47,12 @@ constexpr int panelNotice = 2;
 } // namespace
 
 frmZuroVant::frmZuroVant(ApplicationState& state, const MessageTable& messages,
-                         OperationGuard& guard)
+                         OperationGuard& guard, std::span<const CommandRow> table)
     : wxFrame(nullptr, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
               wxDEFAULT_FRAME_STYLE, "frmZuroVant"),
-      state_(state), messages_(messages), guard_(guard), controls_(*this), menus_(*this),
-      drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard), place_(*this, *controls_.surface) {
+      state_(state), messages_(messages), guard_(guard), controls_(*this, table),
+      menus_(*this, table), drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard),
+      place_(*this, *controls_.surface), table_(table) {
     SetIcons(programIcons());
     // No help for menu entries in the panel that shows the PC's count.
     SetStatusBarPane(-1);
@@ -61,8 +64,9 @@ frmZuroVant::~frmZuroVant() {
     guard_.guard(nullptr);
 }
 
-void frmZuroVant::connect(MainCommands& commands) {
+void frmZuroVant::connect(MainCommands& commands, const CommandRunner& runner) {
     commands_ = &commands;
+    runner_ = &runner;
 }
 
 FileListControl& frmZuroVant::pane(ActiveSide side) const {
@@ -107,15 +111,7 @@ void frmZuroVant::bindEvents() {
         CallAfter(&frmZuroVant::lay);
     });
     // The window gets a key before the control that has the focus.
-    Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
-        if (event.GetKeyCode() == WXK_F1)
-            chosen({Menu::mnuHelp, 0});
-        else if (event.GetKeyCode() == WXK_F5 && !event.HasAnyModifiers())
-            // One system tells of a key from inside a hook, where nothing may take long.
-            CallAfter([this] { chosen({Menu::mnuRefresh, 0}); });
-        else
-            event.Skip();
-    });
+    Bind(wxEVT_CHAR_HOOK, &frmZuroVant::functionKey, this);
     bindPane(ActiveSide::PC);
     bindPane(ActiveSide::Controller);
     bindToolBars();
@@ -138,7 +134,9 @@ void frmZuroVant::bindEvents() {
         if (commands_)
             commands_->drop(source);
     };
-    menus_.onChosen = [this](MenuItem item) { chosen(item); };
+    menus_.onChosen = [this](const CommandRow& command, CommandPlace place) {
+        run(command, place);
+    };
 }
 
 void frmZuroVant::close(wxCloseEvent& event) {
@@ -179,27 +177,17 @@ void frmZuroVant::bindPane(ActiveSide side) {
     });
     auto* frame = side == ActiveSide::PC ? controls_.fraPC.panel : controls_.fraCtrl.panel;
     frame->Bind(wxEVT_LEFT_DOWN, [this, side](wxMouseEvent& event) {
-        workIn(side);
+        if (commands_)
+            commands_->workIn(side);
         event.Skip();
     });
 }
 
 void frmZuroVant::bindToolBars() {
-    for (auto* bar : {controls_.tlbMain, controls_.tlbPC})
-        bar->onPressed = [this](const std::string& key) { toolPressed(key); };
-    controls_.tlbPCButton->onPressed = [this](const std::string&) { workIn(ActiveSide::PC); };
-    controls_.tlbCtrlButton->onPressed = [this](const std::string&) {
-        workIn(ActiveSide::Controller);
-    };
-    controls_.tlbFile->onPressed = [this](const std::string& key) {
-        workIn(ActiveSide::Controller);
-        toolPressed(key);
-    };
-}
-
-void frmZuroVant::workIn(ActiveSide side) {
-    if (commands_)
-        commands_->workIn(side);
+    for (CommandToolBar* bar : controls_.toolBars())
+        bar->onPressed = [this](const CommandRow& command, CommandPlace place) {
+            run(command, place);
+        };
 }
 
 /// A list that is locked may hand the keyboard on to the other one, which is not the active one for
@@ -210,20 +198,28 @@ void frmZuroVant::keepFocusInActivePane() {
         pane(state_.Active).focus();
 }
 
-void frmZuroVant::toolPressed(const std::string& key) {
-    if (commands_)
-        commands_->tool(key);
+void frmZuroVant::run(const CommandRow& command, CommandPlace place) {
+    if (runner_)
+        runner_->run(command, place);
 }
 
-void frmZuroVant::chosen(MenuItem item) {
-    if (!commands_ || commands_->menu(item))
-        return;
-    if (onOtherEntry)
-        onOtherEntry(item);
+/// The keys that act wherever the focus is.
+void frmZuroVant::functionKey(wxKeyEvent& event) {
+    const int number = event.GetKeyCode() - WXK_F1 + 1;
+    const std::string key = "F" + std::to_string(number);
+    const auto command = std::ranges::find(table_, key, &CommandRow::key);
+    if (number < 1 || event.HasAnyModifiers() || command == table_.end())
+        return event.Skip();
+    // One system tells of a key from inside a hook, where nothing may take long.
+    CallAfter([this, &chosen = *command] {
+        const CommandPlace place = chosen.offers.front().place;
+        if (commands_ && commandState(chosen, place, commands_->input()).enabled)
+            run(chosen, place);
+    });
 }
 
 void frmZuroVant::listKey(wxKeyEvent& event, ActiveSide side) {
-    if (!commands_ || !commands_->listKey(side, event.GetKeyCode(), event.ControlDown()))
+    if (!runner_ || !runner_->listKey(side, event.GetKeyCode(), event.ControlDown()))
         event.Skip();
 }
 
@@ -326,9 +322,9 @@ WindowPlacement frmZuroVant::placement() const {
     return place_.placement(dpi(), pane(ActiveSide::PC).columnWidths());
 }
 
-void frmZuroVant::showStates(const CommandStates& states) {
-    menus_.applyStates(states);
-    showCommandStates(controls_, states);
+void frmZuroVant::showStates(const CommandInput& input) {
+    menus_.applyStates(input);
+    showCommandStates(controls_, input);
 }
 
 void frmZuroVant::showMode(const ModeLook& look) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Commands.h"
 #include "app/MainWindowView.h"
 #include "app/RobotRegistry.h"
 #include "app/ViewerPane.h"
@@ -10,12 +11,14 @@
 #include "ui/WindowPlace.h"
 
 #include <functional>
+#include <span>
 #include <string>
 
 #include <wx/frame.h>
 
 namespace vantrel {
 
+class CommandRunner;
 class MainCommands;
 class MessageTable;
 class OperationGuard;
@@ -28,13 +31,13 @@ class frmZuroVant : public wxFrame,
                     public RobotBox,
                     public ViewerPane {
   public:
-    frmZuroVant(ApplicationState& state, const MessageTable& messages, OperationGuard& guard);
+    /// The table of its commands outlives the window.
+    frmZuroVant(ApplicationState& state, const MessageTable& messages, OperationGuard& guard,
+                std::span<const CommandRow> table = commandTable());
     ~frmZuroVant() override;
 
     /// The commands that events are handed to; events before this call do nothing.
-    void connect(MainCommands& commands);
-    /// What runs for an entry of the option or help menu, by the entry.
-    std::function<void(MenuItem)> onOtherEntry;
+    void connect(MainCommands& commands, const CommandRunner& runner);
     /// Called with the robot that the operator chose, by its place in the box.
     std::function<void(int index)> onRobotChosen;
     /// Asks whether the window may close; it closes when the answer is true.
@@ -61,7 +64,7 @@ class frmZuroVant : public wxFrame,
     void applyFont() override;
     void applyCaptions() override;
     void place(const std::array<std::int32_t, 8>& windowPositions) override;
-    void showStates(const CommandStates& states) override;
+    void showStates(const CommandInput& input) override;
     void showMode(const ModeLook& look) override;
     void showActiveSide(ActiveSide side) override;
     void showSerialLine(const std::string& port, const std::string& format) override;
@@ -92,10 +95,9 @@ class frmZuroVant : public wxFrame,
     void bindPane(ActiveSide side);
     void bindToolBars();
     void exchangePanes(bool viewer);
-    void toolPressed(const std::string& key);
-    void chosen(MenuItem item);
+    void functionKey(wxKeyEvent& event);
+    void run(const CommandRow& command, CommandPlace place);
     void listKey(wxKeyEvent& event, ActiveSide side);
-    void workIn(ActiveSide side);
     void keepFocusInActivePane();
     void lay();
 
@@ -106,7 +108,9 @@ class frmZuroVant : public wxFrame,
     MainMenus menus_;
     PaneDrag drag_;
     WindowPlace place_;
+    std::span<const CommandRow> table_;
     MainCommands* commands_ = nullptr;
+    const CommandRunner* runner_ = nullptr;
     bool placed_ = false;
     double captionRoom_ = 1; ///< what the design's lengths are multiplied by
     bool closesWhenUnlocked_ = false;

@@ -50,7 +50,10 @@ class ScriptedListFile : public ListFileWindow {
 
 class ListTransferCommandsTest : public CommandFixture {
   protected:
-    static constexpr int saveJobs = 2, loadJobs = 3, saveVariables = 4, loadVariables = 5;
+    static constexpr auto saveJobs = &ListTransferCommands::saveJobs;
+    static constexpr auto loadJobs = &ListTransferCommands::loadJobs;
+    static constexpr auto saveVariables = &ListTransferCommands::saveVariables;
+    static constexpr auto loadVariables = &ListTransferCommands::loadVariables;
 
     void TearDown() override { expectLeftInOrder(); }
 
@@ -59,7 +62,10 @@ class ListTransferCommandsTest : public CommandFixture {
         pc.write("LIST.LST", lines);
         showPanes();
     }
-    void run(int entry) { ListTransferCommands(services, listFile).mnuOpt(entry); }
+    void run(void (ListTransferCommands::*command)()) {
+        ListTransferCommands lists(services, listFile);
+        (lists.*command)();
+    }
     void byte(std::int16_t number, double value) {
         robot().variables[{0, number}] = std::array<double, 10>{value};
     }
@@ -68,17 +74,20 @@ class ListTransferCommandsTest : public CommandFixture {
     TransferServices services{state, session, panes, window, table, messages, progress, dialog};
 };
 
+using Entry = void (ListTransferCommands::*)();
+
 struct EntryRow : NamedRow {
-    int entry;
+    Entry entry;
     const char* mode;
     const char* title;
     const char* lines;
 };
 
-const EntryRow entries[] = {{{"SaveJobs"}, 2, "0", "Save jobs", "A.JBI\r\n"},
-                            {{"LoadJobs"}, 3, "1", "Load jobs", "B.JBI\r\n"},
-                            {{"SaveVariables"}, 4, "2", "Save variables", "B001=5\r\n"},
-                            {{"LoadVariables"}, 5, "3", "Load variables", "B001=5\r\n"}};
+const EntryRow entries[] = {
+    {{"SaveJobs"}, &ListTransferCommands::saveJobs, "0", "Save jobs", "A.JBI\r\n"},
+    {{"LoadJobs"}, &ListTransferCommands::loadJobs, "1", "Load jobs", "B.JBI\r\n"},
+    {{"SaveVariables"}, &ListTransferCommands::saveVariables, "2", "Save variables", "B001=5\r\n"},
+    {{"LoadVariables"}, &ListTransferCommands::loadVariables, "3", "Load variables", "B001=5\r\n"}};
 
 class EachListTransfer : public ListTransferCommandsTest,
                          public testing::WithParamInterface<EntryRow> {
@@ -183,14 +192,6 @@ TEST_P(EachListTransfer, ACancelledTransferIsNoFailure) {
     EXPECT_EQ(session.ErrorCode(), session_code::cancelled);
     EXPECT_THAT(boxes.texts(), IsEmpty());
     EXPECT_EQ(pc.read("LIST.LST"), GetParam().lines) << "a list that was left is not written";
-}
-
-TEST_F(ListTransferCommandsTest, OtherEntriesAreNotItsOwn) {
-    robot();
-    list("A.JBI\r\n");
-    for (const int entry : {-1, 0, 1, 6, 7})
-        run(entry);
-    EXPECT_THAT(listFile.modes, IsEmpty());
 }
 
 TEST_F(ListTransferCommandsTest, SavedJobsNeedNotBeOnThePCAndAreShownThere) {

@@ -1,14 +1,18 @@
 #pragma once
 
-#include "app/CommandStates.h"
+#include "app/CommandRunner.h"
 #include "app/FilePrinter.h"
 #include "app/FolderTreeView.h"
+#include "app/HelpCommands.h"
+#include "app/ListFileWindow.h"
+#include "app/ListTransferCommands.h"
 #include "app/MainCommands.h"
 #include "app/MainWindowView.h"
 #include "app/ModeCommands.h"
 #include "app/PCFolder.h"
 #include "app/ViewerPane.h"
 #include "files/CommandFixture.h"
+#include "support/NamedCommands.h"
 
 #include <functional>
 #include <string>
@@ -24,7 +28,7 @@ class RecordingView : public MainWindowView {
     void place(const std::array<std::int32_t, 8>& positions) override {
         log.push_back("place " + std::to_string(positions[2]));
     }
-    void showStates(const CommandStates& shown) override { states = shown; }
+    void showStates(const CommandInput& shown) override { input = shown; }
     void showMode(const ModeLook& look) override {
         mode = look;
         log.push_back("mode " + look.caption);
@@ -42,7 +46,7 @@ class RecordingView : public MainWindowView {
     void closeWindow() override { ++closes; }
 
     std::vector<std::string> log;
-    CommandStates states;
+    CommandInput input; ///< what menus and buttons were last shown for
     ModeLook mode;
     ActiveSide active = ActiveSide::PC;
     std::string address;
@@ -107,6 +111,20 @@ class RecordingPrinter : public FilePrinter {
     Outcome answer = Done{};
 };
 
+/// Windows that open and close at once.
+class RecordingWindows : public CommandWindows, public ListFileWindow {
+  public:
+    void openSettings() override { opened.emplace_back("settings"); }
+    void changeLanguage() override { opened.emplace_back("language"); }
+    void openVersionWindow() override { opened.emplace_back("version"); }
+    bool readList(std::string_view mode) override {
+        opened.push_back("list " + std::string(mode));
+        return false;
+    }
+
+    std::vector<std::string> opened;
+};
+
 class MainCommandsTest : public CommandFixture {
   protected:
     MainCommandsTest() {
@@ -137,6 +155,23 @@ class MainCommandsTest : public CommandFixture {
     std::vector<std::string> edited;
     Outcome editorAnswer = Done{};
     MainCommands main{services};
+    RecordingWindows windows;
+    ListTransferCommands lists{{state, session, panes, window, table, messages, progress, dialog},
+                               windows};
+    std::vector<std::string> documents;
+    HelpCommands help{state, "/opt/vantrel", [this](const std::string& path) {
+                          documents.push_back(path);
+                          return Outcome(Done{});
+                      }};
+    CommandRunner runner{commandTable(), {main, lists, help, windows}};
+
+    /// A command by its entry's or its button's name.
+    void run(std::string_view name) const {
+        const auto [command, place] = commandNamed(name);
+        runner.run(*command, place);
+    }
+    /// How the entry or button is shown now.
+    CommandState shown(std::string_view name) const { return stateOf(name, view.input); }
 };
 
 } // namespace vantrel::tests

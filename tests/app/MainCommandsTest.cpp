@@ -13,12 +13,12 @@ TEST_F(MainCommandsTest, CopyFollowsTheActivePane) {
     robotJob("OLD");
     showPanes();
     window.pc.click({"NEW.JBI"});
-    main.menu({Menu::mnuFile, fileCopy});
+    run("mnuFile(0)");
     EXPECT_EQ(robot().bytes("NEW.JBI"), job("NEW"));
 
     main.activate(ActiveSide::Controller);
     window.controller.click({"OLD.JBI"});
-    main.menu({Menu::mnuRightFile, fileCopy});
+    run("mnuRightFile(0)");
     EXPECT_EQ(pc.read("OLD.JBI"), job("OLD"));
 }
 
@@ -33,13 +33,13 @@ TEST_F(MainCommandsTest, APaneThatGetsTheFocusDuringAnOperationDoesNotBecomeTheA
 
 TEST_F(MainCommandsTest, ToolButtonsForwardByTheirKeys) {
     showPanes();
-    main.tool("AllSelect");
+    run("tlbMain AllSelect");
     EXPECT_THAT(view.selectedAll, ElementsAre(ActiveSide::PC));
-    main.tool("DispDetail");
+    run("tlbMain DispDetail");
     EXPECT_EQ(view.pcView, 3);
-    main.tool("modeHiSpeed");
+    run("tlbMain modeHiSpeed");
     EXPECT_EQ(state.TransMode, TransferMode::HispeedLink);
-    main.tool("modeBsc");
+    run("tlbMain modeBsc");
     EXPECT_EQ(state.TransMode, TransferMode::Bsc);
 }
 
@@ -48,13 +48,13 @@ TEST_F(MainCommandsTest, MoveFollowsTheActivePane) {
     robotJob("OLD");
     showPanes();
     window.pc.click({"NEW.JBI"});
-    main.tool("FileMove");
+    run("tlbMain FileMove");
     EXPECT_EQ(robot().bytes("NEW.JBI"), job("NEW"));
     EXPECT_FALSE(pc.has("NEW.JBI"));
 
     main.activate(ActiveSide::Controller);
     window.controller.click({"OLD.JBI"});
-    main.menu({Menu::mnuFile, fileMove});
+    run("mnuFile(1)");
     EXPECT_EQ(pc.read("OLD.JBI"), job("OLD"));
     EXPECT_FALSE(robot().has("OLD.JBI"));
 }
@@ -66,13 +66,13 @@ TEST_F(MainCommandsTest, DeleteFollowsTheActivePane) {
     window.pc.click({"SAME.JBI"});
     window.controller.click({"SAME.JBI"});
     question.answers = {Answer::Yes, Answer::Yes};
-    main.tool("FileDelete");
+    run("tlbMain FileDelete");
     EXPECT_FALSE(pc.has("SAME.JBI"));
     EXPECT_TRUE(robot().has("SAME.JBI"));
 
     main.activate(ActiveSide::Controller);
     window.controller.click({"SAME.JBI"});
-    main.menu({Menu::mnuRightFile, fileDelete});
+    run("mnuRightFile(2)");
     EXPECT_FALSE(robot().has("SAME.JBI"));
 }
 
@@ -81,7 +81,7 @@ TEST_F(MainCommandsTest, TheRefreshButtonReadsAgainUnderALockAndGivesTheFocusBac
     pcJob("NEW");
     const int locks = window.locks;
     const int focuses = window.pc.focuses;
-    main.tool("Refresh");
+    run("tlbMain Refresh");
     EXPECT_THAT(window.pc.names, ElementsAre("NEW.JBI"));
     EXPECT_EQ(window.locks, locks + 1);
     EXPECT_EQ(window.pc.focuses, focuses + 1);
@@ -90,7 +90,7 @@ TEST_F(MainCommandsTest, TheRefreshButtonReadsAgainUnderALockAndGivesTheFocusBac
 TEST_F(MainCommandsTest, ActivatingAPaneShowsIt) {
     main.activate(ActiveSide::Controller);
     EXPECT_EQ(view.active, ActiveSide::Controller);
-    EXPECT_TRUE(view.states.tlbCtrlButton.state.checked);
+    EXPECT_TRUE(shown("tlbCtrlButton CTRLButton").checked);
     main.activate(ActiveSide::PC);
     EXPECT_EQ(view.active, ActiveSide::PC);
 }
@@ -108,29 +108,22 @@ TEST_F(MainCommandsTest, AnotherLanguageReachesTitleAndCounts) {
     EXPECT_EQ(state.TransMode, mode);
 }
 
-TEST_F(MainCommandsTest, AnotherKeyDoesNothing) {
-    const auto before = view.log;
-    main.tool("Nonsense");
-    EXPECT_EQ(view.log, before);
-    EXPECT_TRUE(library.calls().empty());
-}
-
 TEST_F(MainCommandsTest, ViewBelongsToTheActivePane) {
-    main.menu({Menu::mnuDisp, 3});
+    run("mnuDisp(3)");
     EXPECT_EQ(state.PCDispType, 3);
     EXPECT_EQ(view.controllerView, -1);
     main.activate(ActiveSide::Controller);
-    main.menu({Menu::mnuFileDisp, 2});
+    run("mnuFileDisp(2)");
     EXPECT_EQ(state.CtrlDispType, 2);
     EXPECT_EQ(state.PCDispType, 3);
-    EXPECT_TRUE(view.states.mnuDisp[2].checked);
-    EXPECT_TRUE(view.states.mnuFileDisp[2].checked);
+    EXPECT_TRUE(shown("mnuDisp(2)").checked);
+    EXPECT_TRUE(shown("mnuFileDisp(2)").checked);
 }
 
 TEST_F(MainCommandsTest, SortOfOnePaneLeavesTheOther) {
     state.PCListing.SortType = 0;
     main.activate(ActiveSide::Controller);
-    main.menu({Menu::mnuSort, 2});
+    run("mnuSort(2)");
     EXPECT_EQ(state.CtrlListing.SortType, 2);
     EXPECT_EQ(state.PCListing.SortType, 0);
 }
@@ -140,7 +133,7 @@ TEST_F(MainCommandsTest, SortKeepsTheSelectedNames) {
     pc.write("B.JBI", "x");
     showPanes();
     window.pc.click({"A.JBI"});
-    main.menu({Menu::mnuSort, 1});
+    run("mnuSort(1)");
     EXPECT_THAT(window.pc.names, ElementsAre("B.JBI", "A.JBI"));
     EXPECT_THAT(window.pc.selectedNames(), ElementsAre("A.JBI"));
 }
@@ -148,18 +141,18 @@ TEST_F(MainCommandsTest, SortKeepsTheSelectedNames) {
 TEST_F(MainCommandsTest, SwitchingTheModeEmptiesTheControllerPaneWithoutAConnection) {
     robotJob("OLD");
     showPanes();
-    main.menu({Menu::mnuModeHiSpeed, 0});
+    run("mnuModeHiSpeed");
     EXPECT_TRUE(window.controller.names.empty());
     EXPECT_EQ(window.controllerStatus, "Controller: 0 items");
     EXPECT_TRUE(library.calls().empty());
-    EXPECT_TRUE(view.states.mnuModeHiSpeed.checked);
-    EXPECT_FALSE(view.states.mnuModeBsc.checked);
+    EXPECT_TRUE(shown("mnuModeHiSpeed").checked);
+    EXPECT_FALSE(shown("mnuModeBsc").checked);
 }
 
 TEST_F(MainCommandsTest, ChoosingTheModeThatIsOnKeepsTheList) {
     robotJob("OLD");
     showPanes();
-    main.menu({Menu::mnuModeBsc, 0});
+    run("mnuModeBsc");
     EXPECT_THAT(window.controller.names, testing::Contains("OLD.JBI"));
 }
 
@@ -181,8 +174,8 @@ TEST_F(MainCommandsTest, AModelWithoutTheLinkLeavesTheMode) {
     EXPECT_EQ(state.CtrlListing.Count, 0);
     EXPECT_EQ(state.TransMode, TransferMode::Bsc);
     EXPECT_TRUE(view.mode.showsSerialLine);
-    EXPECT_FALSE(view.states.mnuModeHiSpeed.enabled);
-    EXPECT_FALSE(view.states.button("modeHiSpeed").enabled);
+    EXPECT_FALSE(shown("mnuModeHiSpeed").enabled);
+    EXPECT_FALSE(shown("tlbMain modeHiSpeed").enabled);
 }
 
 TEST_F(MainCommandsTest, RefreshReadsTheControllerAndKeepsTheSelection) {
@@ -192,7 +185,7 @@ TEST_F(MainCommandsTest, RefreshReadsTheControllerAndKeepsTheSelection) {
     main.activate(ActiveSide::Controller);
     window.controller.click({"B.JBI"});
     robotJob("AA");
-    main.menu({Menu::mnuRefresh, 0});
+    run("mnuRefresh");
     EXPECT_THAT(window.controller.names, testing::IsSupersetOf({"A.JBI", "AA.JBI", "B.JBI"}));
     EXPECT_THAT(window.controller.selectedNames(), ElementsAre("B.JBI"));
     expectLeftInOrder();
@@ -203,7 +196,7 @@ TEST_F(MainCommandsTest, AFailedRefreshSaysSoAndKeepsTheOldList) {
     showPanes();
     main.activate(ActiveSide::Controller);
     library.disturb({"BscConnect", 1, false, false, 2000});
-    main.menu({Menu::mnuRefresh, 0});
+    run("mnuRefresh");
     EXPECT_THAT(boxes.texts(), ElementsAre("not read\nCOM1\nBscConnect ( line broken (2000) )"));
     EXPECT_THAT(window.controller.names, testing::Contains("A.JBI"));
     EXPECT_EQ(state.CtrlListing.Names.front(), "A.JBI");
@@ -214,7 +207,7 @@ TEST_F(MainCommandsTest, AnUnsetAddressIsToldOnce) {
     state.TransMode = TransferMode::HispeedLink;
     session.IPaddress = "0.0.0.0";
     main.activate(ActiveSide::Controller);
-    main.menu({Menu::mnuRefresh, 0});
+    run("mnuRefresh");
     EXPECT_THAT(boxes.texts(), ElementsAre("address unset"));
     expectLeftInOrder();
 }
@@ -225,7 +218,7 @@ TEST_F(MainCommandsTest, RefreshOfThePCShowsNewFilesAndKeepsTheSelection) {
     showPanes();
     window.pc.click({"B.JBI"});
     pcJob("AA");
-    main.menu({Menu::mnuRightRefresh, 0});
+    run("mnuRightRefresh");
     EXPECT_THAT(window.pc.names, ElementsAre("A.JBI", "AA.JBI", "B.JBI"));
     EXPECT_THAT(window.pc.selectedNames(), ElementsAre("B.JBI"));
     EXPECT_TRUE(library.calls().empty());
@@ -242,7 +235,7 @@ TEST_F(MainCommandsTest, AFolderThatIsGoneIsToldAndNothingChanges) {
 
 TEST_F(MainCommandsTest, UpOpensTheFolderAbove) {
     state.PCPath = pc.makeFolder("inner");
-    main.tool("UpFolder");
+    run("tlbPC UpFolder");
     EXPECT_EQ(state.PCPath, pc.path());
     EXPECT_EQ(view.folder, pc.path());
     EXPECT_THAT(window.pc.names, ElementsAre("inner"));
@@ -289,7 +282,7 @@ TEST_F(MainCommandsTest, TheControllerPaneOpensNothing) {
 
 TEST_F(MainCommandsTest, UpStaysAtTheRoot) {
     state.PCPath = "/";
-    main.tool("UpFolder");
+    run("tlbPC UpFolder");
     EXPECT_EQ(state.PCPath, "/");
     EXPECT_EQ(window.pc.shows, 0);
 }
@@ -297,12 +290,12 @@ TEST_F(MainCommandsTest, UpStaysAtTheRoot) {
 TEST_F(MainCommandsTest, KeysOfTheLists) {
     pcJob("A");
     state.PCPath = pc.makeFolder("inner");
-    EXPECT_TRUE(main.listKey(ActiveSide::PC, 'A', true));
+    EXPECT_TRUE(runner.listKey(ActiveSide::PC, 'A', true));
     EXPECT_THAT(view.selectedAll, ElementsAre(ActiveSide::PC));
-    EXPECT_FALSE(main.listKey(ActiveSide::PC, 'A', false));
+    EXPECT_FALSE(runner.listKey(ActiveSide::PC, 'A', false));
     constexpr int backspace = 8;
-    EXPECT_FALSE(main.listKey(ActiveSide::Controller, backspace, false));
-    EXPECT_TRUE(main.listKey(ActiveSide::PC, backspace, false));
+    EXPECT_FALSE(runner.listKey(ActiveSide::Controller, backspace, false));
+    EXPECT_TRUE(runner.listKey(ActiveSide::PC, backspace, false));
     EXPECT_EQ(state.PCPath, pc.path());
 }
 
@@ -313,11 +306,11 @@ TEST_F(MainCommandsTest, DeleteKeyDeletesOnlyWhereTheCommandIsOffered) {
     main.activate(ActiveSide::Controller);
     window.controller.click({"OLD.JBI"});
     window.controllerFilter = 1;
-    EXPECT_FALSE(main.listKey(ActiveSide::Controller, deleteKey, false));
+    EXPECT_FALSE(runner.listKey(ActiveSide::Controller, deleteKey, false));
     EXPECT_TRUE(robot().has("OLD.JBI"));
     window.controllerFilter = 0;
     question.answers = {Answer::Yes};
-    EXPECT_TRUE(main.listKey(ActiveSide::Controller, deleteKey, false));
+    EXPECT_TRUE(runner.listKey(ActiveSide::Controller, deleteKey, false));
     EXPECT_FALSE(robot().has("OLD.JBI"));
 }
 
@@ -329,7 +322,7 @@ TEST_F(MainCommandsTest, AKeyWorksOnTheListItWasPressedIn) {
     window.pc.click({"SAME.JBI"});
     window.controller.click({"SAME.JBI"});
     question.answers = {Answer::Yes};
-    main.listKey(ActiveSide::Controller, deleteKey, false);
+    runner.listKey(ActiveSide::Controller, deleteKey, false);
     EXPECT_TRUE(pc.has("SAME.JBI"));
     EXPECT_FALSE(robot().has("SAME.JBI"));
 }
@@ -365,8 +358,8 @@ TEST_F(RobotChoiceTest, LeavesThePaneThatWasActiveAsItWas) {
     selection.choose(1);
     EXPECT_THAT(window.controller.names, testing::Contains("OTHER.JBI"));
     EXPECT_EQ(state.Active, ActiveSide::PC);
-    EXPECT_TRUE(view.states.tlbPCButton.state.checked);
-    EXPECT_TRUE(view.states.button("DispDetail").enabled);
+    EXPECT_TRUE(shown("tlbPCButton PCButton").checked);
+    EXPECT_TRUE(shown("tlbMain DispDetail").enabled);
     EXPECT_EQ(window.controller.focuses, focuses);
 }
 
@@ -384,13 +377,18 @@ TEST_F(MainCommandsTest, AnotherFilterRefillsItsPaneOnly) {
 }
 
 TEST_F(MainCommandsTest, EndAsksTheWindowToClose) {
-    EXPECT_TRUE(main.menu({Menu::mnuEnd, 0}));
+    run("mnuEnd");
     EXPECT_EQ(view.closes, 1);
 }
 
-TEST_F(MainCommandsTest, EntriesOfOtherDialogsAreNotItsOwn) {
-    EXPECT_FALSE(main.menu({Menu::mnuOpt, 7}));
-    EXPECT_FALSE(main.menu({Menu::mnuVer, 0}));
+TEST_F(MainCommandsTest, TheOtherEntriesOpenWhatTheyName) {
+    for (const char* name :
+         {"mnuOpt(0)", "mnuOpt(2)", "mnuOpt(3)", "mnuOpt(4)", "mnuOpt(5)", "mnuOpt(7)", "mnuVer"})
+        run(name);
+    EXPECT_THAT(windows.opened, ElementsAre("settings", "list 0", "list 1", "list 2", "list 3",
+                                            "language", "version"));
+    run("mnuHelp(0)");
+    EXPECT_EQ(documents.size(), 1U);
 }
 
 } // namespace

@@ -42,7 +42,7 @@ TEST_F(MainWindowStartTest, AppliesBothViewsAndLeavesThePCPaneActive) {
     EXPECT_EQ(view.controllerView, 2);
     EXPECT_EQ(state.Active, ActiveSide::PC);
     EXPECT_EQ(view.active, ActiveSide::PC);
-    EXPECT_TRUE(view.states.button("DispDetail").checked);
+    EXPECT_TRUE(shown("tlbMain DispDetail").checked);
 }
 
 TEST_F(MainWindowStartTest, AStoredHighSpeedModeIsRestored) {

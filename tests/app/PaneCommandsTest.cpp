@@ -55,8 +55,8 @@ TEST_F(PaneCommandsTest, AHeaderSortsThePCPaneWhateverPaneIsActive) {
 TEST_F(PaneCommandsTest, AHeaderMovesTheCheckMarkOfTheSortMenu) {
     showPanes();
     main.clickColumn(1);
-    EXPECT_TRUE(view.states.mnuSort[1].checked);
-    EXPECT_FALSE(view.states.mnuSort[0].checked);
+    EXPECT_TRUE(shown("mnuSort(1)").checked);
+    EXPECT_FALSE(shown("mnuSort(0)").checked);
 }
 
 TEST_F(PaneCommandsTest, TheSortMenuKeepsTheDirection) {
@@ -70,7 +70,7 @@ TEST_F(PaneCommandsTest, APressOnUpIsAPressInThePCPane) {
     showPanes();
     main.activate(ActiveSide::Controller);
     const int focuses = window.pc.focuses;
-    main.tool("UpFolder");
+    run("tlbPC UpFolder");
     EXPECT_EQ(state.Active, ActiveSide::PC);
     EXPECT_EQ(window.pc.focuses, focuses + 1);
 }
@@ -133,8 +133,8 @@ TEST_F(PaneCommandsTest, CopyAndMoveFollowTheSelectionNotAFocusBesideIt) {
         window.pc.click({name});
         window.pc.focused = focused;
         main.updateStates();
-        const auto& copy = view.states.mnuFile[fileCopy];
-        EXPECT_EQ(copy, view.states.button("FileMove"));
+        const auto& copy = shown("mnuFile(0)");
+        EXPECT_EQ(copy, shown("tlbMain FileMove"));
         return copy.enabled;
     };
     EXPECT_TRUE(offered("NEW.JBI", folder));

@@ -256,8 +256,8 @@ TEST_F(SettingCommandsTest, AModelWithoutTheHighSpeedLinkLeavesItAfterwards) {
     apply([](SettingDraft& draft) { draft.chooseControler(aster); });
     settings.showSettings();
     EXPECT_EQ(state.TransMode, TransferMode::Bsc);
-    EXPECT_FALSE(view.states.mnuModeHiSpeed.enabled);
-    EXPECT_TRUE(view.states.mnuModeBsc.checked);
+    EXPECT_FALSE(shown("mnuModeHiSpeed").enabled);
+    EXPECT_TRUE(shown("mnuModeBsc").checked);
     EXPECT_TRUE(window.controller.names.empty());
     EXPECT_TRUE(view.mode.showsSerialLine);
 }
@@ -276,7 +276,7 @@ TEST_F(SettingCommandsTest, AnotherLanguageLeavesEvenAModeAloneThatTheModelLacks
 TEST_F(SettingCommandsTest, AfterwardsLabelCaptionsCountsAndStatesFollow) {
     apply([](SettingDraft& draft) { draft.serial().setPort(3); });
     view.log.clear();
-    view.states.mnuFile[0].enabled = false;
+    view.input.selectedKind.reset(); // offers no copy
     window.pcStatus.clear();
     settings.showSettings();
     const auto at = [this](const std::string& entry) {
@@ -288,7 +288,7 @@ TEST_F(SettingCommandsTest, AfterwardsLabelCaptionsCountsAndStatesFollow) {
     EXPECT_LT(at("serial"), at("captions"));
     EXPECT_NE(at("captions"), view.log.end());
     EXPECT_EQ(window.pcStatus, "PC: 1 items");
-    EXPECT_TRUE(view.states.mnuFile[0].enabled);
+    EXPECT_TRUE(shown("mnuFile(0)").enabled);
 }
 
 } // namespace

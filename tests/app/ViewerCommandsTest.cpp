@@ -25,7 +25,7 @@ class ViewerCommandsTest : public MainCommandsTest {
         window.pc.click({"A.JBI"});
     }
 
-    void press() { main.tool("FileDisp"); }
+    void press() { run("tlbMain FileDisp"); }
 
     static constexpr std::size_t rowOfFolder = 0, rowOfJob = 1, rowOfData = 2;
 };
@@ -36,15 +36,15 @@ TEST_F(ViewerCommandsTest, ShowsTheSelectedJobFileWithoutItsHeader) {
     EXPECT_EQ(viewer.name, "A.JBI");
     EXPECT_EQ(viewer.text, "NOP\r\n");
     EXPECT_TRUE(state.ViewerShown);
-    EXPECT_TRUE(view.states.button("FileDisp").checked);
-    EXPECT_TRUE(view.states.mnuFile[filePrint].enabled);
+    EXPECT_TRUE(shown("tlbMain FileDisp").checked);
+    EXPECT_TRUE(shown("mnuFile(6)").enabled);
     EXPECT_EQ(window.deepestBusy, 1);
     EXPECT_EQ(window.busyDepth, 0);
 }
 
 TEST_F(ViewerCommandsTest, ShowsHeaderLinesWhenTheSettingAsksForThem) {
     state.Headder = true;
-    main.menu({Menu::mnuFile, fileDisplay});
+    run("mnuFile(5)");
     EXPECT_EQ(viewer.text, "/JOB\r\nNOP\r\n");
 }
 
@@ -67,9 +67,9 @@ TEST_F(ViewerCommandsTest, ASecondPressReturnsToTheControllerWithoutReading) {
     EXPECT_FALSE(viewer.isShown);
     EXPECT_EQ(viewer.shows, 1);
     EXPECT_FALSE(state.ViewerShown);
-    EXPECT_FALSE(view.states.button("FileDisp").checked);
-    EXPECT_FALSE(view.states.mnuFile[filePrint].enabled);
-    EXPECT_TRUE(view.states.tlbCtrlButton.state.enabled);
+    EXPECT_FALSE(shown("tlbMain FileDisp").checked);
+    EXPECT_FALSE(shown("mnuFile(6)").enabled);
+    EXPECT_TRUE(shown("tlbCtrlButton CTRLButton").enabled);
 }
 
 TEST_F(ViewerCommandsTest, AnotherSettingOfTheHeaderReloadsNothing) {
@@ -86,7 +86,7 @@ TEST_F(ViewerCommandsTest, AFolderOrPlainFileOrNothingSelectedChangesNothing) {
         press();
         EXPECT_FALSE(viewer.isShown) << name;
         EXPECT_FALSE(state.ViewerShown) << name;
-        EXPECT_FALSE(view.states.button("FileDisp").checked) << name;
+        EXPECT_FALSE(shown("tlbMain FileDisp").checked) << name;
     }
     EXPECT_EQ(viewer.shows, 0);
     EXPECT_THAT(boxes.texts(), IsEmpty());
@@ -117,7 +117,7 @@ TEST_F(ViewerCommandsTest, LooksAtThePCListWhicheverPaneIsActiveAndActivatesIt) 
     panes.fill(ActiveSide::Controller);
     window.controller.click({"Z.JBI"});
     main.activate(ActiveSide::Controller);
-    main.menu({Menu::mnuFile, fileDisplay});
+    run("mnuFile(5)");
     EXPECT_EQ(viewer.name, "A.JBI");
     EXPECT_EQ(state.Active, ActiveSide::PC);
     EXPECT_EQ(view.active, ActiveSide::PC);
@@ -141,7 +141,7 @@ TEST_F(ViewerCommandsTest, AFileThatCannotBeOpenedIsToldAndThePaneStays) {
     EXPECT_EQ(boxes.shown[0].icon, BoxIcon::Exclamation);
     EXPECT_FALSE(viewer.isShown);
     EXPECT_FALSE(state.ViewerShown);
-    EXPECT_FALSE(view.states.button("FileDisp").checked);
+    EXPECT_FALSE(shown("tlbMain FileDisp").checked);
     EXPECT_EQ(window.busyDepth, 0);
 }
 
@@ -169,7 +169,7 @@ TEST_F(ViewerCommandsTest, PrintingAsksFirstAndPrintsWhatIsDisplayed) {
     state.Headder = true;
     window.pc.click({"B.DAT"});
     boxes.answers = {true};
-    main.tool("Print");
+    run("tlbPC Print");
     ASSERT_EQ(boxes.shown.size(), 1u);
     EXPECT_EQ(boxes.shown[0], (FakeMessageBoxes::Box{FakeMessageBoxes::Kind::YesNo,
                                                      "print? [A.JBI]", BoxIcon::Question}));
@@ -178,17 +178,17 @@ TEST_F(ViewerCommandsTest, PrintingAsksFirstAndPrintsWhatIsDisplayed) {
 
 TEST_F(ViewerCommandsTest, ABoxThatIsClosedPrintsNothing) {
     press();
-    main.menu({Menu::mnuFile, filePrint});
+    run("mnuFile(6)");
     EXPECT_EQ(boxes.shown.size(), 1u);
     EXPECT_THAT(printer.printed, IsEmpty());
 }
 
 TEST_F(ViewerCommandsTest, WithoutADisplayedFileThereIsNothingToPrint) {
     boxes.answers = {true, true};
-    main.menu({Menu::mnuFile, filePrint});
+    run("mnuFile(6)");
     press();
     press();
-    main.tool("Print");
+    run("tlbPC Print");
     EXPECT_THAT(boxes.texts(), ElementsAre("nothing to print", "nothing to print"));
     EXPECT_THAT(printer.printed, IsEmpty());
 }
@@ -198,7 +198,7 @@ TEST_F(ViewerCommandsTest, TheWindowIsLockedWhileThePrinterWorks) {
     boxes.answers = {true};
     int depth = 0;
     printer.whilePrinting = [&] { depth = window.lockDepth; };
-    main.tool("Print");
+    run("tlbPC Print");
     EXPECT_EQ(depth, 1);
     EXPECT_EQ(window.lockDepth, 0);
 }
@@ -207,7 +207,7 @@ TEST_F(ViewerCommandsTest, AFailedPrintIsToldOnceTheWindowIsFree) {
     press();
     boxes.answers = {true};
     printer.answer = Failure{"no paper"};
-    main.tool("Print");
+    run("tlbPC Print");
     EXPECT_THAT(boxes.texts(), ElementsAre("print? [A.JBI]", "not printed [A.JBI]\nno paper"));
     EXPECT_TRUE(state.ViewerShown);
     expectLeftInOrder();

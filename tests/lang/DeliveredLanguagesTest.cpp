@@ -1,6 +1,5 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "lang/Captions.h"
 #include "lang/LanguageFile.h"
 #include "platform/Files.h"
 #include "platform/TextEncoding.h"
@@ -145,50 +144,6 @@ bool isCleanEntry(std::string_view line) {
            pieces[2] == " " && pieces[4].empty();
 }
 
-/// The key of a caption, in lower case: what follows its only "&".
-std::optional<char> mnemonic(const std::string& caption) {
-    const auto mark = caption.find('&');
-    if (mark == std::string::npos || mark != caption.rfind('&') || mark + 1 == caption.size())
-        return std::nullopt;
-    const auto key = static_cast<unsigned char>(caption[mark + 1]);
-    if (!std::isalnum(key))
-        return std::nullopt;
-    return static_cast<char>(std::tolower(key));
-}
-
-/// Captions that are on the screen together, so that each key may occur only once.
-std::map<std::string, std::vector<std::int32_t>> mnemonicGroups() {
-    using enum Menu;
-    const std::map<std::string, std::vector<Menu>> menus = {
-        {"menu bar",
-         {mnuFileMain, mnuDispMain, mnuTransMode, mnuSortMain, mnuRefresh, mnuOptMain,
-          mnuHelpMain}},
-        {"file menu", {mnuFile, mnuEnd}},
-        {"view menu", {mnuDisp}},
-        {"mode menu", {mnuModeHiSpeed, mnuModeBsc}},
-        {"sort menu", {mnuSort}},
-        {"options menu", {mnuOpt}},
-        {"help menu", {mnuHelp, mnuVer}},
-        {"pop-up menu", {mnuRightFile, mnuFileDispMain, mnuSortIconMain, mnuRightRefresh}},
-        {"pop-up views", {mnuFileDisp}},
-        {"pop-up sorts", {mnuSortIcon}},
-    };
-    std::map<std::string, std::vector<std::int32_t>> groups = {
-        {"question dialog", {530, 531, 532, 533}}, {"settings dialog", {320, 321, 322}}};
-    for (const auto& [name, members] : menus)
-        for (const auto& row : menuCaptions())
-            if (std::ranges::find(members, row.item.menu) != members.end())
-                groups[name].push_back(row.message);
-    return groups;
-}
-
-std::set<std::int32_t> numbersWithMnemonic() {
-    std::set<std::int32_t> numbers;
-    for (const auto& [name, members] : mnemonicGroups())
-        numbers.insert(members.begin(), members.end());
-    return numbers;
-}
-
 bool hasOuterBlank(const std::string& text, bool atEnd) {
     return !text.empty() && (atEnd ? text.back() : text.front()) == ' ';
 }
@@ -255,26 +210,6 @@ TEST_P(DeliveredLanguage, KeepsTheBlanksThatJoinTexts) {
                 << number;
 }
 
-TEST_P(DeliveredLanguage, HasOneKeyPerCaptionOfAMenuOrDialog) {
-    const auto texts = textsOf(GetParam());
-    for (const auto& [group, numbers] : mnemonicGroups()) {
-        // The option buttons of the controller models bring their first letters along.
-        auto taken = group == "settings dialog" ? "bacdet"s : ""s;
-        for (const auto number : numbers) {
-            const auto key = mnemonic(shownText(texts, number));
-            ASSERT_TRUE(key) << group << number;
-            EXPECT_EQ(taken.find(*key), std::string::npos) << group << number;
-            taken += *key;
-        }
-    }
-}
-
-TEST_P(DeliveredLanguage, HasKeysInMenusAndDialogsOnly) {
-    const auto withKeys = numbersWithMnemonic();
-    for (const auto& [number, entry] : textsOf(GetParam()))
-        EXPECT_EQ(entry.Text2.find('&') != std::string::npos, withKeys.contains(number)) << number;
-}
-
 TEST(DeliveredLanguages, ErrorCodesHaveTextsOfTheirOwn) {
     const auto named = namedNumbers();
     for (const auto number : codeNumbers())
@@ -294,14 +229,6 @@ TEST(DeliveredLanguages, EnglishAndSystemShowTheReferenceTexts) {
     for (const char* language : {"English", "System"})
         for (const auto& [number, entry] : textsOf(language))
             EXPECT_EQ(entry.Text2, entry.Text1) << language << number;
-}
-
-TEST(DeliveredLanguages, SameKeyInEveryLanguage) {
-    const auto japanese = textsOf("Japanese");
-    const auto english = textsOf("English");
-    for (const auto number : numbersWithMnemonic())
-        EXPECT_EQ(mnemonic(shownText(japanese, number)), mnemonic(shownText(english, number)))
-            << number;
 }
 
 } // namespace

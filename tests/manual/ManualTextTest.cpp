@@ -229,8 +229,8 @@ TEST_P(ManualText, GivesEveryMenuEntryItsKeys) {
 }
 
 TEST_P(ManualText, NamesEveryAcceleratorOfTheMenus) {
-    const auto menus = contentOf("ui/MainMenus.cpp");
-    const auto accelerators = matches(menus, R"-(\{Menu::\w+, \d+, "([^"]+)")-");
+    const auto menus = contentOf("app/Commands.cpp");
+    const auto accelerators = matches(menus, R"-(\.key = "([^"]+)")-");
     EXPECT_THAT(accelerators, testing::Not(IsEmpty()));
     const auto listed = tables("keys");
     for (const auto& accelerator : accelerators)

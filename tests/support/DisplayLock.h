@@ -1,9 +1,10 @@
 #pragma once
 
 #include <cstdlib>
-#include <fcntl.h>
 #include <filesystem>
 #include <string>
+
+#include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
 

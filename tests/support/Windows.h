@@ -1,5 +1,11 @@
 #pragma once
 
+#include <chrono>
+#include <cstdlib>
+#include <functional>
+#include <stdexcept>
+#include <string>
+
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/button.h>
@@ -11,12 +17,6 @@
 #include <wx/textctrl.h>
 #include <wx/toplevel.h>
 #include <wx/uiaction.h>
-
-#include <chrono>
-#include <cstdlib>
-#include <functional>
-#include <stdexcept>
-#include <string>
 
 // What a test does with real windows. Nothing here waits for a fixed time: events are run until
 // what is waited for has happened, and a test fails when it has not after some seconds.

@@ -1,7 +1,7 @@
 #include "ui/Composition.h"
 
 #include "ProgramWorld.h"
-#include "ui/KeyedToolBar.h"
+#include "ui/CommandToolBar.h"
 #include "ui/PaneDrag.h"
 
 #include <wx/bmpbuttn.h>
@@ -20,7 +20,7 @@ class CompositionTest : public testing::Test {
     FileListControl& controller() { return *world.controls().lsvCtrl; }
     bool onPC(const std::string& name) { return world.folder.has("jobs/" + name); }
     bool onRobot(const std::string& name) { return world.folder.has("robot/" + name); }
-    void copy() { world.menu({Menu::mnuFile, 0}); }
+    void copy() { world.menu("mnuFile(0)"); }
 
     ProgramWorld world;
 };
@@ -33,8 +33,8 @@ class EverythingAtOnce {
     void operator()() {
         ++times;
         const auto& controls = world_.controls();
-        for (const auto& caption : menuCaptions())
-            world_.menu(caption.item);
+        for (const auto& [name, caption] : menuEntries())
+            world_.menu(name);
         for (auto* bar : {controls.tlbMain, controls.tlbPC, controls.tlbFile, controls.tlbPCButton,
                           controls.tlbCtrlButton})
             for (wxToolBarToolBase* tool : toolsOf(*bar))
@@ -143,9 +143,9 @@ TEST_F(CompositionTest, TheSameIsTakenWhenNothingRuns) {
     world.pcJob("A");
     world.start(true);
     ProgramWorld::choose(pc(), {0});
-    world.menu({Menu::mnuDisp, 0});
+    world.menu("mnuDisp(0)");
     EXPECT_EQ(pc().view(), ListView::LargeIcons);
-    world.menu({Menu::mnuModeHiSpeed, 0});
+    world.menu("mnuModeHiSpeed");
     EXPECT_TRUE(world.window().GetTitle().Contains("Hispeed Link"));
     wxCommandEvent press(wxEVT_TOOL, world.controls().tlbMain->GetToolByPos(3)->GetId());
     press.SetEventObject(world.controls().tlbMain);
@@ -154,9 +154,9 @@ TEST_F(CompositionTest, TheSameIsTakenWhenNothingRuns) {
     wxListEvent header(wxEVT_LIST_COL_CLICK, world.pcList().GetId());
     header.SetEventObject(&world.pcList());
     header.m_col = 2;
-    world.menu({Menu::mnuDisp, 3});
+    world.menu("mnuDisp(3)");
     world.pcList().HandleWindowEvent(header);
-    EXPECT_TRUE(world.window().menus().find({Menu::mnuSort, 2})->IsChecked());
+    EXPECT_TRUE(world.window().menus().find("mnuSort(2)")->IsChecked());
 }
 
 TEST_F(CompositionTest, EveryTransferCommandMovesTheBytesItSays) {
@@ -171,7 +171,7 @@ TEST_F(CompositionTest, EveryTransferCommandMovesTheBytesItSays) {
     EXPECT_TRUE(onPC("A.JBI"));
 
     ProgramWorld::choose(pc(), {1});
-    world.menu({Menu::mnuFile, 1});
+    world.menu("mnuFile(1)");
     EXPECT_EQ(world.folder.read("robot/B.JBI"), ProgramWorld::job("B"));
     EXPECT_FALSE(onPC("B.JBI"));
     EXPECT_EQ(names(pc()), (std::vector<std::string>{"A.JBI", "C.JBI"}));
@@ -183,19 +183,19 @@ TEST_F(CompositionTest, EveryTransferCommandMovesTheBytesItSays) {
     EXPECT_TRUE(onRobot("X.JBI"));
 
     ProgramWorld::choose(controller(), {3});
-    world.menu({Menu::mnuFile, 1});
+    world.menu("mnuFile(1)");
     EXPECT_EQ(world.folder.read("jobs/Y.JBI"), ProgramWorld::job("Y"));
     EXPECT_FALSE(onRobot("Y.JBI"));
 
     ProgramWorld::choose(controller(), {0});
     world.modal.act([](wxDialog& question) { click(question, "cmdYesNo0"); });
-    world.menu({Menu::mnuFile, 2});
+    world.menu("mnuFile(2)");
     EXPECT_FALSE(onRobot("A.JBI"));
     EXPECT_TRUE(onPC("A.JBI"));
 
     ProgramWorld::choose(pc(), {0});
     world.modal.act([](wxDialog& question) { click(question, "cmdYesNo0"); });
-    world.menu({Menu::mnuFile, 2});
+    world.menu("mnuFile(2)");
     EXPECT_FALSE(onPC("A.JBI"));
     EXPECT_TRUE(onPC("C.JBI"));
 }

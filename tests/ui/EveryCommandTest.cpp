@@ -1,10 +1,9 @@
 #include "DialogTest.h"
 #include "HelpWorld.h"
-#include "ui/KeyedToolBar.h"
+#include "ui/CommandToolBar.h"
 #include "ui/PathDisplay.h"
 
 #include <algorithm>
-#include <map>
 
 #include <wx/menu.h>
 #include <wx/statusbr.h>
@@ -30,8 +29,8 @@ class EveryCommandTest : public testing::TestWithParam<const char*>, public Help
     ~EveryCommandTest() override { endProgram(); }
 
     /// Makes things so that the entry has something to do.
-    void prepare(MenuItem item);
-    void prepareTool(const KeyedToolBar& bar, const std::string& key);
+    void prepare(const CommandRow& command);
+    void prepareTool(const CommandToolBar& bar, const std::string& key);
     /// Runs an action, which has to change what can be seen, heard of or found on the disk.
     void expectEffect(const std::string& what, const std::function<void()>& action) {
         runEvents();
@@ -49,12 +48,11 @@ class EveryCommandTest : public testing::TestWithParam<const char*>, public Help
     }
 
   private:
-    static MenuItem commandOf(const std::string& key);
     void lookAt(wxDialog& dialog);
     static void expectTexts(const wxWindow& window);
     void hideViewer() {
         if (controls().fraFile.panel->IsShown())
-            menu({Menu::mnuFile, 5});
+            menu("mnuFile(5)");
     }
     std::string picture();
     std::string files() const;
@@ -126,74 +124,63 @@ std::string EveryCommandTest::picture() {
                                  static_cast<wxWindow*>(controls().pcHighlight)})
         all += part->IsShown() ? '+' : '-';
     for (int index = 0; index < 3; ++index)
-        all += window().menus().find({Menu::mnuSort, index})->IsChecked() ? '+' : '-';
+        all += window().menus().find("mnuSort(" + std::to_string(index) + ")")->IsChecked() ? '+'
+                                                                                            : '-';
     return all;
 }
 
-void EveryCommandTest::prepare(MenuItem item) {
+void EveryCommandTest::prepare(const CommandRow& command) {
     hideViewer();
     pcJob("A");
     std::filesystem::remove(folder.path("robot/A.JBI"));
     choose(*controls().lsvPC, {});
-    menu({Menu::mnuRefresh, 0});
+    menu("mnuRefresh");
     choose(*controls().lsvPC, {0});
-    if (item == MenuItem{Menu::mnuFile, 6})
-        menu({Menu::mnuFile, 5});
-    if (item.menu == Menu::mnuDisp || item.menu == Menu::mnuFileDisp)
-        menu({Menu::mnuDisp, (item.index + 1) % 4});
-    if (item.menu == Menu::mnuSort || item.menu == Menu::mnuSortIcon)
-        menu({Menu::mnuSort, (item.index + 1) % 3});
-    if (item.menu == Menu::mnuModeBsc)
-        menu({Menu::mnuModeHiSpeed, 0});
-    if (item.menu == Menu::mnuModeHiSpeed)
-        menu({Menu::mnuModeBsc, 0});
-    if (item.menu == Menu::mnuRefresh || item.menu == Menu::mnuRightRefresh)
+    const auto is = [&command](const char* name) { return commandNamed(name).first == &command; };
+    if (is("mnuFile(6)"))
+        menu("mnuFile(5)");
+    for (const std::string of : {"mnuDisp", "mnuSort"})
+        for (int index = 0; index < 3; ++index)
+            if (is((of + "(" + std::to_string(index) + ")").c_str()))
+                menu(of + "(" + std::to_string((index + 1) % 3) + ")");
+    if (is("mnuDisp(3)"))
+        menu("mnuDisp(0)");
+    if (is("mnuModeBsc"))
+        menu("mnuModeHiSpeed");
+    if (is("mnuModeHiSpeed"))
+        menu("mnuModeBsc");
+    if (is("mnuRefresh"))
         pcJob("NEW" + std::to_string(++newFiles_));
 }
 
-/// What a button of the main tool bar or of the PC pane does, as a menu entry.
-MenuItem EveryCommandTest::commandOf(const std::string& key) {
-    static const std::map<std::string, MenuItem> commands{
-        {"FileCopy", {Menu::mnuFile, 0}},   {"FileMove", {Menu::mnuFile, 1}},
-        {"FileDelete", {Menu::mnuFile, 2}}, {"AllSelect", {Menu::mnuFile, 3}},
-        {"FileDisp", {Menu::mnuFile, 5}},   {"Print", {Menu::mnuFile, 6}},
-        {"DispBig", {Menu::mnuDisp, 0}},    {"DispSmall", {Menu::mnuDisp, 1}},
-        {"DispList", {Menu::mnuDisp, 2}},   {"DispDetail", {Menu::mnuDisp, 3}},
-        {"modeBsc", {Menu::mnuModeBsc}},    {"modeHiSpeed", {Menu::mnuModeHiSpeed}},
-        {"Refresh", {Menu::mnuRefresh}}};
-    const auto found = commands.find(key);
-    return found == commands.end() ? MenuItem{Menu::mnuVer} : found->second;
-}
-
-void EveryCommandTest::prepareTool(const KeyedToolBar& bar, const std::string& key) {
-    prepare(commandOf(key));
+void EveryCommandTest::prepareTool(const CommandToolBar& bar, const std::string& key) {
+    prepare(*commandNamed(bar.GetName().utf8_string() + " " + key).first);
     if (key != "PCButton" && &bar != controls().tlbFile)
         return;
     for (const char* name : {"X", "Y"}) {
         std::filesystem::remove(folder.path("jobs/" + std::string(name) + ".JBI"));
         robotJob(name);
     }
-    menu({Menu::mnuRefresh, 0});
+    menu("mnuRefresh");
     choose(*controls().lsvCtrl, {});
-    menu({Menu::mnuRefresh, 0});
+    menu("mnuRefresh");
     choose(*controls().lsvCtrl, {0});
 }
 
 TEST_P(EveryCommandTest, OfTheMenusDoesWhatCanBeSeen) {
     int walked = 0;
-    for (const auto& caption : menuCaptions()) {
-        const auto* const entry = window().menus().find(caption.item);
-        if (!entry || entry->IsSubMenu())
-            continue;
+    for (const auto& [name, caption] : menuEntries()) {
+        const auto* const entry = window().menus().find(name);
+        if (!entry)
+            continue; // in the menu bar itself
         const auto text = entry->GetItemLabelText().utf8_string();
-        EXPECT_FALSE(text.empty()) << caption.message;
-        prepare(caption.item);
+        EXPECT_FALSE(text.empty()) << name;
+        prepare(*commandNamed(name).first);
         EXPECT_TRUE(entry->IsEnabled()) << text;
-        expectEffect(text, [&] { menu(caption.item); });
+        expectEffect(text, [&] { menu(name); });
         ++walked;
     }
-    const int withoutOwnEntry = 7 + 2; // what stands in the menu bar, and heads of two sub-menus
-    EXPECT_EQ(walked, int(menuCaptions().size()) - withoutOwnEntry);
+    EXPECT_EQ(walked, int(menuEntries().size()) - 1);
     EXPECT_TRUE(program->mainWindow()) << "Esc keeps the program running";
 }
 
@@ -205,7 +192,7 @@ TEST_P(EveryCommandTest, OfTheToolBarsDoesWhatCanBeSeen) {
             EXPECT_FALSE(bar->toolTip(key).empty()) << what;
             prepareTool(*bar, key);
             EXPECT_TRUE(bar->isEnabled(key)) << what;
-            expectEffect(what, [&] { bar->onPressed(key); });
+            expectEffect(what, [&] { bar->press(key); });
             if (key == "UpFolder")
                 returnToJobs();
         }

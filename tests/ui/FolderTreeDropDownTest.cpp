@@ -238,7 +238,7 @@ TEST_F(FolderTreeDropDownTest, AnotherControlWithTheFocusHidesIt) {
 
 TEST_F(FolderTreeDropDownTest, ACommandHidesIt) {
     drop();
-    world.menu({Menu::mnuDisp, 0});
+    world.menu("mnuDisp(0)");
     EXPECT_FALSE(tree().IsShown());
 }
 

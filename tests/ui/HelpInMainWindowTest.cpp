@@ -26,7 +26,7 @@ class HelpInMainWindowTest : public testing::Test, public HelpWorld {
             << opened();
     }
     /// Opens a dialog by its menu entry, presses F1 in it and closes it.
-    void pressF1InDialogOf(MenuItem item, const std::string& closing) {
+    void pressF1InDialogOf(const std::string& item, const std::string& closing) {
         modal.act([&closing](wxDialog& dialog) {
             EXPECT_TRUE(waitFor([&] { return dialog.IsActive(); })) << dialog.GetName();
             pressKey(WXK_F1);
@@ -43,21 +43,21 @@ class HelpInMainWindowTest : public testing::Test, public HelpWorld {
 
 TEST_F(HelpInMainWindowTest, TheMenuOpensTheManual) {
     start(false);
-    menu({Menu::mnuHelp, 0});
+    menu("mnuHelp(0)");
     EXPECT_TRUE(waitFor([this] { return opened() == openings(manual); })) << opened();
 }
 
 TEST_F(HelpInMainWindowTest, TheManualIsThatOfTheLanguage) {
     settings("TransMode=1\r\n", "Japanese");
     start(false);
-    menu({Menu::mnuHelp, 0});
+    menu("mnuHelp(0)");
     EXPECT_TRUE(waitFor([this] { return opened() == openings("Zurolink_jp.pdf"); })) << opened();
 }
 
 TEST_F(HelpInMainWindowTest, AManualThatIsNotThereIsNotReported) {
     std::filesystem::remove_all(folder.path("../ZUROLINKDLL"));
     start(false);
-    menu({Menu::mnuHelp, 0});
+    menu("mnuHelp(0)");
     runEvents();
     EXPECT_EQ(opened(), "");
 }
@@ -75,7 +75,7 @@ TEST_F(HelpInMainWindowTest, F1OpensItFromEveryControl) {
 TEST_F(HelpInMainWindowTest, F1OpensItFromTheViewerAndTheFolderTree) {
     start(true);
     choose(*controls().lsvPC, {0});
-    menu({Menu::mnuFile, 5});
+    menu("mnuFile(5)");
     pressF1In(*controls().rtxFileDisp);
     ASSERT_NO_FATAL_FAILURE(dropFolderTree());
     pressF1In(*controls().trvFolderList);
@@ -93,7 +93,7 @@ TEST_F(HelpInMainWindowTest, F1IsRefusedWhileAnOperationRuns) {
     window().setLocked(true);
     pressKey(WXK_F1);
     swallows(window(), WXK_F1);
-    menu({Menu::mnuHelp, 0});
+    menu("mnuHelp(0)");
     runEvents();
     window().setLocked(false);
     window().list(ActiveSide::PC).focus();
@@ -102,10 +102,10 @@ TEST_F(HelpInMainWindowTest, F1IsRefusedWhileAnOperationRuns) {
 
 TEST_F(HelpInMainWindowTest, F1InADialogOpensNothing) {
     start(false);
-    pressF1InDialogOf({Menu::mnuOpt, 0}, "cmdCancel");
-    pressF1InDialogOf({Menu::mnuOpt, 2}, "cmdCancel");
-    pressF1InDialogOf({Menu::mnuOpt, 7}, "Command2");
-    pressF1InDialogOf({Menu::mnuVer, 0}, "Command1");
+    pressF1InDialogOf("mnuOpt(0)", "cmdCancel");
+    pressF1InDialogOf("mnuOpt(2)", "cmdCancel");
+    pressF1InDialogOf("mnuOpt(7)", "Command2");
+    pressF1InDialogOf("mnuVer", "Command1");
     window().Raise();
     window().list(ActiveSide::PC).focus();
     pressF1In(pcList());

@@ -75,7 +75,7 @@ TEST_F(KeyboardInMainWindowTest, TabGoesFromPaneToPaneAndComesBack) {
 }
 
 TEST_F(KeyboardInMainWindowTest, F5ReadsTheActivePaneAnewFromEverywhere) {
-    menu({Menu::mnuFile, 5});
+    menu("mnuFile(5)");
     int files = 2;
     const auto expectRefresh = [&](wxWindow& control) {
         pcJob("NEW" + std::to_string(++files));

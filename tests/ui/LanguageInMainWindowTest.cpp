@@ -1,6 +1,6 @@
 #include "ProgramWorld.h"
+#include "ui/CommandToolBar.h"
 #include "ui/FileViewer.h"
-#include "ui/KeyedToolBar.h"
 #include "ui/PathDisplay.h"
 
 #include <algorithm>
@@ -31,7 +31,7 @@ class LanguageInMainWindowTest : public testing::Test, public ProgramWorld {
     /// Chooses a language in the dialog of the menu and leaves it by a button.
     void changeLanguage(const std::string& language, const std::string& button = "Command1") {
         chooseLanguage(language, button);
-        menu({Menu::mnuOpt, 7});
+        menu("mnuOpt(7)");
         runEvents();
     }
 
@@ -49,8 +49,8 @@ class LanguageInMainWindowTest : public testing::Test, public ProgramWorld {
         auto& bar = *window().GetMenuBar();
         for (std::size_t top = 0; top < bar.GetMenuCount(); ++top)
             all.push_back("menu " + bar.GetMenuLabel(top).utf8_string());
-        for (const auto& caption : menuCaptions())
-            if (const auto* entry = window().menus().find(caption.item))
+        for (const auto& [name, caption] : menuEntries())
+            if (const auto* entry = window().menus().find(name))
                 all.push_back("entry " + entry->GetItemLabel().utf8_string());
         for (int panel = 0; panel < window().GetStatusBar()->GetFieldsCount(); ++panel)
             all.push_back("panel " + window().GetStatusBar()->GetStatusText(panel).utf8_string());
@@ -67,7 +67,7 @@ class LanguageInMainWindowTest : public testing::Test, public ProgramWorld {
             all.push_back(name + child->GetLabel().utf8_string() + " tip " +
                           child->GetToolTipText().utf8_string() + " font " +
                           child->GetFont().GetNativeFontInfoDesc().utf8_string());
-            if (auto* const bar = dynamic_cast<KeyedToolBar*>(child))
+            if (auto* const bar = dynamic_cast<CommandToolBar*>(child))
                 for (const auto& key : bar->keys())
                     all.push_back(name + key + ' ' + bar->toolTip(key).utf8_string());
             if (auto* const list = dynamic_cast<wxListView*>(child); list && list->InReportView())
@@ -97,7 +97,7 @@ TEST_F(LanguageInMainWindowTest, AnotherLanguageLooksAsIfTheProgramHadStartedInI
 
 TEST_F(LanguageInMainWindowTest, TheViewersHeadingFollows) {
     startIn("English");
-    menu({Menu::mnuFile, 5});
+    menu("mnuFile(5)");
     const auto heading = controls().lblFile->GetLabel();
     const auto frame = controls().fraFile.box->GetLabel();
     changeLanguage("Japanese");
@@ -109,10 +109,10 @@ TEST_F(LanguageInMainWindowTest, TheViewersHeadingFollows) {
 TEST_F(LanguageInMainWindowTest, WindowsThatOpenLaterSpeakIt) {
     startIn("English");
     changeLanguage("Japanese");
-    for (const auto& [item, title] : {std::pair{MenuItem{Menu::mnuOpt, 0}, "設定"},
-                                      {{Menu::mnuOpt, 2}, "ジョブの一括セーブ"},
-                                      {{Menu::mnuVer, 0}, "バージョン情報"},
-                                      {{Menu::mnuOpt, 7}, "言語の選択 / Language"}}) {
+    for (const auto& [item, title] : {std::pair{"mnuOpt(0)", "設定"},
+                                      {"mnuOpt(2)", "ジョブの一括セーブ"},
+                                      {"mnuVer", "バージョン情報"},
+                                      {"mnuOpt(7)", "言語の選択 / Language"}}) {
         modal.act([title = title](wxDialog& dialog) {
             EXPECT_TRUE(dialog.GetTitle().StartsWith(wxString::FromUTF8(title).BeforeFirst('/')))
                 << dialog.GetTitle();

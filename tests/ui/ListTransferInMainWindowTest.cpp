@@ -25,9 +25,9 @@ class ListTransferInMainWindowTest : public testing::Test, public ProgramWorld {
             type(dialog, "txtFile", file);
             click(dialog, "cmdOK");
         });
-        menu({Menu::mnuOpt, entry});
+        menu("mnuOpt(" + std::to_string(entry) + ")");
         runEvents();
-        EXPECT_TRUE(window().menus().find({Menu::mnuOpt, entry})->IsEnabled());
+        EXPECT_TRUE(window().menus().find("mnuOpt(" + std::to_string(entry) + ")")->IsEnabled());
     }
 };
 
@@ -90,7 +90,7 @@ TEST_P(ListFileOfEntry, IsAskedForInWordsOfItsOwnAndCancelChangesNothing) {
             type(dialog, "txtFile", "jobs.lst");
             swallows(dialog, WXK_ESCAPE);
         });
-        menu({Menu::mnuOpt, entry});
+        menu("mnuOpt(" + std::to_string(entry) + ")");
     }
     EXPECT_FALSE(folder.has("jobs/A.JBI"));
     EXPECT_FALSE(folder.has("robot/variables.txt"));
@@ -109,9 +109,9 @@ TEST_P(ListFileOfEntry, GivesAReportInFullWhenItsTransferFails) {
         saveScreenshot(box, std::string("list-report-") + GetParam());
         swallows(box, WXK_ESCAPE);
     });
-    menu({Menu::mnuOpt, saveJobs});
+    menu("mnuOpt(" + std::to_string(saveJobs) + ")");
     EXPECT_TRUE(controls().fraPC.panel->IsEnabled());
-    EXPECT_TRUE(window().menus().find({Menu::mnuOpt, saveJobs})->IsEnabled());
+    EXPECT_TRUE(window().menus().find("mnuOpt(" + std::to_string(saveJobs) + ")")->IsEnabled());
 }
 
 INSTANTIATE_TEST_SUITE_P(In, ListFileOfEntry, bothLanguages, languageName);
@@ -123,9 +123,9 @@ TEST_F(ListTransferInMainWindowTest, TheNameThatWorkedIsOfferedAgainAndSavedAtTh
         EXPECT_EQ(control<wxTextCtrl>(dialog, "txtFile").GetValue(), "VARS.LST");
         click(dialog, "cmdCancel");
     });
-    menu({Menu::mnuOpt, saveVariables});
+    menu("mnuOpt(" + std::to_string(saveVariables) + ")");
     modal.answer([](wxDialog&) { return wxID_OK; });
-    menu({Menu::mnuEnd, 0});
+    menu("mnuEnd");
     ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
     EXPECT_NE(folder.read("Vantrel.ini").find("VarListFile=VARS.LST"), std::string::npos)
         << folder.read("Vantrel.ini");

@@ -2,8 +2,8 @@
 
 #include "DialogTest.h"
 #include "PaneWorld.h"
-#include "app/CommandStates.h"
 #include "app/ModeCommands.h"
+#include "support/NamedCommands.h"
 #include "ui/FileListControl.h"
 #include "ui/OperationGuard.h"
 #include "ui/frmZuroVant.h"
@@ -22,7 +22,7 @@ class MainWindowTest : public DialogInLanguage {
         window.applyCaptions();
         window.showMode(modeLook(TransferMode::Bsc, messages));
         window.showActiveSide(ActiveSide::PC);
-        window.showStates(commandStates({}));
+        window.showStates({});
         window.place(state.WindowPos);
         window.list(ActiveSide::PC).show(world.rows);
         window.Show();
@@ -34,7 +34,9 @@ class MainWindowTest : public DialogInLanguage {
         runEvents();
     }
 
-    wxString menuLabel(MenuItem item) { return window.menus().find(item)->GetItemLabel(); }
+    wxString menuLabel(const std::string& item) {
+        return window.menus().find(item)->GetItemLabel();
+    }
 
     OperationGuard guard;
     PaneWorld world{{"B.JBI", "A.JBI", "FOLDER/"}};

@@ -1,7 +1,7 @@
 #include "LateKeys.h"
 #include "ProgramWorld.h"
+#include "ui/CommandToolBar.h"
 #include "ui/FileViewer.h"
-#include "ui/KeyedToolBar.h"
 #include "ui/PaneDrag.h"
 
 #include <wx/menu.h>
@@ -58,13 +58,13 @@ class PaneFocusTest : public testing::Test, public ProgramWorld {
 TEST_F(PaneFocusTest, ThePaneButtonsActivateTheirPaneThoughItHasTheKeyboardAlready) {
     divide(controller(), pc());
     ASSERT_TRUE(isActive(ActiveSide::PC));
-    controls().tlbCtrlButton->onPressed("CTRLButton");
+    controls().tlbCtrlButton->press("CTRLButton");
     EXPECT_TRUE(isActive(ActiveSide::Controller));
     EXPECT_TRUE(hasKeyboard(controller()));
 
     divide(pc(), controller());
     ASSERT_TRUE(isActive(ActiveSide::Controller));
-    controls().tlbPCButton->onPressed("PCButton");
+    controls().tlbPCButton->press("PCButton");
     EXPECT_TRUE(isActive(ActiveSide::PC));
     EXPECT_TRUE(hasKeyboard(pc()));
 }
@@ -84,7 +84,7 @@ TEST_F(PaneFocusTest, APressOnAFrameActivatesItsPaneThoughItHasTheKeyboardAlread
 TEST_F(PaneFocusTest, UpGivesTheKeyboardToThePC) {
     choose(controller(), {0});
     ASSERT_TRUE(hasKeyboard(controller()));
-    controls().tlbPC->onPressed("UpFolder");
+    controls().tlbPC->press("UpFolder");
     EXPECT_TRUE(isActive(ActiveSide::PC));
     EXPECT_TRUE(hasKeyboard(pc()));
     EXPECT_TRUE(isActive(ActiveSide::PC));
@@ -95,7 +95,7 @@ TEST_F(PaneFocusTest, TheControllersToolBarWorksOnItsPaneAndGivesItTheKeyboard) 
     choose(controller(), {0});
     choose(pc(), {1});
     ASSERT_TRUE(hasKeyboard(pc()));
-    controls().tlbFile->onPressed("AllSelect");
+    controls().tlbFile->press("AllSelect");
     EXPECT_TRUE(isActive(ActiveSide::Controller));
     EXPECT_TRUE(hasKeyboard(controller()));
     EXPECT_EQ(pc().selectedRows().size(), 1U);
@@ -104,7 +104,7 @@ TEST_F(PaneFocusTest, TheControllersToolBarWorksOnItsPaneAndGivesItTheKeyboard) 
     choose(controller(), {0});
     choose(pc(), {1});
     modal.act([](wxDialog& question) { click(question, "cmdYesNo0"); });
-    controls().tlbFile->onPressed("FileDelete");
+    controls().tlbFile->press("FileDelete");
     EXPECT_FALSE(folder.has("robot/A.JBI"));
     EXPECT_TRUE(folder.has("jobs/A.JBI"));
     EXPECT_TRUE(isActive(ActiveSide::Controller));
@@ -115,9 +115,9 @@ TEST_F(PaneFocusTest, AModalWindowChangesNoSide) {
     choose(controller(), {0});
     choose(pc(), {1});
     ASSERT_TRUE(hasKeyboard(pc()));
-    controls().tlbFile->onPressed("AllSelect");
+    controls().tlbFile->press("AllSelect");
     modal.act([](wxDialog& version) { click(version, "Command1"); });
-    menu({Menu::mnuVer, 0});
+    menu("mnuVer");
     EXPECT_TRUE(waitFor([&] { return window().IsActive(); }));
     outwaitToolkit();
     EXPECT_TRUE(isActive(ActiveSide::Controller));
@@ -126,7 +126,7 @@ TEST_F(PaneFocusTest, AModalWindowChangesNoSide) {
 
 TEST_F(PaneFocusTest, AnotherWindowInBetweenChangesNoSide) {
     choose(controller(), {0});
-    controls().tlbPC->onPressed("UpFolder");
+    controls().tlbPC->press("UpFolder");
     auto* const other = new wxFrame(nullptr, wxID_ANY, "another program");
     other->Show();
     other->Raise();
@@ -154,7 +154,7 @@ TEST_F(PaneFocusTest, AListThatGotTheKeyboardWhileLockedGivesItBack) {
 
 TEST_F(PaneFocusTest, TheKeysWorkOnThePaneThatIsHighlighted) {
     choose(controller(), {0});
-    controls().tlbPC->onPressed("UpFolder");
+    controls().tlbPC->press("UpFolder");
     choose(pc(), {std::size_t(pcList().FindItem(-1, "jobs"))});
     pressKeyAndWait(WXK_RETURN);
     ASSERT_TRUE(isActive(ActiveSide::PC));
@@ -169,7 +169,7 @@ TEST_F(PaneFocusTest, TheKeysWorkOnThePaneThatIsHighlighted) {
 
 TEST_F(PaneFocusTest, APressOnTheViewersFrameGivesTheViewerTheKeyboard) {
     choose(pc(), {1});
-    menu({Menu::mnuFile, 5});
+    menu("mnuFile(5)");
     ASSERT_TRUE(controls().fraFile.panel->IsShownOnScreen());
     pc().focus();
     ASSERT_TRUE(hasKeyboard(pc()));
@@ -194,8 +194,8 @@ TEST_F(PaneFocusTest, TheRightButtonOpensTheMenuOfItsPane) {
     outwaitToolkit();
     EXPECT_TRUE(isActive(ActiveSide::Controller)) << "its commands are those of this pane";
     EXPECT_TRUE(hasKeyboard(controller()));
-    EXPECT_TRUE(opened->FindItem(MainMenus::idOf({Menu::mnuRightFile, 0})));
-    EXPECT_TRUE(opened->FindItem(MainMenus::idOf({Menu::mnuRightRefresh, 0})));
+    EXPECT_TRUE(opened->FindItem(window().menus().idOf("mnuRightFile(0)")));
+    EXPECT_TRUE(opened->FindItem(window().menus().idOf("mnuRightRefresh")));
     EXPECT_EQ(controller().selectedRows(), std::vector<std::size_t>{1});
     waitFor([] { return !wxGetMouseState().RightIsDown(); });
 }
@@ -209,7 +209,7 @@ TEST_F(PaneFocusTest, AHeaderOfTheControllerPaneSortsNothing) {
         header.m_col = column;
         controllerList().HandleWindowEvent(header);
         EXPECT_EQ(std::pair(namesIn(pcList()), namesIn(controllerList())), before) << column;
-        EXPECT_TRUE(window().menus().find({Menu::mnuSort, 0})->IsChecked());
+        EXPECT_TRUE(window().menus().find("mnuSort(0)")->IsChecked());
     }
 }
 
@@ -225,7 +225,7 @@ TEST_F(PaneFocusTest, ADropOfFoldersOnlyIsRefusedWhileHovering) {
 TEST_F(PaneFocusTest, ADropOfFoldersAndFilesSendsTheFilesAndNamesTheFolder) {
     pcJob("NEW1");
     pcJob("NEW2");
-    menu({Menu::mnuRefresh, 0});
+    menu("mnuRefresh");
     const auto row = [&](const char* name) {
         return std::size_t(pcList().FindItem(-1, wxString(name)));
     };
@@ -250,16 +250,16 @@ TEST_F(PaneFocusTest, ADropOfFoldersAndFilesSendsTheFilesAndNamesTheFolder) {
 }
 
 TEST_F(PaneFocusTest, TheRobotBoxComesBackWithItsChoice) {
-    menu({Menu::mnuModeHiSpeed, 0});
+    menu("mnuModeHiSpeed");
     auto& box = *controls().cmbRbtName;
     box.SetSelection(1);
     wxCommandEvent chosen(wxEVT_CHOICE, box.GetId());
     chosen.SetEventObject(&box);
     chosen.SetInt(1);
     box.HandleWindowEvent(chosen);
-    menu({Menu::mnuModeBsc, 0});
+    menu("mnuModeBsc");
     EXPECT_FALSE(box.IsShownOnScreen());
-    menu({Menu::mnuModeHiSpeed, 0});
+    menu("mnuModeHiSpeed");
     EXPECT_TRUE(box.IsShownOnScreen());
     EXPECT_EQ(box.GetStringSelection(), "SECOND");
     EXPECT_EQ(controls().lblIPAddr2->GetLabel(), "10.0.0.2");

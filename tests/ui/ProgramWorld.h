@@ -4,6 +4,7 @@
 #include "support/Choices.h"
 #include "support/CurrentFolderKept.h"
 #include "support/ModalScript.h"
+#include "support/NamedCommands.h"
 #include "support/ProjectFiles.h"
 #include "support/TemporaryFolder.h"
 #include "support/Windows.h"
@@ -108,8 +109,8 @@ class ProgramWorld {
         list.select(rows);
         runEvents();
     }
-    void menu(MenuItem item) {
-        wxCommandEvent event(wxEVT_MENU, MainMenus::idOf(item));
+    void menu(std::string_view item) {
+        wxCommandEvent event(wxEVT_MENU, window().menus().idOf(item));
         event.SetEventObject(&window());
         window().HandleWindowEvent(event);
     }

@@ -1,7 +1,7 @@
 #include "ProgramWorld.h"
 #include "support/FakeZurolink.h"
 #include "support/ScreenPicture.h"
-#include "ui/KeyedToolBar.h"
+#include "ui/CommandToolBar.h"
 #include "ui/dialogs/FrmMessage.h"
 
 #include <functional>
@@ -108,8 +108,8 @@ class ScreenInsideCalls : public testing::TestWithParam<const char*>, public Pro
     std::optional<ScreenPicture> asked_;
 };
 
-constexpr MenuItem copyEntry{Menu::mnuFile, 0}, moveEntry{Menu::mnuFile, 1},
-    deleteEntry{Menu::mnuFile, 2}, refreshEntry{Menu::mnuRefresh, 0};
+constexpr const char *copyEntry = "mnuFile(0)", *moveEntry = "mnuFile(1)",
+                     *deleteEntry = "mnuFile(2)", *refreshEntry = "mnuRefresh";
 
 TEST_P(ScreenInsideCalls, TheStartShowsThatItReadsTheDirectory) {
     onRobot("OLD");

@@ -17,12 +17,12 @@ class SettingInMainWindowTest : public testing::Test, public ProgramWorld {
 
     void openSettings(const std::function<void(wxDialog&)>& action) {
         modal.act(action);
-        menu({Menu::mnuOpt, 0});
+        menu("mnuOpt(0)");
         runEvents();
     }
     void refreshController() {
         choose(*controls().lsvCtrl, {});
-        menu({Menu::mnuRefresh, 0});
+        menu("mnuRefresh");
     }
     std::vector<std::string> onController() { return namesIn(controllerList()); }
     bool showsJob(const std::string& name) {
@@ -93,7 +93,7 @@ TEST_F(SettingInMainWindowTest, ARenamedRobotStaysTheCurrentOneAndIsWrittenAtThe
     EXPECT_EQ(robots().GetString(1), "BETWEEN");
     EXPECT_TRUE(showsJob("X.JBI")) << "the machine is the same";
     modal.answer([](wxDialog&) { return wxID_OK; });
-    menu({Menu::mnuEnd, 0});
+    menu("mnuEnd");
     ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
     const auto registry = folder.read("robot.ini");
     EXPECT_TRUE(registry.starts_with("[Boot]\r\nName=WELD\r\n")) << registry;
@@ -107,7 +107,7 @@ TEST_F(SettingInMainWindowTest, AModelWithoutTheHighSpeedLinkForcesTheSerialLine
         click(dialog, "cmdOK");
     });
     EXPECT_TRUE(window().GetTitle().Contains("BSC")) << window().GetTitle();
-    EXPECT_FALSE(window().menus().find({Menu::mnuModeHiSpeed, 0})->IsEnabled());
+    EXPECT_FALSE(window().menus().find("mnuModeHiSpeed")->IsEnabled());
     EXPECT_TRUE(onController().empty());
     EXPECT_FALSE(robots().IsShown());
     EXPECT_EQ(controls().cmbCtrlFileType->GetCount(), 2U);
@@ -138,7 +138,7 @@ TEST_F(SettingInMainWindowTest, WithoutSavingThisRunNothingIsWrittenAtTheEnd) {
         click(dialog, "cmdOK");
     });
     modal.answer([](wxDialog&) { return wxID_OK; });
-    menu({Menu::mnuEnd, 0});
+    menu("mnuEnd");
     ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
     EXPECT_EQ(folder.read("robot.ini"), before);
 }

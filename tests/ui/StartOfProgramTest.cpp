@@ -47,7 +47,7 @@ class StartOfProgramTest : public testing::Test, public ProgramWorld {
     }
     void end() {
         expectBox("Exit Vantrel?");
-        menu({Menu::mnuEnd, 0});
+        menu("mnuEnd");
         ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
     }
     wxString count(int panel) { return window().GetStatusBar()->GetStatusText(panel); }
@@ -105,9 +105,9 @@ TEST_F(StartOfProgramTest, ARenamedExecutableReadsAndWritesItsOwnSettings) {
     ASSERT_EQ(startProgram({}, "tool"), StartResult::Running);
     runEvents();
     EXPECT_EQ(controls().trvFolderName->GetToolTipText(), folder.path("robot"));
-    menu({Menu::mnuModeHiSpeed, 0});
+    menu("mnuModeHiSpeed");
     modal.answer([](wxDialog&) { return wxID_OK; });
-    menu({Menu::mnuEnd, 0});
+    menu("mnuEnd");
     ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
     EXPECT_NE(folder.read("tool.ini").find("Port=9\r\n"), std::string::npos);
     EXPECT_NE(folder.read("tool.ini").find("TransMode=16\r\n"), std::string::npos);
@@ -140,12 +140,12 @@ TEST_F(StartOfProgramTest, WithNothingButTheSystemsLanguageItWorks) {
     answerDirectoryQuestion(false);
     ASSERT_EQ(startProgram(), StartResult::Running);
     runEvents();
-    menu({Menu::mnuRefresh, 0});
+    menu("mnuRefresh");
     EXPECT_EQ(pcList().GetItemCount(), 3);
     choose(*controls().lsvCtrl, {});
     for (int refresh = 0; refresh < 2; ++refresh) {
         expectBox("The communication library cannot be used");
-        menu({Menu::mnuRefresh, 0});
+        menu("mnuRefresh");
     }
     end();
     EXPECT_TRUE(folder.has("robot.ini"));
@@ -157,7 +157,7 @@ TEST_F(StartOfProgramTest, ALanguageFileWithoutTextsLeavesTheCaptionsEmpty) {
     answerDirectoryQuestion(false);
     ASSERT_EQ(startProgram(), StartResult::Running);
     runEvents();
-    const auto* const copy = window().menus().find({Menu::mnuFile, 0});
+    const auto* const copy = window().menus().find("mnuFile(0)");
     EXPECT_EQ(copy->GetItemLabelText().Strip(wxString::both), "");
     ProgramWorld::choose(*controls().lsvPC, {0});
 }
@@ -242,7 +242,7 @@ TEST_F(StartOfProgramTest, ADirectoryThatCannotBeReadIsToldAndTheProgramStarts) 
     ASSERT_TRUE(versionWindow()) << "the message has not taken it away";
     EXPECT_TRUE(versionWindow()->IsShown());
     choose(*controls().lsvCtrl, {});
-    menu({Menu::mnuRefresh, 0});
+    menu("mnuRefresh");
     EXPECT_EQ(count(1), "Controller: 1 items");
 }
 
@@ -284,11 +284,11 @@ TEST_F(StartOfProgramTest, InAFolderThatCannotBeWrittenItWorksAndTellsOfTheRobot
         ASSERT_EQ(startProgram(), StartResult::Running);
         runEvents();
         choose(*controls().lsvPC, {0});
-        menu({Menu::mnuFile, 0});
+        menu("mnuFile(0)");
         EXPECT_EQ(folder.read("robot/A.JBI"), job("A"));
         expectBox("Exit Vantrel?");
         expectBox("The robot list could not be saved: ");
-        menu({Menu::mnuEnd, 0});
+        menu("mnuEnd");
         ASSERT_TRUE(waitFor([this] { return !program->mainWindow(); }));
     }
     EXPECT_EQ(folder.read("Vantrel.ini"), settingsBefore);

@@ -29,7 +29,7 @@ class VersionWindowAtStart : public testing::Test {
 
 TEST_F(VersionWindowAtStart, StaysWhileTheOperatorOnlyLooks) {
     EXPECT_TRUE(isShown());
-    world.menu({Menu::mnuDisp, 0});
+    world.menu("mnuDisp(0)");
     EXPECT_TRUE(isShown());
 }
 
@@ -48,7 +48,7 @@ TEST_F(VersionWindowAtStart, MakesWayForADialog) {
         EXPECT_TRUE(waitFor([] { return !isShown(); }));
         click(dialog, "cmdCancel");
     });
-    world.menu({Menu::mnuOpt, 0});
+    world.menu("mnuOpt(0)");
 }
 
 TEST_F(VersionWindowAtStart, MakesWayForAQuestion) {
@@ -57,7 +57,7 @@ TEST_F(VersionWindowAtStart, MakesWayForAQuestion) {
         EXPECT_TRUE(waitFor([] { return !isShown(); }));
         question.EndModal(wxID_CANCEL);
     });
-    world.menu({Menu::mnuFile, 0});
+    world.menu("mnuFile(0)");
 }
 
 TEST_F(VersionWindowAtStart, StaysWhenItIsOpenedFromTheMenu) {
@@ -66,7 +66,7 @@ TEST_F(VersionWindowAtStart, StaysWhenItIsOpenedFromTheMenu) {
         EXPECT_TRUE(isShown());
         click(dialog, "Command1");
     });
-    world.menu({Menu::mnuVer, 0});
+    world.menu("mnuVer");
     EXPECT_FALSE(isShown());
 }
 

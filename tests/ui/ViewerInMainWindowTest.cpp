@@ -1,6 +1,6 @@
 #include "ProgramWorld.h"
+#include "ui/CommandToolBar.h"
 #include "ui/FileViewer.h"
-#include "ui/KeyedToolBar.h"
 
 #include <wx/menu.h>
 #include <wx/statbox.h>
@@ -25,12 +25,14 @@ class ViewerInMainWindowTest : public testing::Test, public ProgramWorld {
         choose(*controls().lsvPC, {jobRow});
     }
     void press() {
-        controls().tlbMain->onPressed("FileDisp");
+        controls().tlbMain->press("FileDisp");
         runEvents();
     }
     bool isViewerShown() { return controls().fraFile.panel->IsShown(); }
     std::string shown() { return controls().rtxFileDisp->GetValue().utf8_string(); }
-    const wxMenuItem& entry(int index) { return *window().menus().find({Menu::mnuFile, index}); }
+    const wxMenuItem& entry(int index) {
+        return *window().menus().find("mnuFile(" + std::to_string(index) + ")");
+    }
 };
 
 TEST_F(ViewerInMainWindowTest, StandsInThePlaceOfTheControllerPane) {
@@ -61,7 +63,7 @@ TEST_F(ViewerInMainWindowTest, ASecondPressReturnsToTheControllerPane) {
     startWithFiles();
     press();
     std::filesystem::remove(folder.path("jobs/A.JBI"));
-    menu({Menu::mnuFile, 5});
+    menu("mnuFile(5)");
     EXPECT_FALSE(isViewerShown());
     EXPECT_TRUE(controls().fraCtrl.panel->IsShown());
     EXPECT_FALSE(controls().tlbMain->isPressed("FileDisp"));
@@ -119,7 +121,7 @@ TEST_F(ViewerInMainWindowTest, AFocusInAPaneThatIsHiddenGoesToThePCList) {
     robotJob("Z");
     startWithFiles();
     choose(*controls().lsvCtrl, {0});
-    menu({Menu::mnuFile, 5});
+    menu("mnuFile(5)");
     ASSERT_TRUE(isViewerShown());
     EXPECT_TRUE(waitFor([this] { return pcList().HasFocus(); }));
     controls().rtxFileDisp->SetFocus();
@@ -134,7 +136,7 @@ TEST_F(ViewerInMainWindowTest, ItIsClosedToTheOperatorWhileAnOperationRuns) {
     press();
     window().setLocked(true);
     EXPECT_FALSE(controls().fraFile.panel->IsEnabled());
-    menu({Menu::mnuFile, 5});
+    menu("mnuFile(5)");
     EXPECT_TRUE(isViewerShown());
     window().setLocked(false);
     EXPECT_TRUE(controls().fraFile.panel->IsEnabled());
@@ -148,7 +150,7 @@ TEST_F(ViewerInMainWindowTest, PrintingIsAskedForFirst) {
         EXPECT_EQ(text.GetMessage(), "Print the displayed file? [A.JBI]");
         return wxID_NO;
     });
-    controls().tlbPC->onPressed("Print");
+    controls().tlbPC->press("Print");
     runEvents();
     EXPECT_TRUE(isViewerShown());
 }

@@ -5,9 +5,9 @@
 #include "app/WindowLayout.h"
 #include "lang/MessageNumbers.h"
 #include "support/ScreenPicture.h"
+#include "ui/CommandToolBar.h"
 #include "ui/FileListControl.h"
 #include "ui/IconSet.h"
-#include "ui/KeyedToolBar.h"
 #include "ui/OperationGuard.h"
 #include "ui/PathDisplay.h"
 
@@ -30,9 +30,9 @@ namespace {
 INSTANTIATE_TEST_SUITE_P(Languages, MainWindowTest, bothLanguages, languageName);
 
 TEST_P(MainWindowTest, EveryCaptionHasAText) {
-    for (const auto& caption : menuCaptions()) {
-        const auto* entry = window.menus().find(caption.item);
-        EXPECT_TRUE(!entry || !entry->GetItemLabelText().Strip().empty()) << caption.message;
+    for (const auto& [name, caption] : menuEntries()) {
+        const auto* entry = window.menus().find(name);
+        EXPECT_TRUE(!entry || !entry->GetItemLabelText().Strip().empty()) << name;
     }
     for (std::size_t top = 0; top < window.GetMenuBar()->GetMenuCount(); ++top)
         EXPECT_GT(window.GetMenuBar()->GetMenuLabelText(top).length(), 1u) << top;
@@ -73,7 +73,7 @@ TEST_P(MainWindowTest, EveryColumnHasItsOwnTitle) {
 }
 
 TEST_P(MainWindowTest, EveryToolButtonHasItsOwnTip) {
-    const std::tuple<const KeyedToolBar*, const char*, int> expected[] = {
+    const std::tuple<const CommandToolBar*, const char*, int> expected[] = {
         {controls.tlbMain, "FileCopy", 140},     {controls.tlbMain, "FileMove", 141},
         {controls.tlbMain, "FileDelete", 142},   {controls.tlbMain, "AllSelect", 143},
         {controls.tlbMain, "Refresh", 145},      {controls.tlbMain, "modeHiSpeed", 190},
@@ -90,17 +90,16 @@ TEST_P(MainWindowTest, EveryToolButtonHasItsOwnTip) {
 
 TEST_P(MainWindowTest, EveryMenuEntryHasItsOwnCaption) {
     int found = 0;
-    for (const auto& caption : menuCaptions()) {
-        const auto* const entry = window.menus().find(caption.item);
+    for (const auto& [name, caption] : menuEntries()) {
+        const auto* const entry = window.menus().find(name);
         if (!entry)
             continue;
         ++found;
         EXPECT_EQ(entry->GetItemLabel().BeforeFirst('\t').utf8_string(),
-                  messages.getMessage(caption.message))
-            << caption.message;
+                  messages.getMessage(caption))
+            << name;
     }
-    constexpr int heads = 6, commands = 1; // of the menu bar; these are no entries of a menu
-    EXPECT_EQ(found, int(menuCaptions().size()) - heads - commands);
+    EXPECT_EQ(found, int(menuEntries().size()) - 1) << "all but what stands in the menu bar itself";
     const int headMessages[] = {101, 109, 130, 114, 119, 126};
     ASSERT_EQ(window.GetMenuBar()->GetMenuCount(), std::size(headMessages));
     for (std::size_t head = 0; head < std::size(headMessages); ++head)
@@ -203,22 +202,21 @@ TEST_P(MainWindowTest, TheArrowPointsAwayFromTheActiveSide) {
 }
 
 TEST_P(MainWindowTest, StatesReachMenusAndButtons) {
-    auto states = commandStates({.active = ActiveSide::Controller, .hispeedAvailable = false});
-    window.showStates(states);
+    window.showStates({.active = ActiveSide::Controller, .hispeedAvailable = false});
     EXPECT_FALSE(controls.tlbMain->isEnabled("DispDetail"));
-    EXPECT_FALSE(window.menus().find({Menu::mnuModeHiSpeed, 0})->IsEnabled());
-    EXPECT_TRUE(window.menus().find({Menu::mnuModeBsc, 0})->IsChecked());
+    EXPECT_FALSE(window.menus().find("mnuModeHiSpeed")->IsEnabled());
+    EXPECT_TRUE(window.menus().find("mnuModeBsc")->IsChecked());
     EXPECT_TRUE(controls.tlbMain->isPressed("DispSmall"));
 }
 
 TEST_P(MainWindowTest, LockingDisablesPanesMenusAndTheToolBar) {
-    window.showStates(commandStates({.locked = true}));
+    window.showStates({.locked = true});
     EXPECT_FALSE(controls.tlbMain->IsEnabled());
     EXPECT_FALSE(controls.fraPC.panel->IsEnabled());
     EXPECT_FALSE(controls.fraCtrl.panel->IsEnabled());
     EXPECT_FALSE(controls.cmbRbtName->IsEnabled());
     EXPECT_FALSE(window.GetMenuBar()->IsEnabledTop(0));
-    window.showStates(commandStates({}));
+    window.showStates({});
     EXPECT_TRUE(controls.tlbMain->IsEnabled());
     EXPECT_TRUE(window.GetMenuBar()->IsEnabledTop(0));
 }
@@ -404,7 +402,7 @@ TEST_P(MainWindowTest, AnOpenMenuLeavesTheCountsInPlace) {
     window.setStatus(ActiveSide::PC, "PC: 3 items");
     wxMenuEvent open(wxEVT_MENU_OPEN, 0, window.GetMenuBar()->GetMenu(0));
     window.HandleWindowEvent(open);
-    wxMenuEvent highlight(wxEVT_MENU_HIGHLIGHT, MainMenus::idOf({Menu::mnuFile, 0}),
+    wxMenuEvent highlight(wxEVT_MENU_HIGHLIGHT, window.menus().idOf("mnuFile(0)"),
                           window.GetMenuBar()->GetMenu(0));
     window.HandleWindowEvent(highlight);
     EXPECT_EQ(window.GetStatusBar()->GetStatusText(0), "PC: 3 items");
