@@ -19,16 +19,6 @@ using testing::UnorderedElementsAre;
 
 constexpr const char* job = "A.JBI";
 
-/// Boxes while which events run.
-class OpenBoxes : public tests::FakeMessageBoxes {
-  public:
-    void tell(const std::string& text, BoxIcon icon) override {
-        FakeMessageBoxes::tell(text, icon);
-        whileOpen();
-    }
-    std::function<void()> whileOpen;
-};
-
 /// A PC folder with what a program left in it that ended in the middle of a fetch.
 struct InterruptedFetchesTest : testing::Test {
     tests::SessionWorld world;
@@ -105,7 +95,7 @@ TEST_F(InterruptedFetchesTest, AFetchThatIsRunningIsLeftAlone) {
 /// Events that the box lets in look at the folder as well.
 TEST_F(InterruptedFetchesTest, AnotherLookWhileTheOperatorReadsTellsNothingAgain) {
     leave("ne");
-    OpenBoxes boxes;
+    tests::FakeMessageBoxes boxes;
     OperatorDialog dialog(world.panel, world.question, boxes);
     boxes.whileOpen = [this] {
         EXPECT_FALSE(settleAfterStart(disk));
@@ -163,6 +153,19 @@ TEST_F(InterruptedFetchesTest, AMarkThatCannotBeRemovedIsToldOnce) {
     EXPECT_TRUE(stuck.settle(world.pc.path(), names()));
     EXPECT_FALSE(stuck.settle(world.pc.path(), names()));
     EXPECT_EQ(world.boxes.shown.size(), 1u);
+}
+
+TEST_F(InterruptedFetchesTest, WhatIsFetchedAgainAfterItWasToldIsToldAnew) {
+    tests::FailingFiles failing;
+    failing.failsRemoveMark = true;
+    InterruptedFetches stuck(failing, world.messages, world.dialog);
+    leave("ne");
+    EXPECT_TRUE(stuck.settle(world.pc.path(), names()));
+    stuck.begin(world.pc.path(), job);
+    EXPECT_FALSE(stuck.isTold(world.pc.path(), job));
+    stuck.end();
+    EXPECT_TRUE(stuck.settle(world.pc.path(), names()));
+    EXPECT_EQ(world.boxes.shown.size(), 2u);
 }
 
 TEST_F(InterruptedFetchesTest, SeveralAreToldInOneBox) {

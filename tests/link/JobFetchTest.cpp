@@ -383,6 +383,14 @@ TEST_F(FailingDiskTest, AnOldVersionThatCannotBeRemovedIsToldAndTheFetchIsDone) 
     EXPECT_FALSE(world.pc.has(FetchMark::fileNameFor("WELD.JBI")));
 }
 
+TEST_F(FailingDiskTest, AnotherRobotChosenWhileTheOldVersionIsToldEndsTheFetch) {
+    files.failsRemove = true;
+    world.boxes.whileOpen = [this] { world.session->port = 2; };
+    EXPECT_FALSE(fetch("WELD.JBI", true)) << "a move would delete the original on the other robot";
+    EXPECT_EQ(world.error(), " 29 0");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), weld);
+}
+
 /// A disk that does not tell whether a mark's program is still there.
 struct UnlockedDiskTest : FailingDiskTest {
     const std::string mark = FetchMark::fileNameFor("WELD.JBI");

@@ -117,6 +117,19 @@ TEST_F(VariableBatchTest, ManyBlankLinesCostNoRepaintEachAndEndAtAPress) {
     EXPECT_LT(world.session->ErrorIndex(), count / 10);
 }
 
+TEST_F(VariableBatchTest, AnotherRobotChosenMeanwhileEndsTheListBeforeItsNextEntry) {
+    auto& other = world.library.at("COM2");
+    add({"B1=5", "I2=-6"});
+    world.view.onYield = [this](int) {
+        if (world.library.callCount("BscPutVarData") > 0)
+            world.session->port = 2;
+    };
+    EXPECT_FALSE(world.session->VarListDownLoad());
+    EXPECT_EQ(world.error(), " 29 1");
+    EXPECT_EQ(world.library.callCount("BscOpen"), 1);
+    EXPECT_TRUE(other.variables.empty());
+}
+
 TEST_F(VariableBatchTest, APressIsSeenAfterBlankLinesAtTheEnd) {
     add({"B1=5", "", ""});
     pressCancelAtYield(3); // opened, after B1

@@ -3,6 +3,7 @@
 #include "lang/MessageBoxes.h"
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,8 @@ class FakeMessageBoxes : public MessageBoxes {
 
     void tell(const std::string& text, BoxIcon icon) override {
         shown.push_back({Kind::Tell, text, icon});
+        if (whileOpen)
+            whileOpen();
     }
     bool askOkCancel(const std::string& text, BoxIcon icon) override {
         shown.push_back({Kind::OkCancel, text, icon});
@@ -41,7 +44,8 @@ class FakeMessageBoxes : public MessageBoxes {
     }
 
     std::vector<Box> shown;
-    std::deque<bool> answers; ///< true for OK or Yes, in the order of the questions
+    std::function<void()> whileOpen; ///< what events do while a box without a question is open
+    std::deque<bool> answers;        ///< true for OK or Yes, in the order of the questions
 
   private:
     bool nextAnswer() {

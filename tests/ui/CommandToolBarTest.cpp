@@ -84,7 +84,7 @@ TEST_F(CommandToolBarTest, EnablesWhatIsAvailable) {
 
 TEST_F(CommandToolBarTest, ATipIsTheNameForAssistiveProgramsToo) {
     MessageTable messages;
-    messages.replace({{140, "Copy"}});
+    messages.replace({{140, "Copy", "Copy"}});
     bar.applyTips(messages);
     EXPECT_EQ(bar.toolTip("FileCopy"), "Copy");
     EXPECT_EQ(bar.GetToolByPos(0)->GetLabel(), "Copy");
