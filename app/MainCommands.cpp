@@ -1,5 +1,6 @@
 #include "app/MainCommands.h"
 
+#include "app/Machine.h"
 #include "app/MainWindowView.h"
 #include "app/ModeCommands.h"
 #include "app/PCFolder.h"
@@ -128,6 +129,11 @@ void MainCommands::modeWasChanged() {
         with_.panes.showEmptyController();
     showMode();
     updateStates();
+}
+
+void MainCommands::machineMayHaveChanged(const Machine& before) {
+    if (with_.state.StartupDone && machineInForce(with_.state) != before)
+        with_.panes.showEmptyController();
 }
 
 void MainCommands::recaption() {

@@ -14,6 +14,7 @@
 namespace vantrel {
 
 class FolderTree;
+struct Machine;
 
 /// What the commands of the main window do. Each acts on the active pane and ends by bringing menus
 /// and buttons in line.
@@ -67,6 +68,10 @@ class MainCommands {
     void applyHispeedAvailability();
     /// Shows a mode that the session was told by name.
     void modeWasChanged();
+    /// To be called when mode, port or address may have changed, with the machine that was in force
+    /// before: empties the controller pane when it belongs to another machine. No connection is
+    /// made.
+    void machineMayHaveChanged(const Machine& before);
     /// After a change of language: title and counts.
     void recaption();
     /// Brings menus and buttons in line with the state.

@@ -1,10 +1,14 @@
 #include "app/RobotSelection.h"
 
+#include "app/Machine.h"
+#include "app/MainCommands.h"
+#include "app/MainWindowView.h"
+#include "app/PCFolder.h"
 #include "app/RobotList.h"
+#include "app/RobotRegistry.h"
 #include "app/SessionParameters.h"
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
-#include "files/Panes.h"
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -16,31 +20,23 @@
 namespace vantrel {
 
 void RobotSelection::choose(int index) {
-    if (with_.window.isLocked() || !with_.state.StartupDone) {
-        with_.window.selectRobot(with_.state.CurrentRobotIndex);
-        return;
-    }
+    if (with_.state.Busy || !with_.state.StartupDone)
+        return box_.select(with_.state.CurrentRobotIndex);
     if (!isRobot(index))
         return;
     const Machine before = machineInForce(with_.state);
     const bool isNew = isNewChoice(index);
     with_.state.CurrentRobot = with_.state.RobotList[static_cast<std::size_t>(index)];
     passSessionParameters(with_.state, with_.session);
-    machineMayHaveChanged(before);
+    commands_.machineMayHaveChanged(before);
     if (!isNew)
         return;
     with_.state.CurrentRobotIndex = static_cast<std::int16_t>(index);
     if (with_.state.SyncroRobotDir == 1)
         followFolder();
-    with_.window.showAddress(with_.state.CurrentRobot.IPaddr);
-    with_.window.refreshStates();
+    with_.view.showAddress(with_.state.CurrentRobot.IPaddr);
+    commands_.updateStates();
     refreshController();
-}
-
-void RobotSelection::machineMayHaveChanged(const Machine& before) {
-    if (!with_.state.StartupDone || machineInForce(with_.state) == before)
-        return;
-    with_.panes.showEmptyController();
 }
 
 bool RobotSelection::isRobot(int index) const {
@@ -58,18 +54,18 @@ bool RobotSelection::isNewChoice(int index) const {
 
 void RobotSelection::followFolder() {
     const RobotRecord& robot = with_.state.CurrentRobot;
-    if (!with_.window.enterFolder(robot.Path))
-        with_.boxes.tell("[" + shownText(robot.Name) + "]" +
-                             with_.messages.getMessage(message::robotFolderNotListed) + "\n" +
-                             shownText(robot.Path),
-                         BoxIcon::Exclamation);
+    if (!with_.folder.enter(robot.Path, FolderTree::driveAndFolder(robot.Path)))
+        boxes_.tell("[" + shownText(robot.Name) + "]" +
+                        with_.messages.getMessage(message::robotFolderNotListed) + "\n" +
+                        shownText(robot.Path),
+                    BoxIcon::Exclamation);
 }
 
 void RobotSelection::refreshController() {
     const ActiveSide before = std::exchange(with_.state.Active, ActiveSide::Controller);
-    with_.window.refreshActivePane();
+    commands_.refreshActivePane();
     with_.state.Active = before;
-    with_.window.refreshStates();
+    commands_.updateStates();
 }
 
 } // namespace vantrel

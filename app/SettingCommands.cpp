@@ -4,7 +4,6 @@
 #include "app/MainCommands.h"
 #include "app/MainWindowView.h"
 #include "app/RobotRegistry.h"
-#include "app/RobotSelection.h"
 #include "app/SerialLabel.h"
 #include "app/SessionParameters.h"
 #include "app/SettingDraft.h"
@@ -26,7 +25,7 @@ void SettingCommands::apply(SettingDraft& draft) {
         rebuildPanes();
     takeRobots(std::move(values));
     passSessionParameters(with_.state, with_.session);
-    with_.robots.machineMayHaveChanged(before);
+    with_.main.machineMayHaveChanged(before);
 }
 
 void SettingCommands::takeOptions(const SettingValues& values) {

@@ -7,7 +7,6 @@ class MainWindowView;
 class Panes;
 class RobotBox;
 class RobotRegistry;
-class RobotSelection;
 class SettingDraft;
 class Snappy;
 struct ApplicationState;
@@ -20,7 +19,6 @@ struct SettingServices {
     Panes& panes;
     RobotRegistry& registry;
     RobotBox& box;
-    RobotSelection& robots;
     MainWindowView& view;
     MainCommands& main;
 };

@@ -6,6 +6,7 @@
 #include "app/SettingsFile.h"
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
+#include "files/PaneWindow.h"
 #include "files/Panes.h"
 #include "files/TransferReports.h"
 #include "files/TransferTable.h"
@@ -46,7 +47,6 @@ StartResult StartRoutine::run() {
     with_.state.StartupDone = false;
     if (with_.commandLine.startedForAutomation)
         return StartResult::Automation;
-    session_ = &with_.windows.createSession();
     if (const Outcome entered = enterProgramFolder(); !entered)
         return trap(with_.programFolder + ": " +
                     reasonInLanguage(with_.messages, entered.reason()));
@@ -69,7 +69,7 @@ Outcome StartRoutine::enterProgramFolder() {
 
 // One file for every language.
 void StartRoutine::setHelpFile() {
-    with_.windows.setHelpFile(PathRules().join(with_.programFolder, "Vantrel.hlp"));
+    with_.state.HelpFile = PathRules().join(with_.programFolder, "Vantrel.hlp");
 }
 
 bool StartRoutine::chooseLanguage() {
@@ -87,17 +87,18 @@ bool StartRoutine::chooseLanguage() {
 void StartRoutine::loadSettings() {
     with_.windows.showStartMessage();
     // The registry fills the robot box, so the window has to be there, still hidden.
-    with_.windows.buildMainWindow();
+    main_.emplace(with_.windows.buildMainWindow());
+    main_->panes.fillFilterChoices();
     with_.settings.read(with_.state);
     makeFolderAbsolute();
-    with_.registry.read(with_.windows.robotBox());
-    passSessionParameters(with_.state, *session_);
-    session_->path = with_.state.PCPath;
+    with_.registry.read(main_->robots);
+    passSessionParameters(with_.state, with_.session);
+    with_.session.path = with_.state.PCPath;
     with_.windows.unloadStartMessage();
     // Before the directory is read, so that the question is about the machine that is meant. The
     // controller's filters follow the model, which is known only now.
     normaliseMode(with_.state);
-    with_.windows.panes().fillFilterChoices();
+    main_->panes.fillFilterChoices();
 }
 
 // Connecting changes the current directory, so a relative folder would not stay the same one.
@@ -111,15 +112,15 @@ void StartRoutine::makeFolderAbsolute() {
 }
 
 void StartRoutine::offerControllerDirectory() {
-    Panes& panes = with_.windows.panes();
+    Panes& panes = main_->panes;
     const MessageTable& messages = with_.messages;
     if (with_.boxes.askYesNo(messages.getMessage(message::askReadController), BoxIcon::Question)) {
         with_.windows.loadVersionWindow();
         if (!panes.readController()) {
             // An address that is not set has been told by the session.
-            if (!session_->operatorIsTold())
+            if (!with_.session.operatorIsTold())
                 with_.boxes.tell(messages.getMessage(message::controllerNotRead) +
-                                     directoryFailure(with_.state, *session_),
+                                     directoryFailure(with_.state, with_.session),
                                  BoxIcon::Exclamation);
             panes.emptyController();
         }
@@ -132,7 +133,7 @@ void StartRoutine::offerControllerDirectory() {
 
 void StartRoutine::openMainWindow() {
     with_.windows.showMainWindow();
-    with_.windows.focusPCList();
+    main_->window.list(ActiveSide::PC).focus();
     with_.state.Busy = false;
     startMainWindow();
     with_.state.StartupDone = true;
@@ -142,7 +143,7 @@ void StartRoutine::openMainWindow() {
 // settings and robots have been read.
 void StartRoutine::startMainWindow() {
     try {
-        with_.windows.startMainWindow();
+        main_->start();
     } catch (const std::exception& error) {
         tellStartFailed(error.what());
     } catch (...) {

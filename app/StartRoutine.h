@@ -3,6 +3,8 @@
 #include "app/CommandLine.h"
 #include "base/Result.h"
 
+#include <functional>
+#include <optional>
 #include <string>
 
 namespace vantrel {
@@ -10,6 +12,7 @@ namespace vantrel {
 class LanguageChoice;
 class MessageBoxes;
 class MessageTable;
+class PaneWindow;
 class Panes;
 class RobotBox;
 class RobotRegistry;
@@ -18,11 +21,19 @@ class Snappy;
 class TransferTable;
 struct ApplicationState;
 
+/// The main window once it is built, as the start routine needs it.
+struct StartedWindow {
+    Panes& panes;
+    RobotBox& robots;
+    PaneWindow& window;
+    /// Its own start routine. What that has done stays when it throws.
+    std::function<void()> start;
+};
+
 /// What the start routine needs of the windows.
 class StartWindows {
   public:
     virtual ~StartWindows() = default;
-    virtual void setHelpFile(const std::string& path) = 0;
     /// `frmLanguage`, modal; leaves `LangCancelled` in the state.
     virtual void showLanguageDialog() = 0;
     /// `FrmMessage`, modeless, painted before the call returns.
@@ -32,17 +43,9 @@ class StartWindows {
     /// `frmVers`: loaded hidden, later made visible without blocking.
     virtual void loadVersionWindow() = 0;
     virtual void showVersionWindow() = 0;
-    /// Builds the main window hidden, both filter boxes filled and entry 0 chosen.
-    virtual void buildMainWindow() = 0;
+    /// Builds the main window hidden; what it hands out is there for the rest of the program.
+    virtual StartedWindow buildMainWindow() = 0;
     virtual void showMainWindow() = 0;
-    virtual void focusPCList() = 0;
-    /// The main window's own start routine. What it has done stays when it throws.
-    virtual void startMainWindow() = 0;
-    /// Box and panes are there once the main window has been built.
-    virtual RobotBox& robotBox() = 0;
-    virtual Panes& panes() = 0;
-    /// Called once, before any of the windows is built.
-    virtual Snappy& createSession() = 0;
 };
 
 /// How the start routine ended. In all cases but `Running` the program ends with it.
@@ -64,6 +67,7 @@ struct StartServices {
     MessageBoxes& boxes;
     const SettingsFile& settings;
     RobotRegistry& registry;
+    Snappy& session;
     StartWindows& windows;
     CommandLine commandLine;
     std::string executable;    ///< absolute
@@ -91,7 +95,7 @@ class StartRoutine {
     void tellStartFailed(const std::string& reason);
 
     StartServices with_;
-    Snappy* session_ = nullptr;
+    std::optional<StartedWindow> main_;
 };
 
 } // namespace vantrel

@@ -26,6 +26,7 @@ struct ApplicationState {
     std::int16_t FontSize = 0; ///< points
     bool LangCancelled = false;
 
+    std::string HelpFile;        ///< the same for every language
     std::string PCPath;          ///< the current folder of the PC pane, absolute
     std::int16_t PCDispType = 1; ///< 0 large icons, 1 small icons, 2 list, 3 details
     FolderListing PCListing;     ///< its SortType and SortDir are the pane's sort state

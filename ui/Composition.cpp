@@ -1,21 +1,12 @@
 #include "ui/Composition.h"
 
-#include "app/MainWindowStart.h"
-#include "app/SettingDraft.h"
-#include "base/PathRules.h"
-#include "files/FolderFiles.h"
 #include "files/Subfolders.h"
-#include "lang/MessageNumbers.h"
 #include "platform/Drives.h"
 #include "platform/Environment.h"
-#include "platform/NetworkFolders.h"
 #include "ui/FolderTreeDropDown.h"
-#include "ui/SystemLook.h"
-#include "ui/dialogs/LanguageDraft.h"
-#include "ui/dialogs/VersionText.h"
-#include "ui/dialogs/frmLanguage.h"
-#include "ui/dialogs/frmSetting.h"
 #include "ui/frmZuroVant.h"
+
+#include <utility>
 
 #include <wx/app.h>
 
@@ -23,14 +14,9 @@ namespace vantrel {
 
 Composition::Composition(std::string executable, std::span<const std::string> arguments,
                          Zurolink* library)
-    : executable_(std::move(executable)), programFolder_(PathRules().parent(executable_)),
-      commandLine_(readCommandLine(arguments)), languages_(programFolder_), boxes_(messages_),
-      printer_(messages_), questions_(messages_, state_), dialog_(progress_, questions_, boxes_),
-      languageChoice_(state_, messages_, languages_, boxes_, localeLanguageName()),
-      settings_(programFolder_, settingsFileName(executable_)),
-      registry_(state_, messages_, boxes_, programFolder_),
-      library_(programFolder_, [this](const LibraryProblem& problem) { reportLibrary(problem); }),
-      gate_(library ? *library : library_, [this] { bringScreenUpToDate(); }) {
+    : commandLine_(readCommandLine(arguments)), boxes_(messages_), printer_(messages_),
+      questions_(messages_, state_), engine_(ground(std::move(executable), library)),
+      versionWindow_(messages_, state_) {
     // Until the start is over, what the operator does to the windows being built is refused.
     guard_.lock();
     guard_.onBegun = [this] {
@@ -46,69 +32,66 @@ Composition::~Composition() {
     delete window_.get();
 }
 
-Composition::Commands::Commands(Composition& owner, frmZuroVant& window)
-    : panes(owner.state_, *owner.session_, owner.table_, owner.messages_, window),
-      transferServices{owner.state_, *owner.session_, panes,           window,
-                       owner.table_, owner.messages_, owner.progress_, owner.dialog_},
-      transfers(transferServices),
-      folder(owner.state_, panes, owner.dialog_, window, *window.controls().trvFolderList),
-      services{owner.state_,    *owner.session_, panes,  transfers,
-               owner.messages_, owner.dialog_,   window, window,
-               folder,          editTextFile,    window, owner.printer_},
-      main(services),
-      folderTree(services, main, *window.controls().trvFolderList, {listDrives, subfolders}),
-      robots({owner.state_, *owner.session_, panes, owner.messages_, owner.boxes_, owner}),
-      settings(
-          {owner.state_, *owner.session_, panes, owner.registry_, window, robots, window, main}),
-      listFiles(window, owner.state_, *owner.session_, owner.boxes_, owner.messages_),
-      lists(transferServices, listFiles), help(owner.state_, owner.programFolder_, openDocument),
-      shutdown({owner.state_, owner.settings_, owner.registry_, *owner.session_, owner.messages_,
-                owner.boxes_, owner}),
-      runner(commandTable(), {main, lists, help, owner}) {}
-
-StartResult Composition::start() {
-    const auto result = StartRoutine({state_, table_, languageChoice_, messages_, boxes_, settings_,
-                                      registry_, *this, commandLine_, executable_, programFolder_})
-                            .Main();
-    guard_.unlock();
-    return result;
-}
-
-void Composition::setHelpFile(const std::string& path) {
-    helpFile_ = path;
-}
-
-Snappy& Composition::createSession() {
-    progressWindow_.reset(new frmMsgStat(progress_, messages_, state_, [this] { yield(); }));
-    session_ = std::make_unique<Snappy>(SessionServices{
-        .library = gate_,
-        .TransMode = state_.TransMode,
+EngineGround Composition::ground(std::string executable, Zurolink* library) {
+    return {
+        .state = state_,
         .messages = messages_,
-        .languages = languages_,
-        .progress = progress_,
-        .dialog = dialog_,
-        .programFolder = programFolder_,
+        .boxes = boxes_,
+        .questions = questions_,
+        .executable = std::move(executable),
+        .beforeLibraryCall = [this] { bringScreenUpToDate(); },
         .dummyWindow =
             [this] {
                 if (!dummyWindow_)
                     dummyWindow_.reset(new frmDumy);
                 return dummyWindow_->handle();
             },
-        .unloadWindows = [this] { dummyWindow_.unload(); },
+        .sessionQuits = [this] { dummyWindow_.unload(); },
         .modeChanged =
             [this] {
-                if (commands_)
-                    commands_->main.modeWasChanged();
+                if (opened_)
+                    opened_->program.main.modeWasChanged();
             },
-    });
-    return *session_;
+        .library = library,
+    };
+}
+
+Composition::Opened::Opened(Composition& owner, frmZuroVant& window)
+    : listFiles(window, owner.state_, owner.engine_.session, owner.boxes_, owner.messages_),
+      program(owner.engine_, {.panes = window,
+                              .view = window,
+                              .robots = window,
+                              .viewer = window,
+                              .tree = *window.controls().trvFolderList,
+                              .printer = owner.printer_,
+                              .listFiles = listFiles,
+                              .shutdown = owner,
+                              .folders = {listDrives, subfolders},
+                              .editTextFile = editTextFile,
+                              .openDocument = openDocument}),
+      dialogs(owner.engine_, program, window, *owner.progressWindow_, owner.versionWindow_),
+      runner(commandTable(), {program.main, program.lists, program.help, dialogs}) {}
+
+StartResult Composition::start() {
+    const auto result = StartRoutine({.state = state_,
+                                      .table = engine_.table,
+                                      .language = engine_.language,
+                                      .messages = messages_,
+                                      .boxes = boxes_,
+                                      .settings = engine_.settings,
+                                      .registry = engine_.registry,
+                                      .session = engine_.session,
+                                      .windows = *this,
+                                      .commandLine = commandLine_,
+                                      .executable = engine_.executable,
+                                      .programFolder = engine_.programFolder})
+                            .Main();
+    guard_.unlock();
+    return result;
 }
 
 void Composition::showLanguageDialog() {
-    LanguageDraft draft({state_, messages_, languages_, languageChoice_, boxes_, programFolder_,
-                         settings_.path(), localeLanguageName(), editTextFile});
-    frmLanguage dialog(window_.get(), draft, messages_, state_);
-    dialog.ShowModal();
+    openLanguageDialog(nullptr, engine_);
 }
 
 void Composition::showStartMessage() {
@@ -124,24 +107,32 @@ void Composition::unloadStartMessage() {
 }
 
 void Composition::loadVersionWindow() {
-    versionWindow_.reset(new frmVers(nullptr, versionText(programVersion()), messages_, state_));
+    versionWindow_.load();
 }
 
 void Composition::showVersionWindow() {
-    if (versionWindow_)
-        versionWindow_->Show();
+    versionWindow_.show();
 }
 
-void Composition::buildMainWindow() {
+StartedWindow Composition::buildMainWindow() {
+    progressWindow_.reset(new frmMsgStat(engine_.progress, messages_, state_, [this] { yield(); }));
     window_.reset(new frmZuroVant(state_, messages_, guard_));
     wxTheApp->SetTopWindow(window_.get());
-    commands_ = std::make_unique<Commands>(*this, *window_);
-    window_->connect(commands_->main, commands_->runner);
-    window_->controls().trvFolderList->connect(commands_->folderTree);
-    window_->onClose = [this] { return commands_->shutdown.close(); };
-    window_->onForcedClose = [this] { return commands_->shutdown.closeUnasked(); };
-    window_->onRobotChosen = [this](int index) { commands_->robots.choose(index); };
-    commands_->panes.fillFilterChoices();
+    opened_ = std::make_unique<Opened>(*this, *window_);
+    connectMainWindow();
+    return {.panes = opened_->program.panes,
+            .robots = *window_,
+            .window = *window_,
+            .start = [this] { startMainWindow(); }};
+}
+
+void Composition::connectMainWindow() {
+    MainProgram& program = opened_->program;
+    window_->connect(program.main, opened_->runner);
+    window_->controls().trvFolderList->connect(program.folderTree);
+    window_->onClose = [&program] { return program.shutdown.close(); };
+    window_->onForcedClose = [&program] { return program.shutdown.closeUnasked(); };
+    window_->onRobotChosen = [&program](int index) { program.robots.choose(index); };
 }
 
 void Composition::showMainWindow() {
@@ -151,25 +142,13 @@ void Composition::showMainWindow() {
     window_->Show();
 }
 
-void Composition::focusPCList() {
-    window_->list(ActiveSide::PC).focus();
-}
-
 void Composition::startMainWindow() {
-    vantrel::startMainWindow(commands_->services, commands_->main);
+    opened_->program.start();
     // The library is looked at when everything stands, not while the operator waits for the window.
     window_->CallAfter([this] {
-        showSimulationNotice();
-        bringVersionWindowForward();
+        opened_->dialogs.showSimulationNotice();
+        versionWindow_.bringBefore(*window_);
     });
-}
-
-RobotBox& Composition::robotBox() {
-    return *window_;
-}
-
-Panes& Composition::panes() {
-    return commands_->panes;
 }
 
 bool Composition::isLocked() const {
@@ -185,76 +164,6 @@ WindowPlacement Composition::placement() const {
     return window_->placement();
 }
 
-void Composition::selectRobot(int index) {
-    window_->select(index);
-}
-
-void Composition::showAddress(const std::string& address) {
-    window_->showAddress(address);
-}
-
-bool Composition::enterFolder(const std::string& folder) {
-    return commands_->folder.enter(folder, FolderTree::driveAndFolder(folder));
-}
-
-void Composition::refreshStates() {
-    commands_->main.updateStates();
-}
-
-void Composition::refreshActivePane() {
-    commands_->main.refreshActivePane();
-}
-
-void Composition::openSettings() {
-    SettingDraft draft(state_, messages_, programFolder_);
-    const auto onNetwork = [](const std::string& folder) { return isOnNetwork(folder); };
-    {
-        frmSetting dialog(window_.get(), draft,
-                          {.messages = messages_,
-                           .state = state_,
-                           .boxes = boxes_,
-                           .folders = {listDrives, subfolders, folderFiles, onNetwork},
-                           .apply = [&] { commands_->settings.apply(draft); }});
-        dialog.ShowModal();
-    }
-    commands_->settings.showSettings();
-}
-
-void Composition::openVersionWindow() {
-    if (!versionWindow_)
-        versionWindow_.reset(
-            new frmVers(window_.get(), versionText(programVersion()), messages_, state_));
-    versionWindow_->openModal();
-}
-
-/// The version window came before the main window, which may have taken the front since.
-void Composition::bringVersionWindowForward() {
-    if (versionWindow_ && versionWindow_->IsShown())
-        setOwner(*versionWindow_, *window_);
-}
-
-/// A dialog behind the version window of the start could not be answered, nor could the version
-/// window be closed then. One that is only loaded has still to come.
-void Composition::closeVersionWindowFor(wxDialog& dialog) {
-    if (versionWindow_ && versionWindow_.get() != &dialog && versionWindow_->IsShown() &&
-        !versionWindow_->IsModal())
-        versionWindow_.unload();
-}
-
-void Composition::changeLanguage() {
-    showLanguageDialog();
-    commands_->settings.recaption();
-    window_->applyFont();
-    if (progressWindow_)
-        progressWindow_->applyCaptions();
-    showSimulationNotice();
-}
-
-void Composition::showSimulationNotice() {
-    if (library_.simulation())
-        window_->showNotice(messages_.getMessage(message::simulationNotice));
-}
-
 void Composition::yield() {
     guard_.yield();
     bringScreenUpToDate();
@@ -263,19 +172,6 @@ void Composition::yield() {
 void Composition::bringScreenUpToDate() {
     const OperationLock lock(guard_);
     screen_.bringUpToDate();
-}
-
-void Composition::reportLibrary(const LibraryProblem& problem) {
-    std::string text = messages_.getMessage(message::libraryUnusable) + problem.path;
-    if (!problem.reason.empty())
-        text += "\n" + problem.reason;
-    if (!problem.missing.empty())
-        text += "\n" + messages_.getMessage(message::libraryFunctionsMissing);
-    for (const auto& name : problem.missing)
-        text += "\n" + name;
-    dialog_.tell(text, BoxIcon::Exclamation);
-    if (session_)
-        session_->noteOperatorTold();
 }
 
 } // namespace vantrel

@@ -65,8 +65,21 @@ frmZuroVant::~frmZuroVant() {
 }
 
 void frmZuroVant::connect(MainCommands& commands, const CommandRunner& runner) {
-    commands_ = &commands;
-    runner_ = &runner;
+    updateStates_ = [&commands] { commands.updateStates(); };
+    bindPane(ActiveSide::PC, commands, runner);
+    bindPane(ActiveSide::Controller, commands, runner);
+    const auto run = [&runner](const CommandRow& command, CommandPlace place) {
+        runner.run(command, place);
+    };
+    menus_.onChosen = run;
+    for (CommandToolBar* bar : controls_.toolBars())
+        bar->onPressed = run;
+    // The window gets a key before the control that has the focus.
+    Bind(wxEVT_CHAR_HOOK,
+         [this, &commands, &runner](wxKeyEvent& event) { functionKey(event, commands, runner); });
+    controls_.lsvPC->onColumnClicked = [&commands](int column) { commands.clickColumn(column); };
+    drag_.canDrop = [&commands](ActiveSide source) { return commands.canDrop(source); };
+    drag_.onDropped = [&commands](ActiveSide source) { commands.drop(source); };
 }
 
 FileListControl& frmZuroVant::pane(ActiveSide side) const {
@@ -110,11 +123,6 @@ void frmZuroVant::bindEvents() {
         event.Skip();
         CallAfter(&frmZuroVant::lay);
     });
-    // The window gets a key before the control that has the focus.
-    Bind(wxEVT_CHAR_HOOK, &frmZuroVant::functionKey, this);
-    bindPane(ActiveSide::PC);
-    bindPane(ActiveSide::Controller);
-    bindToolBars();
     controls_.fraFile.panel->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent& event) {
         controls_.rtxFileDisp->SetFocus();
         event.Skip();
@@ -125,18 +133,6 @@ void frmZuroVant::bindEvents() {
             onRobotChosen(event.GetSelection());
     });
     chooseInOpenListOnly(*controls_.cmbRbtName);
-    controls_.lsvPC->onColumnClicked = [this](int column) {
-        if (commands_)
-            commands_->clickColumn(column);
-    };
-    drag_.canDrop = [this](ActiveSide source) { return commands_ && commands_->canDrop(source); };
-    drag_.onDropped = [this](ActiveSide source) {
-        if (commands_)
-            commands_->drop(source);
-    };
-    menus_.onChosen = [this](const CommandRow& command, CommandPlace place) {
-        run(command, place);
-    };
 }
 
 void frmZuroVant::close(wxCloseEvent& event) {
@@ -149,45 +145,31 @@ void frmZuroVant::close(wxCloseEvent& event) {
         closesWhenUnlocked_ = guard_.isLocked();
 }
 
-void frmZuroVant::bindPane(ActiveSide side) {
+void frmZuroVant::bindPane(ActiveSide side, MainCommands& commands, const CommandRunner& runner) {
     auto& list = pane(side);
-    list.onSelectionChanged = [this] {
-        if (commands_)
-            commands_->updateStates();
+    list.onSelectionChanged = updateStates_;
+    list.onActivated = [&commands, side] { commands.activate(side); };
+    list.onKey = [&runner, side](wxKeyEvent& event) {
+        if (!runner.listKey(side, event.GetKeyCode(), event.ControlDown()))
+            event.Skip();
     };
-    list.onActivated = [this, side] {
-        if (commands_)
-            commands_->activate(side);
-    };
-    list.onKey = [this, side](wxKeyEvent& event) { listKey(event, side); };
-    list.onOpen = [this, side](long row) {
-        if (commands_ && row >= 0)
-            commands_->openItem(side, std::size_t(row));
+    list.onOpen = [&commands, side](long row) {
+        if (row >= 0)
+            commands.openItem(side, std::size_t(row));
     };
     list.onDragBegun = [this, side] { drag_.begin(side); };
     list.onMenuRequested = [this, side](wxPoint place) {
         // The press may have selected another item a moment ago.
-        if (commands_)
-            commands_->updateStates();
+        updateStates_();
         menus_.popUp(pane(side), place);
     };
-    filter(side).Bind(wxEVT_CHOICE, [this, side](wxCommandEvent&) {
-        if (commands_)
-            commands_->chooseFilter(side);
-    });
+    filter(side).Bind(wxEVT_CHOICE,
+                      [&commands, side](wxCommandEvent&) { commands.chooseFilter(side); });
     auto* frame = side == ActiveSide::PC ? controls_.fraPC.panel : controls_.fraCtrl.panel;
-    frame->Bind(wxEVT_LEFT_DOWN, [this, side](wxMouseEvent& event) {
-        if (commands_)
-            commands_->workIn(side);
+    frame->Bind(wxEVT_LEFT_DOWN, [&commands, side](wxMouseEvent& event) {
+        commands.workIn(side);
         event.Skip();
     });
-}
-
-void frmZuroVant::bindToolBars() {
-    for (CommandToolBar* bar : controls_.toolBars())
-        bar->onPressed = [this](const CommandRow& command, CommandPlace place) {
-            run(command, place);
-        };
 }
 
 /// A list that is locked may hand the keyboard on to the other one, which is not the active one for
@@ -198,29 +180,19 @@ void frmZuroVant::keepFocusInActivePane() {
         pane(state_.Active).focus();
 }
 
-void frmZuroVant::run(const CommandRow& command, CommandPlace place) {
-    if (runner_)
-        runner_->run(command, place);
-}
-
 /// The keys that act wherever the focus is.
-void frmZuroVant::functionKey(wxKeyEvent& event) {
+void frmZuroVant::functionKey(wxKeyEvent& event, const MainCommands& commands,
+                              const CommandRunner& runner) {
     const int number = event.GetKeyCode() - WXK_F1 + 1;
-    const std::string key = "F" + std::to_string(number);
-    const auto command = std::ranges::find(table_, key, &CommandRow::key);
+    const auto command = std::ranges::find(table_, "F" + std::to_string(number), &CommandRow::key);
     if (number < 1 || event.HasAnyModifiers() || command == table_.end())
         return event.Skip();
     // One system tells of a key from inside a hook, where nothing may take long.
-    CallAfter([this, &chosen = *command] {
+    CallAfter([&chosen = *command, &commands, &runner] {
         const CommandPlace place = chosen.offers.front().place;
-        if (commands_ && commandState(chosen, place, commands_->input()).enabled)
-            run(chosen, place);
+        if (commandState(chosen, place, commands.input()).enabled)
+            runner.run(chosen, place);
     });
-}
-
-void frmZuroVant::listKey(wxKeyEvent& event, ActiveSide side) {
-    if (!runner_ || !runner_->listKey(side, event.GetKeyCode(), event.ControlDown()))
-        event.Skip();
 }
 
 void frmZuroVant::lay() {
@@ -279,8 +251,7 @@ void frmZuroVant::setLocked(bool locked) {
     // A command that works on a pane for a moment is over by then.
     if (!state_.Busy)
         CallAfter(&frmZuroVant::keepFocusInActivePane);
-    if (commands_)
-        commands_->updateStates();
+    updateStates_();
 }
 
 void frmZuroVant::yield() {

@@ -36,7 +36,7 @@ class frmZuroVant : public wxFrame,
                 std::span<const CommandRow> table = commandTable());
     ~frmZuroVant() override;
 
-    /// The commands that events are handed to; events before this call do nothing.
+    /// Hands events to the commands from now on; until then they do nothing. Called once.
     void connect(MainCommands& commands, const CommandRunner& runner);
     /// Called with the robot that the operator chose, by its place in the box.
     std::function<void(int index)> onRobotChosen;
@@ -92,12 +92,9 @@ class frmZuroVant : public wxFrame,
     void setColumnWidths(const std::array<double, 3>& twips);
     void bindEvents();
     void close(wxCloseEvent& event);
-    void bindPane(ActiveSide side);
-    void bindToolBars();
+    void bindPane(ActiveSide side, MainCommands& commands, const CommandRunner& runner);
     void exchangePanes(bool viewer);
-    void functionKey(wxKeyEvent& event);
-    void run(const CommandRow& command, CommandPlace place);
-    void listKey(wxKeyEvent& event, ActiveSide side);
+    void functionKey(wxKeyEvent& event, const MainCommands& commands, const CommandRunner& runner);
     void keepFocusInActivePane();
     void lay();
 
@@ -109,8 +106,7 @@ class frmZuroVant : public wxFrame,
     PaneDrag drag_;
     WindowPlace place_;
     std::span<const CommandRow> table_;
-    MainCommands* commands_ = nullptr;
-    const CommandRunner* runner_ = nullptr;
+    std::function<void()> updateStates_ = [] {};
     bool placed_ = false;
     double captionRoom_ = 1; ///< what the design's lengths are multiplied by
     bool closesWhenUnlocked_ = false;

@@ -118,7 +118,9 @@ class RecordingList final : public PaneList {
     std::vector<std::size_t> selectedRows() const override { return {}; }
     std::optional<std::size_t> selectedRow() const override { return {}; }
     void select(const std::vector<std::size_t>&) override {}
-    void focus() override {}
+    void focus() override { ++focuses; }
+
+    int focuses = 0;
 };
 
 class RecordingPaneWindow final : public PaneWindow {

@@ -15,21 +15,22 @@ using enum CommandPlace;
 /// The table with one more command, as CONTRIBUTING tells how to write one.
 class InventedCommandTest : public MainCommandsTest {
   protected:
-    InventedCommandTest() : table(commandTable().begin(), commandTable().end()) {
+    static std::vector<CommandRow> tableWithOneMore() {
+        std::vector<CommandRow> table(commandTable().begin(), commandTable().end());
         table.push_back({.caption = 102,
                          .tip = 140,
                          .icon = "FileDisp",
                          .key = "F7",
                          .listKey = {'N', true, true},
                          .offers = {{mnuFileMain, 1, "mnuInvented"}, {tlbPC}},
-                         .isAvailable = [](const CommandInput& input, CommandPlace) {
-                             return !input.viewerShown;
-                         },
+                         .isAvailable = [](const CommandInput& input,
+                                           CommandPlace) { return !input.viewerShown; },
                          .run = [](const CommandTargets& to) { to.main.mnuSort(2); }});
+        return table;
     }
     const CommandRow& invented() const { return table.back(); }
 
-    std::vector<CommandRow> table;
+    const std::vector<CommandRow> table = tableWithOneMore();
     CommandRunner runner{table, {main, lists, help, windows}};
 };
 

@@ -1,5 +1,4 @@
 #include "MainCommandsFixture.h"
-#include "app/RobotSelection.h"
 
 #include <gmock/gmock.h>
 
@@ -325,42 +324,6 @@ TEST_F(MainCommandsTest, AKeyWorksOnTheListItWasPressedIn) {
     runner.listKey(ActiveSide::Controller, deleteKey, false);
     EXPECT_TRUE(pc.has("SAME.JBI"));
     EXPECT_FALSE(robot().has("SAME.JBI"));
-}
-
-/// Choosing a robot as the main window does, with its real commands.
-class RobotChoiceTest : public MainCommandsTest, public RobotSelectionWindow {
-  protected:
-    bool isLocked() const override { return false; }
-    void selectRobot(int) override {}
-    void showAddress(const std::string&) override {}
-    bool enterFolder(const std::string& path) override {
-        return folder.enter(path, FolderTree::driveAndFolder(path));
-    }
-    void refreshStates() override { main.updateStates(); }
-    void refreshActivePane() override { main.refreshActivePane(); }
-
-    RobotSelection selection{{state, session, panes, messages, boxes, *this}};
-};
-
-TEST_F(RobotChoiceTest, LeavesThePaneThatWasActiveAsItWas) {
-    library.at("10.0.0.2").put("OTHER.JBI", job("OTHER"));
-    state.TransMode = TransferMode::HispeedLink;
-    state.SyncroRobotDir = 0;
-    RobotRecord chosen;
-    chosen.Name = "R2";
-    chosen.IPaddr = "10.0.0.2";
-    chosen.Path = pc.path();
-    state.RobotList = {RobotRecord{}, chosen, RobotRecord{}};
-    state.RobotList.back().Name = endOfRobots;
-    main.activate(ActiveSide::Controller);
-    main.activate(ActiveSide::PC);
-    const int focuses = window.controller.focuses;
-    selection.choose(1);
-    EXPECT_THAT(window.controller.names, testing::Contains("OTHER.JBI"));
-    EXPECT_EQ(state.Active, ActiveSide::PC);
-    EXPECT_TRUE(shown("tlbPCButton PCButton").checked);
-    EXPECT_TRUE(shown("tlbMain DispDetail").enabled);
-    EXPECT_EQ(window.controller.focuses, focuses);
 }
 
 TEST_F(MainCommandsTest, AnotherFilterRefillsItsPaneOnly) {

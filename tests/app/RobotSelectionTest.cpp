@@ -1,197 +1,209 @@
 #include "app/RobotSelection.h"
 
-#include "AppFakes.h"
+#include "MainCommandsFixture.h"
+#include "app/Machine.h"
 #include "app/RobotList.h"
 #include "base/PathRules.h"
 
-#include <gtest/gtest.h>
+#include <optional>
 
-namespace vantrel {
+#include <gmock/gmock.h>
+
+namespace vantrel::tests {
 namespace {
 
-class RecordingSelectionWindow final : public RobotSelectionWindow {
-  public:
-    explicit RecordingSelectionWindow(tests::Desk& desk) : desk_(desk) {}
+using testing::ElementsAre;
+using testing::IsEmpty;
 
-    bool locked = false;
-
-    bool isLocked() const override { return locked; }
-    void selectRobot(int index) override { add("select " + std::to_string(index)); }
-    void showAddress(const std::string& address) override { add("address " + address); }
-    bool enterFolder(const std::string& folder) override {
-        if (!desk_.panes.scanPC(folder))
-            return false;
-        desk_.panes.fill(ActiveSide::PC);
-        add("folder " + folder);
-        return true;
-    }
-    void refreshStates() override { add("states"); }
-    void refreshActivePane() override {
-        add(desk_.state.Active == ActiveSide::Controller
-                ? "refresh Ctrl of " + desk_.session.IPaddress
-                : "refresh PC");
-    }
-
-  private:
-    void add(std::string entry) { desk_.log.push_back(std::move(entry)); }
-
-    tests::Desk& desk_;
-};
-
-class RobotSelectionTest : public testing::Test {
+/// The box of two robots, of which the operator chooses with the main window's real commands.
+class RobotSelectionTest : public MainCommandsTest, public RobotBox {
   protected:
     RobotSelectionTest() {
-        for (const char* name : {"R0", "R1"})
-            desk_.state.RobotList.push_back(robot(name));
-        desk_.state.RobotList.push_back(emptyRobotList().front());
-        desk_.state.CurrentRobot = desk_.state.RobotList[0];
-        desk_.state.PCPath = desk_.folder.path("R0");
-        desk_.state.TransMode = TransferMode::HispeedLink;
-        desk_.state.StartupDone = true;
-        desk_.state.CtrlListing.append("OLD.JBI", 0, DateText());
+        messages.replace({text(14, "PC: "), text(16, " items"), text(48, " folder not listed"),
+                          text(150, "no list: ")});
+        for (const char* name : {"R0", "R1"}) {
+            state.RobotList.push_back(robotNamed(name));
+            library.at(state.RobotList.back().IPaddr).put(std::string(name) + ".JBI", "x");
+        }
+        state.RobotList.push_back(emptyRobotList().front());
+        state.CurrentRobot = state.RobotList[0];
+        state.PCPath = pc.path("R0");
+        state.TransMode = TransferMode::HispeedLink;
+        state.CtrlListing.append("OLD.JBI", 0, DateText());
+        // What is shown when the first call enters the library.
+        library.onCall = [this](const std::string&) {
+            if (!firstCall)
+                firstCall = {view.address, view.folder, window.controller.names, state.Active};
+        };
     }
-    RobotRecord robot(const std::string& name) const {
+    RobotRecord robotNamed(const std::string& name) const {
         RobotRecord record;
         record.Name = name;
         record.IPaddr = "10.0.0." + name.substr(1);
-        record.Path = desk_.folder.makeFolder(name);
+        record.Path = pc.makeFolder(name);
         return record;
     }
+    void clear() override {}
+    void add(const std::string&) override {}
+    void select(int index) override { takenBackTo = index; }
+    void expectNothingDone() {
+        EXPECT_FALSE(firstCall);
+        EXPECT_EQ(view.address, "");
+        EXPECT_EQ(view.folder, "");
+        EXPECT_EQ(state.CtrlListing.Count, 1);
+    }
+    /// The robot whose directory the controller pane shows.
+    void expectRead(const std::string& robot) {
+        EXPECT_THAT(window.controller.names, ElementsAre(robot + ".JBI"));
+    }
 
-    tests::Desk desk_;
-    RecordingSelectionWindow window_{desk_};
-    RobotSelection selection_{{.state = desk_.state,
-                               .session = desk_.session,
-                               .panes = desk_.panes,
-                               .messages = desk_.messages,
-                               .boxes = desk_.boxes,
-                               .window = window_}};
+    struct Picture {
+        std::string address, folder;
+        std::vector<std::string> controllerNames;
+        ActiveSide active;
+    };
+    std::optional<Picture> firstCall;
+    std::optional<int> takenBackTo;
+    RobotSelection selection{services, main, *this, boxes};
 };
 
 TEST_F(RobotSelectionTest, ANewRobotBringsItsFolderItsAddressAndItsDirectory) {
-    desk_.folder.write("R1/A.JBI", "x");
-    selection_.choose(1);
-    EXPECT_EQ(desk_.state.CurrentRobotIndex, 1);
-    EXPECT_EQ(desk_.state.CurrentRobot.Name, "R1");
-    EXPECT_EQ(desk_.state.PCPath, desk_.folder.path("R1"));
-    EXPECT_EQ(desk_.log, (tests::Log{"status Ctrl m150m16", "status PC m141m16",
-                                     "folder " + desk_.folder.path("R1"), "address 10.0.0.1",
-                                     "states", "refresh Ctrl of 10.0.0.1", "states"}));
-    EXPECT_EQ(desk_.state.Active, ActiveSide::PC);
+    pc.write("R1/A.JBI", "x");
+    window.pcFilter = allFiles;
+    selection.choose(1);
+    EXPECT_EQ(state.CurrentRobotIndex, 1);
+    EXPECT_EQ(state.CurrentRobot.Name, "R1");
+    EXPECT_EQ(state.PCPath, pc.path("R1"));
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+    EXPECT_EQ(session.IPaddress, "10.0.0.1");
+    EXPECT_EQ(view.address, "10.0.0.1");
+    expectRead("R1");
+    EXPECT_EQ(state.Active, ActiveSide::PC);
 }
 
-TEST_F(RobotSelectionTest, TheSessionHasTheAddressBeforeTheRefresh) {
-    selection_.choose(1);
-    EXPECT_EQ(desk_.log.at(desk_.log.size() - 2), "refresh Ctrl of 10.0.0.1");
-}
-
-TEST_F(RobotSelectionTest, TheOldMachinesListIsGoneAtOnce) {
-    selection_.choose(1);
-    EXPECT_EQ(desk_.state.CtrlListing.Count, 0);
-    EXPECT_EQ(desk_.log.front(), "status Ctrl m150m16");
+TEST_F(RobotSelectionTest, EverythingButTheDirectoryIsShownBeforeTheFirstCall) {
+    selection.choose(1);
+    ASSERT_TRUE(firstCall);
+    EXPECT_EQ(firstCall->address, "10.0.0.1");
+    EXPECT_EQ(firstCall->folder, pc.path("R1"));
+    EXPECT_THAT(firstCall->controllerNames, IsEmpty()) << "the other machine's list is gone";
 }
 
 TEST_F(RobotSelectionTest, TheSameRobotInItsOwnFolderChangesNothing) {
-    selection_.choose(0);
-    EXPECT_TRUE(desk_.log.empty());
-    EXPECT_EQ(desk_.state.CtrlListing.Count, 1);
+    session.IPaddress = "10.0.0.0";
+    selection.choose(0);
+    expectNothingDone();
 }
 
 TEST_F(RobotSelectionTest, TheSameRobotInAnotherFolderIsANewChoice) {
-    desk_.state.PCPath = desk_.folder.path();
-    selection_.choose(0);
-    EXPECT_EQ(desk_.state.PCPath, desk_.folder.path("R0"));
-    EXPECT_EQ(desk_.log.at(desk_.log.size() - 2), "refresh Ctrl of 10.0.0.0");
-    EXPECT_EQ(desk_.state.CtrlListing.Count, 1) << "the machine is the same";
+    state.PCPath = pc.path();
+    window.controller.names = {"OLD.JBI"};
+    selection.choose(0);
+    EXPECT_EQ(state.PCPath, pc.path("R0"));
+    ASSERT_TRUE(firstCall);
+    EXPECT_THAT(firstCall->controllerNames, ElementsAre("OLD.JBI")) << "the machine is the same";
+    expectRead("R0");
 }
 
 TEST_F(RobotSelectionTest, ASeparatorAtTheEndMakesNoOtherFolder) {
-    desk_.state.PCPath += PathRules().separator();
-    selection_.choose(0);
-    desk_.state.PCPath = desk_.folder.path("R0");
-    desk_.state.RobotList[0].Path += PathRules().separator();
-    selection_.choose(0);
-    EXPECT_TRUE(desk_.log.empty());
+    state.PCPath += PathRules().separator();
+    selection.choose(0);
+    state.PCPath = pc.path("R0");
+    state.RobotList[0].Path += PathRules().separator();
+    selection.choose(0);
+    expectNothingDone();
 }
 
 TEST_F(RobotSelectionTest, WithoutSynchronisingTheFolderStays) {
-    desk_.state.SyncroRobotDir = 0;
-    const std::string before = desk_.state.PCPath;
-    selection_.choose(1);
-    EXPECT_EQ(desk_.state.PCPath, before);
-    EXPECT_EQ(desk_.log, (tests::Log{"status Ctrl m150m16", "address 10.0.0.1", "states",
-                                     "refresh Ctrl of 10.0.0.1", "states"}));
+    state.SyncroRobotDir = 0;
+    selection.choose(1);
+    EXPECT_EQ(state.PCPath, pc.path("R0"));
+    EXPECT_EQ(view.folder, "");
+    expectRead("R1");
 }
 
 TEST_F(RobotSelectionTest, AFolderThatCannotBeListedIsNamedAndTheOldOneStays) {
-    const std::string missing = desk_.folder.path("missing");
-    desk_.state.RobotList[1].Path = missing;
-    const std::string before = desk_.state.PCPath;
-    selection_.choose(1);
-    EXPECT_EQ(desk_.state.PCPath, before);
-    EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"[R1]m48\n" + missing}));
-    EXPECT_EQ(desk_.log.at(desk_.log.size() - 2), "refresh Ctrl of 10.0.0.1");
+    const std::string missing = pc.path("missing");
+    state.RobotList[1].Path = missing;
+    selection.choose(1);
+    EXPECT_EQ(state.PCPath, pc.path("R0"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("[R1] folder not listed\n" + missing));
+    expectRead("R1");
 }
 
 TEST_F(RobotSelectionTest, AVeryLongNameAndFolderAreNamedShortened) {
-    desk_.state.RobotList[1].Name = std::string(100'000, 'N');
-    desk_.state.RobotList[1].Path = "/" + std::string(100'000, 'F');
-    selection_.choose(1);
-    ASSERT_EQ(desk_.boxes.shown.size(), 1U);
-    EXPECT_LT(desk_.boxes.shown[0].text.size(), 450U);
+    state.RobotList[1].Name = std::string(100'000, 'N');
+    state.RobotList[1].Path = "/" + std::string(100'000, 'F');
+    selection.choose(1);
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_LT(boxes.shown[0].text.size(), 450U);
 }
 
 TEST_F(RobotSelectionTest, DuringTheStartTheChoiceIsTakenBack) {
-    desk_.state.StartupDone = false;
-    selection_.choose(1);
-    EXPECT_EQ(desk_.log, (tests::Log{"select 0"}));
-    EXPECT_EQ(desk_.state.CurrentRobot.Name, "R0");
+    state.StartupDone = false;
+    selection.choose(1);
+    EXPECT_EQ(takenBackTo, 0);
+    EXPECT_EQ(state.CurrentRobot.Name, "R0");
+    expectNothingDone();
 }
 
-TEST_F(RobotSelectionTest, DuringTheStartAnotherMachineEmptiesNothing) {
-    const Machine before = machineInForce(desk_.state);
-    desk_.state.StartupDone = false;
-    desk_.state.TransMode = TransferMode::Bsc;
-    selection_.machineMayHaveChanged(before);
-    EXPECT_EQ(desk_.state.CtrlListing.Count, 1);
-    EXPECT_TRUE(desk_.log.empty());
-}
-
-TEST_F(RobotSelectionTest, WhileLockedTheChoiceIsTakenBack) {
-    window_.locked = true;
-    selection_.choose(1);
-    EXPECT_EQ(desk_.log, (tests::Log{"select 0"}));
-    EXPECT_EQ(desk_.state.CurrentRobot.Name, "R0");
-    EXPECT_EQ(desk_.session.IPaddress, "");
+TEST_F(RobotSelectionTest, WhileAnOperationRunsTheChoiceIsTakenBack) {
+    state.Busy = true;
+    selection.choose(1);
+    EXPECT_EQ(takenBackTo, 0);
+    EXPECT_EQ(state.CurrentRobot.Name, "R0");
+    EXPECT_EQ(session.IPaddress, "");
+    expectNothingDone();
 }
 
 TEST_F(RobotSelectionTest, AnIndexOutsideTheListIsIgnored) {
     for (const int index : {-1, 2, 3, 100000})
-        selection_.choose(index);
-    EXPECT_TRUE(desk_.log.empty());
-    EXPECT_EQ(desk_.state.CurrentRobot.Name, "R0");
+        selection.choose(index);
+    EXPECT_EQ(state.CurrentRobot.Name, "R0");
+    expectNothingDone();
 }
 
 TEST_F(RobotSelectionTest, TheControllerStaysActiveWhenItWas) {
-    desk_.state.Active = ActiveSide::Controller;
-    selection_.choose(1);
-    EXPECT_EQ(desk_.state.Active, ActiveSide::Controller);
+    state.Active = ActiveSide::Controller;
+    selection.choose(1);
+    EXPECT_EQ(state.Active, ActiveSide::Controller);
+}
+
+TEST_F(RobotSelectionTest, LeavesThePaneThatWasActiveAsItWas) {
+    main.activate(ActiveSide::Controller);
+    main.activate(ActiveSide::PC);
+    const int focuses = window.controller.focuses;
+    selection.choose(1);
+    expectRead("R1");
+    EXPECT_EQ(state.Active, ActiveSide::PC);
+    EXPECT_TRUE(shown("tlbPCButton PCButton").checked);
+    EXPECT_TRUE(shown("tlbMain DispDetail").enabled);
+    EXPECT_EQ(window.controller.focuses, focuses);
 }
 
 TEST_F(RobotSelectionTest, AnotherMachineEmptiesThePaneWithoutConnecting) {
-    const Machine before = machineInForce(desk_.state);
-    desk_.state.TransMode = TransferMode::Bsc;
-    selection_.machineMayHaveChanged(before);
-    EXPECT_EQ(desk_.state.CtrlListing.Count, 0);
-    EXPECT_EQ(desk_.log, (tests::Log{"status Ctrl m150m16"}));
+    const Machine before = machineInForce(state);
+    state.TransMode = TransferMode::Bsc;
+    main.machineMayHaveChanged(before);
+    EXPECT_EQ(state.CtrlListing.Count, 0);
+    EXPECT_EQ(window.controllerStatus, "no list:  items");
+    EXPECT_FALSE(firstCall);
+}
+
+TEST_F(RobotSelectionTest, DuringTheStartAnotherMachineEmptiesNothing) {
+    const Machine before = machineInForce(state);
+    state.StartupDone = false;
+    state.TransMode = TransferMode::Bsc;
+    main.machineMayHaveChanged(before);
+    EXPECT_EQ(state.CtrlListing.Count, 1);
 }
 
 TEST_F(RobotSelectionTest, TheSameMachineKeepsItsList) {
-    const Machine before = machineInForce(desk_.state);
-    desk_.state.Port = 9;
-    selection_.machineMayHaveChanged(before);
-    EXPECT_EQ(desk_.state.CtrlListing.Count, 1);
+    const Machine before = machineInForce(state);
+    state.Port = 9;
+    main.machineMayHaveChanged(before);
+    EXPECT_EQ(state.CtrlListing.Count, 1);
 }
 
 } // namespace
-} // namespace vantrel
+} // namespace vantrel::tests

@@ -3,7 +3,6 @@
 #include "MainCommandsFixture.h"
 #include "app/RobotList.h"
 #include "app/RobotRegistry.h"
-#include "app/RobotSelection.h"
 #include "app/SettingDraft.h"
 #include "platform/Files.h"
 
@@ -25,16 +24,6 @@ class BoxOfNames final : public RobotBox {
     std::vector<std::string> names;
     int selected = -1;
     int fills = 0;
-};
-
-class UnusedSelectionWindow final : public RobotSelectionWindow {
-  public:
-    bool isLocked() const override { return false; }
-    void selectRobot(int) override {}
-    void showAddress(const std::string&) override {}
-    bool enterFolder(const std::string&) override { return true; }
-    void refreshStates() override {}
-    void refreshActivePane() override {}
 };
 
 class SettingCommandsTest : public MainCommandsTest {
@@ -72,10 +61,8 @@ class SettingCommandsTest : public MainCommandsTest {
     bool connected() const { return library.calls().size() != commandsBefore; }
 
     BoxOfNames box;
-    UnusedSelectionWindow selectionWindow;
     RobotRegistry registry{state, messages, boxes, program.path()};
-    RobotSelection robots{{state, session, panes, messages, boxes, selectionWindow}};
-    SettingCommands settings{{state, session, panes, registry, box, robots, view, main}};
+    SettingCommands settings{{state, session, panes, registry, box, view, main}};
     std::size_t commandsBefore = 0;
 };
 

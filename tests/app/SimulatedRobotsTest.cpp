@@ -1,6 +1,5 @@
-#include "AppFakes.h"
+#include "ProgramWithoutWindows.h"
 #include "app/RobotList.h"
-#include "app/RobotSelection.h"
 #include "link/SimulatedWorld.h"
 
 #include <filesystem>
@@ -16,7 +15,7 @@ using testing::ElementsAre;
 
 /// The operator chooses between two robots in the window's box, and the session works on simulated
 /// ones through the real binding.
-class SimulatedRobotsTest : public testing::Test, public RobotSelectionWindow {
+class SimulatedRobotsTest : public testing::Test {
   protected:
     SimulatedRobotsTest() {
         for (const char* name : {"first", "second"}) {
@@ -37,13 +36,6 @@ class SimulatedRobotsTest : public testing::Test, public RobotSelectionWindow {
         pc_.write("NEW.JBI", job("NEW", "pc"));
         pc_.write("LIST.JBI", job("LIST", "pc"));
     }
-
-    bool isLocked() const override { return false; }
-    void selectRobot(int) override {}
-    void showAddress(const std::string&) override {}
-    bool enterFolder(const std::string&) override { return true; }
-    void refreshStates() override {}
-    void refreshActivePane() override { EXPECT_TRUE(panes_.readController()); }
 
     static std::string job(const std::string& name, const std::string& body) {
         return "/JOB\r\n//NAME " + name + "\r\n" + body + "\r\n";
@@ -86,31 +78,10 @@ class SimulatedRobotsTest : public testing::Test, public RobotSelectionWindow {
 
     tests::SimulatedWorld simulated_;
     tests::TemporaryFolder pc_;
-    tests::Log log_;
-    ApplicationState state_;
-    MessageTable messages_ = tests::numberedMessages();
-    LanguageFiles languages_{pc_.path()};
-    tests::LoggingBoxes boxes_{log_};
-    ProgressPanel progress_;
-    tests::UnansweredQuestion question_;
-    OperatorDialog dialog_{progress_, question_, boxes_};
-    Snappy session_{{.library = simulated_.library,
-                     .TransMode = state_.TransMode,
-                     .messages = messages_,
-                     .languages = languages_,
-                     .progress = progress_,
-                     .dialog = dialog_,
-                     .programFolder = simulated_.program.path(),
-                     .dummyWindow = [] { return nullptr; }}};
-    TransferTable table_;
-    tests::RecordingPaneWindow window_{log_};
-    Panes panes_{state_, session_, table_, messages_, window_};
-    RobotSelection selection_{{.state = state_,
-                               .session = session_,
-                               .panes = panes_,
-                               .messages = messages_,
-                               .boxes = boxes_,
-                               .window = *this}};
+    tests::ProgramWithoutWindows windowless_{simulated_.program.path("Vantrel")};
+    ApplicationState& state_ = windowless_.state;
+    Snappy& session_ = windowless_.engine.session;
+    RobotSelection& selection_ = windowless_.program.robots;
 };
 
 TEST_F(SimulatedRobotsTest, EveryOperationGoesToTheChosenRobotAndToNoOther) {

@@ -13,6 +13,21 @@
 namespace vantrel {
 namespace {
 
+/// Records when it is filled, and a little of the state at that time.
+class LoggingRobotBox final : public RobotBox {
+  public:
+    explicit LoggingRobotBox(tests::Desk& desk) : desk_(desk) {}
+
+    void clear() override {
+        desk_.log.push_back("robot box, port " + std::to_string(desk_.state.Port));
+    }
+    void add(const std::string&) override {}
+    void select(int) override {}
+
+  private:
+    tests::Desk& desk_;
+};
+
 /// Windows that record what the start routine does to them, and a little of the state at that time.
 class RecordingStartWindows final : public StartWindows {
   public:
@@ -21,11 +36,7 @@ class RecordingStartWindows final : public StartWindows {
     bool cancelsLanguage = false;
     std::function<void()> whenBuilt = [] {};
     std::function<void()> whenStarted = [] {};
-    tests::RecordingRobotBox box;
 
-    void setHelpFile(const std::string& path) override {
-        add("help " + path.substr(desk_.folder.path().size()));
-    }
     void showLanguageDialog() override {
         add("language dialog");
         if (cancelsLanguage)
@@ -35,31 +46,24 @@ class RecordingStartWindows final : public StartWindows {
     void unloadStartMessage() override { add("unload message"); }
     void loadVersionWindow() override { add("load version"); }
     void showVersionWindow() override { add("show version"); }
-    void buildMainWindow() override {
+    StartedWindow buildMainWindow() override {
         add("build main, port " + std::to_string(desk_.state.Port));
         whenBuilt();
+        return {desk_.panes, box_, desk_.window, [this] { startMainWindow(); }};
     }
     void showMainWindow() override { add("show main"); }
-    void focusPCList() override { add("focus"); }
-    void startMainWindow() override {
-        add(std::string("start main") + (desk_.state.Busy ? ", busy" : "") +
-            (desk_.state.StartupDone ? ", done" : ""));
-        whenStarted();
-    }
-    RobotBox& robotBox() override {
-        add("robot box, port " + std::to_string(desk_.state.Port));
-        return box;
-    }
-    Panes& panes() override { return desk_.panes; }
-    Snappy& createSession() override {
-        add("session in " + currentFolder());
-        return desk_.session;
-    }
 
   private:
     void add(std::string entry) { desk_.log.push_back(std::move(entry)); }
+    void startMainWindow() {
+        add(std::string("start main") + (desk_.state.Busy ? ", busy" : "") +
+            (desk_.state.StartupDone ? ", done" : "") +
+            (desk_.window.pc.focuses == 1 ? ", focus" : ""));
+        whenStarted();
+    }
 
     tests::Desk& desk_;
+    LoggingRobotBox box_{desk_};
 };
 
 class StartRoutineTest : public testing::Test {
@@ -93,6 +97,7 @@ class StartRoutineTest : public testing::Test {
                              .boxes = desk_.boxes,
                              .settings = settings,
                              .registry = registry_,
+                             .session = desk_.session,
                              .windows = windows_,
                              .commandLine = commandLine,
                              .executable = executable,
@@ -122,11 +127,9 @@ TEST_F(StartRoutineTest, ExitReadsAndShowsAndWritesNothing) {
 TEST_F(StartRoutineTest, StepsRunInTheirOrder) {
     addSettings("[Vantrel]\r\nPort=3\r\n");
     EXPECT_EQ(start(), StartResult::Running);
-    const std::string help = std::string("help ") + PathRules().separator() + "Vantrel.hlp";
-    EXPECT_EQ(desk_.log, (tests::Log{"session in " + elsewhere_.path(), help, help, "show message",
-                                     "build main, port 1", "robot box, port 3", "unload message",
-                                     "askYesNo m1", "status Ctrl m150m16", "show main", "focus",
-                                     "start main"}));
+    EXPECT_EQ(desk_.log, (tests::Log{"show message", "build main, port 1", "robot box, port 3",
+                                     "unload message", "askYesNo m1", "status Ctrl m150m16",
+                                     "show main", "start main, focus"}));
     EXPECT_FALSE(desk_.state.Busy);
     EXPECT_TRUE(desk_.state.StartupDone);
     EXPECT_FALSE(desk_.state.NoSave);
@@ -135,16 +138,12 @@ TEST_F(StartRoutineTest, StepsRunInTheirOrder) {
 
 TEST_F(StartRoutineTest, TheHelpFileIsTheSameForEveryLanguage) {
     for (const char* language : {"Japanese", "English", "System"}) {
-        desk_.log.clear();
+        desk_.state.HelpFile.clear();
         writeLanguage(language);
         write("[Language Info]\r\nLanguage=" + std::string(language) + "\r\nLangSelect=0\r\n");
         EXPECT_EQ(start(), StartResult::Running);
-        const std::string help = std::string("help ") + PathRules().separator() + "Vantrel.hlp";
-        EXPECT_EQ(std::ranges::count(desk_.log, help), 2) << language;
-        EXPECT_EQ(
-            std::ranges::count_if(
-                desk_.log, [](const std::string& entry) { return entry.starts_with("help "); }),
-            2);
+        EXPECT_EQ(desk_.state.HelpFile, PathRules().join(desk_.folder.path(), "Vantrel.hlp"))
+            << language;
     }
 }
 

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "app/FolderTreeCommands.h"
+#include "app/HelpCommands.h"
+#include "app/ListTransferCommands.h"
+#include "app/MainCommands.h"
+#include "app/PCFolder.h"
+#include "app/RobotSelection.h"
+#include "app/SettingCommands.h"
+#include "app/Shutdown.h"
+#include "files/Panes.h"
+#include "files/TransferCommands.h"
+#include "files/TransferServices.h"
+
+namespace vantrel {
+
+class Engine;
+class ListFileWindow;
+
+/// What the main window and its helpers do for the commands; everything is borrowed.
+struct MainWindowParts {
+    PaneWindow& panes;
+    MainWindowView& view;
+    RobotBox& robots;
+    ViewerPane& viewer;
+    FolderTreeView& tree;
+    FilePrinter& printer;
+    ListFileWindow& listFiles;
+    ShutdownWindows& shutdown;
+    FolderSource folders;
+    std::function<Outcome(const std::string& path)> editTextFile; ///< the system's text editor
+    HelpCommands::Opener openDocument;
+};
+
+/// Everything that works in the main window and knows no control: the panes and what the commands
+/// do.
+class MainProgram {
+  public:
+    /// Both outlive it.
+    MainProgram(Engine& engine, const MainWindowParts& parts);
+    MainProgram(const MainProgram&) = delete;
+    MainProgram& operator=(const MainProgram&) = delete;
+
+    /// The main window's own start: what is shown first, and the stored folder.
+    void start();
+
+    Panes panes;
+
+  private:
+    TransferServices transferServices_;
+    TransferCommands transfers_;
+    PCFolder folder_;
+    MainServices services_;
+
+  public:
+    MainCommands main;
+    FolderTreeCommands folderTree;
+    RobotSelection robots;
+    SettingCommands settings;
+    ListTransferCommands lists;
+    HelpCommands help;
+    Shutdown shutdown;
+};
+
+} // namespace vantrel
