@@ -3,6 +3,7 @@
 #include "MainCommandsFixture.h"
 #include "app/Machine.h"
 #include "app/RobotList.h"
+#include "app/RobotRegistry.h"
 #include "base/PathRules.h"
 
 #include <optional>
@@ -19,8 +20,8 @@ using testing::IsEmpty;
 class RobotSelectionTest : public MainCommandsTest, public RobotBox {
   protected:
     RobotSelectionTest() {
-        messages.replace({text(14, "PC: "), text(16, " items"), text(48, " folder not listed"),
-                          text(150, "no list: ")});
+        messages.replace({text(14, "PC: "), text(15, "Controller: "), text(16, " items"),
+                          text(48, " folder not listed")});
         for (const char* name : {"R0", "R1"}) {
             state.RobotList.push_back(robotNamed(name));
             library.at(state.RobotList.back().IPaddr).put(std::string(name) + ".JBI", "x");
@@ -186,7 +187,7 @@ TEST_F(RobotSelectionTest, AnotherMachineEmptiesThePaneWithoutConnecting) {
     state.TransMode = TransferMode::Bsc;
     main.machineMayHaveChanged(before);
     EXPECT_EQ(state.CtrlListing.Count, 0);
-    EXPECT_EQ(window.controllerStatus, "no list:  items");
+    EXPECT_EQ(window.controllerStatus, "Controller: 0 items");
     EXPECT_FALSE(firstCall);
 }
 

@@ -40,6 +40,28 @@ TEST_F(MoveOverTwoJobs, BothAreAskedFor) {
     EXPECT_FALSE(pc.has("COPY.JBI"));
 }
 
+TEST_F(MoveOverTwoJobs, AJobThatTheNextFileBringsBackIsNotMissed) {
+    pc.write("X.JBI", job("COPY", "newer"));
+    selectOnPC({"COPY.JBI", "X.JBI"});
+    question.answers = {Answer::Yes, Answer::Yes};
+    EXPECT_TRUE(commands.sendMove());
+    EXPECT_THAT(boxes.texts(), IsEmpty());
+    EXPECT_THAT(robot().names(), ElementsAre("A.JBI", "COPY.JBI"));
+    EXPECT_THAT(window.controller.names, ElementsAre("A.JBI", "COPY.JBI"));
+}
+
+TEST_F(MoveOverTwoJobs, AJobThatTheNextFileBringsBackStaysListedWithoutAnotherReading) {
+    pc.write("X.JBI", job("COPY", "newer"));
+    selectOnPC({"COPY.JBI", "X.JBI"});
+    question.answers = {Answer::Yes, Answer::Yes};
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscOpen" && library.callCount("BscDownLoad") == 2)
+            library.disturb({.function = "BscConnect", .code = -3});
+    };
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_THAT(window.controller.names, ElementsAre("A.JBI", "COPY.JBI"));
+}
+
 TEST_F(MoveOverTwoJobs, ANoToEitherSkipsTheFile) {
     selectOnPC({"COPY.JBI"});
     question.answers = {Answer::Yes, Answer::No};

@@ -168,6 +168,37 @@ TEST_F(InterruptedFetchesTest, WhatIsFetchedAgainAfterItWasToldIsToldAnew) {
     EXPECT_EQ(world.boxes.shown.size(), 2u);
 }
 
+TEST_F(InterruptedFetchesTest, TheProgramsOwnFetchIsNotInterrupted) {
+    leave("ne");
+    interrupted.begin(world.pc.path(), job);
+    EXPECT_FALSE(settle()) << "also where no lock says whose mark it is";
+    interrupted.end();
+    EXPECT_TRUE(settle());
+}
+
+TEST_F(InterruptedFetchesTest, AnotherFileOfTheOldOnesSizeIsNotTheOldVersion) {
+    world.pc.write(job, "old");
+    leave("ne");
+    world.pc.write("A.JBI.replaced-1", "new");
+    EXPECT_TRUE(settle());
+    EXPECT_EQ(contentOf(job), "ne");
+    EXPECT_EQ(contentOf("A.JBI.replaced-1"), "new");
+    EXPECT_EQ(told(), "[A.JBI] interrupted; check; old kept as [A.JBI.replaced-1]");
+}
+
+TEST_F(InterruptedFetchesTest, SoManyThatNobodyReadsThemAreToldInTurn) {
+    constexpr int all = 12;
+    for (int number = 0; number < all; ++number) {
+        tests::EndingFiles files(2);
+        const ReplacedFile file(files, world.pc.path(), std::to_string(number) + ".JBI");
+    }
+    EXPECT_TRUE(settle());
+    EXPECT_EQ(names().size(), 2u);
+    EXPECT_TRUE(settle());
+    EXPECT_TRUE(names().empty());
+    EXPECT_FALSE(settle());
+}
+
 TEST_F(InterruptedFetchesTest, SeveralAreToldInOneBox) {
     for (const char* name : {"A.JBI", "B.JBI"}) {
         tests::EndingFiles files(2);
