@@ -27,6 +27,16 @@ struct SessionOperationsTest : testing::Test {
     }
 };
 
+TEST_F(SessionOperationsTest, WithoutItsArgumentNothingIsOverwritten) {
+    world.pc.write("WELD.JBI", "mine");
+    world.controller().put("WELD.JBI", SessionWorld::job("WELD"));
+    world.question.answers = {Answer::No, Answer::No};
+    EXPECT_EQ(call("JobUpLoad", {Text("WELD.JBI")}), SessionValue(0.0));
+    EXPECT_EQ(call("JobDownLoad", {Text("WELD.JBI")}), SessionValue(0.0));
+    EXPECT_EQ(world.question.questions.size(), 2u);
+    EXPECT_EQ(world.pc.read("WELD.JBI"), "mine");
+}
+
 TEST_F(SessionOperationsTest, NamesAreExactlyTheInterfaceInItsOrder) {
     EXPECT_THAT(
         SessionOperations::names(),
