@@ -20,6 +20,11 @@ bool canBeTakenHoldOf(const ScreenRect& window, const ScreenRect& screen) {
            overlap(window.top, gripHeight, screen.top, screen.height) >= gripHeight;
 }
 
+int centred(int ownerStart, int ownerLength, int length, int screenStart, int screenLength) {
+    const int wanted = ownerStart + (ownerLength - length) / 2;
+    return std::max(screenStart, std::min(wanted, screenStart + screenLength - length));
+}
+
 } // namespace
 
 ScreenRect placeOnScreens(const ScreenRect& wished, const std::vector<ScreenRect>& screens) {
@@ -31,6 +36,11 @@ ScreenRect placeOnScreens(const ScreenRect& wished, const std::vector<ScreenRect
     const ScreenRect& first = screens.front();
     return {first.left, first.top, std::min(wished.width, first.width),
             std::min(wished.height, first.height)};
+}
+
+ScreenRect centredOver(const ScreenRect& owner, int width, int height, const ScreenRect& screen) {
+    return {centred(owner.left, owner.width, width, screen.left, screen.width),
+            centred(owner.top, owner.height, height, screen.top, screen.height), width, height};
 }
 
 } // namespace vantrel

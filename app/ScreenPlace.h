@@ -16,4 +16,8 @@ struct ScreenRect {
 /// room. `screens` are the parts that task bars leave free; without any the wish stands.
 ScreenRect placeOnScreens(const ScreenRect& wished, const std::vector<ScreenRect>& screens);
 
+/// Where a dialog stands centred over its owner. A place past an edge of the screen is pulled back;
+/// of a dialog larger than the screen the upper left corner stays visible.
+ScreenRect centredOver(const ScreenRect& owner, int width, int height, const ScreenRect& screen);
+
 } // namespace vantrel

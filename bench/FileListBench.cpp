@@ -1,6 +1,6 @@
 #include "ManyJobs.h"
 #include "ui/FileListControl.h"
-#include "ui/SystemLook.h"
+#include "ui/look/SystemLook.h"
 
 #include <benchmark/benchmark.h>
 #include <wx/app.h>

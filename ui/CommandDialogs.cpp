@@ -1,6 +1,7 @@
 #include "ui/CommandDialogs.h"
 
 #include "app/Engine.h"
+#include "app/LanguageDraft.h"
 #include "app/MainProgram.h"
 #include "app/SettingDraft.h"
 #include "files/FolderFiles.h"
@@ -10,7 +11,6 @@
 #include "platform/Environment.h"
 #include "platform/NetworkFolders.h"
 #include "ui/VersionWindow.h"
-#include "ui/dialogs/LanguageDraft.h"
 #include "ui/dialogs/frmLanguage.h"
 #include "ui/dialogs/frmMsgStat.h"
 #include "ui/dialogs/frmSetting.h"

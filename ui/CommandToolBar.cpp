@@ -1,8 +1,8 @@
 #include "ui/CommandToolBar.h"
 
 #include "lang/MessageTable.h"
-#include "ui/IconSet.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/IconSet.h"
+#include "ui/look/WxText.h"
 
 #include <algorithm>
 

@@ -13,11 +13,11 @@
 #include "ui/VersionWindow.h"
 #include "ui/WxFilePrinter.h"
 #include "ui/dialogs/FrmMessage.h"
-#include "ui/dialogs/WindowHolder.h"
 #include "ui/dialogs/WxMessageBoxes.h"
 #include "ui/dialogs/frmDumy.h"
 #include "ui/dialogs/frmMsgStat.h"
 #include "ui/dialogs/frmMsgYesNo.h"
+#include "ui/look/WindowHolder.h"
 
 #include <memory>
 #include <span>

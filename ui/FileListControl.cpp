@@ -1,7 +1,7 @@
 #include "ui/FileListControl.h"
 
 #include "files/PaneRows.h"
-#include "ui/IconSet.h"
+#include "ui/look/IconSet.h"
 
 #include <wx/dcclient.h>
 #include <wx/renderer.h>

@@ -1,7 +1,7 @@
 #include "ui/FileViewer.h"
 
 #include "ui/TextAppend.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/WxText.h"
 
 namespace vantrel {
 

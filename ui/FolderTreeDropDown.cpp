@@ -1,9 +1,9 @@
 #include "ui/FolderTreeDropDown.h"
 
 #include "app/FolderTreeCommands.h"
-#include "ui/FolderImages.h"
-#include "ui/FolderNodes.h"
-#include "ui/SystemLook.h"
+#include "ui/look/FolderImages.h"
+#include "ui/look/FolderNodes.h"
+#include "ui/look/SystemLook.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #include "ui/ListFileDialogs.h"
 
-#include "ui/dialogs/ListFileDraft.h"
+#include "app/ListFileDraft.h"
 #include "ui/dialogs/frmListFile.h"
 
 namespace vantrel {

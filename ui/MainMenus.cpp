@@ -2,7 +2,7 @@
 
 #include "lang/MessageTable.h"
 #include "ui/MenuBarEntry.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/WxText.h"
 
 #include <algorithm>
 

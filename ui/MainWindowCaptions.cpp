@@ -6,7 +6,7 @@
 #include "ui/FileListControl.h"
 #include "ui/FolderTreeDropDown.h"
 #include "ui/MainWindowControls.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/WxText.h"
 
 #include <array>
 #include <cstdint>

@@ -5,9 +5,9 @@
 #include "ui/FileListControl.h"
 #include "ui/FileViewer.h"
 #include "ui/FolderTreeDropDown.h"
-#include "ui/IconSet.h"
 #include "ui/PathDisplay.h"
-#include "ui/SystemLook.h"
+#include "ui/look/IconSet.h"
+#include "ui/look/SystemLook.h"
 
 #include <wx/bmpbuttn.h>
 #include <wx/choice.h>

@@ -3,8 +3,8 @@
 #include "app/Commands.h"
 #include "app/ModeCommands.h"
 #include "ui/CommandToolBar.h"
-#include "ui/IconSet.h"
 #include "ui/MainWindowControls.h"
+#include "ui/look/IconSet.h"
 
 #include <cstdint>
 

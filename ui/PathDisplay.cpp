@@ -1,8 +1,8 @@
 #include "ui/PathDisplay.h"
 
-#include "ui/FieldBorder.h"
-#include "ui/FolderImages.h"
-#include "ui/SystemLook.h"
+#include "ui/look/FieldBorder.h"
+#include "ui/look/FolderImages.h"
+#include "ui/look/SystemLook.h"
 
 namespace vantrel {
 

@@ -1,7 +1,7 @@
 #include "ui/ScreenPaint.h"
 
 #include "ui/Painting.h"
-#include "ui/SystemLook.h"
+#include "ui/look/SystemLook.h"
 
 #include <chrono>
 

@@ -1,5 +1,5 @@
 #include "ui/TextAppend.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/WxText.h"
 
 #include <limits>
 

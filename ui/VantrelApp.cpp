@@ -1,8 +1,8 @@
 #include "platform/Environment.h"
 #include "ui/Composition.h"
-#include "ui/SystemLook.h"
-#include "ui/dialogs/WxText.h"
 #include "ui/frmZuroVant.h"
+#include "ui/look/SystemLook.h"
+#include "ui/look/WxText.h"
 
 #include <memory>
 #include <string>

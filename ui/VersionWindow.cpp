@@ -1,8 +1,8 @@
 #include "ui/VersionWindow.h"
 
+#include "app/VersionText.h"
 #include "platform/Environment.h"
-#include "ui/SystemLook.h"
-#include "ui/dialogs/VersionText.h"
+#include "ui/look/SystemLook.h"
 
 namespace vantrel {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ui/dialogs/ModalWatch.h"
-#include "ui/dialogs/WindowHolder.h"
 #include "ui/dialogs/frmVers.h"
+#include "ui/look/WindowHolder.h"
 
 class wxDialog;
 class wxWindow;

@@ -2,7 +2,7 @@
 
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/WxText.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,7 +4,7 @@
 #include "app/SettingsFile.h"
 #include "app/Twips.h"
 #include "app/WindowLayout.h"
-#include "ui/SystemLook.h"
+#include "ui/look/SystemLook.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 
 #include "ui/ViewerPrintout.h"
 #include "ui/dialogs/DialogParent.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/WxText.h"
 
 #include <wx/datetime.h>
 #include <wx/log.h>

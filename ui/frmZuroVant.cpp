@@ -15,15 +15,15 @@
 #include "ui/FileListControl.h"
 #include "ui/FileViewer.h"
 #include "ui/FolderTreeDropDown.h"
-#include "ui/IconSet.h"
 #include "ui/MainWindowCaptions.h"
 #include "ui/MainWindowLook.h"
 #include "ui/MainWindowPlaces.h"
 #include "ui/OperationGuard.h"
 #include "ui/PathDisplay.h"
-#include "ui/SystemLook.h"
-#include "ui/dialogs/WindowFont.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/IconSet.h"
+#include "ui/look/SystemLook.h"
+#include "ui/look/WindowFont.h"
+#include "ui/look/WxText.h"
 
 #include <algorithm>
 #include <cmath>

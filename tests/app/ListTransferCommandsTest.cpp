@@ -1,6 +1,6 @@
 #include "app/ListTransferCommands.h"
 
-#include "app/ListFileWindow.h"
+#include "app/ListFileDraft.h"
 #include "files/CommandFixture.h"
 #include "support/NamedRow.h"
 
@@ -22,21 +22,18 @@ using testing::StartsWith;
 /// The operator at the list-file dialog, who names a file or cancels.
 class ScriptedListFile : public ListFileWindow {
   public:
-    ScriptedListFile(ApplicationState& state, Snappy& session) : state_(state), session_(session) {}
+    ScriptedListFile(ApplicationState& state, Snappy& session, MessageBoxes& boxes,
+                     const MessageTable& messages)
+        : state_(state), session_(session), boxes_(boxes), messages_(messages) {}
 
     bool readList(std::string_view mode) override {
         modes.emplace_back(mode);
+        ListFileDraft draft(state_, session_, boxes_, messages_, mode);
         if (whileOpen)
             whileOpen();
-        if (name.empty())
-            return false;
-        const bool variables = mode == "2" || mode == "3";
-        session_.path = state_.PCPath;
-        (variables ? state_.VarListFile : state_.JobListFile) = name;
-        if (!variables)
-            return session_.SetJobListFile(name, mode == "0");
-        session_.SetVarListFile(name);
-        return session_.ReadVarListFile();
+        draft.setName(name);
+        draft.confirm();
+        return draft.mark() == list_file_mark::listRead;
     }
 
     std::string name; ///< empty when the operator cancels
@@ -46,6 +43,8 @@ class ScriptedListFile : public ListFileWindow {
   private:
     ApplicationState& state_;
     Snappy& session_;
+    MessageBoxes& boxes_;
+    const MessageTable& messages_;
 };
 
 class ListTransferCommandsTest : public CommandFixture {
@@ -70,7 +69,7 @@ class ListTransferCommandsTest : public CommandFixture {
         robot().variables[{0, number}] = std::array<double, 10>{value};
     }
 
-    ScriptedListFile listFile{state, session};
+    ScriptedListFile listFile{state, session, boxes, messages};
     TransferServices services{state, session, panes, window, table, messages, progress, dialog};
 };
 

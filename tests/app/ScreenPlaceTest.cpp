@@ -43,5 +43,29 @@ TEST(ScreenPlaceTest, WithoutScreensTheWishStands) {
     EXPECT_EQ(placeOnScreens({9000, 0, 640, 480}, {}), (ScreenRect{9000, 0, 640, 480}));
 }
 
+struct DialogRow : NamedRow {
+    ScreenRect owner;
+    int width, height;
+    int left, top;
+};
+
+class CentredDialogTest : public testing::TestWithParam<DialogRow> {};
+
+TEST_P(CentredDialogTest, IsOverTheOwnerAndOnTheScreen) {
+    const auto& row = GetParam();
+    const auto place = centredOver(row.owner, row.width, row.height, {100, 50, 1000, 800});
+    EXPECT_EQ(place, (ScreenRect{row.left, row.top, row.width, row.height}));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Places, CentredDialogTest,
+    testing::Values(DialogRow{{"Inside"}, {200, 150, 600, 400}, 300, 200, 350, 250},
+                    DialogRow{{"LargerThanItsOwner"}, {500, 400, 100, 100}, 300, 200, 400, 350},
+                    DialogRow{{"OwnerBeyondTheRight"}, {1000, 150, 600, 400}, 300, 200, 800, 250},
+                    DialogRow{{"OwnerBelowTheBottom"}, {200, 800, 600, 400}, 300, 200, 350, 650},
+                    DialogRow{{"OwnerLeftAndAbove"}, {-500, -300, 600, 400}, 300, 200, 100, 50},
+                    DialogRow{{"LargerThanTheScreen"}, {200, 150, 600, 400}, 2000, 900, 100, 50}),
+    rowName);
+
 } // namespace
 } // namespace vantrel::tests

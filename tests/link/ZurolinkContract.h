@@ -4,11 +4,11 @@
 #include "support/NamedRow.h"
 #include "support/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <memory>
 #include <string>
+
+#include <gtest/gtest.h>
 
 namespace vantrel::tests {
 

@@ -4,12 +4,12 @@
 #include "simulator/Simulator.h"
 #include "support/TemporaryFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <chrono>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 namespace vantrel::simulator {
 

@@ -1,5 +1,5 @@
 #include "support/DisplayLock.h"
-#include "ui/SystemLook.h"
+#include "ui/look/SystemLook.h"
 
 #include <cstdio>
 #include <memory>

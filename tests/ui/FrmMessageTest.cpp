@@ -1,7 +1,7 @@
 #include "ui/dialogs/FrmMessage.h"
 
 #include "DialogTest.h"
-#include "ui/dialogs/WindowHolder.h"
+#include "ui/look/WindowHolder.h"
 
 #include <wx/frame.h>
 

@@ -1,7 +1,7 @@
-#include "ui/IconSet.h"
+#include "ui/look/IconSet.h"
 
 #include "support/Windows.h"
-#include "ui/dialogs/IconDrawings.h"
+#include "ui/look/IconDrawings.h"
 
 #include <set>
 

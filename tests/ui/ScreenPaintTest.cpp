@@ -1,7 +1,7 @@
 #include "ui/ScreenPaint.h"
 
 #include "support/ScreenPicture.h"
-#include "ui/dialogs/WindowHolder.h"
+#include "ui/look/WindowHolder.h"
 
 #include <wx/frame.h>
 #include <wx/panel.h>

@@ -1,9 +1,9 @@
-#include "ui/dialogs/WindowFont.h"
+#include "ui/look/WindowFont.h"
 
 #include "base/ApplicationState.h"
 #include "support/NamedRow.h"
 #include "support/Windows.h"
-#include "ui/dialogs/WindowHolder.h"
+#include "ui/look/WindowHolder.h"
 
 #include <wx/frame.h>
 #include <wx/panel.h>

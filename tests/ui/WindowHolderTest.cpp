@@ -1,4 +1,4 @@
-#include "ui/dialogs/WindowHolder.h"
+#include "ui/look/WindowHolder.h"
 
 #include "support/Windows.h"
 

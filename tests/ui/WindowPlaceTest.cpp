@@ -3,7 +3,7 @@
 #include "app/SettingsFile.h"
 #include "app/Twips.h"
 #include "support/Windows.h"
-#include "ui/dialogs/WindowHolder.h"
+#include "ui/look/WindowHolder.h"
 
 #include <memory>
 

@@ -4,7 +4,7 @@
 #include "support/ModalScript.h"
 #include "ui/dialogs/DialogParent.h"
 #include "ui/dialogs/FrmMessage.h"
-#include "ui/dialogs/WindowHolder.h"
+#include "ui/look/WindowHolder.h"
 
 #include <algorithm>
 

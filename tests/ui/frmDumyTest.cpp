@@ -1,7 +1,7 @@
 #include "ui/dialogs/frmDumy.h"
 
 #include "support/Windows.h"
-#include "ui/dialogs/WindowHolder.h"
+#include "ui/look/WindowHolder.h"
 
 namespace vantrel::tests {
 namespace {

@@ -1,13 +1,13 @@
 #include "ui/dialogs/frmLanguage.h"
 
 #include "DialogTest.h"
-#include "LanguageWorld.h"
 #include "LateKeys.h"
+#include "app/LanguageWorld.h"
 #include "platform/Files.h"
 #include "support/Choices.h"
 #include "support/ModalScript.h"
 #include "support/ProjectFiles.h"
-#include "ui/dialogs/WindowHolder.h"
+#include "ui/look/WindowHolder.h"
 
 #include <gmock/gmock.h>
 #include <wx/fontdlg.h>

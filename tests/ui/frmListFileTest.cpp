@@ -2,8 +2,8 @@
 
 #include "DialogTest.h"
 #include "LateKeys.h"
+#include "app/ListFileDraft.h"
 #include "link/SessionWorld.h"
-#include "ui/dialogs/ListFileDraft.h"
 
 namespace vantrel::tests {
 namespace {

@@ -3,7 +3,7 @@
 #include "DialogTest.h"
 #include "support/ModalScript.h"
 #include "support/ProjectFiles.h"
-#include "ui/dialogs/WindowHolder.h"
+#include "ui/look/WindowHolder.h"
 
 #include <wx/frame.h>
 

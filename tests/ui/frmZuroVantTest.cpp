@@ -7,9 +7,9 @@
 #include "support/ScreenPicture.h"
 #include "ui/CommandToolBar.h"
 #include "ui/FileListControl.h"
-#include "ui/IconSet.h"
 #include "ui/OperationGuard.h"
 #include "ui/PathDisplay.h"
+#include "ui/look/IconSet.h"
 
 #include <cmath>
 #include <tuple>

@@ -1,6 +1,6 @@
 #include "ui/dialogs/DialogParent.h"
 
-#include "ui/dialogs/CentredPosition.h"
+#include "app/ScreenPlace.h"
 
 #include <wx/app.h>
 #include <wx/dialog.h>
@@ -24,7 +24,7 @@ wxWindow* shownMainWindow() {
     return main && main->IsShown() && !main->IsBeingDeleted() ? main : nullptr;
 }
 
-PixelRectangle rectangleOf(const wxRect& rectangle) {
+ScreenRect rectangleOf(const wxRect& rectangle) {
     return {rectangle.x, rectangle.y, rectangle.width, rectangle.height};
 }
 
@@ -42,8 +42,8 @@ void centreOverMainWindow(wxTopLevelWindow& window) {
         return;
     }
     const auto size = window.GetSize();
-    const auto place = centredPosition(rectangleOf(main->GetRect()), {size.x, size.y},
-                                       rectangleOf(wxDisplay(main).GetClientArea()));
+    const auto place = centredOver(rectangleOf(main->GetRect()), size.x, size.y,
+                                   rectangleOf(wxDisplay(main).GetClientArea()));
     window.SetPosition(wxPoint(place.left, place.top));
 }
 

@@ -1,6 +1,6 @@
 #include "ui/dialogs/FileNameList.h"
 
-#include "ui/dialogs/WxText.h"
+#include "ui/look/WxText.h"
 
 namespace vantrel {
 

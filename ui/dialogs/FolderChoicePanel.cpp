@@ -1,12 +1,12 @@
 #include "ui/dialogs/FolderChoicePanel.h"
 
 #include "link/ShownText.h"
-#include "ui/FolderImages.h"
-#include "ui/FolderNodes.h"
-#include "ui/SystemLook.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/FileNameList.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/FolderImages.h"
+#include "ui/look/FolderNodes.h"
+#include "ui/look/SystemLook.h"
+#include "ui/look/WxText.h"
 
 #include <utility>
 

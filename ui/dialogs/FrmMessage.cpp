@@ -3,10 +3,10 @@
 #include "base/ApplicationState.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "ui/IconSet.h"
 #include "ui/dialogs/DialogSize.h"
-#include "ui/dialogs/WindowFont.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/IconSet.h"
+#include "ui/look/WindowFont.h"
+#include "ui/look/WxText.h"
 
 #include <wx/iconbndl.h>
 #include <wx/sizer.h>

@@ -5,7 +5,7 @@
 #include "lang/FormCaptions.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/WxText.h"
 
 #include <array>
 

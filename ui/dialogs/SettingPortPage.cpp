@@ -4,10 +4,10 @@
 #include "lang/FormCaptions.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "ui/SystemLook.h"
-#include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogSize.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/CaptionButton.h"
+#include "ui/look/SystemLook.h"
+#include "ui/look/WxText.h"
 
 #include <algorithm>
 

@@ -6,12 +6,12 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/ShownText.h"
-#include "ui/SystemLook.h"
-#include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/FolderChoicePanel.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/CaptionButton.h"
+#include "ui/look/SystemLook.h"
+#include "ui/look/WxText.h"
 
 #include <utility>
 

@@ -2,10 +2,10 @@
 
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "ui/IconSet.h"
 #include "ui/dialogs/DialogParent.h"
-#include "ui/dialogs/WrappedText.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/IconSet.h"
+#include "ui/look/WrappedText.h"
+#include "ui/look/WxText.h"
 
 #include <wx/dcmemory.h>
 #include <wx/iconbndl.h>

@@ -1,12 +1,12 @@
 #include "ui/dialogs/frmListFile.h"
 
-#include "ui/IconSet.h"
-#include "ui/dialogs/CaptionButton.h"
+#include "app/ListFileDraft.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogSize.h"
-#include "ui/dialogs/ListFileDraft.h"
-#include "ui/dialogs/WindowFont.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/CaptionButton.h"
+#include "ui/look/IconSet.h"
+#include "ui/look/WindowFont.h"
+#include "ui/look/WxText.h"
 
 #include <wx/button.h>
 #include <wx/iconbndl.h>

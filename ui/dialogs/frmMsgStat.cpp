@@ -1,14 +1,14 @@
 #include "ui/dialogs/frmMsgStat.h"
 
+#include "app/AnswerCaptions.h"
 #include "base/ApplicationState.h"
-#include "ui/IconSet.h"
-#include "ui/dialogs/AnswerCaptions.h"
-#include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogParent.h"
 #include "ui/dialogs/DialogSize.h"
-#include "ui/dialogs/WindowFont.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/CaptionButton.h"
+#include "ui/look/IconSet.h"
+#include "ui/look/WindowFont.h"
+#include "ui/look/WxText.h"
 
 #include <algorithm>
 #include <utility>

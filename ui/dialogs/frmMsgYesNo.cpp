@@ -1,16 +1,16 @@
 #include "ui/dialogs/frmMsgYesNo.h"
 
+#include "app/AnswerCaptions.h"
 #include "base/ApplicationState.h"
-#include "ui/IconSet.h"
-#include "ui/SystemLook.h"
-#include "ui/dialogs/AnswerCaptions.h"
-#include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogParent.h"
 #include "ui/dialogs/DialogSize.h"
-#include "ui/dialogs/WindowFont.h"
-#include "ui/dialogs/WrappedText.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/CaptionButton.h"
+#include "ui/look/IconSet.h"
+#include "ui/look/SystemLook.h"
+#include "ui/look/WindowFont.h"
+#include "ui/look/WrappedText.h"
+#include "ui/look/WxText.h"
 
 #include <wx/bmpbndl.h>
 #include <wx/button.h>

@@ -6,15 +6,15 @@
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "ui/IconSet.h"
-#include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogSize.h"
 #include "ui/dialogs/SettingOptionPage.h"
 #include "ui/dialogs/SettingPortPage.h"
 #include "ui/dialogs/SettingRobotPage.h"
-#include "ui/dialogs/WindowFont.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/CaptionButton.h"
+#include "ui/look/IconSet.h"
+#include "ui/look/WindowFont.h"
+#include "ui/look/WxText.h"
 
 #include <utility>
 

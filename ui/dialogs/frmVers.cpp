@@ -4,13 +4,13 @@
 #include "lang/FormCaptions.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "ui/IconSet.h"
-#include "ui/dialogs/CaptionButton.h"
 #include "ui/dialogs/DialogKeys.h"
 #include "ui/dialogs/DialogSize.h"
-#include "ui/dialogs/PlainCaption.h"
-#include "ui/dialogs/WindowFont.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/CaptionButton.h"
+#include "ui/look/IconSet.h"
+#include "ui/look/PlainCaption.h"
+#include "ui/look/WindowFont.h"
+#include "ui/look/WxText.h"
 
 #include <wx/button.h>
 #include <wx/iconbndl.h>

@@ -1,6 +1,6 @@
-#include "ui/dialogs/CaptionButton.h"
+#include "ui/look/CaptionButton.h"
 
-#include "ui/dialogs/WxText.h"
+#include "ui/look/WxText.h"
 
 #include <wx/button.h>
 

@@ -1,4 +1,4 @@
-#include "ui/dialogs/LanguageDraft.h"
+#include "app/LanguageDraft.h"
 
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"

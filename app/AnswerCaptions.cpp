@@ -1,4 +1,4 @@
-#include "ui/dialogs/AnswerCaptions.h"
+#include "app/AnswerCaptions.h"
 
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"

@@ -1,4 +1,4 @@
-#include "ui/dialogs/PlainCaption.h"
+#include "ui/look/PlainCaption.h"
 
 namespace vantrel {
 namespace {

@@ -1,5 +1,6 @@
-#include "ui/dialogs/ListFileDraft.h"
+#include "app/ListFileDraft.h"
 
+#include "app/AnswerCaptions.h"
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
 #include "base/Text.h"
@@ -10,7 +11,6 @@
 #include "lang/SystemReasons.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
-#include "ui/dialogs/AnswerCaptions.h"
 
 namespace vantrel {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/SystemLook.h"
+#include "ui/look/SystemLook.h"
 
 #include <wx/bmpbndl.h>
 #include <wx/iconbndl.h>

@@ -1,4 +1,4 @@
-#include "ui/dialogs/VersionText.h"
+#include "app/VersionText.h"
 
 namespace vantrel {
 

@@ -1,4 +1,4 @@
-#include "ui/dialogs/WrappedText.h"
+#include "ui/look/WrappedText.h"
 
 #include "base/Text.h"
 

@@ -1,7 +1,7 @@
-#include "ui/dialogs/WindowFont.h"
+#include "ui/look/WindowFont.h"
 
 #include "base/ApplicationState.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/WxText.h"
 
 #include <algorithm>
 

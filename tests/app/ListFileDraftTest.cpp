@@ -1,4 +1,4 @@
-#include "ui/dialogs/ListFileDraft.h"
+#include "app/ListFileDraft.h"
 
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "app/LanguageDraft.h"
 #include "base/ApplicationState.h"
 #include "lang/LanguageChoice.h"
 #include "lang/LanguageFiles.h"
 #include "lang/MessageTable.h"
 #include "support/FakeMessageBoxes.h"
 #include "support/TemporaryFolder.h"
-#include "ui/dialogs/LanguageDraft.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
-#include "ui/IconSet.h"
+#include "ui/look/IconSet.h"
 
-#include "ui/SystemLook.h"
-#include "ui/dialogs/IconDrawings.h"
+#include "ui/look/IconDrawings.h"
+#include "ui/look/SystemLook.h"
 
 #include <algorithm>
 #include <cmath>

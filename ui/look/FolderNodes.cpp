@@ -1,9 +1,9 @@
-#include "ui/FolderNodes.h"
+#include "ui/look/FolderNodes.h"
 
 #include "link/ShownText.h"
-#include "ui/FolderImages.h"
-#include "ui/SystemLook.h"
-#include "ui/dialogs/WxText.h"
+#include "ui/look/FolderImages.h"
+#include "ui/look/SystemLook.h"
+#include "ui/look/WxText.h"
 
 #include <wx/treectrl.h>
 

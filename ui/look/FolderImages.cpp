@@ -1,6 +1,6 @@
-#include "ui/FolderImages.h"
+#include "ui/look/FolderImages.h"
 
-#include "ui/IconSet.h"
+#include "ui/look/IconSet.h"
 
 namespace vantrel {
 

@@ -1,4 +1,4 @@
-#include "ui/dialogs/AnswerCaptions.h"
+#include "app/AnswerCaptions.h"
 
 #include "lang/MessageTable.h"
 
