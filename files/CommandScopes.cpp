@@ -36,9 +36,6 @@ CommandProgress::~CommandProgress() {
 bool CommandProgress::next(const std::string& name, std::size_t item, std::size_t count) {
     with_.progress.step(label_ + shownText(name), static_cast<int>(item), static_cast<int>(count),
                         with_.messages.getMessage(message::waitingForController));
-    // An operation of the session may have hidden the panel that it shares with the command.
-    if (!with_.progress.isVisible())
-        with_.progress.showAgain();
     with_.progress.yield();
     return !isCancelled();
 }

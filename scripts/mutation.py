@@ -138,7 +138,7 @@ def changes_of(file, text):
             change("order swapped", start, below[1], swapped)
     for match in re.finditer(r"(?<![\w.'])\d+(?=u?\b(?![.'x\w]))", code):
         change("constant off by one", match.start(), match.end(), str(int(match.group()) + 1))
-    for match in re.finditer(r"\breturn (?!\{\}|true;|false;)([^;]+);", code):
+    for match in re.finditer(r"\breturn (?!\{\}|true;|false;|std::nullopt;)([^;]+);", code):
         change("return value fixed", match.start(1), match.end(1), "{}")
     for match in re.finditer(r"\b(?:true|false)\b", code):
         change("boolean flipped", match.start(), match.end(), "false" if match.group() == "true" else "true")

@@ -1,3 +1,5 @@
+source "$(dirname "${BASH_SOURCE[0]}")/steps.sh"
+
 # Which Debian packages the build, the tests and the virtual display need, and how to get them.
 # Sourced by ./run and ./test.
 
@@ -35,7 +37,7 @@ ensure_packages() {
     local -a missing
     mapfile -t missing < <(missing_packages "$@")
     [ ${#missing[@]} -gt 0 ] || return 0
-    printf 'Installing: %s\n' "${missing[*]}"
+    printf 'Missing: %s\n' "${missing[*]}"
     local -a as_root=()
     if [ "$(id -u)" -ne 0 ]; then
         if ! command -v sudo >/dev/null; then
@@ -44,7 +46,7 @@ ensure_packages() {
         fi
         as_root=(sudo)
     fi
-    "${as_root[@]}" apt-get update -q
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    logged build/packages.log "Reading the package lists" "${as_root[@]}" apt-get update -q
+    logged build/packages.log "Installing them" "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -q --no-install-recommends "${missing[@]}"
 }

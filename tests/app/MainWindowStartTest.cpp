@@ -1,6 +1,9 @@
 #include "app/MainWindowStart.h"
 
 #include "MainCommandsFixture.h"
+#include "base/PathRules.h"
+
+#include <filesystem>
 
 #include <gmock/gmock.h>
 
@@ -32,6 +35,15 @@ TEST_F(MainWindowStartTest, ListsTheStoredFolderWithItsCount) {
     EXPECT_EQ(view.folder, pc.path());
     EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
     EXPECT_EQ(window.pcStatus, "PC: 1 items");
+}
+
+TEST_F(MainWindowStartTest, AGoneFolderOpensTheNearestAboveItUpToTheRoot) {
+    const std::string root = std::filesystem::path(pc.path()).root_path().string();
+    state.PCPath = PathRules().join(root, PathRules().join("no such folder of anybody's", "jobs"));
+    start();
+    EXPECT_EQ(state.PCPath, root);
+    EXPECT_EQ(view.folder, root);
+    EXPECT_EQ(boxes.shown.size(), 1u);
 }
 
 TEST_F(MainWindowStartTest, AppliesBothViewsAndLeavesThePCPaneActive) {

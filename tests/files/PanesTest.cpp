@@ -176,6 +176,17 @@ TEST_F(PanesTest, ReadingAndFillingShowTheBusyPointer) {
     EXPECT_EQ(window.busyDepth, 0);
 }
 
+TEST_F(PanesTest, UntilTheyAreFilledAgainThereAreNoRowsOfAListThatHasChanged) {
+    for (const char* name : {"A", "B"})
+        robotJob(name);
+    showController();
+    ASSERT_EQ(panes.rows(ActiveSide::Controller).size(), 2u);
+    panes.dropFromController({"A.JBI"});
+    EXPECT_EQ(panes.rows(ActiveSide::Controller).size(), 0u);
+    panes.fill(ActiveSide::Controller);
+    EXPECT_EQ(panes.rows(ActiveSide::Controller).size(), 1u);
+}
+
 TEST_F(PanesTest, AnEmptiedControllerShowsNothing) {
     robotJob("A");
     showController();

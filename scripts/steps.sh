@@ -1,0 +1,26 @@
+# Says in a line what a step does, and keeps its output in a log that is shown only when it fails.
+# Sourced by ./run, ./test, ./test-windows and what they call.
+
+# logged LOG WHAT COMMAND [ARGUMENT]...
+logged() {
+    local log=$1 what=$2 status=0
+    shift 2
+    mkdir -p "$(dirname "$log")"
+    echo "$what (output in $log) ..."
+    { printf '\n== %s\n' "$what" && "$@"; } >>"$log" 2>&1 || status=$?
+    [ "$status" -ne 0 ] || return 0
+    tail -n 60 "$log"
+    echo "$what: failed. The whole output is in $log."
+    return "$status"
+}
+
+# Begins a log anew.
+new_log() {
+    mkdir -p "$(dirname "$1")"
+    : >"$1"
+}
+
+# configure_and_build PRESET
+configure_and_build() {
+    cmake --preset "$1" && cmake --build --preset "$1"
+}
