@@ -28,13 +28,15 @@ struct SessionOperationsTest : testing::Test {
 };
 
 TEST_F(SessionOperationsTest, WithoutItsArgumentNothingIsOverwritten) {
-    world.pc.write("WELD.JBI", "mine");
+    const std::string mine = SessionWorld::job("WELD", "MINE");
+    world.pc.write("WELD.JBI", mine);
     world.controller().put("WELD.JBI", SessionWorld::job("WELD"));
     world.question.answers = {Answer::No, Answer::No};
     EXPECT_EQ(call("JobUpLoad", {Text("WELD.JBI")}), SessionValue(0.0));
     EXPECT_EQ(call("JobDownLoad", {Text("WELD.JBI")}), SessionValue(0.0));
     EXPECT_EQ(world.question.questions.size(), 2u);
-    EXPECT_EQ(world.pc.read("WELD.JBI"), "mine");
+    EXPECT_EQ(world.pc.read("WELD.JBI"), mine);
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), SessionWorld::job("WELD"));
 }
 
 TEST_F(SessionOperationsTest, NamesAreExactlyTheInterfaceInItsOrder) {
