@@ -111,6 +111,16 @@ def conditions(code):
             yield start, end
 
 
+def do_not_see_each_other(first, second):
+    """Whether two statements set different variables, neither of which the other one names, so that their
+    order is nobody's business."""
+    targets = [re.match(r"([A-Za-z_][\w.]*) = ", statement) for statement in (first, second)]
+    if not all(targets):
+        return False
+    names = [target.group(1) for target in targets]
+    return names[0] != names[1] and names[0] not in second and names[1] not in first
+
+
 def changes_of(file, text):
     code = masked(text)
     inside = in_functions(code)
@@ -133,7 +143,8 @@ def changes_of(file, text):
         below = one_liners.get(end + 1)
         before = code[:line].rstrip()
         # Below a condition without braces the second one would become unconditional.
-        if below and start - line == below[0] - end - 1 and before and before[-1] in "{};":
+        isBlock = below and start - line == below[0] - end - 1 and before and before[-1] in "{};"
+        if isBlock and not do_not_see_each_other(code[start:end], code[below[0]:below[1]]):
             swapped = text[below[0]:below[1]] + text[end:below[0]] + text[start:end]
             change("order swapped", start, below[1], swapped)
     for match in re.finditer(r"(?<![\w.'])\d+(?=u?\b(?![.'x\w]))", code):
