@@ -9,6 +9,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "lang/SystemReasons.h"
+#include "link/ShownText.h"
 #include "platform/Files.h"
 #include "platform/ProfileFile.h"
 
@@ -23,10 +24,6 @@ constexpr const char* fallbackLanguage = "System";
 
 std::string booleanText(bool value) {
     return value ? "True" : "False";
-}
-
-std::string bracketed(const std::string& name) {
-    return '[' + name + ']';
 }
 
 } // namespace

@@ -106,10 +106,10 @@ bool ListFileDraft::readList(const std::string& file) {
 
 /// The operator who left a list need not be told.
 void ListFileDraft::tellWhyNotRead(const std::string& file) const {
-    if (session_.ErrorCode() == session_code::cancelled)
+    if (session_.wasCancelled())
         return;
     const std::string& reason = session_.systemReason();
-    boxes_.tell(messages_.getMessage(message::listFileNotRead) + '[' + shownText(file) + "] " +
+    boxes_.tell(messages_.getMessage(message::listFileNotRead) + bracketed(file) + " " +
                     (reason.empty() ? messages_.errorText(session_.ErrorCode())
                                     : reasonInLanguage(messages_, reason)),
                 BoxIcon::Exclamation);

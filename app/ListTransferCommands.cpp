@@ -127,8 +127,8 @@ CommandOutcome ListTransferCommands::receiveVariables(const CommandProgress&) {
     if (!with_.session.VarListUpLoad())
         reportEntry(with_.session.VarList(with_.session.ErrorIndex()));
     else if (!with_.session.WriteVarListFile(file))
-        reportFailure("\n" + with_.messages.getMessage(message::listFileNotWritten) + "[" +
-                      shownText(file) + "] " +
+        reportFailure("\n" + with_.messages.getMessage(message::listFileNotWritten) +
+                      bracketed(file) + " " +
                       reasonInLanguage(with_.messages, with_.session.systemReason()));
     return {.pcTouched = true};
 }
@@ -147,9 +147,7 @@ void ListTransferCommands::reportEntry(const std::string& entry) const {
 /// An operator who pressed Cancel knows; an address that is not set has been told by the session.
 void ListTransferCommands::reportFailure(const std::string& details) const {
     const auto& session = with_.session;
-    const bool cancelled =
-        session.ErrorFunction().empty() && session.ErrorCode() == session_code::cancelled;
-    if (cancelled || session.operatorIsTold())
+    if (session.wasCancelled() || session.operatorIsTold())
         return TransferReports(with_).unreplacedJobs();
     const std::string place =
         with_.messages.getMessage(message::listIndex) + inParentheses(session.failedIndex());

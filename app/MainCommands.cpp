@@ -175,9 +175,8 @@ void MainCommands::openItem(ActiveSide side, std::size_t row) {
 void MainCommands::edit(const std::string& path) {
     const auto started = with_.editTextFile(path);
     if (!started)
-        with_.dialog.tell("[" + shownText(path) + "]" +
-                              with_.messages.getMessage(message::editorNotStarted) + "\n" +
-                              reasonInLanguage(with_.messages, started.reason()),
+        with_.dialog.tell(bracketed(path) + with_.messages.getMessage(message::editorNotStarted) +
+                              "\n" + reasonInLanguage(with_.messages, started.reason()),
                           BoxIcon::Exclamation);
 }
 

@@ -44,8 +44,7 @@ void openStoredFolder(const MainServices& with) {
         with.panes.showCount(ActiveSide::PC);
     }
     if (!isOpen || folder != stored)
-        with.dialog.tell("[" + shownText(stored) + "]" +
-                             with.messages.getMessage(message::folderGone),
+        with.dialog.tell(bracketed(stored) + with.messages.getMessage(message::folderGone),
                          BoxIcon::Exclamation);
 }
 

@@ -116,7 +116,7 @@ std::string faultText(const RobotFault& fault, std::span<const RobotEntry> robot
     std::string text = messages.getMessage(messageOf(fault.kind));
     if (fault.kind == Kind::NoName)
         return text;
-    return "[" + shownText(robots[fault.robot].robot.Name) + "]" + text;
+    return bracketed(robots[fault.robot].robot.Name) + text;
 }
 
 } // namespace vantrel

@@ -11,6 +11,7 @@
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/ShownText.h"
 #include "platform/Files.h"
 #include "platform/ProfileText.h"
 
@@ -136,7 +137,7 @@ void RobotRegistry::fillBox(RobotBox& box) const {
 
 void RobotRegistry::tellNotRead() {
     readWhole_ = false;
-    boxes_.tell(messages_.getMessage(message::registryNotRead) + "[" + fileName + "]",
+    boxes_.tell(messages_.getMessage(message::registryNotRead) + bracketed(fileName),
                 BoxIcon::Exclamation);
 }
 

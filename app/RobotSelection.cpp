@@ -55,7 +55,7 @@ bool RobotSelection::isNewChoice(int index) const {
 void RobotSelection::followFolder() {
     const RobotRecord& robot = with_.state.CurrentRobot;
     if (!with_.folder.enter(robot.Path, FolderTree::driveAndFolder(robot.Path)))
-        boxes_.tell("[" + shownText(robot.Name) + "]" +
+        boxes_.tell(bracketed(robot.Name) +
                         with_.messages.getMessage(message::robotFolderNotListed) + "\n" +
                         shownText(robot.Path),
                     BoxIcon::Exclamation);

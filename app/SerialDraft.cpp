@@ -1,6 +1,5 @@
 #include "app/SerialDraft.h"
 
-#include "base/ApplicationState.h"
 #include "base/Numbers.h"
 
 #include <algorithm>
@@ -29,13 +28,11 @@ std::optional<std::size_t> entryAt(SerialList list, int index) {
 
 } // namespace
 
-SerialDraft::SerialDraft(const ApplicationState& state)
-    : port_(state.Port), storedParity_(state.Parity), storedDataLen_(state.DataLen),
-      storedStopBit_(state.StopBit) {
-    entry(SerialList::Baudrate) = baudrateEntry(state.Baudrate);
-    entry(SerialList::Parity) = entryAt(SerialList::Parity, state.Parity);
-    entry(SerialList::DataLen) = entryAt(SerialList::DataLen, state.DataLen - shortestDataLen);
-    entry(SerialList::StopBit) = entryAt(SerialList::StopBit, state.StopBit);
+SerialDraft::SerialDraft(const SerialLine& stored) : stored_(stored), port_(stored.Port) {
+    entry(SerialList::Baudrate) = baudrateEntry(stored.Baudrate);
+    entry(SerialList::Parity) = entryAt(SerialList::Parity, stored.Parity);
+    entry(SerialList::DataLen) = entryAt(SerialList::DataLen, stored.DataLen - shortestDataLen);
+    entry(SerialList::StopBit) = entryAt(SerialList::StopBit, stored.StopBit);
 }
 
 std::optional<std::size_t>& SerialDraft::entry(SerialList list) {
@@ -68,24 +65,18 @@ void SerialDraft::restoreDefaults() {
     edited_ = true;
 }
 
-std::int32_t SerialDraft::baudrate() const {
-    const auto index = chosen(SerialList::Baudrate).value_or(defaultBaudrate);
-    return leadingInteger32(serialChoices(SerialList::Baudrate)[index]);
-}
-
-std::int16_t SerialDraft::parity() const {
-    const auto index = chosen(SerialList::Parity);
-    return index ? static_cast<std::int16_t>(*index) : storedParity_;
-}
-
-std::int16_t SerialDraft::dataLen() const {
-    const auto index = chosen(SerialList::DataLen);
-    return index ? leadingInteger16(serialChoices(SerialList::DataLen)[*index]) : storedDataLen_;
-}
-
-std::int16_t SerialDraft::stopBit() const {
-    const auto index = chosen(SerialList::StopBit);
-    return index ? static_cast<std::int16_t>(*index) : storedStopBit_;
+SerialLine SerialDraft::line() const {
+    SerialLine line = stored_;
+    line.Port = static_cast<std::int16_t>(port_);
+    line.Baudrate = leadingInteger32(serialChoices(
+        SerialList::Baudrate)[chosen(SerialList::Baudrate).value_or(defaultBaudrate)]);
+    if (const auto parity = chosen(SerialList::Parity))
+        line.Parity = static_cast<std::int16_t>(*parity);
+    if (const auto length = chosen(SerialList::DataLen))
+        line.DataLen = leadingInteger16(serialChoices(SerialList::DataLen)[*length]);
+    if (const auto stopBit = chosen(SerialList::StopBit))
+        line.StopBit = static_cast<std::int16_t>(*stopBit);
+    return line;
 }
 
 } // namespace vantrel

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "app/SerialChoices.h"
+#include "base/SerialLine.h"
 
 #include <array>
 #include <cstdint>
 #include <optional>
 
 namespace vantrel {
-
-struct ApplicationState;
 
 /// The serial parameters as the settings dialog edits them. A stored value that no entry shows
 /// stays as it is until another is chosen.
@@ -17,7 +16,7 @@ class SerialDraft {
     static constexpr int lowestPort = 1;
     static constexpr int highestPort = 256;
 
-    explicit SerialDraft(const ApplicationState& state);
+    explicit SerialDraft(const SerialLine& stored);
 
     int port() const { return port_; }
     /// Brought into the range; only a stored port may lie outside.
@@ -30,10 +29,8 @@ class SerialDraft {
     /// COM1, 9600 bit/s, even parity, 8 data bits, 1 stop bit. An edit in any case.
     void restoreDefaults();
 
-    std::int32_t baudrate() const;
-    std::int16_t parity() const;
-    std::int16_t dataLen() const;
-    std::int16_t stopBit() const;
+    /// As it is edited now.
+    SerialLine line() const;
 
     /// Whether the operator has edited anything since the start or the last apply.
     bool isEdited() const { return edited_; }
@@ -42,8 +39,8 @@ class SerialDraft {
   private:
     std::optional<std::size_t>& entry(SerialList list);
 
+    SerialLine stored_;
     int port_;
-    std::int16_t storedParity_, storedDataLen_, storedStopBit_;
     std::array<std::optional<std::size_t>, 4> chosen_; ///< by `SerialList`
     bool edited_ = false;
 };

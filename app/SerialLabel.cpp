@@ -1,16 +1,16 @@
 #include "app/SerialLabel.h"
 
 #include "app/SerialChoices.h"
-#include "base/ApplicationState.h"
+#include "base/SerialLine.h"
 
 namespace vantrel {
 
-SerialLabel serialLabel(const ApplicationState& state) {
+SerialLabel serialLabel(const SerialLine& line) {
     return {.port =
-                "COM" + std::to_string(state.Port) + ": " + std::to_string(state.Baudrate) + "bps",
-            .format = "DataLength:" + std::to_string(state.DataLen) +
-                      "  Parity:" + serialName(SerialList::Parity, state.Parity) +
-                      "  StopBit:" + serialName(SerialList::StopBit, state.StopBit)};
+                "COM" + std::to_string(line.Port) + ": " + std::to_string(line.Baudrate) + "bps",
+            .format = "DataLength:" + std::to_string(line.DataLen) +
+                      "  Parity:" + serialName(SerialList::Parity, line.Parity) +
+                      "  StopBit:" + serialName(SerialList::StopBit, line.StopBit)};
 }
 
 } // namespace vantrel

@@ -4,7 +4,7 @@
 
 namespace vantrel {
 
-struct ApplicationState;
+struct SerialLine;
 
 /// The serial parameters as `lbl232CParam` shows them, in the two lines that it has room for.
 struct SerialLabel {
@@ -15,6 +15,6 @@ struct SerialLabel {
     std::string text() const { return port + "  " + format; }
 };
 
-SerialLabel serialLabel(const ApplicationState& state);
+SerialLabel serialLabel(const SerialLine& line);
 
 } // namespace vantrel

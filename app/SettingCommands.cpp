@@ -30,11 +30,7 @@ void SettingCommands::apply(SettingDraft& draft) {
 
 void SettingCommands::takeOptions(const SettingValues& values) {
     auto& state = with_.state;
-    state.Port = values.Port;
-    state.Baudrate = values.Baudrate;
-    state.DataLen = values.DataLen;
-    state.Parity = values.Parity;
-    state.StopBit = values.StopBit;
+    static_cast<SerialLine&>(state) = values;
     state.SyncroRobotDir = values.SyncroRobotDir;
     state.NoSave = values.NoSave;
     state.JBR = values.JBR;

@@ -51,19 +51,15 @@ std::int16_t SettingDraft::syncroRobotDir() const {
 }
 
 SettingValues SettingDraft::take() {
-    SettingValues values{.Port = static_cast<std::int16_t>(serial_.port()),
-                         .Baudrate = serial_.baudrate(),
-                         .DataLen = serial_.dataLen(),
-                         .Parity = serial_.parity(),
-                         .StopBit = serial_.stopBit(),
-                         .SyncroRobotDir = syncroRobotDir(),
-                         .NoSave = isOn(SettingOption::NoSave),
-                         .JBR = isOn(SettingOption::JBR),
-                         .Headder = isOn(SettingOption::Headder),
-                         .Controler = static_cast<std::int16_t>(controler_),
-                         .robotsChanged = robots_.isChanged(),
-                         .RobotList = robots_.records(),
-                         .CurrentRobot = robots_.current()};
+    SettingValues values{serial_.line()};
+    values.SyncroRobotDir = syncroRobotDir();
+    values.NoSave = isOn(SettingOption::NoSave);
+    values.JBR = isOn(SettingOption::JBR);
+    values.Headder = isOn(SettingOption::Headder);
+    values.Controler = static_cast<std::int16_t>(controler_);
+    values.robotsChanged = robots_.isChanged();
+    values.RobotList = robots_.records();
+    values.CurrentRobot = robots_.current();
     storedSyncro_ = values.SyncroRobotDir;
     robots_.noteApplied();
     serial_.noteApplied();

@@ -3,6 +3,7 @@
 #include "app/RobotCheck.h"
 #include "app/RobotListDraft.h"
 #include "app/SerialDraft.h"
+#include "base/SerialLine.h"
 
 #include <array>
 #include <cstdint>
@@ -19,10 +20,7 @@ struct ApplicationState;
 enum class SettingOption { SyncroRobotDir, JBR, Headder, NoSave };
 
 /// What the settings dialog hands over, whole.
-struct SettingValues {
-    std::int16_t Port = 0;
-    std::int32_t Baudrate = 0;
-    std::int16_t DataLen = 0, Parity = 0, StopBit = 0;
+struct SettingValues : SerialLine {
     std::int16_t SyncroRobotDir = 0;
     bool NoSave = false, JBR = false, Headder = false;
     std::int16_t Controler = 0;

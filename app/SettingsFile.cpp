@@ -81,20 +81,20 @@ void writePane(SectionWriter to, std::int16_t displayType, const FolderListing& 
     to.integer("SortDir", listing.SortDir);
 }
 
-void readSerial(const SectionReader& from, ApplicationState& state) {
-    state.Port = from.shortInteger("Port", 1);
-    state.Baudrate = from.integer("Baudrate", 9600);
-    state.Parity = from.shortInteger("Parity", 2);
-    state.DataLen = from.shortInteger("DataLen", 8);
-    state.StopBit = from.shortInteger("StopBit", 0);
+void readSerial(const SectionReader& from, SerialLine& line) {
+    line.Port = from.shortInteger("Port", 1);
+    line.Baudrate = from.integer("Baudrate", 9600);
+    line.Parity = from.shortInteger("Parity", 2);
+    line.DataLen = from.shortInteger("DataLen", 8);
+    line.StopBit = from.shortInteger("StopBit", 0);
 }
 
-void writeSerial(SectionWriter& to, const ApplicationState& state) {
-    to.integer("Port", state.Port);
-    to.integer("Baudrate", state.Baudrate);
-    to.integer("Parity", state.Parity);
-    to.integer("DataLen", state.DataLen);
-    to.integer("StopBit", state.StopBit);
+void writeSerial(SectionWriter& to, const SerialLine& line) {
+    to.integer("Port", line.Port);
+    to.integer("Baudrate", line.Baudrate);
+    to.integer("Parity", line.Parity);
+    to.integer("DataLen", line.DataLen);
+    to.integer("StopBit", line.StopBit);
 }
 
 } // namespace

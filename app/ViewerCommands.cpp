@@ -51,8 +51,7 @@ void ViewerCommands::print() {
     if (!with_.state.ViewerShown)
         return with_.dialog.tell(with_.messages.getMessage(message::nothingToPrint),
                                  BoxIcon::Exclamation);
-    const auto question =
-        with_.messages.getMessage(message::askPrint) + "[" + shownText(name_) + "]";
+    const auto question = with_.messages.getMessage(message::askPrint) + bracketed(name_);
     if (!with_.dialog.askYesNo(question, BoxIcon::Question))
         return;
     Outcome printed = Done{};
@@ -76,7 +75,7 @@ std::optional<std::string> ViewerCommands::selectedJobFile() const {
 
 void ViewerCommands::tell(std::int32_t messageNumber, const std::string& name,
                           const std::string& reason) const {
-    with_.dialog.tell(with_.messages.getMessage(messageNumber) + "[" + shownText(name) + "]\n" +
+    with_.dialog.tell(with_.messages.getMessage(messageNumber) + bracketed(name) + "\n" +
                           reasonInLanguage(with_.messages, reason),
                       BoxIcon::Exclamation);
 }

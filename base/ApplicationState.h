@@ -2,6 +2,7 @@
 
 #include "base/FolderListing.h"
 #include "base/RobotRecord.h"
+#include "base/SerialLine.h"
 #include "base/TransferMode.h"
 
 #include <array>
@@ -17,7 +18,7 @@ enum class ActiveSide : std::int16_t { PC = 0, Controller = 1 };
 /// The one record that the whole program works on: filled by the start routine and the settings
 /// file, handed down by reference. The main window and the session are not in it; they stand above
 /// it and are handed out by the composition root.
-struct ApplicationState {
+struct ApplicationState : SerialLine {
     std::string LanguageName;    ///< the current language file's name without ".lng"
     std::int16_t LangSelect = 1; ///< 1 = offer the language dialog at every start, 0 = don't
     std::string FontName;
@@ -34,11 +35,6 @@ struct ApplicationState {
     FolderListing CtrlListing;
     ActiveSide Active = ActiveSide::PC;
 
-    std::int16_t Port = 1;
-    std::int32_t Baudrate = 9600; ///< bit/s
-    std::int16_t Parity = 2;      ///< 0 none, 1 odd, 2 even
-    std::int16_t DataLen = 8;
-    std::int16_t StopBit = 0;   ///< 0 = 1, 1 = 1.5, 2 = 2 stop bits
     std::int16_t Controler = 4; ///< row of the controller model table
     bool JBR = false;           ///< receive ".JBI" jobs as ".JBR" files
     bool Headder = false;       ///< show and print job headers

@@ -49,7 +49,7 @@ void DeleteCommand::run(const std::vector<SelectedItem>& items, std::int32_t que
 bool DeleteCommand::isWanted(const std::string& name, std::int32_t question) {
     if (deleteAll_)
         return true;
-    const std::string text = "[" + shownText(name) + "]" + with_.messages.getMessage(question);
+    const std::string text = bracketed(name) + with_.messages.getMessage(question);
     const Answer answer = with_.dialog.ask(title_, text);
     deleteAll_ = answer == Answer::All;
     cancelled_ = answer == Answer::Cancel;

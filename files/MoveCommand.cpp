@@ -197,8 +197,7 @@ void MoveCommand::touchBothSides() {
 
 /// The silent session answers its own overwrite question with Cancel.
 bool MoveCommand::existsAlready() const {
-    return !with_.session.operatorIsTold() && with_.session.ErrorFunction().empty() &&
-           with_.session.ErrorCode() == session_code::cancelled;
+    return !with_.session.operatorIsTold() && with_.session.wasCancelled();
 }
 
 Answer MoveCommand::askOverwrite(const std::string& name, const std::string& storedAs) const {

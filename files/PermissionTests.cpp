@@ -42,7 +42,7 @@ bool PermissionTests::hasUsableName(const std::string& name) const {
         if (direction_ == Direction::Receive)
             reports.aboutFile(name, message::controllerNameRefused);
         else
-            reports.transferFailed("[" + shownText(name) + "]",
+            reports.transferFailed(bracketed(name),
                                    with_.messages.errorText(session_code::nameRefused));
         return false;
     }

@@ -18,10 +18,6 @@ namespace {
 /// a directory that could not be read.
 constexpr const char* directoryStep = "BscFind";
 
-std::string bracketed(const std::string& name) {
-    return "[" + shownText(name) + "]";
-}
-
 std::string lineOf(const std::string& name) {
     return name.empty() ? std::string() : "\n" + bracketed(name);
 }
@@ -82,9 +78,7 @@ void TransferReports::transferFailed(const std::string& name) const {
 
 bool TransferReports::listTransferFailed() const {
     const Snappy& session = with_.session;
-    const bool cancelled =
-        session.ErrorFunction().empty() && session.ErrorCode() == session_code::cancelled;
-    if (cancelled || session.operatorIsTold())
+    if (session.wasCancelled() || session.operatorIsTold())
         return false;
     const std::int32_t index = session.failedIndex();
     tellTransferFailure(" (" + std::to_string(index) + ")",

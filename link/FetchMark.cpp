@@ -12,7 +12,8 @@
 namespace vantrel {
 namespace {
 
-constexpr std::size_t longestStem = 200; ///< bytes; leaves room for the suffix behind it
+/// Bytes; with a suffix behind it a file system still takes it, and a message shows it whole.
+constexpr std::size_t longestStem = 180;
 constexpr std::size_t shortenedStem = longestStem / 4; ///< characters, of at most four bytes
 constexpr std::string_view markPrefix = "~vantrel-fetch-";
 constexpr std::string_view firstLine = "Vantrel fetch 1";

@@ -19,10 +19,6 @@ std::string pathOf(const std::string& folder, const std::string& name) {
     return PathRules().join(folder, name);
 }
 
-std::string inBrackets(const std::string& name) {
-    return "[" + shownText(name) + "]";
-}
-
 struct HeldMark {
     HeldFile held;
     FetchMark mark;
@@ -87,7 +83,7 @@ void InterruptedFetches::begin(const std::string& folder, const std::string& nam
 }
 
 std::string InterruptedFetches::settleOne(const std::string& folder, const FetchMark& mark) {
-    const std::string head = inBrackets(mark.name) + text(message::transferInterrupted);
+    const std::string head = bracketed(mark.name) + text(message::transferInterrupted);
     const std::string path = pathOf(folder, mark.name);
     if (mark.aside.empty()) {
         if (!anythingExists(path))
@@ -105,9 +101,9 @@ std::string InterruptedFetches::settleOne(const std::string& folder, const Fetch
 
 std::string InterruptedFetches::describe(const std::string& folder, const FetchMark& mark) const {
     const bool hasOld = !mark.aside.empty() && anythingExists(pathOf(folder, mark.aside));
-    return inBrackets(mark.name) + text(message::transferInterrupted) +
+    return bracketed(mark.name) + text(message::transferInterrupted) +
            text(message::fileMayBeIncomplete) +
-           (hasOld ? text(message::oldFileKeptAs) + inBrackets(mark.aside) : std::string());
+           (hasOld ? text(message::oldFileKeptAs) + bracketed(mark.aside) : std::string());
 }
 
 std::string InterruptedFetches::bringBack(const std::string& folder, const FetchMark& mark) {
@@ -118,7 +114,7 @@ std::string InterruptedFetches::bringBack(const std::string& folder, const Fetch
     if (isFree && files_.rename(pathOf(folder, mark.aside), path))
         return text(message::oldFileIsBack) + tail;
     return (isFree ? tail : text(message::fileMayBeIncomplete)) + text(message::oldFileKeptAs) +
-           inBrackets(mark.aside);
+           bracketed(mark.aside);
 }
 
 std::string InterruptedFetches::putAway(const std::string& folder, const FetchMark& mark) {
@@ -128,7 +124,7 @@ std::string InterruptedFetches::putAway(const std::string& folder, const FetchMa
 }
 
 std::string InterruptedFetches::keptAs(const std::string& part) const {
-    return text(message::partKeptAs) + inBrackets(part);
+    return text(message::partKeptAs) + bracketed(part);
 }
 
 std::string InterruptedFetches::text(std::int32_t number) const {

@@ -142,24 +142,23 @@ bool JobFetch::receiveInto(ReplacedFile& file, std::int16_t handle, const std::s
 }
 
 void JobFetch::tellLeftover(const ReplacedFile& file, const std::string& name) const {
-    tools_.dialog.tell("[" + shownText(name) + "]" +
-                           tools_.messages.getMessage(message::oldFileKeptAs) + "[" +
-                           file.asideName() + "]",
+    tools_.dialog.tell(bracketed(name) + tools_.messages.getMessage(message::oldFileKeptAs) +
+                           bracketed(file.asideName()),
                        BoxIcon::Exclamation);
 }
 
 void JobFetch::putBack(ReplacedFile& file, const std::string& name, std::int32_t index) {
     if (file.putBack())
         return;
-    const std::string shownName = "[" + shownText(name) + "]";
+    const std::string shownName = bracketed(name);
     if (file.asideName().empty()) {
         // The record goes on telling why the file is incomplete.
         tools_.dialog.tell(shownName + tools_.messages.getMessage(message::partialFileKept),
                            BoxIcon::Exclamation);
     } else {
         tools_.error.set(session_code::oldFileKeptAside, "", index);
-        tools_.dialog.tell(shownName + tools_.messages.getMessage(message::oldFileKept) + "[" +
-                               file.asideName() + "]",
+        tools_.dialog.tell(shownName + tools_.messages.getMessage(message::oldFileKept) +
+                               bracketed(file.asideName()),
                            BoxIcon::Exclamation);
     }
     file.forget();

@@ -54,9 +54,8 @@ bool JobListStore::addExisting(const std::string& name) {
 bool JobListStore::askGoOnWithout(const std::string& name) {
     if (!tools_.properties.DisplayMonitor)
         return true;
-    const std::string text = tools_.messages.getMessage(message::jobFileHead) + "[" +
-                             shownText(name) + "] " +
-                             tools_.messages.getMessage(message::jobFileMissing);
+    const std::string text = tools_.messages.getMessage(message::jobFileHead) + bracketed(name) +
+                             " " + tools_.messages.getMessage(message::jobFileMissing);
     return tools_.dialog.askOkCancel(text, BoxIcon::Exclamation);
 }
 

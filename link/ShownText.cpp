@@ -15,4 +15,8 @@ std::string shownText(std::string_view text) {
     return onOneLine(start) + (start.size() < text.size() ? ellipsis : "");
 }
 
+std::string bracketed(std::string_view text) {
+    return "[" + shownText(text) + "]";
+}
+
 } // namespace vantrel

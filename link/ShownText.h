@@ -11,4 +11,7 @@ namespace vantrel {
 /// lines; a box with those would be larger than the screen.
 std::string shownText(std::string_view text);
 
+/// The same in square brackets, as names stand in messages.
+std::string bracketed(std::string_view text);
+
 } // namespace vantrel

@@ -153,6 +153,10 @@ std::string Snappy::VarList(std::int32_t index) const {
     return parts_->variables.entries().at(index);
 }
 
+bool Snappy::wasCancelled() const {
+    return ErrorFunction().empty() && ErrorCode() == session_code::cancelled;
+}
+
 bool Snappy::operatorIsTold() const {
     return parts_->operatorTold || parts_->link.endedByUnsetAddress();
 }

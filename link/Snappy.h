@@ -71,6 +71,9 @@ class Snappy : public SessionProperties {
     /// 0 serial, 1 high-speed link; any other value sets the serial mode and returns false.
     bool SetTansMode(std::int16_t mode);
 
+    /// True when the last failure was nobody's but a decision: the operator's Cancel, or the one
+    /// that a silent session answers its questions with.
+    bool wasCancelled() const;
     /// True when the last operation ended because the robot's address is not set, which leaves the
     /// error record as it was, or because the library cannot be used. The operator has been told
     /// already, so the caller reports nothing more.

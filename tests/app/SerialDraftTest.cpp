@@ -1,6 +1,6 @@
 #include "app/SerialDraft.h"
 
-#include "base/ApplicationState.h"
+#include "base/SerialLine.h"
 #include "support/NamedRow.h"
 
 #include <gtest/gtest.h>
@@ -21,8 +21,8 @@ struct StoredRow : NamedRow {
 
 class StoredSerialTest : public testing::TestWithParam<StoredRow> {
   protected:
-    static ApplicationState stored() {
-        ApplicationState state;
+    static SerialLine stored() {
+        SerialLine state;
         state.Baudrate = GetParam().Baudrate;
         state.Parity = GetParam().Parity;
         state.DataLen = GetParam().DataLen;
@@ -42,10 +42,10 @@ TEST_P(StoredSerialTest, ChoosesTheEntryThatShowsIt) {
 
 TEST_P(StoredSerialTest, IsLeftAloneWhereNoEntryIsChosen) {
     const SerialDraft draft(stored());
-    EXPECT_EQ(draft.baudrate(), GetParam().baudrateAfter);
-    EXPECT_EQ(draft.parity(), GetParam().Parity);
-    EXPECT_EQ(draft.dataLen(), GetParam().DataLen);
-    EXPECT_EQ(draft.stopBit(), GetParam().StopBit);
+    EXPECT_EQ(draft.line().Baudrate, GetParam().baudrateAfter);
+    EXPECT_EQ(draft.line().Parity, GetParam().Parity);
+    EXPECT_EQ(draft.line().DataLen, GetParam().DataLen);
+    EXPECT_EQ(draft.line().StopBit, GetParam().StopBit);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -69,7 +69,7 @@ struct PortRow : NamedRow {
 class PortTest : public testing::TestWithParam<PortRow> {};
 
 TEST_P(PortTest, StaysInItsRangeOnceItIsSet) {
-    ApplicationState state;
+    SerialLine state;
     state.Port = GetParam().stored;
     SerialDraft draft(state);
     EXPECT_EQ(draft.port(), GetParam().stored);
@@ -90,28 +90,28 @@ INSTANTIATE_TEST_SUITE_P(Ports, PortTest,
                          rowName);
 
 TEST(SerialDraftTest, AChosenEntryIsItsValue) {
-    SerialDraft draft{ApplicationState()};
+    SerialDraft draft{SerialLine()};
     draft.choose(SerialList::Baudrate, 4);
     draft.choose(SerialList::Parity, 0);
     draft.choose(SerialList::DataLen, 0);
     draft.choose(SerialList::StopBit, 2);
-    EXPECT_EQ(draft.baudrate(), 19200);
-    EXPECT_EQ(draft.parity(), 0);
-    EXPECT_EQ(draft.dataLen(), 7);
-    EXPECT_EQ(draft.stopBit(), 2);
+    EXPECT_EQ(draft.line().Baudrate, 19200);
+    EXPECT_EQ(draft.line().Parity, 0);
+    EXPECT_EQ(draft.line().DataLen, 7);
+    EXPECT_EQ(draft.line().StopBit, 2);
     EXPECT_TRUE(draft.isEdited());
 }
 
 TEST(SerialDraftTest, TheEntryThatIsChosenAlreadyOrNoneAtAllIsNoEdit) {
-    SerialDraft draft{ApplicationState()};
+    SerialDraft draft{SerialLine()};
     draft.choose(SerialList::Parity, 2);
     draft.choose(SerialList::Parity, 3);
-    EXPECT_EQ(draft.parity(), 2);
+    EXPECT_EQ(draft.line().Parity, 2);
     EXPECT_FALSE(draft.isEdited());
 }
 
 TEST(SerialDraftTest, TheDefaultsAreRestored) {
-    ApplicationState state;
+    SerialLine state;
     state.Port = 300;
     state.Baudrate = 1200;
     state.Parity = 9;
@@ -120,15 +120,15 @@ TEST(SerialDraftTest, TheDefaultsAreRestored) {
     SerialDraft draft(state);
     draft.restoreDefaults();
     EXPECT_EQ(draft.port(), 1);
-    EXPECT_EQ(draft.baudrate(), 9600);
-    EXPECT_EQ(draft.parity(), 2);
-    EXPECT_EQ(draft.dataLen(), 8);
-    EXPECT_EQ(draft.stopBit(), 0);
+    EXPECT_EQ(draft.line().Baudrate, 9600);
+    EXPECT_EQ(draft.line().Parity, 2);
+    EXPECT_EQ(draft.line().DataLen, 8);
+    EXPECT_EQ(draft.line().StopBit, 0);
     EXPECT_TRUE(draft.isEdited());
 }
 
 TEST(SerialDraftTest, RestoringTheDefaultsIsAnEditInAnyCase) {
-    SerialDraft draft{ApplicationState()};
+    SerialDraft draft{SerialLine()};
     draft.restoreDefaults();
     EXPECT_TRUE(draft.isEdited());
     draft.noteApplied();

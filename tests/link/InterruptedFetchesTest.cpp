@@ -4,6 +4,7 @@
 #include "SessionWorld.h"
 #include "link/FetchMark.h"
 #include "link/ReplacedFile.h"
+#include "link/ShownText.h"
 #include "platform/Files.h"
 
 #include <filesystem>
@@ -197,6 +198,14 @@ TEST_F(InterruptedFetchesTest, SoManyThatNobodyReadsThemAreToldInTurn) {
     EXPECT_TRUE(settle());
     EXPECT_TRUE(names().empty());
     EXPECT_FALSE(settle());
+}
+
+TEST_F(InterruptedFetchesTest, WhatLiesAsideHasANameThatAMessageShowsWhole) {
+    for (const std::size_t length : {10, 179, 180, 181, 199, 200, 201, 250}) {
+        const std::string name(length, 'N');
+        const std::string aside = freeSpareName(world.pc.path(), name, replacedSuffix);
+        EXPECT_EQ(shownText(aside), aside);
+    }
 }
 
 TEST_F(InterruptedFetchesTest, SeveralAreToldInOneBox) {
