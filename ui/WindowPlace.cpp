@@ -55,13 +55,7 @@ bool isNormal(const wxTopLevelWindow& window) {
 
 WindowPlace::WindowPlace(wxTopLevelWindow& window, wxWindow& surface)
     : window_(window), surface_(surface) {
-    settleTimer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
-        // A minimised or maximised window has a place that is not its own.
-        if (!isNormal(window_))
-            settleTimer_.StartOnce(settleTime);
-        else if (window_.IsShown())
-            settle();
-    });
+    settleTimer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { settle(); });
     surface_.Bind(wxEVT_PAINT, &WindowPlace::painted, this);
 }
 
@@ -137,6 +131,13 @@ void WindowPlace::painted(wxPaintEvent& event) {
 
 void WindowPlace::settle() {
     settleTimer_.Stop();
+    if (!window_.IsShown())
+        return;
+    // A minimised or maximised window has a place that is not its own.
+    if (!isNormal(window_)) {
+        settleTimer_.StartOnce(settleTime);
+        return;
+    }
     settlesWithPaint_ = false;
     settledOrigin_ = clientOrigin();
     // A frame that came late has changed the size, not the operator.

@@ -37,7 +37,8 @@ class WindowPlace {
     /// the stored ones, whether or not the window could be put there.
     WindowPlacement placement(int resolution, const std::array<int, 3>& columnWidths) const;
     /// The window manager has had its say: from now on the window is where the operator wants it.
-    /// Called by itself some time after each move.
+    /// Called by itself some time after each move; put off while the window is minimised or
+    /// maximised.
     void settle();
 
   private:

@@ -91,6 +91,19 @@ TEST_F(KeyboardInMainWindowTest, F5ReadsTheActivePaneAnewFromEverywhere) {
     expectRefresh(*controls().trvFolderList);
 }
 
+TEST_F(KeyboardInMainWindowTest, AnOperationThatHasBegunSinceAKeyWasPressedIsNotEntered) {
+    pcJob("NEW");
+    const int items = pcList().GetItemCount();
+    wxKeyEvent key(wxEVT_CHAR_HOOK);
+    key.m_keyCode = WXK_F5;
+    key.SetEventObject(&window());
+    window().HandleWindowEvent(key);
+    window().setLocked(true);
+    runEvents();
+    EXPECT_EQ(pcList().GetItemCount(), items);
+    window().setLocked(false);
+}
+
 TEST_F(KeyboardInMainWindowTest, KeysOfTheListsDoNothingElsewhere) {
     for (wxWindow* control : {static_cast<wxWindow*>(controls().cmbPCFileType),
                               static_cast<wxWindow*>(controls().Command1)}) {

@@ -101,6 +101,19 @@ TEST_F(WindowPlaceTest, AResizeBeforeTheWindowHasSettledCounts) {
     EXPECT_EQ(now().height, 7000 + twipsFromPixels(30, resolution));
 }
 
+TEST_F(WindowPlaceTest, AMaximisedWindowHasNoPlaceThatItCouldSettleIn) {
+    const Stored stored{0, 0, 9720, 7000};
+    show(stored);
+    const wxSize before = window->GetSize();
+    window->Maximize();
+    ASSERT_TRUE(waitFor([&] { return window->IsMaximized() && window->GetSize() != before; }));
+    place->settle();
+    window->Restore();
+    ASSERT_TRUE(waitFor([&] { return !window->IsMaximized() && window->GetSize() == before; }))
+        << window->IsMaximized() << " " << window->GetSize().x << "x" << window->GetSize().y << " was " << before.x << "x" << before.y;
+    expectStored(stored);
+}
+
 TEST_F(WindowPlaceTest, ThePlaceOnceMoreTakesNothingBack) {
     const Stored stored{0, 0, 9720, 7000};
     show(stored);
