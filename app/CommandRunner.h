@@ -3,6 +3,7 @@
 #include "app/Commands.h"
 
 #include <span>
+#include <string_view>
 
 namespace vantrel {
 
@@ -40,6 +41,10 @@ class CommandRunner {
     /// A key pressed in a pane's list, which becomes the active one, by its character code; false
     /// when the list itself handles it.
     bool listKey(ActiveSide side, int code, bool withControl) const;
+    /// The command of a key as "F5", or null.
+    const CommandRow* commandOf(std::string_view key) const;
+    /// Runs a command if it is offered now; false when it is not.
+    bool runIfOffered(const CommandRow& command) const;
 
   private:
     std::span<const CommandRow> table_;

@@ -108,7 +108,7 @@ void sortBy(Targets to) {
 }
 
 constexpr auto button = CommandMark::Button;
-constexpr auto entryAndButton = CommandMark::EntryAndButton;
+constexpr auto everywhere = CommandMark::Everywhere;
 
 // Keys of the lists are no accelerators: they work in the lists only.
 const std::vector<CommandRow>& table() {
@@ -179,7 +179,7 @@ const std::vector<CommandRow>& table() {
          .offers = {{mnuDispMain, 0, "mnuDisp(0)"},
                     {mnuFileDispMain, 0, "mnuFileDisp(0)"},
                     {tlbMain, 2}},
-         .mark = entryAndButton,
+         .mark = everywhere,
          .isInForce = isView<0>,
          .run = showView<0>},
         {.caption = message::menuSmallIcons,
@@ -188,7 +188,7 @@ const std::vector<CommandRow>& table() {
          .offers = {{mnuDispMain, 0, "mnuDisp(1)"},
                     {mnuFileDispMain, 0, "mnuFileDisp(1)"},
                     {tlbMain, 2}},
-         .mark = entryAndButton,
+         .mark = everywhere,
          .isInForce = isView<1>,
          .run = showView<1>},
         {.caption = message::menuList,
@@ -197,7 +197,7 @@ const std::vector<CommandRow>& table() {
          .offers = {{mnuDispMain, 0, "mnuDisp(2)"},
                     {mnuFileDispMain, 0, "mnuFileDisp(2)"},
                     {tlbMain, 2}},
-         .mark = entryAndButton,
+         .mark = everywhere,
          .isInForce = isView<2>,
          .run = showView<2>},
         {.caption = message::menuDetails,
@@ -207,7 +207,7 @@ const std::vector<CommandRow>& table() {
                     {mnuFileDispMain, 0, "mnuFileDisp(3)"},
                     {tlbMain, 2}},
          .isAvailable = isOnPC,
-         .mark = entryAndButton,
+         .mark = everywhere,
          .isInForce = isDetails,
          .run = showView<3>},
         {.caption = message::menuModeHispeed,
@@ -215,31 +215,31 @@ const std::vector<CommandRow>& table() {
          .icon = "modeHiSpeed",
          .offers = {{mnuTransMode, 0, "mnuModeHiSpeed"}, {tlbMain, 1}},
          .isAvailable = hasHispeed,
-         .mark = entryAndButton,
+         .mark = everywhere,
          .isInForce = isHispeed,
          .run = [](Targets to) { to.main.mnuModeHiSpeed(); }},
         {.caption = message::menuModeBsc,
          .tip = message::modeBsc,
          .icon = "modeBsc",
          .offers = {{mnuTransMode, 0, "mnuModeBsc"}, {tlbMain, 1}},
-         .mark = entryAndButton,
+         .mark = everywhere,
          .isInForce = isBsc,
          .run = [](Targets to) { to.main.mnuModeBsc(); }},
         {.caption = message::menuByName,
          .offers = {{mnuSortMain, 0, "mnuSort(0)"}, {mnuSortIconMain, 0, "mnuSortIcon(0)"}},
-         .mark = entryAndButton,
+         .mark = everywhere,
          .isInForce = isSortedBy<0>,
          .run = sortBy<0>},
         {.caption = message::menuBySize,
          .offers = {{mnuSortMain, 0, "mnuSort(1)"}, {mnuSortIconMain, 0, "mnuSortIcon(1)"}},
          .isAvailable = isOnPC,
-         .mark = entryAndButton,
+         .mark = everywhere,
          .isInForce = isSortedBy<1>,
          .run = sortBy<1>},
         {.caption = message::menuByDate,
          .offers = {{mnuSortMain, 0, "mnuSort(2)"}, {mnuSortIconMain, 0, "mnuSortIcon(2)"}},
          .isAvailable = isOnPC,
-         .mark = entryAndButton,
+         .mark = everywhere,
          .isInForce = isSortedBy<2>,
          .run = sortBy<2>},
         {.caption = message::menuRefresh,
@@ -343,7 +343,7 @@ CommandState commandState(const CommandRow& command, CommandPlace place,
     const bool isShown = place != tlbFile || isControllerPaneShown(input, place);
     const bool canRun = !command.isAvailable || command.isAvailable(seen, place);
     const bool isMarked =
-        command.mark == entryAndButton || (command.mark == button && isToolBar(place));
+        command.mark == everywhere || (command.mark == button && isToolBar(place));
     return {.enabled = !input.locked && isShown && canRun,
             .checked = isMarked && command.isInForce(seen, place)};
 }

@@ -69,16 +69,18 @@ struct ListKey {
 };
 
 /// What shows whether a command that is a choice is the one in force.
-enum class CommandMark { None, Button, EntryAndButton };
+enum class CommandMark { None, Button, Everywhere };
 
 /// A command of the main window. Everything about it stands in its row of the table.
 struct CommandRow {
     std::int32_t caption = 0;   ///< message of its menu entries
     std::int32_t tip = 0;       ///< message of its buttons
     std::string_view icon = {}; ///< of its buttons, and their key
-    std::string_view key = {};  ///< as the menus show it
+    /// As the menus show it: "F1" to "F12" act wherever the focus is, another key as the
+    /// accelerator of an entry in the menu bar.
+    std::string_view key = {};
     ListKey listKey = {};
-    std::vector<CommandOffer> offers;
+    std::vector<CommandOffer> offers; ///< by a key it is offered where its first one is
     /// Whether it can do its work; without a rule it always can.
     bool (*isAvailable)(const CommandInput&, CommandPlace) = nullptr;
     CommandMark mark = CommandMark::None;

@@ -25,7 +25,7 @@ Engine::Engine(EngineGround ground)
                .dialog = dialog,
                .programFolder = programFolder,
                .dummyWindow = std::move(ground.dummyWindow),
-               .unloadWindows = std::move(ground.sessionQuits),
+               .unloadWindows = std::move(ground.unloadWindows),
                .modeChanged = std::move(ground.modeChanged)}) {}
 
 void Engine::tellLibraryProblem(const LibraryProblem& problem) {

@@ -29,16 +29,17 @@ struct EngineGround {
     MessageTable& messages;
     MessageBoxes& boxes;
     QuestionWindow& questions;
-    std::string executable;                  ///< the program's own file, absolute
-    std::function<void()> beforeLibraryCall; ///< each may take long
-    std::function<void*()> dummyWindow;      ///< the handle that the library is given
-    std::function<void()> sessionQuits = {};
-    std::function<void()> modeChanged = {}; ///< the session was told another mode by name
-    Zurolink* library = nullptr;            ///< in place of the one in the program's folder
+    std::string executable;                   ///< the program's own file, absolute
+    std::function<void()> beforeLibraryCall;  ///< each may take long
+    std::function<void*()> dummyWindow;       ///< the handle that the library is given
+    std::function<void()> unloadWindows = {}; ///< the session quits
+    std::function<void()> modeChanged = {};   ///< the session was told another mode by name
+    Zurolink* library = nullptr;              ///< in place of the one in the program's folder
 };
 
 /// The program without its windows: texts, settings, registry, file table, library and session,
-/// each built once, in the order in which they need each other. Nothing is read yet.
+/// each built once, in the order in which they need each other. No file is read and no
+/// library loaded yet.
 class Engine {
   public:
     explicit Engine(EngineGround ground);

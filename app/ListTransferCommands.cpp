@@ -70,8 +70,7 @@ bool ListTransferCommands::holdsSomething(std::string_view mode) const {
     if (isForJobs ? with_.session.JobListCount() > 0 : holdsVariables(with_.session))
         return true;
     const auto& file = isForJobs ? with_.state.JobListFile : with_.state.VarListFile;
-    with_.dialog.tell(with_.messages.getMessage(message::listFileEmpty) + '[' + shownText(file) +
-                          ']',
+    with_.dialog.tell(with_.messages.getMessage(message::listFileEmpty) + bracketed(file),
                       BoxIcon::Exclamation);
     return false;
 }
@@ -141,7 +140,7 @@ CommandOutcome ListTransferCommands::sendVariables(const CommandProgress&) {
 
 void ListTransferCommands::reportEntry(const std::string& entry) const {
     const bool namesIt = !entry.empty() && with_.session.triedAnEntry();
-    reportFailure(namesIt ? "\n[" + shownText(entry) + "]" : std::string());
+    reportFailure(namesIt ? "\n" + bracketed(entry) : std::string());
 }
 
 /// An operator who pressed Cancel knows; an address that is not set has been told by the session.

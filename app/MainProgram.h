@@ -12,10 +12,19 @@
 #include "files/TransferCommands.h"
 #include "files/TransferServices.h"
 
+#include <functional>
+#include <string>
+
 namespace vantrel {
 
 class Engine;
+class FilePrinter;
+class FolderTreeView;
 class ListFileWindow;
+class MainWindowView;
+class PaneWindow;
+class RobotBox;
+class ViewerPane;
 
 /// What the main window and its helpers do for the commands; everything is borrowed.
 struct MainWindowParts {

@@ -12,7 +12,6 @@
 #include "platform/NetworkFolders.h"
 #include "ui/VersionWindow.h"
 #include "ui/dialogs/frmLanguage.h"
-#include "ui/dialogs/frmMsgStat.h"
 #include "ui/dialogs/frmSetting.h"
 #include "ui/frmZuroVant.h"
 
@@ -44,7 +43,8 @@ void CommandDialogs::changeLanguage() {
     openLanguageDialog(&window_, engine_);
     program_.settings.recaption();
     window_.applyFont();
-    progress_.applyCaptions();
+    if (progress_)
+        progress_->applyCaptions();
     showSimulationNotice();
 }
 

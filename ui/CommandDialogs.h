@@ -1,6 +1,8 @@
 #pragma once
 
 #include "app/CommandRunner.h"
+#include "ui/dialogs/frmMsgStat.h"
+#include "ui/look/WindowHolder.h"
 
 class wxWindow;
 
@@ -9,7 +11,6 @@ namespace vantrel {
 class Engine;
 class MainProgram;
 class VersionWindow;
-class frmMsgStat;
 class frmZuroVant;
 
 /// `frmLanguage`, modal; leaves `LangCancelled` in the state. The parent may be null.
@@ -19,8 +20,8 @@ void openLanguageDialog(wxWindow* parent, Engine& engine);
 class CommandDialogs : public CommandWindows {
   public:
     /// All of them outlive this.
-    CommandDialogs(Engine& engine, MainProgram& program, frmZuroVant& window, frmMsgStat& progress,
-                   VersionWindow& version)
+    CommandDialogs(Engine& engine, MainProgram& program, frmZuroVant& window,
+                   const WindowHolder<frmMsgStat>& progress, VersionWindow& version)
         : engine_(engine), program_(program), window_(window), progress_(progress),
           version_(version) {}
 
@@ -34,7 +35,7 @@ class CommandDialogs : public CommandWindows {
     Engine& engine_;
     MainProgram& program_;
     frmZuroVant& window_;
-    frmMsgStat& progress_;
+    const WindowHolder<frmMsgStat>& progress_; ///< the window goes when the session quits
     VersionWindow& version_;
 };
 

@@ -46,7 +46,7 @@ EngineGround Composition::ground(std::string executable, Zurolink* library) {
                     dummyWindow_.reset(new frmDumy);
                 return dummyWindow_->handle();
             },
-        .sessionQuits = [this] { dummyWindow_.unload(); },
+        .unloadWindows = [this] { dummyWindow_.unload(); },
         .modeChanged =
             [this] {
                 if (opened_)
@@ -69,7 +69,7 @@ Composition::Opened::Opened(Composition& owner, frmZuroVant& window)
                               .folders = {listDrives, subfolders},
                               .editTextFile = editTextFile,
                               .openDocument = openDocument}),
-      dialogs(owner.engine_, program, window, *owner.progressWindow_, owner.versionWindow_),
+      dialogs(owner.engine_, program, window, owner.progressWindow_, owner.versionWindow_),
       runner(commandTable(), {program.main, program.lists, program.help, dialogs}) {}
 
 StartResult Composition::start() {

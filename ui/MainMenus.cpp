@@ -46,7 +46,7 @@ void MainMenus::append(wxMenu& menu, CommandPlace place) {
             menu.AppendSeparator();
             continue;
         }
-        const bool isChoice = command->mark == CommandMark::EntryAndButton;
+        const bool isChoice = command->mark == CommandMark::Everywhere;
         auto* const item = menu.Append(firstId + int(entries_.size()), noCaptionYet, wxString(),
                                        isChoice ? wxITEM_CHECK : wxITEM_NORMAL);
         entries_.push_back({command, *offerAt(*command, place), item});
@@ -55,9 +55,9 @@ void MainMenus::append(wxMenu& menu, CommandPlace place) {
 
 void MainMenus::buildBar() {
     for (const MenuHead& head : menuBarHeads()) {
-        heads_.push_back({head, new wxMenu});
-        append(*heads_.back().menu, head.place);
-        bar_->Append(heads_.back().menu, noCaptionYet);
+        auto* const menu = new wxMenu;
+        append(*menu, head.place);
+        bar_->Append(menu, noCaptionYet);
     }
 }
 
@@ -90,6 +90,8 @@ void MainMenus::buildBarEntries() {
 }
 
 void MainMenus::chosen(int number) {
+    if (std::size_t(number) >= entries_.size())
+        return;
     const Entry entry = entries_.at(std::size_t(number));
     if (onChosen)
         onChosen(*entry.command, entry.offer.place);
@@ -118,8 +120,8 @@ void MainMenus::applyCaptions(const MessageTable& messages) {
             label << '\t' << toWx(std::string(command->key));
         item->SetItemLabel(label);
     }
-    for (std::size_t index = 0; index < heads_.size(); ++index)
-        bar_->SetMenuLabel(index, caption(messages, heads_[index].head.caption));
+    for (std::size_t index = 0; index < menuBarHeads().size(); ++index)
+        bar_->SetMenuLabel(index, caption(messages, menuBarHeads()[index].caption));
     for (std::size_t index = 0; index < popUpHeads_.size(); ++index)
         popUpHeads_[index]->SetItemLabel(caption(messages, popUpHeads()[index].caption));
 }
@@ -137,7 +139,7 @@ void MainMenus::applyStates(const CommandInput& input) {
         if (item->IsCheckable())
             item->Check(state.checked);
     }
-    for (std::size_t index = 0; index < heads_.size(); ++index)
+    for (std::size_t index = 0; index < menuBarHeads().size(); ++index)
         bar_->EnableTop(index, !input.locked);
 }
 

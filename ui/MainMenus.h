@@ -41,11 +41,6 @@ class MainMenus {
     wxMenuItem* find(std::string_view name) const;
 
   private:
-    /// A menu of the bar or of the pop-up menu.
-    struct Head {
-        MenuHead head;
-        wxMenu* menu;
-    };
     struct Entry {
         const CommandRow* command;
         CommandOffer offer;
@@ -62,7 +57,6 @@ class MainMenus {
     std::span<const CommandRow> table_;
     wxMenuBar* bar_;
     std::unique_ptr<wxMenu> popUp_;
-    std::vector<Head> heads_;
     std::vector<wxMenuItem*> popUpHeads_; ///< in their order
     std::vector<Entry> entries_;
     std::vector<std::unique_ptr<MenuBarEntry>> barEntries_; ///< of the entries without an item

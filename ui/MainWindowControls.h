@@ -49,13 +49,13 @@ struct MainWindowControls {
     PaneFrame fraPC;
     CommandToolBar* tlbPCButton = nullptr;
     wxStaticBitmap* Picture1 = nullptr;
-    wxStaticText* lblFolder = nullptr; ///< element 2 of `lblDisp`
+    wxStaticText* lblFolder = nullptr; ///< element 4 of `lblDisp`
     PathDisplay* trvFolderName = nullptr;
     wxBitmapButton* Command1 = nullptr;
     CommandToolBar* tlbPC = nullptr;
     FolderTreeDropDown* trvFolderList = nullptr;
     FileListControl* lsvPC = nullptr;
-    wxStaticText* lblPCFileType = nullptr; ///< element 0 of `lblDisp`
+    wxStaticText* lblPCFileType = nullptr; ///< element 1 of `lblDisp`
     wxChoice* cmbPCFileType = nullptr;
 
     wxStaticBitmap* pctDirectArrow = nullptr;
@@ -64,12 +64,12 @@ struct MainWindowControls {
     CommandToolBar* tlbCtrlButton = nullptr;
     CommandToolBar* tlbFile = nullptr;
     FileListControl* lsvCtrl = nullptr;
-    wxStaticText* lblCtrlFileType = nullptr; ///< element 1 of `lblDisp`
+    wxStaticText* lblCtrlFileType = nullptr; ///< element 2 of `lblDisp`
     wxChoice* cmbCtrlFileType = nullptr;
 
     PaneFrame fraFile; ///< the viewer, in the place of `fraCtrl`
     FileViewer* rtxFileDisp = nullptr;
-    wxStaticText* lblFile = nullptr; ///< its heading, an element of `lblDisp` too
+    wxStaticText* lblFile = nullptr; ///< its heading, element 0 of `lblDisp`
     wxStaticText* lblFileName = nullptr;
 
     wxPanel* pcHighlight = nullptr; ///< shows the mode's colour under the active pane

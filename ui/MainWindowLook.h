@@ -10,7 +10,7 @@ struct ModeLook;
 
 /// Dims and presses the tool bars' buttons, and dims all that a running operation locks; the menus
 /// have their own states.
-void showCommandStates(const MainWindowControls& controls, const CommandInput& states);
+void showCommandStates(const MainWindowControls& controls, const CommandInput& input);
 
 /// Shows the heading of the serial line or of the robot, and colours the highlights. What was
 /// placed while it was hidden is to be placed again.

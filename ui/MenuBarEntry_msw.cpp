@@ -11,8 +11,10 @@ namespace vantrel {
 
 namespace {
 
-/// Of the command that the system sends; below those of the toolkit's own menus and controls.
-constexpr UINT_PTR commandId = 0x10;
+/// Of the commands that the system sends; below those of the toolkit's own menus and controls.
+UINT_PTR commandId(int place) {
+    return 0x10 + UINT_PTR(place);
+}
 
 HMENU barOf(const wxFrame& window) {
     return static_cast<HMENU>(window.GetMenuBar()->GetHMenu());
@@ -32,24 +34,26 @@ LRESULT CALLBACK handled(HWND window, UINT message, WPARAM first, LPARAM second,
 
 MenuBarEntry::MenuBarEntry(wxFrame& window, int place, std::function<void()> onChosen)
     : window_(window), place_(place), onChosen_(std::move(onChosen)), entry_(window.GetHWND()) {
-    ::InsertMenuW(barOf(window_), UINT(place_), MF_BYPOSITION | MF_STRING, commandId, L"-");
-    ::SetWindowSubclass(static_cast<HWND>(entry_), handled, commandId,
+    ::InsertMenuW(barOf(window_), UINT(place_), MF_BYPOSITION | MF_STRING, commandId(place_), L"-");
+    ::SetWindowSubclass(static_cast<HWND>(entry_), handled, commandId(place_),
                         reinterpret_cast<DWORD_PTR>(&onChosen_));
 }
 
 MenuBarEntry::~MenuBarEntry() {
-    ::RemoveWindowSubclass(static_cast<HWND>(entry_), handled, commandId);
+    ::RemoveWindowSubclass(static_cast<HWND>(entry_), handled, commandId(place_));
 }
 
 void MenuBarEntry::setCaption(const wxString& caption) {
-    const UINT state = ::GetMenuState(barOf(window_), commandId, MF_BYCOMMAND) & MF_GRAYED;
-    ::ModifyMenuW(barOf(window_), commandId, MF_BYCOMMAND | MF_STRING | state, commandId,
-                  caption.wc_str());
+    const UINT state =
+        ::GetMenuState(barOf(window_), UINT(commandId(place_)), MF_BYCOMMAND) & MF_GRAYED;
+    ::ModifyMenuW(barOf(window_), UINT(commandId(place_)), MF_BYCOMMAND | MF_STRING | state,
+                  commandId(place_), caption.wc_str());
     ::DrawMenuBar(static_cast<HWND>(entry_));
 }
 
 void MenuBarEntry::enable(bool enabled) {
-    ::EnableMenuItem(barOf(window_), commandId, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
+    ::EnableMenuItem(barOf(window_), UINT(commandId(place_)),
+                     MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     ::DrawMenuBar(static_cast<HWND>(entry_));
 }
 

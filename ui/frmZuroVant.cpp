@@ -25,7 +25,6 @@
 #include "ui/look/WindowFont.h"
 #include "ui/look/WxText.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -52,7 +51,7 @@ frmZuroVant::frmZuroVant(ApplicationState& state, const MessageTable& messages,
               wxDEFAULT_FRAME_STYLE, "frmZuroVant"),
       state_(state), messages_(messages), guard_(guard), controls_(*this, table),
       menus_(*this, table), drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard),
-      place_(*this, *controls_.surface), table_(table) {
+      place_(*this, *controls_.surface) {
     SetIcons(programIcons());
     // No help for menu entries in the panel that shows the PC's count.
     SetStatusBarPane(-1);
@@ -75,8 +74,7 @@ void frmZuroVant::connect(MainCommands& commands, const CommandRunner& runner) {
     for (CommandToolBar* bar : controls_.toolBars())
         bar->onPressed = run;
     // The window gets a key before the control that has the focus.
-    Bind(wxEVT_CHAR_HOOK,
-         [this, &commands, &runner](wxKeyEvent& event) { functionKey(event, commands, runner); });
+    Bind(wxEVT_CHAR_HOOK, [this, &runner](wxKeyEvent& event) { functionKey(event, runner); });
     controls_.lsvPC->onColumnClicked = [&commands](int column) { commands.clickColumn(column); };
     drag_.canDrop = [&commands](ActiveSide source) { return commands.canDrop(source); };
     drag_.onDropped = [&commands](ActiveSide source) { commands.drop(source); };
@@ -180,19 +178,17 @@ void frmZuroVant::keepFocusInActivePane() {
         pane(state_.Active).focus();
 }
 
-/// The keys that act wherever the focus is.
-void frmZuroVant::functionKey(wxKeyEvent& event, const MainCommands& commands,
-                              const CommandRunner& runner) {
+/// The keys that act wherever the focus is; the one for help whatever is held down with it.
+void frmZuroVant::functionKey(wxKeyEvent& event, const CommandRunner& runner) {
     const int number = event.GetKeyCode() - WXK_F1 + 1;
-    const auto command = std::ranges::find(table_, "F" + std::to_string(number), &CommandRow::key);
-    if (number < 1 || event.HasAnyModifiers() || command == table_.end())
+    const bool isPlain = event.GetKeyCode() == WXK_F1 || !event.HasAnyModifiers();
+    const auto* const command =
+        number > 0 && isPlain ? runner.commandOf("F" + std::to_string(number)) : nullptr;
+    if (!command)
         return event.Skip();
-    // One system tells of a key from inside a hook, where nothing may take long.
-    CallAfter([&chosen = *command, &commands, &runner] {
-        const CommandPlace place = chosen.offers.front().place;
-        if (commandState(chosen, place, commands.input()).enabled)
-            runner.run(chosen, place);
-    });
+    // One system tells of a key from inside a hook, where nothing may take long; an operation that
+    // has begun until then is not entered.
+    CallAfter([command, &runner] { runner.runIfOffered(*command); });
 }
 
 void frmZuroVant::lay() {

@@ -94,7 +94,7 @@ class frmZuroVant : public wxFrame,
     void close(wxCloseEvent& event);
     void bindPane(ActiveSide side, MainCommands& commands, const CommandRunner& runner);
     void exchangePanes(bool viewer);
-    void functionKey(wxKeyEvent& event, const MainCommands& commands, const CommandRunner& runner);
+    void functionKey(wxKeyEvent& event, const CommandRunner& runner);
     void keepFocusInActivePane();
     void lay();
 
@@ -105,7 +105,6 @@ class frmZuroVant : public wxFrame,
     MainMenus menus_;
     PaneDrag drag_;
     WindowPlace place_;
-    std::span<const CommandRow> table_;
     std::function<void()> updateStates_ = [] {};
     bool placed_ = false;
     double captionRoom_ = 1; ///< what the design's lengths are multiplied by

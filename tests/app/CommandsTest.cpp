@@ -376,6 +376,19 @@ TEST(CommandsTest, EachButtonHasItsTip) {
                                                                     {"CTRLButton", 215}}));
 }
 
+TEST(CommandsTest, EachRowIsWhole) {
+    for (const CommandRow& command : commandTable()) {
+        ASSERT_FALSE(command.offers.empty());
+        EXPECT_TRUE(command.run);
+        EXPECT_EQ(command.mark != CommandMark::None, command.isInForce != nullptr);
+        for (const CommandOffer& offer : command.offers) {
+            const bool isButton = isToolBar(offer.place);
+            EXPECT_FALSE((isButton ? command.icon : offer.name).empty()) << command.caption;
+            EXPECT_NE(isButton ? command.tip : command.caption, 0) << offer.name << command.icon;
+        }
+    }
+}
+
 TEST(CommandsTest, EachEntryHasOneName) {
     std::set<std::string> names;
     for (const CommandRow& command : commandTable())

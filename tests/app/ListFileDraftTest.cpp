@@ -4,6 +4,7 @@
 #include "base/PathRules.h"
 #include "link/SessionWorld.h"
 #include "support/NamedRow.h"
+#include "support/SystemReasons.h"
 
 namespace vantrel::tests {
 namespace {
@@ -193,7 +194,7 @@ TEST_F(ListFileDraftTest, AFileThatCannotBeReadIsNamedWithTheReason) {
     const auto failed = confirmed(mark::saveJobs, "nowhere");
     EXPECT_EQ(failed.mark(), "0");
     ASSERT_EQ(world.boxes.shown.size(), 1U);
-    EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("text 53[nowhere.lst] No such file"));
+    EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("text 53[nowhere.lst] " + noSuchFile()));
     EXPECT_EQ(world.boxes.shown[0].icon, BoxIcon::Exclamation);
 }
 
@@ -219,7 +220,7 @@ TEST_F(ListFileDraftTest, TheReasonIsThatOfTheSessionsOwnTry) {
     EXPECT_EQ(confirmed(mark::saveJobs, "late").mark(), "0");
     ASSERT_TRUE(world.pc.has("late.lst"));
     ASSERT_EQ(world.boxes.shown.size(), 1U);
-    EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("[late.lst] No such file"));
+    EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("[late.lst] " + noSuchFile()));
     world.panel.attach(nullptr);
 }
 

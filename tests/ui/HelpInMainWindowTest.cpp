@@ -47,6 +47,17 @@ TEST_F(HelpInMainWindowTest, TheMenuOpensTheManual) {
     EXPECT_TRUE(waitFor([this] { return opened() == openings(manual); })) << opened();
 }
 
+TEST_F(HelpInMainWindowTest, TheKeyIsTheKeyWhateverIsHeldDownWithIt) {
+    start(false);
+    wxKeyEvent key(wxEVT_CHAR_HOOK);
+    key.m_keyCode = WXK_F1;
+    key.SetShiftDown(true);
+    key.SetEventObject(&window());
+    window().HandleWindowEvent(key);
+    EXPECT_FALSE(key.GetSkipped());
+    EXPECT_TRUE(waitFor([this] { return opened() == openings(manual); })) << opened();
+}
+
 TEST_F(HelpInMainWindowTest, TheManualIsThatOfTheLanguage) {
     settings("TransMode=1\r\n", "Japanese");
     start(false);

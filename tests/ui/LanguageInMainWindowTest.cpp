@@ -106,6 +106,14 @@ TEST_F(LanguageInMainWindowTest, TheViewersHeadingFollows) {
     EXPECT_TRUE(controls().fraFile.panel->IsShown());
 }
 
+TEST_F(LanguageInMainWindowTest, IsChangedAlsoWithoutAProgressWindow) {
+    startIn("English");
+    wxWindow::FindWindowByName("frmMsgStat")->Destroy();
+    runEvents();
+    changeLanguage("Japanese");
+    EXPECT_EQ(window().GetMenuBar()->GetMenuLabelText(0), wxString::FromUTF8("ファイル"));
+}
+
 TEST_F(LanguageInMainWindowTest, WindowsThatOpenLaterSpeakIt) {
     startIn("English");
     changeLanguage("Japanese");
