@@ -99,7 +99,7 @@ TEST_F(KeyboardInMainWindowTest, AnOperationThatHasBegunSinceAKeyWasPressedIsNot
     key.SetEventObject(&window());
     window().HandleWindowEvent(key);
     window().setLocked(true);
-    runEvents();
+    wxTheApp->ProcessPendingEvents();
     EXPECT_EQ(pcList().GetItemCount(), items);
     window().setLocked(false);
 }
