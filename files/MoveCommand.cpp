@@ -93,15 +93,18 @@ bool MoveCommand::goesOverOwn(const std::string& name) const {
     return direction_ == Direction::Send && !isJobFileName(name) && hasArrived(name);
 }
 
-MoveCommand::Arrival MoveCommand::askAndTransfer(const std::string& name,
-                                                 std::vector<std::string> asked) {
+MoveCommand::Arrival MoveCommand::askAndTransfer(const std::string& name, Agreed agreed) {
+    // Leave to replace a job is none to delete it for a file that is another one by now.
+    if (agreed.storedAs != with_.session.storedAs())
+        std::erase(agreed.jobs, name);
+    agreed.storedAs = with_.session.storedAs();
     std::vector<std::string> unasked = with_.session.jobsInTheWay();
-    std::erase_if(unasked, [&asked](const std::string& job) { return holds(asked, job); });
+    std::erase_if(unasked, [&agreed](const std::string& job) { return holds(agreed.jobs, job); });
     const Arrival allowed = askFor(name, unasked);
     if (allowed != Arrival::Arrived)
         return allowed;
-    asked.insert(asked.end(), unasked.begin(), unasked.end());
-    return transferOver(name, asked);
+    agreed.jobs.insert(agreed.jobs.end(), unasked.begin(), unasked.end());
+    return transferOver(name, agreed);
 }
 
 MoveCommand::Arrival MoveCommand::askFor(const std::string& file,
@@ -140,18 +143,17 @@ bool MoveCommand::hasArrived(const std::string& name) const {
 /// "Exists already" is a failure now: asking for the same again would not end. Only what has come
 /// into the way of a send while the questions were open, by a file that was saved under another
 /// name line or a job that came to the controller, is asked for as well.
-MoveCommand::Arrival MoveCommand::transferOver(const std::string& name,
-                                               const std::vector<std::string>& asked) {
+MoveCommand::Arrival MoveCommand::transferOver(const std::string& name, const Agreed& agreed) {
     if (progress_.isCancelled())
         return Arrival::EndOfCommand;
     if (direction_ == Direction::Receive || overwriteAll_)
         return callSession(name, true) ? Arrival::Arrived : failed(name);
     touchBothSides();
-    const bool sent = with_.session.replaceJobs(name, asked);
+    const bool sent = with_.session.replaceJobs(name, agreed.jobs, agreed.storedAs);
     noteEffects(name, sent);
     if (sent)
         return Arrival::Arrived;
-    return somethingElseIsInTheWay() ? askAndTransfer(name, asked) : failed(name);
+    return somethingElseIsInTheWay() ? askAndTransfer(name, agreed) : failed(name);
 }
 
 bool MoveCommand::somethingElseIsInTheWay() const {

@@ -37,13 +37,18 @@ class MoveCommand {
     Arrival transfer(const std::string& name);
     /// Whether the file would go over a data file that this very command has sent.
     bool goesOverOwn(const std::string& name) const;
+    /// What the operator has agreed to for one file.
+    struct Agreed {
+        std::vector<std::string> jobs;
+        std::string storedAs; ///< the other name that he was told, if any
+    };
     /// Asks for whatever the session has found in the way, by its name, but for what the operator
-    /// was `asked` about before.
-    Arrival askAndTransfer(const std::string& name, std::vector<std::string> asked = {});
+    /// has agreed to before.
+    Arrival askAndTransfer(const std::string& name, Agreed agreed = {});
     /// `Arrived` when all of these may be overwritten.
     Arrival askFor(const std::string& file, const std::vector<std::string>& jobs);
-    /// With the operator's leave for what he was `asked` about, and for nothing else.
-    Arrival transferOver(const std::string& name, const std::vector<std::string>& asked);
+    /// With the operator's leave for what he has agreed to, and for nothing else.
+    Arrival transferOver(const std::string& name, const Agreed& agreed);
     bool callSession(const std::string& name, bool overwrite);
     bool existsAlready() const;
     bool somethingElseIsInTheWay() const;

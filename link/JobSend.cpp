@@ -119,9 +119,10 @@ TransferOutcome JobSend::agree(const std::string& file, JobFile& job, std::int32
         const bool isAsked = std::ranges::all_of(tools_.inTheWay, [&asked](const auto& name) {
             return std::ranges::find(asked, name) != asked.end();
         });
-        if (!isAsked)
+        const bool isAgreed = isAsked && storedAs_ == consent.storedAs;
+        if (!isAgreed)
             tools_.error.set(session_code::fileChanged, "", index);
-        return isAsked ? TransferOutcome::Done : TransferOutcome::Failed;
+        return isAgreed ? TransferOutcome::Done : TransferOutcome::Failed;
     }
     const TransferOutcome outcome = askAll(file);
     const bool goesWrong = goesOn(outcome) && !isAsAsked(file, job, index);

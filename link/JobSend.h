@@ -20,6 +20,9 @@ struct ReplaceConsent {
     bool toAll = false;
     /// These jobs only, by the names of the questions: anything else in the way ends the send.
     const std::vector<std::string>* toThese = nullptr;
+    /// With `toThese`: the other name under which the file is stored, as it was told; with another
+    /// one by now, the send ends as well.
+    std::string storedAs = {};
 };
 
 /// Sends one file of the PC folder into the controller.

@@ -304,8 +304,9 @@ bool Snappy::JobDownLoad(const std::string& file, bool overwriteAll) {
     return parts_->sendSingle(file, {.toAll = overwriteAll});
 }
 
-bool Snappy::replaceJobs(const std::string& file, const std::vector<std::string>& asked) {
-    return parts_->sendSingle(file, {.toThese = &asked});
+bool Snappy::replaceJobs(const std::string& file, const std::vector<std::string>& asked,
+                         const std::string& askedAs) {
+    return parts_->sendSingle(file, {.toThese = &asked, .storedAs = askedAs});
 }
 
 bool Snappy::JobDelete(const std::string& name) {

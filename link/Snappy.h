@@ -41,10 +41,12 @@ class Snappy : public SessionProperties {
     /// also there when it was given for an earlier file.
     bool JobDownLoad(const std::string& file, bool overwriteAll = false);
     /// `JobDownLoad` with the overwrite flag, for a caller who has asked the operator by itself:
-    /// replaces the jobs that were asked about, by the names of `jobsInTheWay`, and no others. When
-    /// something else is in the way by now, the controller stays as it is and the code is
+    /// replaces the jobs that were asked about, by the names of `jobsInTheWay`, and no others.
+    /// `askedAs` is what `storedAs` was then. When something else is in the way by now, or the file
+    /// would be stored under another name, the controller stays as it is and the code is
     /// `fileChanged`.
-    bool replaceJobs(const std::string& file, const std::vector<std::string>& asked);
+    bool replaceJobs(const std::string& file, const std::vector<std::string>& asked,
+                     const std::string& askedAs = {});
     bool JobDelete(const std::string& name);
     bool JobUpLoad(const std::string& name, bool overwriteAll = false);
     bool JobListDownLoad();

@@ -43,17 +43,38 @@ TEST_F(MoveChangedFileTest, WithoutAnyChangeOneFurtherTransferFollowsTheAnswer) 
 }
 
 TEST_F(MoveChangedFileTest, AnotherJobThatItReplacesNowIsAskedForToo) {
-    question.answers = {Answer::Yes, Answer::No};
+    question.answers = {Answer::Yes, Answer::Yes, Answer::No};
     EXPECT_TRUE(moveWhile([this] { pc.write("A.JBI", job("B", "other")); }));
     EXPECT_THAT(question.questions, ElementsAre("A.JBI already exists. Overwrite it?",
+                                                "A.JBI already exists. Overwrite it?\n"
+                                                "[A.JBI] > [B.JBI] other name",
                                                 "B.JBI already exists. Overwrite it?"));
     EXPECT_EQ(robot().bytes("A.JBI"), job("A", "old"));
     EXPECT_EQ(robot().bytes("B.JBI"), job("B", "precious"));
     EXPECT_TRUE(pc.has("A.JBI"));
 }
 
-TEST_F(MoveChangedFileTest, WithBothAnswersItGoesOn) {
-    question.answers = {Answer::Yes, Answer::Yes};
+TEST_F(MoveChangedFileTest, AJobThatIsOnlyDeletedForItNowIsAskedForAgain) {
+    question.answers = {Answer::Yes, Answer::No};
+    EXPECT_TRUE(moveWhile([this] { pc.write("A.JBI", job("NEW", "other")); }));
+    EXPECT_THAT(question.questions, ElementsAre("A.JBI already exists. Overwrite it?",
+                                                "A.JBI already exists. Overwrite it?\n"
+                                                "[A.JBI] > [NEW.JBI] other name"));
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "old"));
+    EXPECT_FALSE(robot().has("NEW.JBI"));
+    EXPECT_EQ(pc.read("A.JBI"), job("NEW", "other"));
+}
+
+TEST_F(MoveChangedFileTest, AJobThatIsReplacedNowAndNotOnlyDeletedIsAskedForAgainToo) {
+    pc.write("A.JBI", job("NEW", "other"));
+    question.answers = {Answer::Yes, Answer::No};
+    EXPECT_TRUE(moveWhile([this] { pcJob("A", "newer"); }));
+    EXPECT_EQ(question.questions.size(), 2u);
+    EXPECT_EQ(robot().bytes("A.JBI"), job("A", "old"));
+}
+
+TEST_F(MoveChangedFileTest, WithAllAnswersItGoesOn) {
+    question.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
     EXPECT_TRUE(moveWhile([this] { pc.write("A.JBI", job("B", "other")); }));
     EXPECT_THAT(robot().names(), ElementsAre("B.JBI"));
     EXPECT_EQ(robot().bytes("B.JBI"), job("B", "other"));
