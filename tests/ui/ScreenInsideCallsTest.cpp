@@ -69,10 +69,14 @@ class ScreenInsideCalls : public testing::TestWithParam<const char*>, public Pro
     /// All of the progress window stands on the screen as it will stand there in good time.
     static void expectProgress() {
         ASSERT_TRUE(progress() && progress()->IsShown());
-        const ScreenPicture now(*progress());
+        auto* const window = dynamic_cast<wxTopLevelWindow*>(progress());
+        const bool wasActive = window->IsActive();
+        const ScreenPicture now(*window);
         paintInGoodTime();
-        EXPECT_TRUE(now == ScreenPicture(*progress()));
-        EXPECT_GT(ScreenPicture(control<wxWindow>(*progress(), "lblMsg")).colours(), 2u);
+        // A window manager that activates it later changes its colours.
+        EXPECT_TRUE(now == ScreenPicture(*window) || window->IsActive() != wasActive);
+        for (const char* part : {"lblMsg", "cmdCancel"})
+            EXPECT_GT(ScreenPicture(control<wxWindow>(*progress(), part)).colours(), 2u) << part;
     }
     /// The windows that are to be seen, and none beside them.
     static void expectWindows(int count) { EXPECT_EQ(windowsOnScreen(), count); }
