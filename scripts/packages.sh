@@ -1,10 +1,10 @@
 source "$(dirname "${BASH_SOURCE[0]}")/steps.sh"
 
 # Which Debian packages the build, the tests and the virtual display need, and how to get them.
-# Sourced by ./run and ./test.
+# Sourced by ./run, ./test, ./test-windows and scripts/.
 
-# For scripts/linux-packages.sh.
-linux_packages=(dpkg-dev librsvg2-bin)
+# For scripts/pack.sh.
+linux_packages=(dpkg-dev fakeroot file librsvg2-bin)
 build_packages=(g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev pkg-config librsvg2-common fonts-vlgothic
     ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils adwaita-icon-theme)
@@ -13,7 +13,7 @@ fuzz_packages=(clang cmake ninja-build ccache)
 # For the Windows build and its tests under Wine; the source package of the toolkit is fetched by
 # scripts/windows-toolkit.sh.
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build ccache make dpkg-dev
-    libgtest-dev libgmock-dev python3 librsvg2-bin icoutils nsis zip wine wine64 locales fonts-vlgothic
+    libgtest-dev libgmock-dev python3 librsvg2-bin icoutils fakeroot nsis wine wine64 locales fonts-vlgothic
     ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic poppler-utils)
 
 is_debian_like() {

@@ -11,7 +11,12 @@ rm -rf "$2"
 mkdir -p "$2"
 work=$(cd "$2" && pwd)
 screenshots=$work
-"$here/../../scripts/linux-packages.sh" "$1" "$work"
+(umask 077 && "$here/../../scripts/pack.sh" "$1" "$work")
+
+say "Everybody may read what is packed, and root owns it, whoever packs it."
+odd=$({ tar --list --verbose --file "$work"/Vantrel-linux-*.tar.gz && dpkg-deb --contents "$work"/vantrel_*.deb; } |
+    awk '$2 != "root/root" || $1 !~ /^.r..r..r../')
+[ -z "$odd" ] || give_up "$odd"
 
 say "The archive has the program, the trial and the manuals."
 tar --extract --file "$work"/Vantrel-linux-*.tar.gz --directory "$work"

@@ -21,7 +21,7 @@ there() { for file in "$@"; do [ -e "$folder/$file" ] || { found; give_up "missi
 gone() { for file in "$@"; do [ ! -e "$folder/$file" ] || give_up "still there: $file"; done; }
 holds() { [ "$(cat "$folder/$1")" = "$2" ] || give_up "$1 does not hold \"$2\""; }
 
-"$source_folder/scripts/windows-packages.sh" "$1" Vantrel-win64 "$work/packages"
+"$source_folder/scripts/pack.sh" "$1" "$work/packages"
 program=
 trap '[ -z "$program" ] || kill "$program" 2>/dev/null || true
     WINEPREFIX=$windows wineserver --kill --wait || true
