@@ -1,6 +1,6 @@
 #pragma once
 
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 
 #include <string>
 

@@ -107,8 +107,8 @@ void sortBy(Targets to) {
     to.main.mnuSort(type);
 }
 
-constexpr auto button = CommandMark::Button;
-constexpr auto everywhere = CommandMark::Everywhere;
+constexpr auto button = CommandIndicator::Button;
+constexpr auto everywhere = CommandIndicator::Everywhere;
 
 // Keys of the lists are no accelerators: they work in the lists only.
 const std::vector<CommandRow>& table() {
@@ -155,7 +155,7 @@ const std::vector<CommandRow>& table() {
          .icon = "FileDisp",
          .offers = {{mnuFileMain, 1, "mnuFile(5)"}, {tlbMain, 3}},
          .isAvailable = isOnPC,
-         .mark = button,
+         .indicator = button,
          .isInForce = isViewerShown,
          .run = [](Targets to) { to.main.displayFile(); }},
         {.tip = message::tipUpFolder,
@@ -179,7 +179,7 @@ const std::vector<CommandRow>& table() {
          .offers = {{mnuDispMain, 0, "mnuDisp(0)"},
                     {mnuFileDispMain, 0, "mnuFileDisp(0)"},
                     {tlbMain, 2}},
-         .mark = everywhere,
+         .indicator = everywhere,
          .isInForce = isView<0>,
          .run = showView<0>},
         {.caption = message::menuSmallIcons,
@@ -188,7 +188,7 @@ const std::vector<CommandRow>& table() {
          .offers = {{mnuDispMain, 0, "mnuDisp(1)"},
                     {mnuFileDispMain, 0, "mnuFileDisp(1)"},
                     {tlbMain, 2}},
-         .mark = everywhere,
+         .indicator = everywhere,
          .isInForce = isView<1>,
          .run = showView<1>},
         {.caption = message::menuList,
@@ -197,7 +197,7 @@ const std::vector<CommandRow>& table() {
          .offers = {{mnuDispMain, 0, "mnuDisp(2)"},
                     {mnuFileDispMain, 0, "mnuFileDisp(2)"},
                     {tlbMain, 2}},
-         .mark = everywhere,
+         .indicator = everywhere,
          .isInForce = isView<2>,
          .run = showView<2>},
         {.caption = message::menuDetails,
@@ -207,7 +207,7 @@ const std::vector<CommandRow>& table() {
                     {mnuFileDispMain, 0, "mnuFileDisp(3)"},
                     {tlbMain, 2}},
          .isAvailable = isOnPC,
-         .mark = everywhere,
+         .indicator = everywhere,
          .isInForce = isDetails,
          .run = showView<3>},
         {.caption = message::menuModeHispeed,
@@ -215,31 +215,31 @@ const std::vector<CommandRow>& table() {
          .icon = "modeHiSpeed",
          .offers = {{mnuTransMode, 0, "mnuModeHiSpeed"}, {tlbMain, 1}},
          .isAvailable = hasHispeed,
-         .mark = everywhere,
+         .indicator = everywhere,
          .isInForce = isHispeed,
          .run = [](Targets to) { to.main.mnuModeHiSpeed(); }},
         {.caption = message::menuModeBsc,
          .tip = message::modeBsc,
          .icon = "modeBsc",
          .offers = {{mnuTransMode, 0, "mnuModeBsc"}, {tlbMain, 1}},
-         .mark = everywhere,
+         .indicator = everywhere,
          .isInForce = isBsc,
          .run = [](Targets to) { to.main.mnuModeBsc(); }},
         {.caption = message::menuByName,
          .offers = {{mnuSortMain, 0, "mnuSort(0)"}, {mnuSortIconMain, 0, "mnuSortIcon(0)"}},
-         .mark = everywhere,
+         .indicator = everywhere,
          .isInForce = isSortedBy<0>,
          .run = sortBy<0>},
         {.caption = message::menuBySize,
          .offers = {{mnuSortMain, 0, "mnuSort(1)"}, {mnuSortIconMain, 0, "mnuSortIcon(1)"}},
          .isAvailable = isOnPC,
-         .mark = everywhere,
+         .indicator = everywhere,
          .isInForce = isSortedBy<1>,
          .run = sortBy<1>},
         {.caption = message::menuByDate,
          .offers = {{mnuSortMain, 0, "mnuSort(2)"}, {mnuSortIconMain, 0, "mnuSortIcon(2)"}},
          .isAvailable = isOnPC,
-         .mark = everywhere,
+         .indicator = everywhere,
          .isInForce = isSortedBy<2>,
          .run = sortBy<2>},
         {.caption = message::menuRefresh,
@@ -276,14 +276,14 @@ const std::vector<CommandRow>& table() {
         {.tip = message::tipPCPane,
          .icon = "PCButton",
          .offers = {{tlbPCButton}},
-         .mark = button,
+         .indicator = button,
          .isInForce = isActive<ActiveSide::PC>,
          .run = [](Targets to) { to.main.workIn(ActiveSide::PC); }},
         {.tip = message::tipControllerPane,
          .icon = "CTRLButton",
          .offers = {{tlbCtrlButton}},
          .isAvailable = isControllerPaneShown,
-         .mark = button,
+         .indicator = button,
          .isInForce = isActive<ActiveSide::Controller>,
          .run = [](Targets to) { to.main.workIn(ActiveSide::Controller); }},
     };
@@ -342,10 +342,10 @@ CommandState commandState(const CommandRow& command, CommandPlace place,
         seen.active = ActiveSide::Controller;
     const bool isShown = place != tlbFile || isControllerPaneShown(input, place);
     const bool canRun = !command.isAvailable || command.isAvailable(seen, place);
-    const bool isMarked =
-        command.mark == everywhere || (command.mark == button && isToolBar(place));
+    const bool isIndicated =
+        command.indicator == everywhere || (command.indicator == button && isToolBar(place));
     return {.enabled = !input.locked && isShown && canRun,
-            .checked = isMarked && command.isInForce(seen, place)};
+            .checked = isIndicated && command.isInForce(seen, place)};
 }
 
 } // namespace vantrel

@@ -69,7 +69,7 @@ struct ListKey {
 };
 
 /// What shows whether a command that is a choice is the one in force.
-enum class CommandMark { None, Button, Everywhere };
+enum class CommandIndicator { None, Button, Everywhere };
 
 /// A command of the main window. Everything about it stands in its row of the table.
 struct CommandRow {
@@ -83,7 +83,7 @@ struct CommandRow {
     std::vector<CommandOffer> offers; ///< by a key it is offered where its first one is
     /// Whether it can do its work; without a rule it always can.
     bool (*isAvailable)(const CommandInput&, CommandPlace) = nullptr;
-    CommandMark mark = CommandMark::None;
+    CommandIndicator indicator = CommandIndicator::None;
     bool (*isInForce)(const CommandInput&, CommandPlace) = nullptr;
     void (*run)(const CommandTargets&) = nullptr;
 };

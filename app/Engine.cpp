@@ -13,7 +13,7 @@ Engine::Engine(EngineGround ground)
       state(ground.state), messages(ground.messages), boxes(ground.boxes), languages(programFolder),
       language(state, messages, languages, boxes, localeLanguageName()),
       settings(programFolder, settingsFileName(executable)),
-      registry(state, messages, boxes, programFolder), dialog(progress, ground.questions, boxes),
+      registry(state, messages, boxes, programFolder), talk(progress, ground.questions, boxes),
       library_(programFolder,
                [this](const LibraryProblem& problem) { tellLibraryProblem(problem); }),
       gate_(ground.library ? *ground.library : library_, std::move(ground.beforeLibraryCall)),
@@ -22,7 +22,7 @@ Engine::Engine(EngineGround ground)
                .messages = messages,
                .languages = languages,
                .progress = progress,
-               .dialog = dialog,
+               .talk = talk,
                .programFolder = programFolder,
                .dummyWindow = std::move(ground.dummyWindow),
                .unloadWindows = std::move(ground.unloadWindows),
@@ -36,7 +36,7 @@ void Engine::tellLibraryProblem(const LibraryProblem& problem) {
         text += "\n" + messages.getMessage(message::libraryFunctionsMissing);
     for (const auto& name : problem.missing)
         text += "\n" + name;
-    dialog.tell(text, BoxIcon::Exclamation);
+    talk.tell(text, BoxIcon::Exclamation);
     session.noteOperatorTold();
 }
 

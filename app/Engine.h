@@ -7,7 +7,7 @@
 #include "lang/LanguageChoice.h"
 #include "lang/LanguageFiles.h"
 #include "lang/MessageTable.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ProgressPanel.h"
 #include "link/Snappy.h"
 #include "link/ZurolinkBinding.h"
@@ -60,7 +60,7 @@ class Engine {
     RobotRegistry registry;
     TransferTable table;
     ProgressPanel progress;
-    OperatorDialog dialog;
+    OperatorTalk talk;
 
   private:
     void tellLibraryProblem(const LibraryProblem& problem);

@@ -6,7 +6,7 @@
 #include "files/PaneWindow.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ShownText.h"
 
 #include <utility>
@@ -42,9 +42,9 @@ void FolderTreeCommands::choose(FolderTree::Id id) {
         return;
     const FolderTreeNode node = tree().node(id);
     if (!with_.folder.enter(node.path, FolderTree::nodeOnly(node))) {
-        with_.dialog.tell(with_.messages.getMessage(message::folderNotOpened) + "\n[" +
-                              shownText(node.path) + "]",
-                          BoxIcon::Exclamation);
+        with_.talk.tell(with_.messages.getMessage(message::folderNotOpened) + "\n[" +
+                            shownText(node.path) + "]",
+                        BoxIcon::Exclamation);
         return;
     }
     commands_.updateStates();

@@ -44,7 +44,7 @@ struct LanguageServices {
 /// application state follow each choice at once and are put back when it is abandoned.
 class LanguageDraft {
   public:
-    /// Clears the mark of an earlier abandonment, picks the language to start with and sets the
+    /// Forgets an earlier abandonment, picks the language to start with and sets the
     /// default fonts.
     explicit LanguageDraft(LanguageServices services);
 

@@ -33,15 +33,15 @@ ListFileDraft::ListFileDraft(ApplicationState& state, Snappy& session, MessageBo
 }
 
 bool ListFileDraft::isForVariables() const {
-    return mode_ == list_file_mark::saveVariables || mode_ == list_file_mark::loadVariables;
+    return mode_ == list_file_mode::saveVariables || mode_ == list_file_mode::loadVariables;
 }
 
 std::string ListFileDraft::title() const {
     if (isForVariables())
-        return messages_.getMessage(mode_ == list_file_mark::saveVariables
+        return messages_.getMessage(mode_ == list_file_mode::saveVariables
                                         ? message::saveVariablesTitle
                                         : message::loadVariablesTitle);
-    if (mode_ == list_file_mark::saveJobs)
+    if (mode_ == list_file_mode::saveJobs)
         return formCaption(messages_, message::saveJobsTitle, "ジョブの一括セーブ");
     return messages_.getMessage(message::loadJobsTitle);
 }
@@ -88,7 +88,7 @@ void ListFileDraft::confirm() {
     const auto file = completedName();
     session_.path = state_.PCPath;
     const bool read = readList(file);
-    mark_ = read ? list_file_mark::listRead : list_file_mark::listNotRead;
+    result_ = read ? list_file_result::listRead : list_file_result::listNotRead;
     if (read)
         (isForVariables() ? state_.VarListFile : state_.JobListFile) = file;
     else
@@ -101,7 +101,7 @@ bool ListFileDraft::readList(const std::string& file) {
         return session_.ReadVarListFile();
     }
     // Jobs that are about to be fetched need not be on the PC yet.
-    return session_.SetJobListFile(file, mode_ == list_file_mark::saveJobs);
+    return session_.SetJobListFile(file, mode_ == list_file_mode::saveJobs);
 }
 
 /// The operator who left a list need not be told.
@@ -116,7 +116,7 @@ void ListFileDraft::tellWhyNotRead(const std::string& file) const {
 }
 
 void ListFileDraft::abandon() {
-    mark_ = list_file_mark::listNotRead;
+    result_ = list_file_result::listNotRead;
 }
 
 } // namespace vantrel

@@ -13,16 +13,16 @@ class MessageTable;
 class Snappy;
 
 /// How the list-file dialog ended.
-namespace list_file_mark {
+namespace list_file_result {
 inline constexpr std::string_view listRead = "1";
 inline constexpr std::string_view listNotRead = "0";
-} // namespace list_file_mark
+} // namespace list_file_result
 
 /// What the list-file dialog knows and decides, without its window: which list file of the PC
 /// pane's folder the session reads.
 class ListFileDraft {
   public:
-    /// `mode` is one of the marks "0" to "3".
+    /// `mode` is one of the modes "0" to "3".
     ListFileDraft(ApplicationState& state, Snappy& session, MessageBoxes& boxes,
                   const MessageTable& messages, std::string_view mode);
 
@@ -49,7 +49,7 @@ class ListFileDraft {
     void abandon();
 
     /// "1" when the list was read, "0" otherwise.
-    const std::string& mark() const { return mark_; }
+    const std::string& result() const { return result_; }
 
   private:
     bool isForVariables() const;
@@ -62,7 +62,7 @@ class ListFileDraft {
     const MessageTable& messages_;
     std::string mode_;
     std::string name_;
-    std::string mark_{list_file_mark::listNotRead};
+    std::string result_{list_file_result::listNotRead};
 };
 
 } // namespace vantrel

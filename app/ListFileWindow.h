@@ -5,12 +5,12 @@
 namespace vantrel {
 
 /// Modes of the list-file dialog: what its list is for.
-namespace list_file_mark {
+namespace list_file_mode {
 inline constexpr std::string_view saveJobs = "0";      ///< from the controller to the PC
 inline constexpr std::string_view loadJobs = "1";      ///< from the PC to the controller
 inline constexpr std::string_view saveVariables = "2"; ///< from the controller to the PC
 inline constexpr std::string_view loadVariables = "3"; ///< from the PC to the controller
-} // namespace list_file_mark
+} // namespace list_file_mode
 
 /// The list-file dialog, as the commands that need a list see it.
 class ListFileWindow {

@@ -11,7 +11,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "lang/SystemReasons.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
 
@@ -36,20 +36,20 @@ std::string inParentheses(std::int32_t number) {
 } // namespace
 
 void ListTransferCommands::saveJobs() {
-    run(list_file_mark::saveJobs, message::saveJobsTitle, &ListTransferCommands::receiveJobs);
+    run(list_file_mode::saveJobs, message::saveJobsTitle, &ListTransferCommands::receiveJobs);
 }
 
 void ListTransferCommands::loadJobs() {
-    run(list_file_mark::loadJobs, message::loadJobsTitle, &ListTransferCommands::sendJobs);
+    run(list_file_mode::loadJobs, message::loadJobsTitle, &ListTransferCommands::sendJobs);
 }
 
 void ListTransferCommands::saveVariables() {
-    run(list_file_mark::saveVariables, message::saveVariablesTitle,
+    run(list_file_mode::saveVariables, message::saveVariablesTitle,
         &ListTransferCommands::receiveVariables);
 }
 
 void ListTransferCommands::loadVariables() {
-    run(list_file_mark::loadVariables, message::loadVariablesTitle,
+    run(list_file_mode::loadVariables, message::loadVariablesTitle,
         &ListTransferCommands::sendVariables);
 }
 
@@ -66,12 +66,12 @@ void ListTransferCommands::run(std::string_view mode, std::int32_t title, Transf
 }
 
 bool ListTransferCommands::holdsSomething(std::string_view mode) const {
-    const bool isForJobs = mode == list_file_mark::saveJobs || mode == list_file_mark::loadJobs;
+    const bool isForJobs = mode == list_file_mode::saveJobs || mode == list_file_mode::loadJobs;
     if (isForJobs ? with_.session.JobListCount() > 0 : holdsVariables(with_.session))
         return true;
     const auto& file = isForJobs ? with_.state.JobListFile : with_.state.VarListFile;
-    with_.dialog.tell(with_.messages.getMessage(message::listFileEmpty) + bracketed(file),
-                      BoxIcon::Exclamation);
+    with_.talk.tell(with_.messages.getMessage(message::listFileEmpty) + bracketed(file),
+                    BoxIcon::Exclamation);
     return false;
 }
 
@@ -115,7 +115,7 @@ void ListTransferCommands::keepPermitted(Direction direction) {
     items.reserve(std::size_t(with_.session.JobListCount()));
     for (std::int32_t index = 0; index < with_.session.JobListCount(); ++index)
         items.push_back({with_.session.JobList(index), false});
-    const auto names = PermissionTests(with_, direction).permitted(items);
+    const auto names = TransferPermission(with_, direction).permitted(items);
     with_.session.JobListClear();
     for (const auto& name : names)
         with_.session.AddJobList(name);
@@ -150,10 +150,10 @@ void ListTransferCommands::reportFailure(const std::string& details) const {
         return TransferReports(with_).unreplacedJobs();
     const std::string place =
         with_.messages.getMessage(message::listIndex) + inParentheses(session.failedIndex());
-    with_.dialog.tell(with_.messages.getMessage(message::transferFailed) + session.ErrorFunction() +
-                          inParentheses(session.ErrorCode()) + session.errorText() + place +
-                          details + TransferReports(with_).furtherLines(),
-                      BoxIcon::Exclamation);
+    with_.talk.tell(with_.messages.getMessage(message::transferFailed) + session.ErrorFunction() +
+                        inParentheses(session.ErrorCode()) + session.errorText() + place + details +
+                        TransferReports(with_).furtherLines(),
+                    BoxIcon::Exclamation);
 }
 
 } // namespace vantrel

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/PermissionTests.h"
+#include "files/TransferPermission.h"
 #include "files/TransferServices.h"
 
 #include <cstdint>

@@ -12,7 +12,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "lang/SystemReasons.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
 
@@ -156,7 +156,7 @@ void MainCommands::refreshActivePane() {
 
 void MainCommands::openPCFolder(const std::string& folder, FolderTree tree) {
     if (!with_.folder.enter(folder, std::move(tree)))
-        with_.dialog.tell(folderNotRead, BoxIcon::Exclamation);
+        with_.talk.tell(folderNotRead, BoxIcon::Exclamation);
 }
 
 void MainCommands::openItem(ActiveSide side, std::size_t row) {
@@ -175,9 +175,9 @@ void MainCommands::openItem(ActiveSide side, std::size_t row) {
 void MainCommands::edit(const std::string& path) {
     const auto started = with_.editTextFile(path);
     if (!started)
-        with_.dialog.tell(bracketed(path) + with_.messages.getMessage(message::editorNotStarted) +
-                              "\n" + reasonInLanguage(with_.messages, started.reason()),
-                          BoxIcon::Exclamation);
+        with_.talk.tell(bracketed(path) + with_.messages.getMessage(message::editorNotStarted) +
+                            "\n" + reasonInLanguage(with_.messages, started.reason()),
+                        BoxIcon::Exclamation);
 }
 
 void MainCommands::upFolder() {

@@ -11,7 +11,7 @@ struct ApplicationState;
 class FilePrinter;
 class MainWindowView;
 class MessageTable;
-class OperatorDialog;
+class OperatorTalk;
 class PCFolder;
 class PaneWindow;
 class Panes;
@@ -26,7 +26,7 @@ struct MainServices {
     Panes& panes;
     TransferCommands& transfers;
     const MessageTable& messages;
-    OperatorDialog& dialog;
+    OperatorTalk& talk;
     PaneWindow& window;
     MainWindowView& view;
     PCFolder& folder;

@@ -9,7 +9,7 @@
 #include "files/Panes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ShownText.h"
 
 namespace vantrel {
@@ -44,8 +44,8 @@ void openStoredFolder(const MainServices& with) {
         with.panes.showCount(ActiveSide::PC);
     }
     if (!isOpen || folder != stored)
-        with.dialog.tell(bracketed(stored) + with.messages.getMessage(message::folderGone),
-                         BoxIcon::Exclamation);
+        with.talk.tell(bracketed(stored) + with.messages.getMessage(message::folderGone),
+                       BoxIcon::Exclamation);
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 #include "base/ApplicationState.h"
 #include "files/PaneErrors.h"
 #include "files/Panes.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 
 #include <utility>
 
@@ -18,7 +18,7 @@ bool PCFolder::enter(const std::string& folder, FolderTree tree) {
     treeView_.dropDown(false);
     showTree(std::move(tree));
     if (!panes_.fill(ActiveSide::PC))
-        dialog_.tell(listNotShown, BoxIcon::Exclamation);
+        talk_.tell(listNotShown, BoxIcon::Exclamation);
     return true;
 }
 

@@ -8,7 +8,7 @@ namespace vantrel {
 
 class FolderTreeView;
 class MainWindowView;
-class OperatorDialog;
+class OperatorTalk;
 class Panes;
 struct ApplicationState;
 
@@ -16,9 +16,9 @@ struct ApplicationState;
 /// path display and folder tree always show the same one.
 class PCFolder {
   public:
-    PCFolder(ApplicationState& state, Panes& panes, OperatorDialog& dialog, MainWindowView& window,
+    PCFolder(ApplicationState& state, Panes& panes, OperatorTalk& talk, MainWindowView& window,
              FolderTreeView& treeView)
-        : state_(state), panes_(panes), dialog_(dialog), window_(window), treeView_(treeView) {}
+        : state_(state), panes_(panes), talk_(talk), window_(window), treeView_(treeView) {}
 
     /// Lists the folder and shows it everywhere, with `tree` in place of the old folder tree, which
     /// is hidden. False, untold and with everything as it was, when the folder cannot be opened.
@@ -32,7 +32,7 @@ class PCFolder {
   private:
     ApplicationState& state_;
     Panes& panes_;
-    OperatorDialog& dialog_;
+    OperatorTalk& talk_;
     MainWindowView& window_;
     FolderTreeView& treeView_;
     FolderTree tree_;

@@ -11,7 +11,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "lang/SystemReasons.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ShownText.h"
 
 #include <utility>
@@ -49,10 +49,10 @@ void ViewerCommands::hide() {
 
 void ViewerCommands::print() {
     if (!with_.state.ViewerShown)
-        return with_.dialog.tell(with_.messages.getMessage(message::nothingToPrint),
-                                 BoxIcon::Exclamation);
+        return with_.talk.tell(with_.messages.getMessage(message::nothingToPrint),
+                               BoxIcon::Exclamation);
     const auto question = with_.messages.getMessage(message::askPrint) + bracketed(name_);
-    if (!with_.dialog.askYesNo(question, BoxIcon::Question))
+    if (!with_.talk.askYesNo(question, BoxIcon::Question))
         return;
     Outcome printed = Done{};
     {
@@ -75,9 +75,9 @@ std::optional<std::string> ViewerCommands::selectedJobFile() const {
 
 void ViewerCommands::tell(std::int32_t messageNumber, const std::string& name,
                           const std::string& reason) const {
-    with_.dialog.tell(with_.messages.getMessage(messageNumber) + bracketed(name) + "\n" +
-                          reasonInLanguage(with_.messages, reason),
-                      BoxIcon::Exclamation);
+    with_.talk.tell(with_.messages.getMessage(messageNumber) + bracketed(name) + "\n" +
+                        reasonInLanguage(with_.messages, reason),
+                    BoxIcon::Exclamation);
 }
 
 } // namespace vantrel

@@ -19,7 +19,7 @@ class WindowLock {
     PaneWindow& window_;
 };
 
-/// Shows a command's progress, with the Cancel button and a cleared cancel mark. However the
+/// Shows a command's progress, with the Cancel button and a cleared cancel text. However the
 /// command ends, the progress is hidden and the session's `DisplayMonitor` on again.
 class CommandProgress {
   public:

@@ -51,7 +51,7 @@ bool CopyCommand::transfer(const std::vector<SelectedItem>& items, Direction dir
     const CommandProgress progress(with_, title,
                                    with_.messages.resourceMessage(message::resource::transferring));
 
-    const auto names = PermissionTests(with_, direction).permitted(items);
+    const auto names = TransferPermission(with_, direction).permitted(items);
     if (progress.isCancelled())
         return false;
     // The session is left alone when there is nothing to do: each of its operations opens a link.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "files/CommandOutcome.h"
-#include "files/PermissionTests.h"
+#include "files/TransferPermission.h"
 #include "files/TransferServices.h"
 
 #include <vector>

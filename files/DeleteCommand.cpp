@@ -6,7 +6,7 @@
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
 #include "platform/Files.h"
@@ -50,7 +50,7 @@ bool DeleteCommand::isWanted(const std::string& name, std::int32_t question) {
     if (deleteAll_)
         return true;
     const std::string text = bracketed(name) + with_.messages.getMessage(question);
-    const Answer answer = with_.dialog.ask(title_, text);
+    const Answer answer = with_.talk.ask(title_, text);
     deleteAll_ = answer == Answer::All;
     cancelled_ = answer == Answer::Cancel;
     return answer == Answer::Yes || answer == Answer::All;

@@ -9,7 +9,7 @@
 #include "lang/MessageTable.h"
 #include "link/JobFile.h"
 #include "link/LocalJobList.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/OverwriteQuestion.h"
 #include "link/Snappy.h"
 
@@ -53,8 +53,8 @@ CommandOutcome MoveCommand::run(const std::vector<SelectedItem>& items) {
 /// receive deletes on the controller, so it needs names that stand for one job there.
 std::vector<std::string> MoveCommand::movable(const std::vector<SelectedItem>& items) const {
     const LocalJobList& local = with_.session.readLocalJobs();
-    const PermissionTests tests(with_, direction_);
-    auto names = tests.permitted(
+    const TransferPermission permission(with_, direction_);
+    auto names = permission.permitted(
         direction_ == Direction::Receive ? withoutAmbiguousNames(with_, items) : items);
     std::erase_if(names, [&](const std::string& name) {
         if (!local.contains(name))
@@ -203,7 +203,7 @@ bool MoveCommand::existsAlready() const {
 }
 
 Answer MoveCommand::askOverwrite(const std::string& name, const std::string& storedAs) const {
-    return with_.dialog.ask(title_, overwriteQuestion(with_.messages, name, storedAs));
+    return with_.talk.ask(title_, overwriteQuestion(with_.messages, name, storedAs));
 }
 
 /// An unset address concerns every file: the session has told the operator, and the command ends

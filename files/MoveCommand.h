@@ -2,7 +2,7 @@
 
 #include "files/CommandOutcome.h"
 #include "files/CommandScopes.h"
-#include "files/PermissionTests.h"
+#include "files/TransferPermission.h"
 #include "files/TransferServices.h"
 #include "link/JobNameSet.h"
 

@@ -4,7 +4,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "lang/SystemReasons.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
 
@@ -101,7 +101,7 @@ void TransferReports::originalNotDeleted(const std::string& name) const {
 }
 
 void TransferReports::tell(const std::string& text) const {
-    with_.dialog.tell(text, BoxIcon::Exclamation);
+    with_.talk.tell(text, BoxIcon::Exclamation);
 }
 
 void TransferReports::tellTransferFailure(const std::string& end, const std::string& name) const {

@@ -4,7 +4,7 @@ namespace vantrel {
 
 struct ApplicationState;
 class MessageTable;
-class OperatorDialog;
+class OperatorTalk;
 class PaneWindow;
 class Panes;
 class ProgressPanel;
@@ -20,7 +20,7 @@ struct TransferServices {
     const TransferTable& table;
     const MessageTable& messages;
     ProgressPanel& progress;
-    OperatorDialog& dialog;
+    OperatorTalk& talk;
 };
 
 } // namespace vantrel

@@ -5,7 +5,7 @@
 #include "lang/MessageTable.h"
 #include "link/FetchFiles.h"
 #include "link/FetchMark.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ShownText.h"
 #include "platform/Files.h"
 
@@ -62,7 +62,7 @@ bool InterruptedFetches::settle(const std::string& folder, const std::vector<std
     }
     if (settled.empty())
         return false;
-    dialog_.tell(told, BoxIcon::Exclamation);
+    talk_.tell(told, BoxIcon::Exclamation);
     for (auto& [path, held] : settled)
         if (!files_.isHeldAlone(held) || !files_.remove(held))
             told_.insert(path);

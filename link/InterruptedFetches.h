@@ -11,7 +11,7 @@ namespace vantrel {
 class FetchFiles;
 class HeldFile;
 class MessageTable;
-class OperatorDialog;
+class OperatorTalk;
 struct FetchMark;
 
 /// Files whose transfer to the PC ended with the program, by a power cut or because it was killed.
@@ -23,8 +23,8 @@ struct FetchMark;
 /// that the file may be incomplete.
 class InterruptedFetches {
   public:
-    InterruptedFetches(FetchFiles& files, const MessageTable& messages, OperatorDialog& dialog)
-        : files_(files), messages_(messages), dialog_(dialog) {}
+    InterruptedFetches(FetchFiles& files, const MessageTable& messages, OperatorTalk& talk)
+        : files_(files), messages_(messages), talk_(talk) {}
 
     /// `names` are the folder's. True when there was something to settle, so that the folder now
     /// has other names. What cannot be mended is told once.
@@ -54,7 +54,7 @@ class InterruptedFetches {
 
     FetchFiles& files_;
     const MessageTable& messages_;
-    OperatorDialog& dialog_;
+    OperatorTalk& talk_;
     std::set<std::string> told_; ///< paths of marks that stay
     std::string running_;        ///< path of this program's own mark, or empty
 };

@@ -4,7 +4,7 @@
 #include "lang/MessageTable.h"
 #include "link/LinkConnection.h"
 #include "link/LocalJobList.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/SessionErrorRecord.h"
 #include "link/SessionProgress.h"
 #include "link/SessionProperties.h"
@@ -61,9 +61,9 @@ void JobBatch::record(TransferOutcome outcome, std::int32_t index) {
 
 void JobBatch::tellSkipped() const {
     if (skipped_ > 0 && tools_.properties.DisplayMonitor)
-        tools_.dialog.tell(tools_.messages.getMessageWithInsertion(message::localEntriesSkipped,
-                                                                   std::to_string(skipped_)),
-                           BoxIcon::None);
+        tools_.talk.tell(tools_.messages.getMessageWithInsertion(message::localEntriesSkipped,
+                                                                 std::to_string(skipped_)),
+                         BoxIcon::None);
 }
 
 } // namespace vantrel

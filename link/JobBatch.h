@@ -12,7 +12,7 @@ namespace vantrel {
 class LinkConnection;
 class LocalJobList;
 class MessageTable;
-class OperatorDialog;
+class OperatorTalk;
 class SessionProgress;
 struct SessionErrorRecord;
 struct SessionProperties;
@@ -31,7 +31,7 @@ class JobBatch {
         SessionErrorRecord& error;
         const LocalJobList& localJobs;
         const MessageTable& messages;
-        OperatorDialog& dialog;
+        OperatorTalk& talk;
     };
 
     JobBatch(const Tools& tools, Transfer transfer)

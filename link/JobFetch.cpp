@@ -7,7 +7,7 @@
 #include "link/InterruptedFetches.h"
 #include "link/JobNameSet.h"
 #include "link/LinkConnection.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/OverwriteQuestion.h"
 #include "link/ReplacedFile.h"
 #include "link/SessionErrorRecord.h"
@@ -142,9 +142,9 @@ bool JobFetch::receiveInto(ReplacedFile& file, std::int16_t handle, const std::s
 }
 
 void JobFetch::tellLeftover(const ReplacedFile& file, const std::string& name) const {
-    tools_.dialog.tell(bracketed(name) + tools_.messages.getMessage(message::oldFileKeptAs) +
-                           bracketed(file.asideName()),
-                       BoxIcon::Exclamation);
+    tools_.talk.tell(bracketed(name) + tools_.messages.getMessage(message::oldFileKeptAs) +
+                         bracketed(file.asideName()),
+                     BoxIcon::Exclamation);
 }
 
 void JobFetch::putBack(ReplacedFile& file, const std::string& name, std::int32_t index) {
@@ -153,13 +153,13 @@ void JobFetch::putBack(ReplacedFile& file, const std::string& name, std::int32_t
     const std::string shownName = bracketed(name);
     if (file.asideName().empty()) {
         // The record goes on telling why the file is incomplete.
-        tools_.dialog.tell(shownName + tools_.messages.getMessage(message::partialFileKept),
-                           BoxIcon::Exclamation);
+        tools_.talk.tell(shownName + tools_.messages.getMessage(message::partialFileKept),
+                         BoxIcon::Exclamation);
     } else {
         tools_.error.set(session_code::oldFileKeptAside, "", index);
-        tools_.dialog.tell(shownName + tools_.messages.getMessage(message::oldFileKept) +
-                               bracketed(file.asideName()),
-                           BoxIcon::Exclamation);
+        tools_.talk.tell(shownName + tools_.messages.getMessage(message::oldFileKept) +
+                             bracketed(file.asideName()),
+                         BoxIcon::Exclamation);
     }
     file.forget();
 }

@@ -4,7 +4,7 @@
 #include "base/Text.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/SessionErrorRecord.h"
 #include "link/SessionProperties.h"
 #include "link/ShownText.h"
@@ -56,7 +56,7 @@ bool JobListStore::askGoOnWithout(const std::string& name) {
         return true;
     const std::string text = tools_.messages.getMessage(message::jobFileHead) + bracketed(name) +
                              " " + tools_.messages.getMessage(message::jobFileMissing);
-    return tools_.dialog.askOkCancel(text, BoxIcon::Exclamation);
+    return tools_.talk.askOkCancel(text, BoxIcon::Exclamation);
 }
 
 } // namespace vantrel

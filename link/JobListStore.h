@@ -7,7 +7,7 @@
 namespace vantrel {
 
 class MessageTable;
-class OperatorDialog;
+class OperatorTalk;
 struct SessionErrorRecord;
 struct SessionProperties;
 
@@ -18,7 +18,7 @@ class JobListStore {
         const SessionProperties& properties;
         SessionErrorRecord& error;
         const MessageTable& messages;
-        OperatorDialog& dialog;
+        OperatorTalk& talk;
     };
 
     explicit JobListStore(const Tools& tools) : tools_(tools) {}

@@ -3,7 +3,7 @@
 #include "base/PathRules.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/SessionErrorRecord.h"
 #include "link/SessionProperties.h"
 #include "link/SessionServices.h"
@@ -75,8 +75,7 @@ bool LinkConnection::addressUnset() const {
 std::int16_t LinkConnection::refuseUnsetAddress(std::int16_t handle) {
     endedByUnsetAddress_ = true;
     library().BscClose(handle);
-    services_.dialog.tell(services_.messages.getMessage(message::addressUnset),
-                          BoxIcon::Exclamation);
+    services_.talk.tell(services_.messages.getMessage(message::addressUnset), BoxIcon::Exclamation);
     return noHandle;
 }
 

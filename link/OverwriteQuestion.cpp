@@ -2,7 +2,7 @@
 
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/SessionProperties.h"
 #include "link/ShownText.h"
 
@@ -22,7 +22,7 @@ TransferOutcome OverwriteQuestion::ask(const std::string& name, const std::strin
     if (!properties_.DisplayMonitor)
         return TransferOutcome::Cancelled;
     const std::string question = overwriteQuestion(messages_, name, storedAs);
-    switch (dialog_.ask(properties_.MonitorTitle, question)) {
+    switch (talk_.ask(properties_.MonitorTitle, question)) {
     case Answer::Yes:
         return TransferOutcome::Done;
     case Answer::No:

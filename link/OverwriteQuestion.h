@@ -7,7 +7,7 @@
 namespace vantrel {
 
 class MessageTable;
-class OperatorDialog;
+class OperatorTalk;
 struct SessionProperties;
 
 /// The question whether `name` is to be overwritten. With `storedAs`, a further line says that the
@@ -19,8 +19,8 @@ std::string overwriteQuestion(const MessageTable& messages, const std::string& n
 class OverwriteQuestion {
   public:
     OverwriteQuestion(const SessionProperties& properties, const MessageTable& messages,
-                      OperatorDialog& dialog)
-        : properties_(properties), messages_(messages), dialog_(dialog) {}
+                      OperatorTalk& talk)
+        : properties_(properties), messages_(messages), talk_(talk) {}
 
     /// Cancelled at once while `DisplayMonitor` is off. `storedAs` as in `overwriteQuestion`.
     TransferOutcome ask(const std::string& name, const std::string& storedAs = {}) const;
@@ -28,7 +28,7 @@ class OverwriteQuestion {
   private:
     const SessionProperties& properties_;
     const MessageTable& messages_;
-    OperatorDialog& dialog_;
+    OperatorTalk& talk_;
 };
 
 } // namespace vantrel

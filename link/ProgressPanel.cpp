@@ -26,7 +26,7 @@ void ProgressPanel::showBar(bool shown) {
 
 void ProgressPanel::show(std::string message) {
     message_ = std::move(message);
-    clearMark();
+    clearCancel();
     visible_ = true;
     refresh();
     yield();

@@ -19,11 +19,11 @@ class ProgressView {
     virtual void unload() = 0;
 };
 
-/// The progress dialog without its window: texts, bar and the cancel mark. There is one, shared by
+/// The progress dialog without its window: texts, bar and the cancel text. There is one, shared by
 /// the session and the transfer commands.
 class ProgressPanel {
   public:
-    /// The text of the mark that the Cancel button leaves.
+    /// The text that the Cancel button leaves.
     static constexpr const char* cancelled = "CANCEL";
 
     void attach(ProgressView* view) { view_ = view; }
@@ -33,23 +33,24 @@ class ProgressPanel {
     void showCancelButton(bool shown);
     void showBar(bool shown);
 
-    /// Makes the window visible, clears the cancel mark and yields once.
+    /// Makes the window visible, clears the cancel text and yields once.
     void show(std::string message);
-    /// Makes the window visible again as it was; mark and texts stay, nothing yields.
+    /// Makes the window visible again as it was; what Cancel left and the texts stay, nothing
+    /// yields.
     void showAgain();
     void hide();
-    /// Another step of the same work: texts and bar change, the mark stays, nothing yields. `item`
-    /// of `count` is counted from 0; `waitingFor` is the second label's text.
+    /// Another step of the same work: texts and bar change, what Cancel left stays, nothing yields.
+    /// `item` of `count` is counted from 0; `waitingFor` is the second label's text.
     void step(std::string message, int item, int count, std::string waitingFor);
     void yield();
     void unload();
 
-    void pressCancel() { mark_ = cancelled; }
-    void clearMark() { mark_.clear(); }
-    bool isCancelled() const { return mark_ == cancelled; }
+    void pressCancel() { cancelText_ = cancelled; }
+    void clearCancel() { cancelText_.clear(); }
+    bool isCancelled() const { return cancelText_ == cancelled; }
 
-    /// Whoever takes note of a press beyond its mark says so here until the work has ended, so that
-    /// the Cancel button does not look untouched again after the next message.
+    /// Whoever takes note of a press beyond that text says so here until the work has ended, so
+    /// that the Cancel button does not look untouched again after the next message.
     void keepPress(bool kept) { pressKept_ = kept; }
     /// Whether a press is known to somebody; the Cancel button is off meanwhile.
     bool isPressTaken() const { return pressKept_ || isCancelled(); }
@@ -72,7 +73,7 @@ class ProgressPanel {
     std::string message_;
     std::string waitingFor_;
     std::string cancelCaption_;
-    std::string mark_;
+    std::string cancelText_;
     bool pressKept_ = false;
     bool visible_ = false;
     bool cancelButtonShown_ = true;

@@ -59,7 +59,7 @@ void SessionProgress::step(const std::string& message, std::int32_t item, std::i
 }
 
 void SessionProgress::hide() {
-    // The next message clears the mark of the window.
+    // The next message clears the press of the window.
     if (panel_.isVisible())
         isCancelled();
     if (shown_ || !silent())

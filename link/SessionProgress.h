@@ -12,9 +12,9 @@ struct SessionProperties;
 /// The progress dialog as the session shows it: nothing at all while `DisplayMonitor` is off, when
 /// the dialog belongs to the command that called the session.
 ///
-/// A press of Cancel can arrive whenever the event loop runs, and showing a message clears its
-/// mark; so the presses of one operation are kept here, where no later message loses them, and the
-/// panel is told to go on showing that a press was taken.
+/// A press of Cancel can arrive whenever the event loop runs, and showing a message clears what
+/// it left; so the presses of one operation are kept here, where no later message loses them, and
+/// the panel is told to go on showing that a press was taken.
 class SessionProgress {
   public:
     SessionProgress(const SessionProperties& properties, const MessageTable& messages,
@@ -43,7 +43,7 @@ class SessionProgress {
     /// of these, so only now and then, and at the list's end, one is shown and a press let in.
     bool isCancelledPassingOver(const std::string& name, std::int32_t item, std::int32_t count);
     /// Whether it was pressed, as long as the window is to be seen, be it the calling command's:
-    /// what the mark of a hidden one holds is of work that is over.
+    /// what a hidden one still holds is of work that is over.
     bool isCancelledInView();
     /// The same while a directory is read, of which `entries` are there already; now and then
     /// events run before.

@@ -10,7 +10,7 @@ namespace vantrel {
 class FetchFiles;
 class LanguageFiles;
 class MessageTable;
-class OperatorDialog;
+class OperatorTalk;
 class ProgressPanel;
 class Zurolink;
 
@@ -21,7 +21,7 @@ struct SessionServices {
     MessageTable& messages;
     const LanguageFiles& languages;
     ProgressPanel& progress;
-    OperatorDialog& dialog;
+    OperatorTalk& talk;
     std::string programFolder;                ///< absolute; made current by every connect
     std::function<void*()> dummyWindow;       ///< the handle of `frmDumy`, loaded on first use
     std::function<void()> unloadWindows = {}; ///< unloads `frmDumy`; called once, by `Quit`

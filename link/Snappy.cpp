@@ -33,16 +33,14 @@ struct Snappy::Parts {
     Parts(SessionServices given, const SessionProperties& properties)
         : services(std::move(given)), link(services, properties, error),
           progress(properties, services.messages, services.progress),
-          question(properties, services.messages, services.dialog), reader(link, progress, error),
-          deletion(link, progress), tools{properties,     link,
-                                          progress,       error,
-                                          question,       directoryNames,
-                                          inTheWay,       services.messages,
-                                          services.dialog},
+          question(properties, services.messages, services.talk), reader(link, progress, error),
+          deletion(link, progress), tools{properties,   link,           progress, error,
+                                          question,     directoryNames, inTheWay, services.messages,
+                                          services.talk},
           files(services.files ? *services.files : systemFiles),
-          interrupted(files, services.messages, services.dialog),
+          interrupted(files, services.messages, services.talk),
           sending(tools, deletion, interrupted), fetching(tools, files, interrupted),
-          jobs({properties, error, services.messages, services.dialog}), variable(link, error),
+          jobs({properties, error, services.messages, services.talk}), variable(link, error),
           variables(properties, error) {}
 
     /// Runs one public operation; whichever way it is left, the progress dialog is hidden. One that
@@ -289,9 +287,8 @@ bool Snappy::Parts::concludeSingle(TransferOutcome outcome) {
 bool Snappy::Parts::transferList(const SessionProperties& properties,
                                  const std::vector<std::string>& entries,
                                  JobBatch::Transfer transfer) {
-    JobBatch batch(
-        {properties, link, progress, error, localJobs, services.messages, services.dialog},
-        std::move(transfer));
+    JobBatch batch({properties, link, progress, error, localJobs, services.messages, services.talk},
+                   std::move(transfer));
     return batch.run(entries);
 }
 

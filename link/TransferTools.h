@@ -8,7 +8,7 @@ namespace vantrel {
 class JobNameSet;
 class LinkConnection;
 class MessageTable;
-class OperatorDialog;
+class OperatorTalk;
 class OverwriteQuestion;
 class SessionProgress;
 struct SessionErrorRecord;
@@ -24,7 +24,7 @@ struct TransferTools {
     JobNameSet& directory;              ///< the names at the destination
     std::vector<std::string>& inTheWay; ///< what the transfer under way would replace
     const MessageTable& messages;
-    OperatorDialog& dialog;
+    OperatorTalk& talk;
 };
 
 } // namespace vantrel

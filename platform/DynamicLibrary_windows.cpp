@@ -32,7 +32,7 @@ bool readAt(const Handle& file, LONG place, Part& part) {
 }
 
 struct ProgramHeader {
-    std::array<char, 4> mark;
+    std::array<char, 4> signature;
     IMAGE_FILE_HEADER file;
 };
 
@@ -47,7 +47,7 @@ Result<WORD> machineOf(const std::wstring& path) {
         return Failure{noLibrary};
     ProgramHeader header{};
     if (!readAt(file, start.e_lfanew, header) ||
-        std::memcmp(header.mark.data(), "PE\0\0", header.mark.size()) != 0)
+        std::memcmp(header.signature.data(), "PE\0\0", header.signature.size()) != 0)
         return Failure{noLibrary};
     return header.file.Machine;
 }

@@ -42,10 +42,10 @@ std::optional<Mount> mountOfLine(std::string_view line) {
             return {};
         line.remove_prefix(end + 1);
     }
-    const auto mark = line.find(beforeFileSystem);
-    if (mark == line.npos)
+    const auto separator = line.find(beforeFileSystem);
+    if (separator == line.npos)
         return {};
-    const auto kind = line.substr(mark + beforeFileSystem.size());
+    const auto kind = line.substr(separator + beforeFileSystem.size());
     return Mount{unescaped(line.substr(0, line.find(' '))), kind.substr(0, kind.find(' '))};
 }
 

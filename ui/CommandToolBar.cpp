@@ -31,7 +31,7 @@ CommandToolBar::CommandToolBar(wxWindow* parent, const wxString& name,
             continue;
         }
         const int id = wxWindow::NewControlId();
-        const bool isCheck = command->mark != CommandMark::None;
+        const bool isCheck = command->indicator != CommandIndicator::None;
         AddTool(id, wxString(), iconOf(*command), wxString(),
                 isCheck ? wxITEM_CHECK : wxITEM_NORMAL);
         buttons_.push_back({command, id});

@@ -9,7 +9,7 @@ bool ListFileDialogs::readList(std::string_view mode) {
     ListFileDraft draft(state_, session_, boxes_, messages_, mode);
     frmListFile dialog(&parent_, draft, state_);
     dialog.ShowModal();
-    return draft.mark() == list_file_mark::listRead;
+    return draft.result() == list_file_result::listRead;
 }
 
 } // namespace vantrel

@@ -46,7 +46,7 @@ void MainMenus::append(wxMenu& menu, CommandPlace place) {
             menu.AppendSeparator();
             continue;
         }
-        const bool isChoice = command->mark == CommandMark::Everywhere;
+        const bool isChoice = command->indicator == CommandIndicator::Everywhere;
         auto* const item = menu.Append(firstId + int(entries_.size()), noCaptionYet, wxString(),
                                        isChoice ? wxITEM_CHECK : wxITEM_NORMAL);
         entries_.push_back({command, *offerAt(*command, place), item});

@@ -16,8 +16,8 @@ namespace {
 class Payload : public wxCustomDataObject {
   public:
     Payload() : wxCustomDataObject(wxDataFormat("application/x-vantrel-selection")) {
-        const char mark = 1;
-        SetData(sizeof mark, &mark);
+        const char content = 1;
+        SetData(sizeof content, &content);
     }
 };
 

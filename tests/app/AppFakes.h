@@ -8,7 +8,7 @@
 #include "files/TransferTable.h"
 #include "lang/LanguageFiles.h"
 #include "lang/MessageTable.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ProgressPanel.h"
 #include "link/Snappy.h"
 #include "link/Zurolink.h"
@@ -200,14 +200,14 @@ struct Desk {
     LoggingBoxes boxes{log};
     ProgressPanel progress;
     UnansweredQuestion question;
-    OperatorDialog dialog{progress, question, boxes};
+    OperatorTalk talk{progress, question, boxes};
     DirectoryLibrary library{log};
     Snappy session{{.library = library,
                     .TransMode = state.TransMode,
                     .messages = messages,
                     .languages = languages,
                     .progress = progress,
-                    .dialog = dialog,
+                    .talk = talk,
                     .programFolder = folder.path(),
                     .dummyWindow = [] { return nullptr; },
                     .unloadWindows = [this] { log.push_back("session quit"); }}};

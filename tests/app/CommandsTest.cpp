@@ -48,10 +48,10 @@ std::vector<int> checked(CommandPlace place, const CommandInput& input) {
 }
 
 std::string enabled(CommandPlace place, const CommandInput& input) {
-    std::string marks;
+    std::string states;
     for (const CommandRow* command : offered(place))
-        marks += commandState(*command, place, input).enabled ? '+' : '-';
-    return marks;
+        states += commandState(*command, place, input).enabled ? '+' : '-';
+    return states;
 }
 
 std::vector<std::string> pressedDisplayButtons(const CommandInput& input) {
@@ -159,20 +159,20 @@ struct FileCase {
 };
 
 /// Of copy, move and delete, which open each of these places.
-std::string fileMarks(CommandPlace place, const CommandInput& input) {
-    std::string marks = enabled(place, input).substr(0, 3);
-    for (std::size_t index = 0; index < marks.size(); ++index)
-        marks[index] = (marks[index] == '+' ? "CMD" : "cmd")[index];
-    return marks;
+std::string fileStates(CommandPlace place, const CommandInput& input) {
+    std::string states = enabled(place, input).substr(0, 3);
+    for (std::size_t index = 0; index < states.size(); ++index)
+        states[index] = (states[index] == '+' ? "CMD" : "cmd")[index];
+    return states;
 }
 
 class FileStatesTest : public testing::TestWithParam<FileCase> {};
 
 TEST_P(FileStatesTest, OfferWhatApplies) {
     const CommandInput& input = GetParam().input;
-    EXPECT_EQ(fileMarks(mnuFileMain, input), GetParam().fileMenu);
-    EXPECT_EQ(fileMarks(mnuRightClick, input), GetParam().popUpMenu);
-    EXPECT_EQ(fileMarks(tlbMain, input), GetParam().buttons);
+    EXPECT_EQ(fileStates(mnuFileMain, input), GetParam().fileMenu);
+    EXPECT_EQ(fileStates(mnuRightClick, input), GetParam().popUpMenu);
+    EXPECT_EQ(fileStates(tlbMain, input), GetParam().buttons);
     EXPECT_TRUE(stateOf("mnuFile(3)", input).enabled);
     EXPECT_TRUE(stateOf("tlbMain AllSelect", input).enabled);
 }
@@ -193,7 +193,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(CommandsTest, ThePCsItemDoesNotDecideForTheController) {
     CommandInput input = controllerInput;
     input.selectedKind = FileKind::Folder;
-    EXPECT_EQ(fileMarks(mnuRightClick, input), "CMD");
+    EXPECT_EQ(fileStates(mnuRightClick, input), "CMD");
 }
 
 TEST(CommandsTest, TheControllersToolBarOffersWhatTheControllerDoes) {
@@ -380,7 +380,7 @@ TEST(CommandsTest, EachRowIsWhole) {
     for (const CommandRow& command : commandTable()) {
         ASSERT_FALSE(command.offers.empty());
         EXPECT_TRUE(command.run);
-        EXPECT_EQ(command.mark != CommandMark::None, command.isInForce != nullptr);
+        EXPECT_EQ(command.indicator != CommandIndicator::None, command.isInForce != nullptr);
         for (const CommandOffer& offer : command.offers) {
             const bool isButton = isToolBar(offer.place);
             EXPECT_FALSE((isButton ? command.icon : offer.name).empty()) << command.caption;

@@ -19,10 +19,11 @@ using enum CommandPlace;
 
 /// The key of a caption, in lower case: what follows its only "&".
 std::optional<char> mnemonic(const std::string& caption) {
-    const auto mark = caption.find('&');
-    if (mark == std::string::npos || mark != caption.rfind('&') || mark + 1 == caption.size())
+    const auto ampersand = caption.find('&');
+    if (ampersand == std::string::npos || ampersand != caption.rfind('&') ||
+        ampersand + 1 == caption.size())
         return std::nullopt;
-    const auto key = static_cast<unsigned char>(caption[mark + 1]);
+    const auto key = static_cast<unsigned char>(caption[ampersand + 1]);
     if (!std::isalnum(key))
         return std::nullopt;
     return static_cast<char>(std::tolower(key));

@@ -9,7 +9,7 @@
 namespace vantrel::tests {
 namespace {
 
-namespace mark = list_file_mark;
+namespace list_mode = list_file_mode;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -65,10 +65,10 @@ TEST_P(ListFileCaptions, FollowTheMode) {
 
 INSTANTIATE_TEST_SUITE_P(
     Modes, ListFileCaptions,
-    testing::Values(CaptionRow{{"SaveJobs"}, mark::saveJobs, "text 19", "text 23"},
-                    CaptionRow{{"LoadJobs"}, mark::loadJobs, "text 20", "text 23"},
-                    CaptionRow{{"SaveVariables"}, mark::saveVariables, "text 21", "text 24"},
-                    CaptionRow{{"LoadVariables"}, mark::loadVariables, "text 22", "text 24"}),
+    testing::Values(CaptionRow{{"SaveJobs"}, list_mode::saveJobs, "text 19", "text 23"},
+                    CaptionRow{{"LoadJobs"}, list_mode::loadJobs, "text 20", "text 23"},
+                    CaptionRow{{"SaveVariables"}, list_mode::saveVariables, "text 21", "text 24"},
+                    CaptionRow{{"LoadVariables"}, list_mode::loadVariables, "text 22", "text 24"}),
     rowName);
 
 struct NameRow : NamedRow {
@@ -80,7 +80,7 @@ struct NameRow : NamedRow {
 class ListFileName : public ListFileDraftTest, public testing::WithParamInterface<NameRow> {};
 
 TEST_P(ListFileName, IsCompletedAndJudged) {
-    auto typed = draft(mark::loadJobs);
+    auto typed = draft(list_mode::loadJobs);
     typed.setName(GetParam().typed);
     EXPECT_EQ(typed.canConfirm(), GetParam().accepted);
     if (GetParam().accepted) {
@@ -121,37 +121,37 @@ TEST_P(ListFilePreset, IsTheLastListFileUnlessAPattern) {
 
 INSTANTIATE_TEST_SUITE_P(
     Modes, ListFilePreset,
-    testing::Values(PresetRow{{"Jobs"}, mark::saveJobs, "jobs.lst", "vars.lst", "jobs.lst"},
-                    PresetRow{
-                        {"Variables"}, mark::loadVariables, "jobs.lst", "vars.lst", "vars.lst"},
-                    PresetRow{{"JobPattern"}, mark::loadJobs, "*.LST", "vars.lst", ""},
-                    PresetRow{{"VariablePattern"}, mark::saveVariables, "jobs.lst", "v?.lst", ""}),
+    testing::Values(
+        PresetRow{{"Jobs"}, list_mode::saveJobs, "jobs.lst", "vars.lst", "jobs.lst"},
+        PresetRow{{"Variables"}, list_mode::loadVariables, "jobs.lst", "vars.lst", "vars.lst"},
+        PresetRow{{"JobPattern"}, list_mode::loadJobs, "*.LST", "vars.lst", ""},
+        PresetRow{{"VariablePattern"}, list_mode::saveVariables, "jobs.lst", "v?.lst", ""}),
     rowName);
 
 TEST_F(ListFileDraftTest, ButtonsHaveACaptionInEveryLanguage) {
-    EXPECT_EQ(draft(mark::saveJobs).okCaption(), "text 325");
-    EXPECT_EQ(draft(mark::saveJobs).cancelCaption(), "text 326");
+    EXPECT_EQ(draft(list_mode::saveJobs).okCaption(), "text 325");
+    EXPECT_EQ(draft(list_mode::saveJobs).cancelCaption(), "text 326");
     messages.replace({});
-    EXPECT_EQ(draft(mark::saveJobs).okCaption(), "OK");
-    EXPECT_EQ(draft(mark::saveJobs).cancelCaption(), "ｷｬﾝｾﾙ(&C)");
+    EXPECT_EQ(draft(list_mode::saveJobs).okCaption(), "OK");
+    EXPECT_EQ(draft(list_mode::saveJobs).cancelCaption(), "ｷｬﾝｾﾙ(&C)");
 }
 
 TEST_F(ListFileDraftTest, ShowsALongFolderShortenedAndKnowsTheWholeOne) {
     state.PCPath = "/" + std::string(60, 'a') + "/robot jobs";
-    EXPECT_EQ(draft(mark::saveJobs).shownFolder(), PathRules().shorten(state.PCPath, 48));
-    EXPECT_LT(draft(mark::saveJobs).shownFolder().size(), 30U);
-    EXPECT_EQ(draft(mark::saveJobs).folder(), state.PCPath);
+    EXPECT_EQ(draft(list_mode::saveJobs).shownFolder(), PathRules().shorten(state.PCPath, 48));
+    EXPECT_LT(draft(list_mode::saveJobs).shownFolder().size(), 30U);
+    EXPECT_EQ(draft(list_mode::saveJobs).folder(), state.PCPath);
 }
 
-TEST_F(ListFileDraftTest, TheMarkSaysNotReadUntilAListWasRead) {
-    EXPECT_EQ(draft(mark::loadJobs).mark(), "0");
+TEST_F(ListFileDraftTest, TheResultSaysNotReadUntilAListWasRead) {
+    EXPECT_EQ(draft(list_mode::loadJobs).result(), "0");
 }
 
 TEST_F(ListFileDraftTest, ReadsTheListFromThePaneFolder) {
     world.pc.write("jobs.lst", "A.JBI\n");
     world.pc.write("A.JBI", SessionWorld::job("A"));
-    const auto done = confirmed(mark::loadJobs, "jobs");
-    EXPECT_EQ(done.mark(), "1");
+    const auto done = confirmed(list_mode::loadJobs, "jobs");
+    EXPECT_EQ(done.result(), "1");
     EXPECT_EQ(world.session->path, world.pc.path());
     EXPECT_THAT(jobList(), ElementsAre("A.JBI"));
     EXPECT_THAT(world.boxes.shown, IsEmpty());
@@ -159,7 +159,7 @@ TEST_F(ListFileDraftTest, ReadsTheListFromThePaneFolder) {
 
 TEST_F(ListFileDraftTest, JobsToBeFetchedNeedNotBeOnThePC) {
     world.pc.write("jobs.lst", "FAR.JBI\n");
-    EXPECT_EQ(confirmed(mark::saveJobs, "jobs").mark(), "1");
+    EXPECT_EQ(confirmed(list_mode::saveJobs, "jobs").result(), "1");
     EXPECT_THAT(jobList(), ElementsAre("FAR.JBI"));
     EXPECT_THAT(world.boxes.shown, IsEmpty());
 }
@@ -167,23 +167,23 @@ TEST_F(ListFileDraftTest, JobsToBeFetchedNeedNotBeOnThePC) {
 TEST_F(ListFileDraftTest, JobsToBeSentHaveToBeOnThePC) {
     world.pc.write("jobs.lst", "FAR.JBI\n");
     world.boxes.answers = {true};
-    confirmed(mark::loadJobs, "jobs");
+    confirmed(list_mode::loadJobs, "jobs");
     EXPECT_THAT(jobList(), IsEmpty());
     EXPECT_THAT(world.boxes.texts(), ElementsAre(HasSubstr("[FAR.JBI]")));
 }
 
 TEST_F(ListFileDraftTest, AListThatTheOperatorLeftIsNotReported) {
     world.pc.write("jobs.lst", "FAR.JBI\n");
-    const auto left = confirmed(mark::loadJobs, "jobs");
-    EXPECT_EQ(left.mark(), "0");
+    const auto left = confirmed(list_mode::loadJobs, "jobs");
+    EXPECT_EQ(left.result(), "0");
     EXPECT_EQ(world.boxes.shown.size(), 1U) << "only the question about the missing file";
 }
 
 TEST_F(ListFileDraftTest, ReadsVariableListsInBothVariableModes) {
     world.pc.write("vars.lst", "B005=12\n");
-    for (const auto mode : {mark::saveVariables, mark::loadVariables}) {
+    for (const auto mode : {list_mode::saveVariables, list_mode::loadVariables}) {
         world.session->VarListClear();
-        EXPECT_EQ(confirmed(mode, "vars").mark(), "1");
+        EXPECT_EQ(confirmed(mode, "vars").result(), "1");
         EXPECT_EQ(world.session->VarList(0), "B005=12");
     }
     EXPECT_EQ(state.VarListFile, "vars.lst");
@@ -191,8 +191,8 @@ TEST_F(ListFileDraftTest, ReadsVariableListsInBothVariableModes) {
 }
 
 TEST_F(ListFileDraftTest, AFileThatCannotBeReadIsNamedWithTheReason) {
-    const auto failed = confirmed(mark::saveJobs, "nowhere");
-    EXPECT_EQ(failed.mark(), "0");
+    const auto failed = confirmed(list_mode::saveJobs, "nowhere");
+    EXPECT_EQ(failed.result(), "0");
     ASSERT_EQ(world.boxes.shown.size(), 1U);
     EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("text 53[nowhere.lst] " + noSuchFile()));
     EXPECT_EQ(world.boxes.shown[0].icon, BoxIcon::Exclamation);
@@ -217,7 +217,7 @@ TEST_F(ListFileDraftTest, TheReasonIsThatOfTheSessionsOwnTry) {
     LateFile late(world.pc);
     world.panel.attach(&late);
     world.panel.show("shown, so that the end of the operation can be seen");
-    EXPECT_EQ(confirmed(mark::saveJobs, "late").mark(), "0");
+    EXPECT_EQ(confirmed(list_mode::saveJobs, "late").result(), "0");
     ASSERT_TRUE(world.pc.has("late.lst"));
     ASSERT_EQ(world.boxes.shown.size(), 1U);
     EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("[late.lst] " + noSuchFile()));
@@ -225,37 +225,37 @@ TEST_F(ListFileDraftTest, TheReasonIsThatOfTheSessionsOwnTry) {
 }
 
 TEST_F(ListFileDraftTest, AVeryLongNameIsNamedShortened) {
-    confirmed(mark::saveJobs, std::string(240, 'x'));
+    confirmed(list_mode::saveJobs, std::string(240, 'x'));
     ASSERT_EQ(world.boxes.shown.size(), 1U);
     EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("[" + std::string(200, 'x') + "\u2026] "));
 }
 
 TEST_F(ListFileDraftTest, AFolderOfThatNameIsNamedToo) {
     world.pc.makeFolder("vars.lst");
-    EXPECT_EQ(confirmed(mark::loadVariables, "vars").mark(), "0");
+    EXPECT_EQ(confirmed(list_mode::loadVariables, "vars").result(), "0");
     ASSERT_EQ(world.boxes.shown.size(), 1U);
     EXPECT_THAT(world.boxes.shown[0].text, HasSubstr("[vars.lst]"));
 }
 
 TEST_F(ListFileDraftTest, KeepsTheLastNameThatWorked) {
     world.pc.write("jobs.lst", "A.JBI\n");
-    confirmed(mark::saveJobs, "jobs");
-    confirmed(mark::saveJobs, "nowhere");
+    confirmed(list_mode::saveJobs, "jobs");
+    confirmed(list_mode::saveJobs, "nowhere");
     EXPECT_EQ(state.JobListFile, "jobs.lst");
 }
 
 TEST_F(ListFileDraftTest, AbandoningReadsNothing) {
     world.pc.write("jobs.lst", "A.JBI\n");
-    auto left = draft(mark::saveJobs);
+    auto left = draft(list_mode::saveJobs);
     left.setName("jobs");
     left.abandon();
-    EXPECT_EQ(left.mark(), "0");
+    EXPECT_EQ(left.result(), "0");
     EXPECT_THAT(jobList(), IsEmpty());
     EXPECT_EQ(world.session->path, "/elsewhere");
 }
 
 TEST_F(ListFileDraftTest, AWildcardIsNotConfirmedWhateverAsksForIt) {
-    EXPECT_EQ(confirmed(mark::saveJobs, "*.lst").mark(), "0");
+    EXPECT_EQ(confirmed(list_mode::saveJobs, "*.lst").result(), "0");
     EXPECT_EQ(world.session->path, "/elsewhere");
     EXPECT_THAT(world.boxes.shown, IsEmpty());
 }

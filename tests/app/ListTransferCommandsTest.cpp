@@ -33,7 +33,7 @@ class ScriptedListFile : public ListFileWindow {
             whileOpen();
         draft.setName(name);
         draft.confirm();
-        return draft.mark() == list_file_mark::listRead;
+        return draft.result() == list_file_result::listRead;
     }
 
     std::string name; ///< empty when the operator cancels
@@ -70,7 +70,7 @@ class ListTransferCommandsTest : public CommandFixture {
     }
 
     ScriptedListFile listFile{state, session, boxes, messages};
-    TransferServices services{state, session, panes, window, table, messages, progress, dialog};
+    TransferServices services{state, session, panes, window, table, messages, progress, talk};
 };
 
 using Entry = void (ListTransferCommands::*)();

@@ -136,13 +136,13 @@ class MainCommandsTest : public CommandFixture {
     RecordingViewerPane viewer;
     RecordingPrinter printer;
     RecordingTreeView tree;
-    PCFolder folder{state, panes, dialog, view, tree};
+    PCFolder folder{state, panes, talk, view, tree};
     MainServices services{state,
                           session,
                           panes,
                           commands,
                           messages,
-                          dialog,
+                          talk,
                           window,
                           view,
                           folder,
@@ -156,7 +156,7 @@ class MainCommandsTest : public CommandFixture {
     Outcome editorAnswer = Done{};
     MainCommands main{services};
     RecordingWindows windows;
-    ListTransferCommands lists{{state, session, panes, window, table, messages, progress, dialog},
+    ListTransferCommands lists{{state, session, panes, window, table, messages, progress, talk},
                                windows};
     std::vector<std::string> documents;
     HelpCommands help{state, "/opt/vantrel", [this](const std::string& path) {

@@ -7,7 +7,7 @@
 #include "files/TransferTable.h"
 #include "lang/LanguageFiles.h"
 #include "lang/MessageTable.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ProgressPanel.h"
 #include "link/Snappy.h"
 #include "support/FakeMessageBoxes.h"
@@ -166,13 +166,13 @@ class CommandFixture : public testing::Test {
     ScriptedQuestionWindow question;
     RecordingProgressView progressView;
     ProgressPanel progress;
-    OperatorDialog dialog{progress, question, boxes};
+    OperatorTalk talk{progress, question, boxes};
     FakePaneWindow window;
     TransferTable table;
-    Snappy session{{library, state.TransMode, messages, languages, progress, dialog, program.path(),
+    Snappy session{{library, state.TransMode, messages, languages, progress, talk, program.path(),
                     [] { return nullptr; }}};
     Panes panes{state, session, table, messages, window};
-    TransferCommands commands{{state, session, panes, window, table, messages, progress, dialog}};
+    TransferCommands commands{{state, session, panes, window, table, messages, progress, talk}};
 };
 
 /// A single command, which leaves everything in order.

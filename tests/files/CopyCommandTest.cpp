@@ -65,7 +65,7 @@ TEST_F(CopyCommandTest, TheWindowIsLockedUntilEverythingIsUpToDate) {
     EXPECT_EQ(window.locks, 1);
 }
 
-TEST_F(CopyCommandTest, ProgressIsShownWithAClearedMarkAndACancelButton) {
+TEST_F(CopyCommandTest, ProgressIsShownWithAClearedPressAndACancelButton) {
     pcJob("A");
     robot();
     selectOnPC({"A.JBI"});

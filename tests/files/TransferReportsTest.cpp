@@ -204,7 +204,7 @@ TEST_F(TransferReportsTest, AnUnusableLibraryIsOneBoxForOneCommand) {
     library.onCall = [this](const std::string& function) {
         if (function != "BscOpen")
             return;
-        dialog.tell("unusable", BoxIcon::Exclamation);
+        talk.tell("unusable", BoxIcon::Exclamation);
         session.noteOperatorTold();
     };
     const auto expectOneBox = [this](bool succeeded) {

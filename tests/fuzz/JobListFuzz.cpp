@@ -2,7 +2,7 @@
 #include "FuzzInput.h"
 #include "lang/MessageTable.h"
 #include "link/JobListStore.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ProgressPanel.h"
 #include "link/SessionErrorRecord.h"
 #include "link/SessionProperties.h"
@@ -19,8 +19,8 @@ VANTREL_FUZZ_TARGET(input) {
     ProgressPanel progress;
     tests::ScriptedQuestionWindow question;
     tests::FakeMessageBoxes boxes;
-    OperatorDialog dialog(progress, question, boxes);
-    JobListStore store({properties, error, messages, dialog});
+    OperatorTalk talk(progress, question, boxes);
+    JobListStore store({properties, error, messages, talk});
 
     fuzz::folder().write("jobs.lst", input.file());
     fuzz::require(store.load("jobs.lst", true), "an unchecked list is taken as it is");

@@ -24,7 +24,7 @@ constexpr const char* job = "A.JBI";
 struct InterruptedFetchesTest : testing::Test {
     tests::SessionWorld world;
     FetchFiles disk;
-    InterruptedFetches interrupted{disk, world.messages, world.dialog};
+    InterruptedFetches interrupted{disk, world.messages, world.talk};
 
     std::vector<std::string> names() const {
         std::vector<std::string> all;
@@ -36,7 +36,7 @@ struct InterruptedFetchesTest : testing::Test {
     }
     bool settle() { return interrupted.settle(world.pc.path(), names()); }
     bool settleAfterStart(FetchFiles& files) {
-        return InterruptedFetches(files, world.messages, world.dialog)
+        return InterruptedFetches(files, world.messages, world.talk)
             .settle(world.pc.path(), names());
     }
     std::string told() const {
@@ -97,12 +97,12 @@ TEST_F(InterruptedFetchesTest, AFetchThatIsRunningIsLeftAlone) {
 TEST_F(InterruptedFetchesTest, AnotherLookWhileTheOperatorReadsTellsNothingAgain) {
     leave("ne");
     tests::FakeMessageBoxes boxes;
-    OperatorDialog dialog(world.panel, world.question, boxes);
+    OperatorTalk talk(world.panel, world.question, boxes);
     boxes.whileOpen = [this] {
         EXPECT_FALSE(settleAfterStart(disk));
         EXPECT_TRUE(world.pc.has(FetchMark::fileNameFor(job))) << "until he has read it";
     };
-    EXPECT_TRUE(InterruptedFetches(disk, world.messages, dialog).settle(world.pc.path(), names()));
+    EXPECT_TRUE(InterruptedFetches(disk, world.messages, talk).settle(world.pc.path(), names()));
     EXPECT_EQ(boxes.shown.size(), 1u);
     EXPECT_THAT(world.boxes.shown, IsEmpty());
 }
@@ -149,7 +149,7 @@ TEST_F(InterruptedFetchesTest, AFolderInTheFilesPlaceStays) {
 TEST_F(InterruptedFetchesTest, AMarkThatCannotBeRemovedIsToldOnce) {
     tests::FailingFiles failing;
     failing.failsRemoveMark = true;
-    InterruptedFetches stuck(failing, world.messages, world.dialog);
+    InterruptedFetches stuck(failing, world.messages, world.talk);
     leave("ne");
     EXPECT_TRUE(stuck.settle(world.pc.path(), names()));
     EXPECT_FALSE(stuck.settle(world.pc.path(), names()));
@@ -159,7 +159,7 @@ TEST_F(InterruptedFetchesTest, AMarkThatCannotBeRemovedIsToldOnce) {
 TEST_F(InterruptedFetchesTest, WhatIsFetchedAgainAfterItWasToldIsToldAnew) {
     tests::FailingFiles failing;
     failing.failsRemoveMark = true;
-    InterruptedFetches stuck(failing, world.messages, world.dialog);
+    InterruptedFetches stuck(failing, world.messages, world.talk);
     leave("ne");
     EXPECT_TRUE(stuck.settle(world.pc.path(), names()));
     stuck.begin(world.pc.path(), job);

@@ -144,7 +144,7 @@ TEST_F(JobBatchTest, APressAfterAFileEndsTheListThere) {
     EXPECT_FALSE(world.controller().has("C.JBI"));
 }
 
-TEST_F(JobBatchTest, APressIsNotLostWhenTheNextMessageClearsItsMark) {
+TEST_F(JobBatchTest, APressIsNotLostWhenTheNextMessageClearsItsText) {
     addFiles({"A", "B"});
     addOlder({"A"});
     world.question.answers = {Answer::Yes};
@@ -276,16 +276,16 @@ TEST_F(JobBatchTest, TenThousandEntriesAgainstTenThousandJobsAreLinear) {
     SessionErrorRecord error;
     LinkConnection link(world.services, *world.session, error);
     SessionProgress progress(*world.session, world.messages, world.panel);
-    const OverwriteQuestion question(*world.session, world.messages, world.dialog);
+    const OverwriteQuestion question(*world.session, world.messages, world.talk);
     JobDeletion deletion(link, progress);
     FetchFiles disk;
-    InterruptedFetches interrupted(disk, world.messages, world.dialog);
+    InterruptedFetches interrupted(disk, world.messages, world.talk);
     std::vector<std::string> inTheWay;
     JobSend send({*world.session, link, progress, error, question, names, inTheWay, world.messages,
-                  world.dialog},
+                  world.talk},
                  deletion, interrupted);
     const LocalJobList local;
-    JobBatch batch({*world.session, link, progress, error, local, world.messages, world.dialog},
+    JobBatch batch({*world.session, link, progress, error, local, world.messages, world.talk},
                    [&send](const std::string& entry, std::int32_t index, bool overwriteAll) {
                        return send.send(entry, index, {.toAll = overwriteAll});
                    });

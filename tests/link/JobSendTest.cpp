@@ -151,7 +151,7 @@ TEST_F(JobSendTest, WhatIsInTheWayOfOneFileIsForgottenWhenTheNextOneFailsEarly) 
     failsEarly([this] { world.session->JobUpLoad("../A.JBI"); });
 }
 
-TEST_F(JobSendTest, ACommandsCancelMarkEndsASilentSendBeforeItsFileAndStaysTheCommands) {
+TEST_F(JobSendTest, ACommandsCancelEndsASilentSendBeforeItsFileAndStaysTheCommands) {
     world.session->DisplayMonitor = false;
     world.panel.show("command");
     world.panel.pressCancel();
@@ -379,12 +379,12 @@ class ForeignNameTest : public JobSendTest {
 TEST_F(ForeignNameTest, InUtf8EndsTheSendBeforeAnythingIsAskedForOrDeleted) {
     world.controller().put(so + ".JBI", older);
     world.controller().put("WELD.JBI", older);
-    for (const std::string mark : {"", "\xEF\xBB\xBF"})
+    for (const std::string byteOrderMark : {"", "\xEF\xBB\xBF"})
         for (const bool overwriteAll : {false, true}) {
-            world.pc.write("NEW.JBI", mark + SessionWorld::job(so));
+            world.pc.write("NEW.JBI", byteOrderMark + SessionWorld::job(so));
             EXPECT_FALSE(send("NEW.JBI", overwriteAll));
             EXPECT_EQ(world.error(), " 40 0");
-            world.pc.write("WELD.JBI", mark + SessionWorld::job("\xC3\xBC"));
+            world.pc.write("WELD.JBI", byteOrderMark + SessionWorld::job("\xC3\xBC"));
             EXPECT_FALSE(send("WELD.JBI", overwriteAll));
         }
     expectNothingTouched();

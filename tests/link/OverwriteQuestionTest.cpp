@@ -8,7 +8,7 @@ namespace {
 TEST(OverwriteQuestionTest, AsksWithTitleNameAndTextAndGivesTheAnswer) {
     tests::SessionWorld world;
     world.session->MonitorTitle = "File transfer";
-    const OverwriteQuestion question(*world.session, world.messages, world.dialog);
+    const OverwriteQuestion question(*world.session, world.messages, world.talk);
     world.question.answers = {Answer::Yes, Answer::No, Answer::All, Answer::Cancel};
     EXPECT_EQ(question.ask("A.JBI"), TransferOutcome::Done);
     EXPECT_EQ(question.ask("A.JBI"), TransferOutcome::Refused);
@@ -21,7 +21,7 @@ TEST(OverwriteQuestionTest, AsksWithTitleNameAndTextAndGivesTheAnswer) {
 TEST(OverwriteQuestionTest, WithTheMonitorOffItIsCancelledUnasked) {
     tests::SessionWorld world;
     world.session->DisplayMonitor = false;
-    const OverwriteQuestion question(*world.session, world.messages, world.dialog);
+    const OverwriteQuestion question(*world.session, world.messages, world.talk);
     world.question.answers = {Answer::Yes};
     EXPECT_EQ(question.ask("A.JBI"), TransferOutcome::Cancelled);
     EXPECT_TRUE(world.question.questions.empty());

@@ -25,14 +25,14 @@ TEST_F(ProgressPanelTest, ShowingAMessageMakesItVisibleAndYieldsOnce) {
     EXPECT_EQ(view.pictures.back().message, "working");
 }
 
-TEST_F(ProgressPanelTest, ShowingAMessageClearsTheMarkOfAnEarlierPress) {
+TEST_F(ProgressPanelTest, ShowingAMessageClearsTheTextOfAnEarlierPress) {
     panel.pressCancel();
     EXPECT_TRUE(panel.isCancelled());
     panel.show("working");
     EXPECT_FALSE(panel.isCancelled());
 }
 
-TEST_F(ProgressPanelTest, AKeptPressOutlastsItsMark) {
+TEST_F(ProgressPanelTest, AKeptPressOutlastsItsText) {
     EXPECT_FALSE(panel.isPressTaken());
     panel.pressCancel();
     EXPECT_TRUE(panel.isPressTaken());
@@ -44,7 +44,7 @@ TEST_F(ProgressPanelTest, AKeptPressOutlastsItsMark) {
     EXPECT_FALSE(panel.isPressTaken());
 }
 
-TEST_F(ProgressPanelTest, AMarkOfTheYieldThatAMessageBringsStays) {
+TEST_F(ProgressPanelTest, APressOfTheYieldThatAMessageBringsStays) {
     view.onYield = [this](int) { panel.pressCancel(); };
     panel.show("working");
     EXPECT_TRUE(panel.isCancelled());
@@ -57,7 +57,7 @@ TEST_F(ProgressPanelTest, APaintComesBeforeTheYield) {
     EXPECT_GT(paintedAtYield, 0u);
 }
 
-TEST_F(ProgressPanelTest, ShowingAgainKeepsMarkAndTextsAndYieldsNothing) {
+TEST_F(ProgressPanelTest, ShowingAgainKeepsPressAndTextsAndYieldsNothing) {
     panel.show("working");
     panel.pressCancel();
     panel.hide();
@@ -69,7 +69,7 @@ TEST_F(ProgressPanelTest, ShowingAgainKeepsMarkAndTextsAndYieldsNothing) {
     EXPECT_TRUE(view.pictures.back().visible);
 }
 
-TEST_F(ProgressPanelTest, AStepChangesTextsAndBarButNeitherMarkNorYields) {
+TEST_F(ProgressPanelTest, AStepChangesTextsAndBarAloneAndYieldsNothing) {
     panel.show("working");
     panel.pressCancel();
     panel.step("file 3", 2, 9, "waiting");
@@ -136,12 +136,12 @@ TEST(ProgressPanelWithoutWindow, WorksAlike) {
     EXPECT_FALSE(panel.isVisible());
 }
 
-TEST(ProgressPanelMark, OnlyTheCancelButtonSetsIt) {
+TEST(ProgressPanelPress, OnlyTheCancelButtonSetsIt) {
     ProgressPanel panel;
     EXPECT_FALSE(panel.isCancelled());
     EXPECT_STREQ(ProgressPanel::cancelled, "CANCEL");
     panel.pressCancel();
-    panel.clearMark();
+    panel.clearCancel();
     EXPECT_FALSE(panel.isCancelled());
 }
 

@@ -91,14 +91,14 @@ TEST_F(SessionProgressTest, ANewOperationForgetsThePresses) {
     EXPECT_FALSE(progress.isCancelled());
 }
 
-TEST_F(SessionProgressTest, AStaleMarkOfAHiddenWindowIsNoPress) {
+TEST_F(SessionProgressTest, AStaleTextOfAHiddenWindowIsNoPress) {
     panel.pressCancel();
     progress.begin();
     progress.open("first", true, true);
     EXPECT_FALSE(progress.isCancelledAfterYield());
 }
 
-TEST_F(SessionProgressTest, AMarkInAVisibleWindowIsAPress) {
+TEST_F(SessionProgressTest, ATextInAVisibleWindowIsAPress) {
     panel.show("command");
     panel.pressCancel();
     progress.begin();

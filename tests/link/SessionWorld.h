@@ -3,7 +3,7 @@
 #include "base/TransferMode.h"
 #include "lang/LanguageFiles.h"
 #include "lang/MessageTable.h"
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 #include "link/ProgressPanel.h"
 #include "link/Snappy.h"
 #include "support/FakeMessageBoxes.h"
@@ -70,7 +70,7 @@ class SessionWorld {
                    messages,
                    languages,
                    panel,
-                   dialog,
+                   talk,
                    program.path(),
                    [this] {
                        ++dummyWindowsAsked;
@@ -107,7 +107,7 @@ class SessionWorld {
     ProgressPanel panel;
     ScriptedQuestionWindow question;
     FakeMessageBoxes boxes;
-    OperatorDialog dialog{panel, question, boxes};
+    OperatorTalk talk{panel, question, boxes};
     int dummyWindowsAsked = 0;
     int windowsUnloaded = 0;
     int modeChanges = 0;

@@ -51,8 +51,9 @@ std::string shown(const std::string& caption) {
 
 /// The letter after "&" as a capital one, or nothing.
 std::string keyOf(const std::string& caption) {
-    const auto mark = caption.find('&');
-    return mark == std::string::npos ? std::string{} : asciiUpper(caption.substr(mark + 1, 1));
+    const auto ampersand = caption.find('&');
+    return ampersand == std::string::npos ? std::string{}
+                                          : asciiUpper(caption.substr(ampersand + 1, 1));
 }
 
 struct Manual : NamedRow {

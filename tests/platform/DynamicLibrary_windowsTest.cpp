@@ -15,8 +15,8 @@ std::string forMachine(const TemporaryFolder& folder, WORD machine) {
     std::string content = *readFile(VANTREL_TEST_LIBRARY);
     IMAGE_DOS_HEADER start{};
     std::memcpy(&start, content.data(), sizeof start);
-    constexpr std::size_t markSize = 4;
-    std::memcpy(&content[static_cast<std::size_t>(start.e_lfanew) + markSize], &machine,
+    constexpr std::size_t signatureSize = 4;
+    std::memcpy(&content[static_cast<std::size_t>(start.e_lfanew) + signatureSize], &machine,
                 sizeof machine);
     return folder.write("changed.dll", content);
 }

@@ -42,7 +42,7 @@ class CommandToolBarTest : public testing::Test {
                                   {.icon = "Print", .offers = {{CommandPlace::tlbPC}}},
                                   {.icon = "modeBsc",
                                    .offers = {{CommandPlace::tlbMain, 1}},
-                                   .mark = CommandMark::Button,
+                                   .indicator = CommandIndicator::Button,
                                    .isInForce = isBsc}};
     wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "bar");
     CommandToolBar& bar = *new CommandToolBar(frame, "tlbMain", table, CommandPlace::tlbMain);

@@ -138,9 +138,9 @@ TEST_F(KeyboardInMainWindowTest, EveryMenuOpensByItsKey) {
     auto* const entries = gtk_container_get_children(GTK_CONTAINER(bar.GetHandle()));
     for (const auto* entry = entries; entry; entry = entry->next) {
         const std::string label = gtk_menu_item_get_label(GTK_MENU_ITEM(entry->data));
-        const auto mark = label.find('_');
-        ASSERT_NE(mark, std::string::npos) << label;
-        keys += label.at(mark + 1);
+        const auto underscore = label.find('_');
+        ASSERT_NE(underscore, std::string::npos) << label;
+        keys += label.at(underscore + 1);
     }
     g_list_free(entries);
     EXPECT_EQ(keys.size(), bar.GetMenuCount() + 1);

@@ -8,14 +8,14 @@
 namespace vantrel::tests {
 namespace {
 
-namespace mark = list_file_mark;
+namespace list_mode = list_file_mode;
 
 class frmListFileTest : public DialogInLanguage {
   public:
     ListFileDraft newDraft() {
         world.pc.write("jobs.lst", "A.JBI\n");
         state.PCPath = world.pc.path();
-        return {state, *world.session, world.boxes, messages, mark::saveJobs};
+        return {state, *world.session, world.boxes, messages, list_mode::saveJobs};
     }
 
     SessionWorld world;
@@ -51,7 +51,7 @@ TEST_P(frmListFileTest, OKReadsTheListAndCloses) {
         type(dialog, "txtFile", "jobs");
         click(dialog, "cmdOK");
     });
-    EXPECT_EQ(draft.mark(), "1");
+    EXPECT_EQ(draft.result(), "1");
     EXPECT_EQ(world.session->JobList(0), "A.JBI");
 }
 
@@ -60,7 +60,7 @@ TEST_P(frmListFileTest, AFileThatCannotBeReadClosesItToo) {
         type(dialog, "txtFile", "nowhere");
         click(dialog, "cmdOK");
     });
-    EXPECT_EQ(draft.mark(), "0");
+    EXPECT_EQ(draft.result(), "0");
     EXPECT_EQ(world.boxes.shown.size(), 1U);
 }
 
@@ -78,7 +78,7 @@ class BoxesOverWindow final : public FakeMessageBoxes {
 
 TEST_P(frmListFileTest, AFileThatCannotBeReadIsNamedBeforeTheWindowHides) {
     BoxesOverWindow boxes;
-    ListFileDraft wrong(state, *world.session, boxes, messages, mark::saveJobs);
+    ListFileDraft wrong(state, *world.session, boxes, messages, list_mode::saveJobs);
     frmListFile window(nullptr, wrong, state);
     boxes.window = &window;
     whileModal(window, [&] {
@@ -86,7 +86,7 @@ TEST_P(frmListFileTest, AFileThatCannotBeReadIsNamedBeforeTheWindowHides) {
         click(window, "cmdOK");
     });
     EXPECT_TRUE(boxes.windowWasOpen);
-    EXPECT_EQ(wrong.mark(), "0");
+    EXPECT_EQ(wrong.result(), "0");
 }
 
 TEST_P(frmListFileTest, CancelEscAndCloseBoxReadNothing) {
@@ -94,7 +94,7 @@ TEST_P(frmListFileTest, CancelEscAndCloseBoxReadNothing) {
     whileModal(dialog, [&] { click(dialog, "cmdCancel"); });
     whileModal(dialog, [&] { swallows(dialog, WXK_ESCAPE); });
     whileModal(dialog, [&] { dialog.Close(); });
-    EXPECT_EQ(draft.mark(), "0");
+    EXPECT_EQ(draft.result(), "0");
     EXPECT_EQ(world.session->JobListCount(), 0);
 }
 
@@ -107,7 +107,7 @@ TEST_P(frmListFileTest, TheKeyboardTypesANameAndConfirmsIt) {
         pressKey(WXK_RETURN);
         waitFor([&] { return !dialog.IsModal(); });
     });
-    EXPECT_EQ(draft.mark(), "1");
+    EXPECT_EQ(draft.result(), "1");
 }
 
 TEST_P(frmListFileTest, EnterWithoutANameDoesNothing) {
@@ -135,7 +135,7 @@ TEST_P(frmListFileTest, EnterReadsAListOnce) {
 
 TEST_P(frmListFileTest, StartsWithTheLastListFileSelected) {
     state.JobListFile = "jobs.lst";
-    ListFileDraft again(state, *world.session, world.boxes, messages, mark::saveJobs);
+    ListFileDraft again(state, *world.session, world.boxes, messages, list_mode::saveJobs);
     frmListFile preset(nullptr, again, state);
     auto& text = control<wxTextCtrl>(preset, "txtFile");
     EXPECT_EQ(text.GetValue(), "jobs.lst");

@@ -99,7 +99,7 @@ TEST_P(frmMsgStatTest, HidesAndComesBackAsItWas) {
     EXPECT_TRUE(panel.isCancelled());
 }
 
-TEST_P(frmMsgStatTest, CancelLeavesTheMarkAndSaysThatItWasTaken) {
+TEST_P(frmMsgStatTest, CancelLeavesItsTextAndSaysThatItWasTaken) {
     panel.show("text");
     click(*window, "cmdCancel");
     EXPECT_TRUE(panel.isCancelled());
@@ -109,7 +109,7 @@ TEST_P(frmMsgStatTest, CancelLeavesTheMarkAndSaysThatItWasTaken) {
     EXPECT_TRUE(control<wxButton>(*window, "cmdCancel").IsEnabled());
 }
 
-TEST_P(frmMsgStatTest, CancelStaysOffThroughStepsAndQuestionsUntilTheMarkIsCleared) {
+TEST_P(frmMsgStatTest, CancelStaysOffThroughStepsAndQuestionsUntilItsTextIsCleared) {
     panel.show("text");
     click(*window, "cmdCancel");
     const auto& button = control<wxButton>(*window, "cmdCancel");
@@ -139,7 +139,7 @@ TEST_P(frmMsgStatTest, EscAndCloseBoxArePressesOfCancel) {
     panel.show("text");
     EXPECT_TRUE(swallows(*window, WXK_ESCAPE));
     EXPECT_TRUE(panel.isCancelled());
-    panel.clearMark();
+    panel.clearCancel();
     EXPECT_FALSE(window->Close()) << "the window itself stays";
     EXPECT_TRUE(panel.isCancelled());
     EXPECT_TRUE(window->IsShown());

@@ -51,27 +51,27 @@ TEST_P(frmMsgYesNoTest, StandsInTheMiddleOfTheScreen) {
     });
 }
 
-TEST_P(frmMsgYesNoTest, TheMarkIsTheNumberOfTheButton) {
+TEST_P(frmMsgYesNoTest, TheAnswerTextIsTheNumberOfTheButton) {
     for (int index = 0; index < 4; ++index) {
         const auto number = std::to_string(index);
         whileModal(dialog, [&] { click(dialog, "cmdYesNo" + number); });
-        EXPECT_EQ(dialog.answerMark(), number);
+        EXPECT_EQ(dialog.answerText(), number);
         EXPECT_FALSE(dialog.IsShown());
     }
 }
 
-TEST_P(frmMsgYesNoTest, TheMarkStartsAsCancel) {
-    EXPECT_EQ(dialog.answerMark(), "3");
+TEST_P(frmMsgYesNoTest, TheAnswerTextStartsAsCancel) {
+    EXPECT_EQ(dialog.answerText(), "3");
 }
 
 TEST_P(frmMsgYesNoTest, EscIsCancel) {
     whileModal(dialog, [&] { swallows(dialog, WXK_ESCAPE); });
-    EXPECT_EQ(dialog.answerMark(), "3");
+    EXPECT_EQ(dialog.answerText(), "3");
 }
 
 TEST_P(frmMsgYesNoTest, TheCloseBoxIsCancel) {
     whileModal(dialog, [&] { dialog.Close(); });
-    EXPECT_EQ(dialog.answerMark(), "3");
+    EXPECT_EQ(dialog.answerText(), "3");
 }
 
 TEST_P(frmMsgYesNoTest, CancelIsTheDefaultButton) {
@@ -80,17 +80,17 @@ TEST_P(frmMsgYesNoTest, CancelIsTheDefaultButton) {
 
 TEST_P(frmMsgYesNoTest, F1IsSwallowed) {
     EXPECT_TRUE(swallows(dialog, WXK_F1));
-    EXPECT_EQ(dialog.answerMark(), "3");
+    EXPECT_EQ(dialog.answerText(), "3");
 }
 
 struct KeyRow {
     int key;
     int modifiers;
-    const char* mark;
+    const char* answerText;
 };
 
 TEST_P(frmMsgYesNoTest, TheKeyboardAnswersIt) {
-    for (const auto& [key, modifiers, mark] :
+    for (const auto& [key, modifiers, answerText] :
          {KeyRow{'Y', wxMOD_ALT, "0"}, KeyRow{'N', wxMOD_ALT, "1"}, KeyRow{'A', wxMOD_ALT, "2"},
           KeyRow{'C', wxMOD_ALT, "3"}, KeyRow{WXK_RETURN, wxMOD_NONE, "3"},
           KeyRow{WXK_ESCAPE, wxMOD_NONE, "3"}, KeyRow{WXK_F4, wxMOD_ALT, "3"}}) {
@@ -100,7 +100,7 @@ TEST_P(frmMsgYesNoTest, TheKeyboardAnswersIt) {
             pressKey(key, modifiers);
             waitFor([&] { return !asked.IsModal() || !asked.IsShown(); });
         });
-        EXPECT_EQ(asked.answerMark(), mark) << key;
+        EXPECT_EQ(asked.answerText(), answerText) << key;
     }
 }
 

@@ -82,7 +82,7 @@ wxSizer* frmMsgYesNo::buildButtons(const MessageTable& messages) {
 }
 
 void frmMsgYesNo::press(std::size_t index) {
-    answerMark_ = std::to_string(index);
+    answerText_ = std::to_string(index);
     if (IsModal())
         EndModal(wxID_OK);
     else
@@ -92,7 +92,7 @@ void frmMsgYesNo::press(std::size_t index) {
 Answer QuestionDialogs::ask(const std::string& title, const std::string& question) {
     frmMsgYesNo dialog(dialogParent(), title, question, messages_, state_);
     dialog.ShowModal();
-    const int number = dialog.answerMark().at(0) - '0';
+    const int number = dialog.answerText().at(0) - '0';
     return number >= 0 && number <= int(Answer::Cancel) ? Answer(number) : Answer::Cancel;
 }
 

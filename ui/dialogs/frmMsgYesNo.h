@@ -1,6 +1,6 @@
 #pragma once
 
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 
 #include <array>
 #include <string>
@@ -22,7 +22,7 @@ class frmMsgYesNo : public wxDialog {
 
     /// The number of the button that was pressed, as text. It is Cancel's until a button is
     /// pressed, so that any other end of the dialog is a Cancel.
-    const std::string& answerMark() const { return answerMark_; }
+    const std::string& answerText() const { return answerText_; }
 
   private:
     wxSizer* buildQuestion(const std::string& question, const ApplicationState& state);
@@ -30,7 +30,7 @@ class frmMsgYesNo : public wxDialog {
     void press(std::size_t index);
 
     std::array<wxButton*, 4> cmdYesNo_{};
-    std::string answerMark_ = "3";
+    std::string answerText_ = "3";
 };
 
 /// Asks through a dialog of its own for each question.

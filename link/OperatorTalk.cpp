@@ -1,4 +1,4 @@
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 
 #include "link/ProgressPanel.h"
 
@@ -26,22 +26,22 @@ class ProgressAside {
 
 } // namespace
 
-Answer OperatorDialog::ask(const std::string& title, const std::string& question) {
+Answer OperatorTalk::ask(const std::string& title, const std::string& question) {
     const ProgressAside aside(progress_);
     return question_.ask(title, question);
 }
 
-void OperatorDialog::tell(const std::string& text, BoxIcon icon) {
+void OperatorTalk::tell(const std::string& text, BoxIcon icon) {
     const ProgressAside aside(progress_);
     boxes_.tell(text, icon);
 }
 
-bool OperatorDialog::askOkCancel(const std::string& text, BoxIcon icon) {
+bool OperatorTalk::askOkCancel(const std::string& text, BoxIcon icon) {
     const ProgressAside aside(progress_);
     return boxes_.askOkCancel(text, icon);
 }
 
-bool OperatorDialog::askYesNo(const std::string& text, BoxIcon icon) {
+bool OperatorTalk::askYesNo(const std::string& text, BoxIcon icon) {
     const ProgressAside aside(progress_);
     return boxes_.askYesNo(text, icon);
 }

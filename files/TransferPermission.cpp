@@ -1,4 +1,4 @@
-#include "files/PermissionTests.h"
+#include "files/TransferPermission.h"
 
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
@@ -13,7 +13,8 @@
 
 namespace vantrel {
 
-std::vector<std::string> PermissionTests::permitted(const std::vector<SelectedItem>& items) const {
+std::vector<std::string>
+TransferPermission::permitted(const std::vector<SelectedItem>& items) const {
     std::vector<std::string> names;
     for (const SelectedItem& item : items)
         if (passes(item))
@@ -21,7 +22,7 @@ std::vector<std::string> PermissionTests::permitted(const std::vector<SelectedIt
     return names;
 }
 
-bool PermissionTests::passes(const SelectedItem& item) const {
+bool TransferPermission::passes(const SelectedItem& item) const {
     if (item.isFolder) {
         TransferReports(with_).aboutFile(item.name, message::folderPassedOver);
         return false;
@@ -36,7 +37,7 @@ bool PermissionTests::passes(const SelectedItem& item) const {
 
 /// A name with a path in it could reach a file outside the folder, and one that the library's code
 /// page cannot express would reach another file: both end here, so that the other files still go.
-bool PermissionTests::hasUsableName(const std::string& name) const {
+bool TransferPermission::hasUsableName(const std::string& name) const {
     const TransferReports reports(with_);
     if (!PathRules::isPlainName(name)) {
         if (direction_ == Direction::Receive)

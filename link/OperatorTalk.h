@@ -22,9 +22,9 @@ class QuestionWindow {
 /// Speaks with the operator while an operation may be showing its progress: since the progress
 /// window stays on top of everything, it is hidden around each box and question and shown again
 /// after it.
-class OperatorDialog {
+class OperatorTalk {
   public:
-    OperatorDialog(ProgressPanel& progress, QuestionWindow& question, MessageBoxes& boxes)
+    OperatorTalk(ProgressPanel& progress, QuestionWindow& question, MessageBoxes& boxes)
         : progress_(progress), question_(question), boxes_(boxes) {}
 
     Answer ask(const std::string& title, const std::string& question);

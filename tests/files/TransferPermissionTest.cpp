@@ -1,4 +1,4 @@
-#include "files/PermissionTests.h"
+#include "files/TransferPermission.h"
 
 #include "CommandFixture.h"
 
@@ -10,9 +10,9 @@ namespace {
 using testing::ElementsAre;
 
 /// What a copy says of the names that may not be transferred, and does with the others.
-class PermissionTestsTest : public tests::CommandTest {};
+class TransferPermissionTest : public tests::CommandTest {};
 
-TEST_F(PermissionTestsTest, RejectedFilesOnlyGiveOneMessageEachAndLeaveTheSessionAlone) {
+TEST_F(TransferPermissionTest, RejectedFilesOnlyGiveOneMessageEachAndLeaveTheSessionAlone) {
     pc.write("A.TXT", "");
     pc.write("B.CND", "");
     robot();
@@ -25,7 +25,7 @@ TEST_F(PermissionTestsTest, RejectedFilesOnlyGiveOneMessageEachAndLeaveTheSessio
     EXPECT_EQ(window.pc.focuses, 1);
 }
 
-TEST_F(PermissionTestsTest, ARejectedFileDoesNotStopTheOthers) {
+TEST_F(TransferPermissionTest, ARejectedFileDoesNotStopTheOthers) {
     pcJob("A");
     pc.write("B.TXT", "");
     pcJob("C");
@@ -36,7 +36,7 @@ TEST_F(PermissionTestsTest, ARejectedFileDoesNotStopTheOthers) {
     EXPECT_THAT(robot().names(), ElementsAre("A.JBI", "C.JBI"));
 }
 
-TEST_F(PermissionTestsTest, TheProgressStepsAsideForEveryMessage) {
+TEST_F(TransferPermissionTest, TheProgressStepsAsideForEveryMessage) {
     pc.write("A.TXT", "");
     robot();
     selectOnPC({"A.TXT"});
@@ -47,7 +47,7 @@ TEST_F(PermissionTestsTest, TheProgressStepsAsideForEveryMessage) {
     EXPECT_THAT(visible, ElementsAre(true, false, true, false));
 }
 
-TEST_F(PermissionTestsTest, ReceivingIsTestedByTheModelsUploadFlag) {
+TEST_F(TransferPermissionTest, ReceivingIsTestedByTheModelsUploadFlag) {
     robot().put("A.DAT", "x");
     showPanes();
     window.controllerFilter = 1;
@@ -62,7 +62,7 @@ TEST_F(PermissionTestsTest, ReceivingIsTestedByTheModelsUploadFlag) {
     EXPECT_TRUE(pc.has("A.DAT"));
 }
 
-TEST_F(PermissionTestsTest, AFolderIsNamedAndPassedOver) {
+TEST_F(TransferPermissionTest, AFolderIsNamedAndPassedOver) {
     pc.makeFolder("OLD.JBI");
     pcJob("A");
     robot();
@@ -72,7 +72,7 @@ TEST_F(PermissionTestsTest, AFolderIsNamedAndPassedOver) {
     EXPECT_THAT(robot().names(), ElementsAre("A.JBI"));
 }
 
-TEST_F(PermissionTestsTest, AControllersNameWithAPathInItIsRefusedByName) {
+TEST_F(TransferPermissionTest, AControllersNameWithAPathInItIsRefusedByName) {
     robot().put("C:EVIL.JBI", "x");
     robotJob("GOOD");
     selectOnController({"C:EVIL.JBI", "GOOD.JBI"});
@@ -82,7 +82,7 @@ TEST_F(PermissionTestsTest, AControllersNameWithAPathInItIsRefusedByName) {
     EXPECT_FALSE(pc.has("C:EVIL.JBI"));
 }
 
-TEST_F(PermissionTestsTest, ANameThatTheControllerCannotHaveIsRefusedByName) {
+TEST_F(TransferPermissionTest, ANameThatTheControllerCannotHaveIsRefusedByName) {
     pc.write("한글.JBI", job("X"));
     pcJob("GOOD");
     robot();
@@ -92,7 +92,7 @@ TEST_F(PermissionTestsTest, ANameThatTheControllerCannotHaveIsRefusedByName) {
     EXPECT_THAT(robot().names(), ElementsAre("GOOD.JBI"));
 }
 
-TEST_F(PermissionTestsTest, TheChangedNameIsTheOneThatIsTested) {
+TEST_F(TransferPermissionTest, TheChangedNameIsTheOneThatIsTested) {
     program.write("FileTable.tbl", "*.JBI,1,1,1,1,1,1,1,1,1\n");
     ASSERT_TRUE(table.load(program.path()));
     state.JBR = true;

@@ -12,9 +12,9 @@ enum class Direction { Send, Receive };
 
 /// Which of the selected items a transfer may have. Every item that is left out is named in a
 /// message box of its own with the reason.
-class PermissionTests {
+class TransferPermission {
   public:
-    PermissionTests(const TransferServices& services, Direction direction)
+    TransferPermission(const TransferServices& services, Direction direction)
         : with_(services), direction_(direction) {}
 
     /// The names that pass, in order.

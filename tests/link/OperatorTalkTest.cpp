@@ -1,4 +1,4 @@
-#include "link/OperatorDialog.h"
+#include "link/OperatorTalk.h"
 
 #include "link/ProgressPanel.h"
 #include "support/FakeMessageBoxes.h"
@@ -38,27 +38,27 @@ class WatchingBoxes : public tests::FakeMessageBoxes {
     const ProgressPanel& panel_;
 };
 
-struct OperatorDialogTest : testing::Test {
+struct OperatorTalkTest : testing::Test {
     tests::RecordingProgressView view;
     ProgressPanel panel;
     tests::ScriptedQuestionWindow question;
     WatchingBoxes boxes{panel};
-    OperatorDialog dialog{panel, question, boxes};
+    OperatorTalk talk{panel, question, boxes};
 
-    OperatorDialogTest() {
+    OperatorTalkTest() {
         panel.attach(&view);
         question.whileOpen = [this] { boxes.covered += panel.isVisible() ? 1 : 0; };
     }
 
     void askEverything() {
-        dialog.ask("title", "question");
-        dialog.tell("text", BoxIcon::None);
-        dialog.askOkCancel("text", BoxIcon::Question);
-        dialog.askYesNo("text", BoxIcon::Question);
+        talk.ask("title", "question");
+        talk.tell("text", BoxIcon::None);
+        talk.askOkCancel("text", BoxIcon::Question);
+        talk.askYesNo("text", BoxIcon::Question);
     }
 };
 
-TEST_F(OperatorDialogTest, VisibleProgressIsHiddenAroundEveryBox) {
+TEST_F(OperatorTalkTest, VisibleProgressIsHiddenAroundEveryBox) {
     panel.show("working");
     askEverything();
     EXPECT_EQ(boxes.covered, 0);
@@ -66,31 +66,31 @@ TEST_F(OperatorDialogTest, VisibleProgressIsHiddenAroundEveryBox) {
     EXPECT_EQ(panel.message(), "working");
 }
 
-TEST_F(OperatorDialogTest, APressBeforeTheQuestionIsNotLostByIt) {
+TEST_F(OperatorTalkTest, APressBeforeTheQuestionIsNotLostByIt) {
     panel.show("working");
     panel.pressCancel();
     askEverything();
     EXPECT_TRUE(panel.isCancelled());
 }
 
-TEST_F(OperatorDialogTest, HiddenProgressStaysHidden) {
+TEST_F(OperatorTalkTest, HiddenProgressStaysHidden) {
     askEverything();
     EXPECT_FALSE(panel.isVisible());
     EXPECT_TRUE(view.pictures.empty());
 }
 
-TEST_F(OperatorDialogTest, AnswersComeBackAsGiven) {
+TEST_F(OperatorTalkTest, AnswersComeBackAsGiven) {
     question.answers = {Answer::Yes, Answer::No, Answer::All, Answer::Cancel};
-    EXPECT_EQ(dialog.ask("title", "question"), Answer::Yes);
-    EXPECT_EQ(dialog.ask("title", "question"), Answer::No);
-    EXPECT_EQ(dialog.ask("title", "question"), Answer::All);
-    EXPECT_EQ(dialog.ask("title", "question"), Answer::Cancel);
+    EXPECT_EQ(talk.ask("title", "question"), Answer::Yes);
+    EXPECT_EQ(talk.ask("title", "question"), Answer::No);
+    EXPECT_EQ(talk.ask("title", "question"), Answer::All);
+    EXPECT_EQ(talk.ask("title", "question"), Answer::Cancel);
     EXPECT_EQ(question.titles.front(), "title");
     EXPECT_EQ(question.questions.front(), "question");
     boxes.answers = {true, false, true};
-    EXPECT_TRUE(dialog.askOkCancel("text", BoxIcon::Exclamation));
-    EXPECT_FALSE(dialog.askYesNo("text", BoxIcon::Question));
-    EXPECT_TRUE(dialog.askYesNo("text", BoxIcon::Question));
+    EXPECT_TRUE(talk.askOkCancel("text", BoxIcon::Exclamation));
+    EXPECT_FALSE(talk.askYesNo("text", BoxIcon::Question));
+    EXPECT_TRUE(talk.askYesNo("text", BoxIcon::Question));
     EXPECT_EQ(boxes.shown.front().icon, BoxIcon::Exclamation);
 }
 
