@@ -1,5 +1,6 @@
 #include "app/StartRoutine.h"
 
+#include "app/DeliveredFiles.h"
 #include "app/ModeCommands.h"
 #include "app/RobotRegistry.h"
 #include "app/SessionParameters.h"
@@ -40,6 +41,7 @@ StartResult StartRoutine::run() {
         return StartResult::ExitSwitch;
     with_.state.IniFileName = settingsFileName(with_.executable);
     with_.state.TransMode = TransferMode::Bsc;
+    const auto undelivered = DeliveredFiles(with_.programFolder).takePlaces();
     // A missing or broken table leaves its rows so far; transfers then explain what they refuse.
     (void)with_.table.load(with_.programFolder);
     if (!with_.language.loadDefaultLanguage())
@@ -47,6 +49,9 @@ StartResult StartRoutine::run() {
     with_.state.StartupDone = false;
     if (with_.commandLine.startedForAutomation)
         return StartResult::Automation;
+    for (const auto& file : undelivered)
+        with_.boxes.tell(file.path + "\n" + reasonInLanguage(with_.messages, file.reason),
+                         BoxIcon::Exclamation);
     if (const Outcome entered = enterProgramFolder(); !entered)
         return trap(with_.programFolder + ": " +
                     reasonInLanguage(with_.messages, entered.reason()));

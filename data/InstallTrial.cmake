@@ -1,25 +1,11 @@
 # Lays out the trial part of a program's folder, at install time.
 #
-# The library is brought up to date, unless one of that name is not the stand-in: then it is the
-# maker's, and stays. Everything else belongs to the operator once it is there: a settings file, the
-# robot list, the set-up and each controller's folder are put down only where they are missing, so
-# that a job deleted on a controller stays deleted.
+# Everything belongs to the operator once it is there: a settings file, the robot list, the set-up
+# and each controller's folder are put down only where they are missing, so that a job deleted on a
+# controller stays deleted.
 
 get_filename_component(prefix "${CMAKE_INSTALL_PREFIX}" ABSOLUTE)
 set(folder "$ENV{DESTDIR}${prefix}")
-
-function(install_library)
-    set(installed "${folder}/${TRIAL_LIBRARY_NAME}")
-    if(EXISTS "${installed}")
-        file(STRINGS "${installed}" mark REGEX "ZurolinkSimulator" LIMIT_COUNT 1)
-        if(NOT mark)
-            message(STATUS "Kept, since it is not the simulator: ${installed}")
-            return()
-        endif()
-    endif()
-    # `prefix` alone: this command adds DESTDIR by itself.
-    file(INSTALL "${TRIAL_LIBRARY}" DESTINATION "${prefix}" TYPE SHARED_LIBRARY)
-endfunction()
 
 function(copy_missing from name)
     if(EXISTS "${folder}/${name}")
@@ -43,7 +29,6 @@ function(write_settings)
         "[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n")
 endfunction()
 
-install_library()
 copy_missing("${TRIAL_DATA}" simulator.ini)
 copy_missing("${TRIAL_DATA}/samples" robot.ini)
 file(GLOB controllers RELATIVE "${TRIAL_DATA}/samples" "${TRIAL_DATA}/samples/controllers/*")

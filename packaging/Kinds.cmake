@@ -27,8 +27,9 @@ in both directions and asks before it replaces anything. A simulator with
 sample controllers is included. Japanese and English.")
 else()
     # The program alone, and beside it a folder to try it in with the simulator. The manuals lie
-    # where both look for them.
-    vantrel_content(program /Vantrel license /Vantrel ALL /Trial)
+    # where both look for them. Nothing is in its place yet, so that an archive can be unpacked over
+    # an older one.
+    vantrel_content(program /Vantrel license /Vantrel program /Trial trial /Trial)
     if(CPACK_GENERATOR STREQUAL "ZIP")
         set(CPACK_PACKAGE_FILE_NAME "Vantrel-win${CPACK_VANTREL_BITS}")
     else()

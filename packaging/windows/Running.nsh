@@ -47,6 +47,4 @@ LangString Running ${LANG_JAPANESE} "Vantrelが起動中です。終了してく
 !macro RequireClosedProgram
     !insertmacro RequireFree "$INSTDIR\Vantrel\Vantrel.exe"
     !insertmacro RequireFree "$INSTDIR\Trial\Vantrel.exe"
-    !insertmacro RequireFree "$INSTDIR\Vantrel\Zurolink.dll"
-    !insertmacro RequireFree "$INSTDIR\Trial\Zurolink.dll"
 !macroend

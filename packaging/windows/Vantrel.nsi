@@ -2,7 +2,8 @@
 ;   /S           asks nothing
 ;   /D=FOLDER    another folder than the usual one; the last argument, without quotes
 ; An installation over an older one keeps the settings, the robots and the library that is there.
-; What goes at the end is what was installed: the operator's own files stay unless he says otherwise.
+; What goes at the end is the program: settings, robots, texts and the trial's files stay unless the
+; operator says otherwise.
 ; While the program of that folder runs nothing is changed; without a question the end is then with 2.
 ; On a system of the other kind the installer does not start, as the program would not.
 !if "${NAME}" == "Vantrel-win64"
@@ -37,7 +38,6 @@ AllowSkipFiles off
 !insertmacro MUI_LANGUAGE "English"
 !insertmacro MUI_LANGUAGE "Japanese"
 !include Running.nsh
-!include Texts.nsh
 
 LangString ProgramSection ${LANG_ENGLISH} "Vantrel"
 LangString ProgramSection ${LANG_JAPANESE} "Vantrel"
@@ -47,8 +47,8 @@ LangString TrialSection ${LANG_JAPANESE} "シミュレータによる体験版"
 !define JAPANESE_TRIAL_LINK "Vantrel (体験版)"
 LangString TrialLink ${LANG_ENGLISH} "${ENGLISH_TRIAL_LINK}"
 LangString TrialLink ${LANG_JAPANESE} "${JAPANESE_TRIAL_LINK}"
-LangString KeepData ${LANG_ENGLISH} "Keep the settings, the list of robots and the files of the trial?"
-LangString KeepData ${LANG_JAPANESE} "設定、ロボットの一覧、体験版のファイルを残しますか？"
+LangString KeepData ${LANG_ENGLISH} "Keep the settings, the list of robots, the texts and the files of the trial?"
+LangString KeepData ${LANG_JAPANESE} "設定、ロボットの一覧、言語ファイル、体験版のファイルを残しますか？"
 
 VIProductVersion "${VERSION}.0"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "ProductName" "Vantrel"
@@ -56,12 +56,15 @@ VIAddVersionKey /LANG=${LANG_ENGLISH} "FileDescription" "Installer of Vantrel"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "FileVersion" "${VERSION}"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "LegalCopyright" "Copyright (c) 2026 The Vantrel maintainers"
 
-; The program and its texts into the folder that is set.
-!macro InstallProgram
+; The program, and what it puts into its places at its next start (app/DeliveredFiles.h): nothing
+; that the operator may have changed is touched here.
+!macro InstallProgram FOLDER
     SetOverwrite on
-    File "${CONTENT}\Vantrel\Vantrel.exe"
-    File "${CONTENT}\Vantrel\*.ico"
-    !insertmacro InstallTexts
+    SetOutPath "$INSTDIR\${FOLDER}\.installed"
+    SetFileAttributes "$OUTDIR" HIDDEN
+    File "${CONTENT}\${FOLDER}\.installed\*.new"
+    SetOutPath "$INSTDIR\${FOLDER}"
+    File "${CONTENT}\${FOLDER}\Vantrel.exe"
 !macroend
 
 ; A folder of the trial belongs to the operator once it is there: what he deleted stays deleted.
@@ -75,8 +78,7 @@ VIAddVersionKey /LANG=${LANG_ENGLISH} "LegalCopyright" "Copyright (c) 2026 The V
 Section "$(ProgramSection)" SectionProgram
     SectionIn RO
     !insertmacro RequireClosedProgram
-    SetOutPath "$INSTDIR\Vantrel"
-    !insertmacro InstallProgram
+    !insertmacro InstallProgram "Vantrel"
     File "${CONTENT}\Vantrel\LICENSE.txt"
     SetOutPath "$INSTDIR\ZUROLINKDLL\Help"
     File "${CONTENT}\ZUROLINKDLL\Help\*.pdf"
@@ -95,27 +97,6 @@ Section "$(ProgramSection)" SectionProgram
     WriteRegDWORD HKCU "${KEY}" "NoRepair" 1
 SectionEnd
 
-; Sets $R0 to 1 when the trial's library is the simulator that was installed, as told by its size, or
-; is not there; the maker's own may stand in its place, and then belongs to the operator.
-!macro IsOwnSimulator
-    Push $0
-    Push $1
-    Push $2
-    StrCpy $R0 1
-    ${If} ${FileExists} "$INSTDIR\Trial\Zurolink.dll"
-        ReadRegDWORD $0 HKCU "${KEY}" "SimulatorSize"
-        FileOpen $1 "$INSTDIR\Trial\Zurolink.dll" r
-        FileSeek $1 0 END $2
-        FileClose $1
-        ${If} $0 != $2
-            StrCpy $R0 0
-        ${EndIf}
-    ${EndIf}
-    Pop $2
-    Pop $1
-    Pop $0
-!macroend
-
 ; An installation in the other language may have made it.
 !macro RemoveTrialLink
     Delete "$SMPROGRAMS\${ENGLISH_TRIAL_LINK}.lnk"
@@ -123,16 +104,7 @@ SectionEnd
 !macroend
 
 Section "$(TrialSection)" SectionTrial
-    SetOutPath "$INSTDIR\Trial"
-    !insertmacro InstallProgram
-    !insertmacro IsOwnSimulator
-    ${If} $R0 == 1
-        File "${CONTENT}\Trial\Zurolink.dll"
-        FileOpen $0 "$INSTDIR\Trial\Zurolink.dll" r
-        FileSeek $0 0 END $1
-        FileClose $0
-        WriteRegDWORD HKCU "${KEY}" "SimulatorSize" $1
-    ${EndIf}
+    !insertmacro InstallProgram "Trial"
     SetOverwrite off
     File "${CONTENT}\Trial\Vantrel.ini"
     File "${CONTENT}\Trial\robot.ini"
@@ -145,16 +117,6 @@ Section "$(TrialSection)" SectionTrial
     CreateShortcut "$SMPROGRAMS\$(TrialLink).lnk" "$INSTDIR\Trial\Vantrel.exe"
 SectionEnd
 
-; What a folder holds of the program itself.
-!macro RemoveProgram FOLDER
-    Delete "${FOLDER}\Vantrel.exe"
-    Delete "${FOLDER}\LICENSE.txt"
-    !insertmacro RemoveTexts "${FOLDER}"
-    Delete "${FOLDER}\English.ico"
-    Delete "${FOLDER}\Japanese.ico"
-    Delete "${FOLDER}\System.ico"
-!macroend
-
 Section "Uninstall"
     !insertmacro RequireClosedProgram
     SetOutPath "$TEMP" ; no folder that is current can be removed
@@ -164,19 +126,18 @@ Section "Uninstall"
     Delete "$INSTDIR\ZUROLINKDLL\Help\Zurolink_jp.pdf"
     RMDir "$INSTDIR\ZUROLINKDLL\Help"
     RMDir "$INSTDIR\ZUROLINKDLL"
-    !insertmacro RemoveProgram "$INSTDIR\Vantrel"
-    !insertmacro RemoveProgram "$INSTDIR\Trial"
-    !insertmacro IsOwnSimulator
-    ${If} $R0 == 1
-        Delete "$INSTDIR\Trial\Zurolink.dll"
-    ${EndIf}
+    Delete "$INSTDIR\Vantrel\Vantrel.exe"
+    Delete "$INSTDIR\Vantrel\LICENSE.txt"
+    Delete "$INSTDIR\Trial\Vantrel.exe"
     MessageBox MB_YESNO|MB_ICONQUESTION "$(KeepData)" /SD IDYES IDYES keep
     Delete "$INSTDIR\Vantrel\Vantrel.ini"
     Delete "$INSTDIR\Vantrel\robot.ini"
     Delete "$INSTDIR\Vantrel\*.lng"
+    Delete "$INSTDIR\Vantrel\*.ico"
     Delete "$INSTDIR\Vantrel\FileTable.*"
     Delete "$INSTDIR\Vantrel\*.old"
     Delete "$INSTDIR\Vantrel\*.old?"
+    RMDir /r "$INSTDIR\Vantrel\.installed"
     RMDir /r "$INSTDIR\Trial"
 keep:
     ; Folders that still hold something, such as the maker's library, stay.

@@ -140,6 +140,37 @@ TEST_F(StartRoutineTest, StepsRunInTheirOrder) {
     EXPECT_EQ(desk_.state.IniFileName, "Vantrel.ini");
 }
 
+TEST_F(StartRoutineTest, ADeliveredTextIsInForceFromTheStartThatPlacesIt) {
+    const auto delivered = desk_.folder.read("English.lng");
+    ASSERT_TRUE(removeFile(desk_.folder.path("English.lng")));
+    desk_.folder.write(".installed/English.lng.new", delivered);
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_TRUE(logged("askYesNo m1"));
+}
+
+TEST_F(StartRoutineTest, ADeliveredFileThatCannotBePlacedIsTold) {
+    desk_.folder.makeFolder("FileTable.tbl");
+    desk_.folder.write(".installed/FileTable.tbl.new", "");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_THAT(desk_.log[0],
+                testing::StartsWith("tell " + desk_.folder.path("FileTable.tbl") + "\n"));
+}
+
+TEST_F(StartRoutineTest, AStartForAutomationPlacesFilesAndTellsNothing) {
+    desk_.folder.makeFolder("FileTable.tbl");
+    desk_.folder.write(".installed/FileTable.tbl.new", "");
+    desk_.folder.write(".installed/Japanese.lng.new", "new");
+    EXPECT_EQ(start({.startedForAutomation = true}), StartResult::Automation);
+    EXPECT_EQ(desk_.folder.read("Japanese.lng"), "new");
+    EXPECT_TRUE(desk_.log.empty());
+}
+
+TEST_F(StartRoutineTest, AnExitSwitchPlacesNothing) {
+    desk_.folder.write(".installed/Japanese.lng.new", "new");
+    EXPECT_EQ(start({.endsAtOnce = true}), StartResult::ExitSwitch);
+    EXPECT_FALSE(desk_.folder.has("Japanese.lng"));
+}
+
 TEST_F(StartRoutineTest, TheHelpFileIsTheSameForEveryLanguage) {
     for (const char* language : {"Japanese", "English", "System"}) {
         desk_.state.HelpFile.clear();

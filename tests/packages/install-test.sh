@@ -11,31 +11,41 @@ give_up() {
     exit 1
 }
 install_again() { cmake --install "$1" --prefix "$folder" >"$work/install.log"; }
+# With the switch that shows no window.
+start() { "$folder/Vantrel" /automation || give_up "the program ended with $?"; }
 holds() { [ "$(cat "$folder/$1")" = "$2" ] || give_up "$1 does not hold \"$2\""; }
+delivered=$(cd "$(dirname "${BASH_SOURCE[0]}")/../../data" && pwd)
+is_renewed() { cmp -s "$folder/$1" "$delivered/$1" || give_up "$1 was not renewed"; }
 
 install_again "$1"
-cp "$folder/English.lng" "$work/English.lng"
-for file in English.lng FileTable.tbl Vantrel.ini robot.ini simulator.ini libZurolink.so jobs/MAIN.JBI; do
-    printf 'mine' >"$folder/$file"
-done
+for file in English.lng Japanese.ico FileTable.dat; do is_renewed "$file"; done
+[ -z "$(find "$folder" -name '*.new')" ] || give_up "a new folder is not whole"
+cp "$folder/libZurolink.so" "$work/simulator"
+kept=(Vantrel.ini robot.ini simulator.ini jobs/MAIN.JBI)
+for file in English.lng FileTable.tbl libZurolink.so "${kept[@]}"; do printf 'mine' >"$folder/$file"; done
 rm "$folder/controllers/line1-weld/CALIB.JBI"
 
 install_again "$1"
-cmp -s "$folder/English.lng" "$work/English.lng" || give_up "the texts were not renewed"
-holds English.lng.old mine
-holds FileTable.tbl.old mine
+for file in English.lng FileTable.tbl; do holds "$file" mine; done
+start
+for file in English.lng FileTable.tbl; do
+    is_renewed "$file"
+    holds "$file.old" mine
+done
 [ ! -e "$folder/Japanese.lng.old" ] || give_up "a text that nobody changed was kept"
-for file in Vantrel.ini robot.ini simulator.ini libZurolink.so jobs/MAIN.JBI; do holds "$file" mine; done
+for file in libZurolink.so "${kept[@]}"; do holds "$file" mine; done
 [ ! -e "$folder/controllers/line1-weld/CALIB.JBI" ] || give_up "a deleted job came back"
 
-install_again "$1"
-holds English.lng.old mine
-
-# As an older version leaves it: its own texts, and one that the operator has changed since.
+# As an older version leaves it: its own texts, one that the operator has changed since, and its
+# simulator.
 printf 'older' | tee "$folder/System.lng" "$folder/.installed/System.lng" >"$folder/.installed/English.lng"
 printf 'mine again' >"$folder/English.lng"
+printf 'older ZurolinkSimulator' >"$folder/libZurolink.so"
 install_again "$1"
+start
 holds English.lng.old mine
 holds English.lng.old2 'mine again'
 [ ! -e "$folder/System.lng.old" ] || give_up "a text of an older version was kept"
-cmp -s "$folder/System.lng" "$folder/.installed/System.lng" || give_up "a text was not renewed"
+is_renewed System.lng
+cmp -s "$folder/libZurolink.so" "$work/simulator" || give_up "the simulator was not renewed"
+[ -z "$(find "$folder" -name '*.new')" ] || give_up "something is still waiting"

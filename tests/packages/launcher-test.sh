@@ -24,10 +24,10 @@ install_version() {
     mkdir -p "$installed/Vantrel/jobs" "$installed/Vantrel/.installed" "$installed/ZUROLINKDLL/Help"
     cp "$here/../../packaging/linux/vantrel" "$installed/vantrel"
     local name
-    for name in English.lng Japanese.lng System.lng FileTable.tbl FileTable.dat; do
+    for name in English.lng Japanese.lng System.lng FileTable.tbl FileTable.dat English.ico Japanese.ico System.ico; do
         printf '%s\n' "$1" | tee "$installed/Vantrel/$name" >"$installed/Vantrel/.installed/$name"
     done
-    for name in English.ico Japanese.ico System.ico simulator.ini robot.ini; do
+    for name in simulator.ini robot.ini; do
         printf '%s\n' "$1" >"$installed/Vantrel/$name"
     done
     printf 'ZurolinkSimulator %s\n' "$1" >"$installed/Vantrel/libZurolink.so"
@@ -79,53 +79,25 @@ expect_text "$own/robot.ini" mine
 expect_text "$own/Vantrel.ini" mine
 expect_no_file "$own/jobs/A.JBI"
 
-begin UpgradeRenewsTextsAndKeepsWhatTheUserHas
+begin UpgradeDeliversTextsAndSimulatorAndTouchesNothingElse
 start
-printf 'mine\n' | tee "$own/English.lng" "$own/robot.ini" "$own/Vantrel.ini" "$own/simulator.ini" >/dev/null
+expect_no_file "$own/.installed/English.lng.new"
+printf 'mine\n' | tee "$own/English.lng" "$own/libZurolink.so" "$own/robot.ini" "$own/Vantrel.ini" "$own/simulator.ini" >/dev/null
 rm "$own/jobs/A.JBI"
 upgrade 1.1.0
 start
-expect_text "$own/English.lng" 1.1.0
-expect_text "$own/English.lng.old" mine
-expect_text "$own/Japanese.lng" 1.1.0
-expect_text "$own/libZurolink.so" 'ZurolinkSimulator 1.1.0'
-expect_no_file "$own/libZurolink.so.old"
-for kept in robot.ini Vantrel.ini simulator.ini; do expect_text "$own/$kept" mine; done
+for name in English.lng Japanese.lng System.lng FileTable.tbl FileTable.dat English.ico Japanese.ico System.ico; do
+    expect_text "$own/.installed/$name.new" 1.1.0
+    expect_text "$own/.installed/$name" 1.0.0
+    [ -w "$own/.installed/$name.new" ] || fail "$name.new cannot be replaced"
+done
+expect_text "$own/.installed/libZurolink.so.new" 'ZurolinkSimulator 1.1.0'
+for kept in English.lng libZurolink.so robot.ini Vantrel.ini simulator.ini; do expect_text "$own/$kept" mine; done
+expect_text "$own/Japanese.lng" 1.0.0
 expect_no_file "$own/jobs/A.JBI"
-printf 'mine again\n' >"$own/English.lng"
+rm "$own"/.installed/*.new # the program has put them in their places
 start
-expect_text "$own/English.lng" 'mine again'
-
-begin TextThatNobodyChangedLeavesNothingBehind
-start
-upgrade 1.1.0
-start
-upgrade 1.2.0
-start
-expect_text "$own/English.lng" 1.2.0
-expect_no_file "$own/English.lng.old"
-
-begin ChangedTextsOfSeveralUpgradesAllStay
-start
-printf 'mine of 1.0\n' >"$own/English.lng"
-upgrade 1.1.0
-start
-printf 'mine of 1.1\n' >"$own/English.lng"
-upgrade 1.2.0
-start
-upgrade 1.3.0
-start
-expect_text "$own/English.lng" 1.3.0
-expect_text "$own/English.lng.old" 'mine of 1.0'
-expect_text "$own/English.lng.old2" 'mine of 1.1'
-expect_no_file "$own/English.lng.old3"
-
-begin UpgradeKeepsTheMakersLibrary
-start
-printf 'the maker'"'"'s own\n' >"$own/libZurolink.so"
-upgrade 1.1.0
-start
-expect_text "$own/libZurolink.so" "the maker's own"
+expect_no_file "$own/.installed/English.lng.new"
 
 begin StartsThroughALinkFindWhatIsInstalled
 ln -s "$installed/vantrel" "$work/$case/link"
@@ -145,14 +117,16 @@ expect_text "$work/started" "|one"
 begin UpgradeThatFailsStartsTheProgramAndIsTriedAgain
 start
 printf 'mine\n' >"$own/English.lng"
-mkdir "$own/English.lng.new" # what a full disk would do
+mkdir "$own/.installed/English.lng.part" # what a full disk would do
 upgrade 1.1.0
 start 2>"$work/reason"
 expect_text "$work/started" "$own|"
 expect_text "$own/.version" 1.0.0
-rm -r "$own/English.lng.new"
+expect_no_file "$own/.installed/English.lng.new"
+rm -r "$own/.installed/English.lng.part"
 start
-expect_text "$own/English.lng" 1.1.0
+expect_text "$own/.installed/English.lng.new" 1.1.0
+expect_text "$own/.version" 1.1.0
 
 begin TwoFirstStartsAtOnceShareOneFolder
 start &

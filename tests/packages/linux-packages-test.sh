@@ -19,13 +19,30 @@ odd=$({ tar --list --verbose --file "$work"/Vantrel-linux-*.tar.gz && dpkg-deb -
 [ -z "$odd" ] || give_up "$odd"
 
 say "The archive has the program, the trial and the manuals."
-tar --extract --file "$work"/Vantrel-linux-*.tar.gz --directory "$work"
-for file in Vantrel/Vantrel Vantrel/English.lng Vantrel/LICENSE.txt Trial/Vantrel Trial/libZurolink.so \
-    Trial/jobs/TRIAL1.JBI ZUROLINKDLL/Help/Zurolink_us.pdf ZUROLINKDLL/Help/Zurolink_jp.pdf; do
-    [ -s "$work"/Vantrel-linux-*/"$file" ] || give_up "not in the archive: $file"
+archive=$(echo "$work"/Vantrel-linux-*.tar.gz)
+unpacked=${archive%.tar.gz}
+unpack() { tar --extract --file "$archive" --directory "$work"; }
+unpack
+for file in Vantrel/Vantrel Vantrel/.installed/English.lng.new Vantrel/LICENSE.txt Trial/Vantrel \
+    Trial/.installed/libZurolink.so.new Trial/jobs/TRIAL1.JBI ZUROLINKDLL/Help/Zurolink_us.pdf \
+    ZUROLINKDLL/Help/Zurolink_jp.pdf; do
+    [ -s "$unpacked/$file" ] || give_up "not in the archive: $file"
 done
-! ls "$work"/Vantrel-linux-*/Vantrel/libZurolink.so 2>/dev/null || give_up "the simulator is beside the real program"
-! grep -rlF "$work" "$work"/Vantrel-linux-* || give_up "a path of this machine is in the archive"
+[ ! -e "$unpacked/Vantrel/.installed/libZurolink.so.new" ] || give_up "the simulator is beside the real program"
+! grep -rlF "$work" "$unpacked" || give_up "a path of this machine is in the archive"
+
+say "Unpacked over an older one it keeps what the operator has changed."
+start() { "$unpacked/Trial/Vantrel" /automation || give_up "the program of the archive ended with $?"; }
+holds() { [ "$(cat "$unpacked/Trial/$1")" = "$2" ] || give_up "$1 does not hold \"$2\""; }
+start
+cmp "$unpacked/Trial/libZurolink.so" "$1/simulator/libZurolink.so" || give_up "the simulator is not in its place"
+for file in English.lng libZurolink.so; do printf mine >"$unpacked/Trial/$file"; done
+unpack
+start
+cmp "$unpacked/Trial/English.lng" "$here/../../data/English.lng" || give_up "a text was not renewed"
+holds English.lng.old mine
+holds libZurolink.so mine
+[ ! -e "$unpacked/Trial/Japanese.lng.old" ] || give_up "a text that nobody changed was kept"
 
 say "The .deb has what a desktop looks for."
 root=$work/root

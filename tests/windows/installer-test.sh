@@ -66,19 +66,27 @@ refused_while_running() {
 }
 
 
-install
+# What is delivered takes its place at a start; one with this switch shows no window.
+start() { (cd "$folder/$1" && wine Vantrel.exe /automation) || give_up "the program of $1 ended with $?"; }
+install_and_start() {
+    install
+    start Vantrel
+    start Trial
+    [ -z "$(find "$folder" -name '*.new')" ] || give_up "something is still waiting"
+}
+
+install_and_start
 there Vantrel/Vantrel.exe Vantrel/Japanese.lng Vantrel/FileTable.tbl Vantrel/Japanese.ico \
     Trial/Zurolink.dll Trial/jobs/MAIN.JBI Trial/controllers/line1-weld/CALIB.JBI Uninstall.exe \
     ZUROLINKDLL/Help/Zurolink_us.pdf ZUROLINKDLL/Help/Zurolink_jp.pdf
 gone Vantrel/Zurolink.dll
 is_registered || give_up "not in the list of installed programs"
 [ "$(shortcuts)" -eq 2 ] || give_up "$(shortcuts) entries in the start menu"
-(cd "$folder/Vantrel" && wine Vantrel.exe /EXIT) || give_up "the program does not start"
 
 mine=(Vantrel/Vantrel.ini Vantrel/robot.ini Vantrel/Zurolink.dll Trial/Vantrel.ini Trial/jobs/MAIN.JBI)
 for file in "${mine[@]}" Vantrel/English.lng; do printf mine >"$folder/$file"; done
 rm "$folder/Trial/controllers/line1-weld/CALIB.JBI"
-install
+install_and_start
 for file in "${mine[@]}" Vantrel/English.lng.old; do holds "$file" mine; done
 cmp -s "$folder/Vantrel/English.lng" "$source_folder/data/English.lng" || give_up "a text was not renewed"
 gone Vantrel/English.lng.old2 Vantrel/Japanese.lng.old Trial/English.lng.old Trial/controllers/line1-weld/CALIB.JBI
@@ -94,7 +102,7 @@ printf changed >"$folder/Vantrel/System.lng" # and nobody knows what was install
 rm "$folder/Vantrel/.installed/System.lng"
 for number in '' 2 3 4 5 6 7 8 9; do printf kept >"$folder/Vantrel/FileTable.dat.old$number"; done
 printf changed >"$folder/Vantrel/FileTable.dat"
-install
+install_and_start
 holds Vantrel/English.lng.old mine
 gone Vantrel/English.lng.old2 Trial/FileTable.tbl.old Vantrel/FileTable.dat.old10
 for file in Japanese.lng.old System.lng.old FileTable.dat.old9; do holds "Vantrel/$file" changed; done
@@ -104,21 +112,21 @@ is_renewed Trial/FileTable.tbl
 as_of_another_version Vantrel/Japanese.lng
 printf 'changed again' >"$folder/Vantrel/Japanese.lng"
 printf 'in the other language' >"$menu/Vantrel (trial).lnk"
-install
+install_and_start
 holds Vantrel/Japanese.lng.old changed
 holds Vantrel/Japanese.lng.old2 'changed again'
 gone Vantrel/Japanese.lng.old3 Vantrel/System.lng.old2
 [ "$(shortcuts)" -eq 2 ] || give_up "the trial is in the start menu in two languages"
 
-# The simulator is renewed, and removed, unless the maker's library stands in its place.
+# The simulator is renewed unless the maker's library stands in its place.
 printf mine >"$folder/Trial/Zurolink.dll"
-install
+install_and_start
 holds Trial/Zurolink.dll mine
 rm "$folder/Trial/Zurolink.dll"
-install
+install_and_start
 cp "$folder/Trial/Zurolink.dll" "$work/simulator.dll"
-printf 'as of another version' | dd of="$folder/Trial/Zurolink.dll" conv=notrunc status=none
-install
+printf 'ZurolinkSimulator of another version' >"$folder/Trial/Zurolink.dll"
+install_and_start
 cmp -s "$folder/Trial/Zurolink.dll" "$work/simulator.dll" || give_up "the simulator was not renewed"
 
 as_of_another_version Vantrel/English.lng # what a refused installation must not renew
@@ -128,11 +136,10 @@ for part in Vantrel Trial; do
 done
 
 printf 'in the other language' >"$menu/Vantrel (trial).lnk"
-printf mine >"$folder/Vantrel/Japanese.lng" # changed since it was installed
 uninstall || give_up "the uninstaller ended with $?"
-gone Vantrel/Vantrel.exe Vantrel/English.lng Vantrel/English.ico Vantrel/LICENSE.txt \
-    Trial/Vantrel.exe Trial/Zurolink.dll ZUROLINKDLL Uninstall.exe Vantrel/.installed Trial/.installed
-for file in "${mine[@]}" Vantrel/English.lng.old Vantrel/Japanese.lng; do holds "$file" mine; done
+gone Vantrel/Vantrel.exe Vantrel/LICENSE.txt Trial/Vantrel.exe ZUROLINKDLL Uninstall.exe
+there Vantrel/English.lng Vantrel/.installed/English.lng Trial/Zurolink.dll
+for file in "${mine[@]}" Vantrel/English.lng.old; do holds "$file" mine; done
 ! is_registered || give_up "still in the list of installed programs"
 [ "$(shortcuts)" -eq 0 ] || give_up "still in the start menu"
 echo "Installed, brought up to date and uninstalled; what the operator had is still there."

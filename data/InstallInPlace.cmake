@@ -1,0 +1,16 @@
+# At install time: what has been delivered takes its place where nothing is yet.
+get_filename_component(prefix "${CMAKE_INSTALL_PREFIX}" ABSOLUTE)
+set(folder "$ENV{DESTDIR}${prefix}")
+
+file(GLOB delivered "${folder}/.installed/*.new")
+foreach(file IN LISTS delivered)
+    get_filename_component(name "${file}" NAME_WLE)
+    if(EXISTS "${folder}/${name}")
+        message(STATUS "Left to the program's next start: ${folder}/${name}")
+        continue()
+    endif()
+    if(NOT name STREQUAL LIBRARY)
+        file(COPY_FILE "${file}" "${folder}/.installed/${name}")
+    endif()
+    file(RENAME "${file}" "${folder}/${name}")
+endforeach()
