@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace vantrel {
 
@@ -12,7 +13,7 @@ namespace vantrel {
 /// and buttons in line.
 class ViewerCommands {
   public:
-    explicit ViewerCommands(const MainServices& services) : with_(services) {}
+    explicit ViewerCommands(MainServices services) : with_(std::move(services)) {}
 
     /// Shows the selected job-kind file of the PC pane, whichever pane is the active one, or hides
     /// the viewer when it is shown. Without such a file nothing changes; a file that cannot be read

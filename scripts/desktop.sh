@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Driving the real program on a display, as an operator does: sourced by the scripts that do so.
 # Nothing here waits for a fixed time; each wait is for something to be seen, with an end.
 

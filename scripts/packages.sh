@@ -1,7 +1,7 @@
-source "$(dirname "${BASH_SOURCE[0]}")/steps.sh"
-
+# shellcheck shell=bash
 # Which Debian packages the build, the tests and the virtual display need, and how to get them.
 # Sourced by ./run, ./test, ./test-windows and scripts/.
+source "$(dirname "${BASH_SOURCE[0]}")/steps.sh"
 
 # For scripts/pack.sh.
 linux_packages=(dpkg-dev fakeroot file librsvg2-bin)
@@ -9,6 +9,8 @@ build_packages=(g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev pkg-co
     ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils adwaita-icon-theme)
 test_packages=(libgtest-dev libgmock-dev g++-multilib python3 poppler-utils "${linux_packages[@]}" desktop-file-utils appstream)
+# For scripts/format.sh and scripts/tidy.sh, of one version everywhere.
+style_packages=(git clang-14 clang-format-14 clang-tidy-14)
 fuzz_packages=(clang cmake ninja-build ccache)
 # For the Windows build and its tests under Wine; the source package of the toolkit is fetched by
 # scripts/windows-toolkit.sh.

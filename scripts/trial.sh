@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # A trial of the real program on a display: sourced by the scripts that play what an operator does.
 #   trial_start BUILD_FOLDER WORK_FOLDER   lays out a fresh trial folder, starts the program, lets it
 #                                          read the controller's file list and activates its window

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What is different in a trial of the program for Windows, which runs under Wine: sourced after
 # trial.sh, whose functions and places it replaces.
 

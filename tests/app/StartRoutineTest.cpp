@@ -8,6 +8,7 @@
 #include <functional>
 #include <stdexcept>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace vantrel {
