@@ -56,8 +56,7 @@ std::vector<std::string> DeliveredFiles::waiting() const {
     std::vector<std::string> names;
     // Without that folder nothing has been delivered.
     (void)visitNames(installed_, [&](std::string_view name) {
-        if (name.size() > newEnding.size() && name.ends_with(newEnding) &&
-            PathRules::isPlainName(name))
+        if (name.size() > newEnding.size() && name.ends_with(newEnding))
             names.emplace_back(name.substr(0, name.size() - newEnding.size()));
     });
     std::ranges::sort(names);

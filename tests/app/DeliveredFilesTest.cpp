@@ -137,6 +137,25 @@ TEST_F(DeliveredFilesTest, TheLastOfNineKeptTextsGivesWay) {
     EXPECT_FALSE(folder_.has("English.lng.old10"));
 }
 
+TEST_F(DeliveredFilesTest, OnlyWhatWaitsUnderANameIsPlaced) {
+    folder_.write(".installed/.new", "nameless");
+    folder_.write(".installed/English.lng.part", "half of it");
+    EXPECT_THAT(takePlaces(), ElementsAre());
+    EXPECT_FALSE(folder_.has("English.lng"));
+    EXPECT_TRUE(folder_.has(".installed/English.lng.part"));
+}
+
+TEST_F(DeliveredFilesTest, FailuresAreNamedInTheOrderOfTheirNames) {
+    for (const char* name : {"d", "b", "f", "a", "e", "c"}) {
+        folder_.makeFolder(name);
+        deliver(name, "two");
+    }
+    std::string order;
+    for (const auto& file : DeliveredFiles(folder_.path()).takePlaces())
+        order += file.path.back();
+    EXPECT_EQ(order, "abcdef");
+}
+
 TEST_F(DeliveredFilesTest, AnOlderSimulatorIsReplaced) {
     folder_.write(library_, "older, ZurolinkSimulator too");
     deliver(library_, simulator_);
