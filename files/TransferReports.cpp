@@ -115,7 +115,12 @@ void TransferReports::tellTransferFailure(const std::string& end, const std::str
 }
 
 std::string TransferReports::furtherLines() const {
-    return folderLine() + unreplacedLine();
+    return markLine() + folderLine() + unreplacedLine();
+}
+
+/// What the operator has to remove before the file can be sent.
+std::string TransferReports::markLine() const {
+    return lineOf(with_.session.unusableMark());
 }
 
 /// Where it is the PC folder that stands in the way of every file, its name and the system's words.

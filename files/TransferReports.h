@@ -44,14 +44,15 @@ class TransferReports {
     /// The session's last failure as one of reading the controller's directory.
     void controllerNotRead() const;
 
-    /// What stands below the session's last failure whatever the report's form: the PC folder,
-    /// where that is the reason, and what the failure cost the robot.
+    /// What stands below the session's last failure whatever the report's form: the PC folder, or
+    /// the mark in it, where that is the reason, and what the failure cost the robot.
     std::string furtherLines() const;
 
     void tell(const std::string& text) const;
 
   private:
     void tellTransferFailure(const std::string& end, const std::string& name) const;
+    std::string markLine() const;
     std::string folderLine() const;
     std::string unreplacedLine() const;
     std::string linesOf(const std::vector<std::string>& names) const;

@@ -206,6 +206,10 @@ inline constexpr std::int32_t executionMessage = 350; ///< the start message's t
 inline constexpr std::int32_t page = 361; ///< then the page, `progressOf`, the number of pages
 inline constexpr std::int32_t tipFolderTree = 370;
 
+// A mark in the PC folder that does not tell what became of its file. (371 is the session's text.)
+inline constexpr std::int32_t markUnusable = 372; ///< after [name], then [the mark's name]
+inline constexpr std::int32_t markOfNoFile = 373; ///< after [the mark's name]
+
 namespace resource {
 inline constexpr std::int32_t alreadyExists = 2; ///< after a name and a blank
 inline constexpr std::int32_t transferring = 4;  ///< then a name, or alone

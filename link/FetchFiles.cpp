@@ -9,6 +9,10 @@ Result<HeldFile> FetchFiles::hold(const std::string& path) {
     return HeldFile::make(path);
 }
 
+Result<std::optional<HeldFile>> FetchFiles::take(const std::string& path) {
+    return HeldFile::take(path);
+}
+
 bool FetchFiles::isHeldAlone(const HeldFile& file) {
     return file.isHeldAlone();
 }

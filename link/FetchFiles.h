@@ -3,6 +3,7 @@
 #include "base/Result.h"
 #include "platform/HeldFile.h"
 
+#include <optional>
 #include <string>
 
 namespace vantrel {
@@ -14,6 +15,8 @@ class FetchFiles {
   public:
     virtual ~FetchFiles() = default;
     virtual Result<HeldFile> hold(const std::string& path);
+    /// As `HeldFile::take`; changes nothing on the disk.
+    virtual Result<std::optional<HeldFile>> take(const std::string& path);
     /// Whether nobody else can hold it; false where the disk does not tell.
     virtual bool isHeldAlone(const HeldFile& file);
     virtual Outcome write(HeldFile& file, const std::string& content);

@@ -6,6 +6,7 @@
 #include "link/FetchFiles.h"
 #include "link/FetchMark.h"
 #include "link/OperatorTalk.h"
+#include "link/SessionErrorRecord.h"
 #include "link/ShownText.h"
 #include "platform/Files.h"
 
@@ -19,25 +20,48 @@ std::string pathOf(const std::string& folder, const std::string& name) {
     return PathRules().join(folder, name);
 }
 
-struct HeldMark {
-    HeldFile held;
-    FetchMark mark;
+/// What lies under a mark's name.
+struct Look {
+    bool isUnusable = false;        ///< it is there, and nobody can tell what it stands for
+    std::optional<HeldFile> held{}; ///< with `mark`, a whole mark that nobody else holds
+    FetchMark mark{};
 };
 
-/// Nothing where somebody holds the file or it is no mark. A torn one is of a program that ended
-/// before it touched anything.
-std::optional<HeldMark> takeMark(FetchFiles& files, const std::string& path,
-                                 const std::string& name) {
-    auto held = HeldFile::take(path);
-    const auto content = held ? held->read() : Failure{};
+/// Neither where somebody holds the file or it is gone. A torn one is of a program that ended
+/// before it touched anything, and goes.
+Look lookAt(FetchFiles& files, const std::string& path, const std::string& name) {
+    auto taken = files.take(path);
+    if (taken && !*taken)
+        return {};
+    const auto content = taken ? (*taken)->read() : Failure{};
     if (!content)
-        return {};
-    if (FetchMark::isTorn(*content) && files.isHeldAlone(*held))
-        static_cast<void>(held->remove());
-    auto mark = FetchMark::parse(*content);
-    if (!mark || FetchMark::fileNameFor(mark->name) != name)
-        return {};
-    return HeldMark{std::move(*held), std::move(*mark)};
+        return {.isUnusable = true};
+    if (auto mark = FetchMark::parse(*content); mark && FetchMark::fileNameFor(mark->name) == name)
+        return {.held = std::move(*taken), .mark = std::move(*mark)};
+    const bool isTorn = FetchMark::isTorn(*content) && files.isHeldAlone(**taken);
+    return {.isUnusable = !isTorn || !files.remove(**taken)};
+}
+
+std::string inLines(const std::vector<std::string>& texts) {
+    std::string lines;
+    for (const std::string& text : texts)
+        lines += (lines.empty() ? "" : "\n") + text;
+    return lines;
+}
+
+/// The file that a mark of this name stands for, and its old version, as far as the folder has
+/// them.
+FetchMark fileOf(const std::string& markName, const std::vector<std::string>& names) {
+    FetchMark file;
+    for (const std::string& name : names) {
+        const std::string before = name.substr(0, name.rfind(replacedSuffix));
+        if (FetchMark::fileNameFor(before) != markName)
+            continue;
+        file.name = before;
+        if (before != name)
+            file.aside = name;
+    }
+    return file;
 }
 
 } // namespace
@@ -46,31 +70,45 @@ std::optional<HeldMark> takeMark(FetchFiles& files, const std::string& path,
 // in meanwhile, pass it over.
 bool InterruptedFetches::settle(const std::string& folder, const std::vector<std::string>& names) {
     std::vector<std::pair<std::string, HeldFile>> settled;
-    std::string told;
+    std::vector<std::string> told;
     for (const std::string& name : names) {
+        if (!FetchMark::isFileName(name) || told.size() == mostAtOnce)
+            continue;
         const std::string path = pathOf(folder, name);
-        const bool isKnown = told_.contains(path) || path == running_;
-        if (!FetchMark::isFileName(name) || isKnown || settled.size() == mostAtOnce)
+        if (told_.contains(path) || path == running_)
             continue;
-        auto found = takeMark(files_, path, name);
-        if (!found)
-            continue;
-        const bool isOver = files_.isHeldAlone(found->held);
-        told += (told.empty() ? "" : "\n") +
-                (isOver ? settleOne(folder, found->mark) : describe(folder, found->mark));
-        settled.emplace_back(path, std::move(found->held));
+        Look look = lookAt(files_, path, name);
+        if (look.isUnusable) {
+            told.push_back(describeUnusable(name, names));
+            told_.insert(path);
+        } else if (look.held) {
+            const bool isOver = files_.isHeldAlone(*look.held);
+            told.push_back(isOver ? settleOne(folder, look.mark) : describe(folder, look.mark));
+            settled.emplace_back(path, std::move(*look.held));
+        }
     }
-    if (settled.empty())
+    if (told.empty())
         return false;
-    talk_.tell(told, BoxIcon::Exclamation);
+    talk_.tell(inLines(told), BoxIcon::Exclamation);
     for (auto& [path, held] : settled)
         if (!files_.isHeldAlone(held) || !files_.remove(held))
             told_.insert(path);
     return true;
 }
 
-bool InterruptedFetches::isOpen(const std::string& folder, const std::string& name) const {
-    return anythingExists(pathOf(folder, FetchMark::fileNameFor(name))) && !isTold(folder, name);
+// A mark that cannot be read forbids it whether or not the operator was told: what he was told is
+// to look at the file and to remove the mark.
+std::int16_t InterruptedFetches::forbidsSending(const std::string& folder,
+                                                const std::string& name) {
+    const std::string mark = FetchMark::fileNameFor(name);
+    const std::string path = pathOf(folder, mark);
+    if (!anythingExists(path))
+        return 0;
+    const Look look = lookAt(files_, path, mark);
+    if (look.isUnusable)
+        return session_code::markUnusable;
+    const bool isOpen = look.held ? !told_.contains(path) : anythingExists(path);
+    return isOpen ? session_code::fileNotReadable : std::int16_t{0};
 }
 
 bool InterruptedFetches::isTold(const std::string& folder, const std::string& name) const {
@@ -97,6 +135,16 @@ std::string InterruptedFetches::settleOne(const std::string& folder, const Fetch
         return head + text(message::oldFileIsBack);
     // Somebody else was at work here meanwhile: what lies there may be his.
     return describe(folder, mark);
+}
+
+std::string InterruptedFetches::describeUnusable(const std::string& name,
+                                                 const std::vector<std::string>& names) const {
+    const FetchMark file = fileOf(name, names);
+    if (file.name.empty())
+        return bracketed(name) + text(message::markOfNoFile);
+    const std::string oldFile =
+        file.aside.empty() ? "" : text(message::oldFileKeptAs) + bracketed(file.aside);
+    return bracketed(file.name) + text(message::markUnusable) + bracketed(name) + oldFile;
 }
 
 std::string InterruptedFetches::describe(const std::string& folder, const FetchMark& mark) const {

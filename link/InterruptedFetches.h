@@ -20,7 +20,8 @@ struct FetchMark;
 /// operator is told. Nothing is ever deleted but the mark, and that only after the operator was
 /// told. The mark of a transfer that is running, here or in another program, is held and so left
 /// alone. Where the disk does not tell whether it is, nothing is touched, and the operator is told
-/// that the file may be incomplete.
+/// that the file may be incomplete. What lies under a mark's name and cannot be read as one is told
+/// once as well, and the file that it stands for is not sent until somebody has removed it.
 class InterruptedFetches {
   public:
     InterruptedFetches(FetchFiles& files, const MessageTable& messages, OperatorTalk& talk)
@@ -29,9 +30,10 @@ class InterruptedFetches {
     /// `names` are the folder's. True when there was something to settle, so that the folder now
     /// has other names. What cannot be mended is told once.
     bool settle(const std::string& folder, const std::vector<std::string>& names);
-    /// Whether the file may be half of one, and the operator was not told so: its transfer is
-    /// running, or nobody has looked at the folder since it was interrupted.
-    bool isOpen(const std::string& folder, const std::string& name) const;
+    /// 0, or the session's code for why the file must not be sent. It may be half of one, and the
+    /// operator was not told so: its transfer is running, or nobody has looked at the folder since
+    /// it was interrupted. Or its mark does not tell what became of it.
+    std::int16_t forbidsSending(const std::string& folder, const std::string& name);
     /// Whether the operator was told of a transfer whose mark still lies there.
     bool isTold(const std::string& folder, const std::string& name) const;
     /// This program's own transfer, of which nothing is told while it runs.
@@ -44,6 +46,9 @@ class InterruptedFetches {
 
     /// What to tell of one file, after doing what can be done.
     std::string settleOne(const std::string& folder, const FetchMark& mark);
+    /// What to tell of the mark of this name, which cannot be read; `names` are the folder's.
+    std::string describeUnusable(const std::string& name,
+                                 const std::vector<std::string>& names) const;
     /// What to tell of one that may be running.
     std::string describe(const std::string& folder, const FetchMark& mark) const;
     std::string bringBack(const std::string& folder, const FetchMark& mark);

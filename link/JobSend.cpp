@@ -1,6 +1,7 @@
 #include "link/JobSend.h"
 
 #include "base/PathRules.h"
+#include "link/FetchMark.h"
 #include "link/InterruptedFetches.h"
 #include "link/JobDeletion.h"
 #include "link/JobFile.h"
@@ -34,9 +35,12 @@ void JobSend::begin() {
 }
 
 bool JobSend::isWhole(const std::string& file, std::int32_t index) {
-    if (!interrupted_.isOpen(tools_.properties.path, file))
+    const std::int16_t code = interrupted_.forbidsSending(tools_.properties.path, file);
+    if (code == 0)
         return true;
-    tools_.error.set(session_code::fileNotReadable, "", index);
+    tools_.error.set(code, "", index);
+    if (code == session_code::markUnusable)
+        tools_.error.mark = FetchMark::fileNameFor(file);
     return false;
 }
 

@@ -28,14 +28,13 @@ struct ReplaceConsent {
 /// Sends one file of the PC folder into the controller.
 class JobSend {
   public:
-    JobSend(const TransferTools& tools, JobDeletion& deletion,
-            const InterruptedFetches& interrupted)
+    JobSend(const TransferTools& tools, JobDeletion& deletion, InterruptedFetches& interrupted)
         : tools_(tools), deletion_(deletion), interrupted_(interrupted) {}
 
     /// Forgets what the last operation has deleted.
     void begin();
     /// False, with the reason recorded, while the file is being fetched, by whatever program, or
-    /// was and nobody has settled it: half a job must not replace a whole one.
+    /// was and nobody has settled it, or nobody can: half a job must not replace a whole one.
     bool isWhole(const std::string& file, std::int32_t index);
     /// `index` is the file's place among several, for the error record. `sent`, when given, becomes
     /// what was sent, for somebody who is to delete the file on the PC: then data files are read
@@ -85,7 +84,7 @@ class JobSend {
 
     TransferTools tools_;
     JobDeletion& deletion_;
-    const InterruptedFetches& interrupted_;
+    InterruptedFetches& interrupted_;
     std::vector<std::string> unreplaced_;
     std::string storedAs_;
 };

@@ -38,6 +38,8 @@ inline constexpr std::int16_t fetchNotMarked =
     45; ///< the PC folder's mark cannot be set or taken off
 inline constexpr std::int16_t fileNotFlushed =
     46; ///< the arrived file cannot be brought to the disk
+inline constexpr std::int16_t markUnusable =
+    -129; ///< what marks an interrupted fetch of the PC file cannot be read
 inline constexpr std::int16_t libraryUnusable = -10; ///< missing, wrong or incomplete library
 } // namespace session_code
 
@@ -50,12 +52,14 @@ struct SessionErrorRecord {
     bool isReturned = false;  ///< the code is what the function returned, not a finding of our own
     bool hasIndex = false;    ///< the index was given with this failure and is not an older one
     std::string systemReason; ///< in the system's words, where it was the one to refuse
+    std::string mark;         ///< the name of the one that cannot be read
 
     /// Without an index the previous one stays.
     void set(std::int16_t code, std::string function, std::optional<std::int32_t> index = {}) {
         ErrorCode = code;
         ErrorFunction = std::move(function);
         systemReason.clear();
+        mark.clear();
         isReturned = false;
         hasIndex = index.has_value();
         if (index)

@@ -184,6 +184,10 @@ const std::string& Snappy::systemReason() const {
     return parts_->error.systemReason;
 }
 
+const std::string& Snappy::unusableMark() const {
+    return parts_->error.mark;
+}
+
 const LocalJobList& Snappy::readLocalJobs() {
     parts_->localJobs.read(path);
     return parts_->localJobs;

@@ -93,6 +93,8 @@ class Snappy : public SessionProperties {
     /// What the system said to the last failure, where it was the system that refused a list file
     /// or the PC folder; empty for every other failure, whose code tells all that is known.
     const std::string& systemReason() const;
+    /// The mark in the PC folder for which the last failure was not to send a file, or empty.
+    const std::string& unusableMark() const;
     /// Reads "LocalJob.lst" of `path` as a list transfer does: without one the list stays as it
     /// was.
     const LocalJobList& readLocalJobs();

@@ -3,6 +3,7 @@
 #include "base/Result.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,8 +17,9 @@ class HeldFile {
   public:
     /// Makes the file; one that is there and not held is taken over.
     static Result<HeldFile> make(const std::string& path);
-    /// Fails when there is no such file or somebody holds it.
-    static Result<HeldFile> take(const std::string& path);
+    /// Nothing when somebody holds the file or there is none any more; fails when what is there can
+    /// be held by nobody here.
+    static Result<std::optional<HeldFile>> take(const std::string& path);
 
     /// False on a disk without locks: somebody else may hold the file as well.
     bool isHeldAlone() const;
@@ -32,7 +34,7 @@ class HeldFile {
     struct Open;
 
     explicit HeldFile(std::shared_ptr<Open> open) : open_(std::move(open)) {}
-    static Result<HeldFile> hold(const std::string& path, bool make);
+    static Result<std::optional<HeldFile>> hold(const std::string& path, bool make);
 
     std::shared_ptr<Open> open_;
 };

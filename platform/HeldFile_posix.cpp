@@ -31,14 +31,18 @@ Descriptor openForHolding(const std::string& path, int flags) {
     return file;
 }
 
+bool isRegular(const Descriptor& file) {
+    struct stat opened {};
+    return ::fstat(file.number(), &opened) == 0 && S_ISREG(opened.st_mode);
+}
+
 /// Whether the path still leads to the open file: its last holder may have removed it while it was
 /// being opened here.
 bool isThere(const Descriptor& file, const std::string& path) {
     struct stat opened {};
     struct stat named {};
     return ::fstat(file.number(), &opened) == 0 && readDetails(path, named) &&
-           S_ISREG(opened.st_mode) && opened.st_ino == named.st_ino &&
-           opened.st_dev == named.st_dev;
+           opened.st_ino == named.st_ino && opened.st_dev == named.st_dev;
 }
 
 bool knowsNoLocks(int error) {
@@ -47,26 +51,35 @@ bool knowsNoLocks(int error) {
 
 } // namespace
 
-Result<HeldFile> HeldFile::hold(const std::string& path, bool make) {
+Result<std::optional<HeldFile>> HeldFile::hold(const std::string& path, bool make) {
     if (hasNul(path))
         return systemFailure(EINVAL);
     Descriptor file = openForHolding(path, make ? O_CREAT : 0);
+    if (!file.isOpen() && !make && errno == ENOENT)
+        return std::optional<HeldFile>();
     if (!file.isOpen())
         return systemFailure(errno);
+    if (!isRegular(file))
+        return Failure{"Not a regular file"};
     // The lock belongs to this opening of the file, so it also keeps this program from another.
     const bool isLocked = ::flock(file.number(), LOCK_EX | LOCK_NB) == 0;
+    if (!isLocked && errno == EWOULDBLOCK)
+        return std::optional<HeldFile>();
     if (!isLocked && !knowsNoLocks(errno))
         return systemFailure(errno);
     if (!isThere(file, path))
-        return systemFailure(ENOENT);
-    return HeldFile(std::make_shared<Open>(Open{path, std::move(file), isLocked}));
+        return std::optional<HeldFile>();
+    return std::optional(HeldFile(std::make_shared<Open>(Open{path, std::move(file), isLocked})));
 }
 
 Result<HeldFile> HeldFile::make(const std::string& path) {
-    return hold(path, true);
+    auto held = hold(path, true);
+    if (!held)
+        return Failure{held.reason()};
+    return *held ? Result<HeldFile>(std::move(**held)) : systemFailure(EWOULDBLOCK);
 }
 
-Result<HeldFile> HeldFile::take(const std::string& path) {
+Result<std::optional<HeldFile>> HeldFile::take(const std::string& path) {
     return hold(path, false);
 }
 

@@ -9,29 +9,40 @@ struct HeldFile::Open {
     Handle file;
 };
 
-Result<HeldFile> HeldFile::hold(const std::string& path, bool make) {
+Result<std::optional<HeldFile>> HeldFile::hold(const std::string& path, bool make) {
     if (hasNul(path))
         return systemFailure(ERROR_INVALID_NAME);
     const std::wstring name = systemPath(path);
     const DWORD how = make ? OPEN_ALWAYS : OPEN_EXISTING;
-    Handle file(::CreateFileW(name.c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, 0, nullptr, how,
-                              FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    const auto open = [&name, how](DWORD access) {
+        return Handle(::CreateFileW(name.c_str(), access, 0, nullptr, how,
+                                    FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    };
+    Handle file = open(GENERIC_READ | GENERIC_WRITE | DELETE);
     // A mark on a medium that has become write-protected can be held and read all the same.
     if (!file.isOpen() && !make && ::GetLastError() != ERROR_SHARING_VIOLATION)
-        file = Handle(::CreateFileW(name.c_str(), GENERIC_READ, 0, nullptr, how,
-                                    FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
-    if (!file.isOpen())
-        return lastFailure();
+        file = open(GENERIC_READ);
+    if (!file.isOpen()) {
+        const DWORD error = ::GetLastError();
+        const bool isGone =
+            !make && (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND);
+        return isGone || error == ERROR_SHARING_VIOLATION
+                   ? Result<std::optional<HeldFile>>(std::optional<HeldFile>())
+                   : Result<std::optional<HeldFile>>(systemFailure(error));
+    }
     if (::GetFileType(file.get()) != FILE_TYPE_DISK)
         return Failure{"Not a regular file"};
-    return HeldFile(std::make_shared<Open>(Open{std::move(file)}));
+    return std::optional(HeldFile(std::make_shared<Open>(Open{std::move(file)})));
 }
 
 Result<HeldFile> HeldFile::make(const std::string& path) {
-    return hold(path, true);
+    auto held = hold(path, true);
+    if (!held)
+        return Failure{held.reason()};
+    return *held ? Result<HeldFile>(std::move(**held)) : systemFailure(ERROR_SHARING_VIOLATION);
 }
 
-Result<HeldFile> HeldFile::take(const std::string& path) {
+Result<std::optional<HeldFile>> HeldFile::take(const std::string& path) {
     return hold(path, false);
 }
 

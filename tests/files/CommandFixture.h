@@ -78,6 +78,8 @@ class CommandFixture : public testing::Test {
             text(69, "not known:"),
             text(70, "and % more"),
             text(58, "not printed "),
+            text(371, "mark unusable"),
+            text(372, " mark unusable: "),
             text(502, "already exists. Overwrite it?"),
             text(503, "cancelled"),
             text(504, "Transferring "),

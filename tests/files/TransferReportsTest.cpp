@@ -1,6 +1,7 @@
 #include "files/TransferReports.h"
 
 #include "CommandFixture.h"
+#include "link/FetchMark.h"
 #include "platform/Files.h"
 
 #include <gmock/gmock.h>
@@ -277,6 +278,23 @@ TEST_F(TransferReportsTest, AReceiveSaysNothingOfWhatAnEarlierSendHasCost) {
     EXPECT_FALSE(commands.receiveCopy());
     EXPECT_THAT(boxes.texts(),
                 ElementsAre("Transfer failed: BscUpLoad ( line broken (2000) ) (0)\n[B.JBI]"));
+}
+
+TEST_F(TransferReportsTest, AMarkThatKeepsAFileFromBeingSentIsNamedBelowTheFile) {
+    const std::string mark = FetchMark::fileNameFor("A.JBI");
+    pcJob("A");
+    robot();
+    selectOnPC({"A.JBI"});
+    pc.write(mark, "?");
+    const std::string report = "\n[A.JBI]\n[" + mark + "]";
+    EXPECT_FALSE(commands.sendCopy());
+    ASSERT_FALSE(boxes.shown.empty());
+    EXPECT_EQ(boxes.shown[0].text, "Transfer failed:  ( mark unusable (-129) ) (0)" + report);
+    boxes.shown.clear();
+    EXPECT_FALSE(commands.sendMove());
+    ASSERT_FALSE(boxes.shown.empty());
+    EXPECT_EQ(boxes.shown[0].text, "Transfer failed:  ( mark unusable (-129) )" + report);
+    EXPECT_TRUE(pc.has("A.JBI"));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "link/FetchFiles.h"
 
 #include <limits>
+#include <optional>
 
 namespace vantrel::tests {
 
@@ -42,6 +43,7 @@ class EndingFiles : public FetchFiles {
 class FailingFiles : public FetchFiles {
   public:
     bool failsHold = false;
+    bool failsTake = false;
     bool failsWrite = false;
     bool failsRemoveMark = false;
     bool failsFlush = false;
@@ -50,6 +52,11 @@ class FailingFiles : public FetchFiles {
 
     Result<HeldFile> hold(const std::string& path) override {
         return failsHold ? Failure{"no"} : FetchFiles::hold(path);
+    }
+    Result<std::optional<HeldFile>> take(const std::string& path) override {
+        if (failsTake)
+            return Failure{"no"};
+        return FetchFiles::take(path);
     }
     bool isHeldAlone(const HeldFile& file) override {
         return !knowsNoLocks && FetchFiles::isHeldAlone(file);

@@ -30,7 +30,7 @@ TEST_F(HeldMarkTest, TheFolderIsMarkedAsLongAsNothingIsDecided) {
         EXPECT_EQ(mark->name, "A.JBI");
         EXPECT_EQ(mark->aside, "A.JBI.replaced-1");
         EXPECT_TRUE(mark->describes(folder.path("A.JBI.replaced-1")));
-        EXPECT_FALSE(HeldFile::take(folder.path(name)));
+        EXPECT_FALSE(*HeldFile::take(folder.path(name)));
     }
     EXPECT_FALSE(folder.has(name));
 }

@@ -220,20 +220,95 @@ TEST_F(InterruptedFetchesTest, SeveralAreToldInOneBox) {
     EXPECT_THAT(told(), HasSubstr("[B.JBI]"));
 }
 
-TEST_F(InterruptedFetchesTest, WhatIsNoMarkIsLeftAlone) {
-    world.pc.write(job, "mine");
+/// What lies under a mark's name and is none, or not this one's.
+std::vector<std::string> damagedMarks() {
     const FetchMark other{.name = "B.JBI"};
-    for (const std::string& content :
-         {std::string("Vantrel fetch 1\n../A.JBI\n\n0\n0\nend\n"),
-          std::string("Vantrel fetch 1\nA.JBI\nB.JBI\n0\n0\nend\n"),
-          std::string("Vantrel fetch 1\nA.JBI\n../A.JBI.replaced-1\n0\n0\nend\n"),
-          std::string("Vantrel fetch 1\nA.JBI\n\n-1\n0\nend\n"),
-          std::string("Vantrel fetch 1\nA.JBI\n\n0\n99999999999999999999999\nend\n"),
-          other.format()}) {
-        world.pc.write(FetchMark::fileNameFor(job), content);
-        EXPECT_FALSE(settle()) << content;
+    return {"Vantrel fetch 1\n../A.JBI\n\n0\n0\nend\n",
+            "Vantrel fetch 1\nA.JBI\nB.JBI\n0\n0\nend\n",
+            "Vantrel fetch 1\nA.JBI\n../A.JBI.replaced-1\n0\n0\nend\n",
+            "Vantrel fetch 1\nA.JBI\n\n-1\n0\nend\n",
+            "Vantrel fetch 1\nA.JBI\n\n0\n99999999999999999999999\nend\n",
+            "Vantrel fetch 2\nA.JBI\n\n0\n0\nmore\nend\n",
+            "somebody's notes",
+            other.format()};
+}
+
+TEST_F(InterruptedFetchesTest, WhatIsNoMarkIsLeftAloneAndToldOnceByName) {
+    const std::string mark = FetchMark::fileNameFor(job);
+    world.pc.write(job, "mine");
+    for (const std::string& content : damagedMarks()) {
+        SCOPED_TRACE(content);
+        world.pc.write(mark, content);
+        InterruptedFetches look(disk, world.messages, world.talk);
+        EXPECT_TRUE(look.settle(world.pc.path(), names()));
+        EXPECT_FALSE(look.settle(world.pc.path(), names()));
+        EXPECT_THAT(world.boxes.texts(), ElementsAre("[A.JBI] mark unusable: [" + mark + "]"));
+        EXPECT_EQ(contentOf(mark), content);
+        world.boxes.shown.clear();
     }
     EXPECT_EQ(contentOf(job), "mine");
+}
+
+TEST_F(InterruptedFetchesTest, AFolderUnderAMarksNameIsToldOnce) {
+    const std::string mark = FetchMark::fileNameFor(job);
+    world.pc.write(job, "mine");
+    world.pc.makeFolder(mark);
+    EXPECT_TRUE(settle());
+    EXPECT_FALSE(settle());
+    EXPECT_THAT(world.boxes.texts(), ElementsAre("[A.JBI] mark unusable: [" + mark + "]"));
+}
+
+TEST_F(InterruptedFetchesTest, AMarkThatMayNotBeOpenedIsToldOnce) {
+    const std::string mark = FetchMark::fileNameFor(job);
+    world.pc.write(job, "half");
+    world.pc.write(mark, FetchMark{.name = job}.format());
+    tests::FailingFiles failing;
+    failing.failsTake = true;
+    InterruptedFetches denied(failing, world.messages, world.talk);
+    EXPECT_TRUE(denied.settle(world.pc.path(), names()));
+    EXPECT_FALSE(denied.settle(world.pc.path(), names()));
+    EXPECT_THAT(world.boxes.texts(), ElementsAre("[A.JBI] mark unusable: [" + mark + "]"));
+    EXPECT_EQ(contentOf(job), "half");
+}
+
+TEST_F(InterruptedFetchesTest, ATornMarkThatCannotBeRemovedIsToldOnce) {
+    const std::string mark = FetchMark::fileNameFor(job);
+    world.pc.write(job, "mine");
+    world.pc.write(mark, "Vant");
+    tests::FailingFiles failing;
+    failing.failsRemoveMark = true;
+    InterruptedFetches stuck(failing, world.messages, world.talk);
+    EXPECT_TRUE(stuck.settle(world.pc.path(), names()));
+    EXPECT_FALSE(stuck.settle(world.pc.path(), names()));
+    EXPECT_THAT(world.boxes.texts(), ElementsAre("[A.JBI] mark unusable: [" + mark + "]"));
+}
+
+TEST_F(InterruptedFetchesTest, ADamagedMarksFileIsFoundByItsOldVersionToo) {
+    const std::string mark = FetchMark::fileNameFor(job);
+    world.pc.write("A.JBI.replaced-1", "old");
+    world.pc.write(mark, "?");
+    EXPECT_TRUE(settle());
+    EXPECT_EQ(told(), "[A.JBI] mark unusable: [" + mark + "]; old kept as [A.JBI.replaced-1]");
+}
+
+TEST_F(InterruptedFetchesTest, ADamagedMarkWithoutAFileIsToldByItsOwnName) {
+    const std::string mark = FetchMark::fileNameFor(job);
+    world.pc.write("B.JBI", "another");
+    world.pc.write(mark, "?");
+    EXPECT_TRUE(settle());
+    EXPECT_EQ(told(), "[" + mark + "] mark of nothing");
+}
+
+TEST_F(InterruptedFetchesTest, ADamagedMarkIsToldBesideAWholeOne) {
+    leave("ne");
+    const std::string mark = FetchMark::fileNameFor("B.JBI");
+    world.pc.write("B.JBI", "mine");
+    world.pc.write(mark, "?");
+    EXPECT_TRUE(settle());
+    ASSERT_EQ(world.boxes.shown.size(), 1u);
+    EXPECT_THAT(told(), HasSubstr("[A.JBI] interrupted; part kept as [A.JBI.partial-1]"));
+    EXPECT_THAT(told(), HasSubstr("[B.JBI] mark unusable: [" + mark + "]"));
+    EXPECT_FALSE(settle());
 }
 
 /// A fetch of which every step can be the last. True when it succeeded.
@@ -313,9 +388,6 @@ TEST_F(InterruptedFetchesTest, ATornMarkGoesWithoutAWord) {
         EXPECT_FALSE(settle()) << content;
         EXPECT_FALSE(world.pc.has(name)) << content;
     }
-    world.pc.write(name, "somebody's notes");
-    EXPECT_FALSE(settle());
-    EXPECT_TRUE(world.pc.has(name));
     EXPECT_EQ(contentOf(job), "mine");
     EXPECT_THAT(world.boxes.shown, IsEmpty());
 }

@@ -7,6 +7,7 @@
 #include "support/NamedRow.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <utility>
 
@@ -604,6 +605,40 @@ TEST_F(FetchedJobSendTest, OneThatTheOperatorWasToldOfIsSent) {
     EXPECT_TRUE(world.pc.has(mark));
     world.pc.write("WELD.JBI", weld);
     EXPECT_TRUE(send("WELD.JBI"));
+}
+
+TEST_F(FetchedJobSendTest, BesideADamagedMarkIsRefusedByACodeOfItsOwnThatNamesTheMark) {
+    world.controller().put("WELD.JBI", older);
+    world.pc.write(mark, "Vantrel fetch 2\nWELD.JBI\nend\n");
+    const auto expectNamed = [this] {
+        EXPECT_EQ(world.error(), " -129 0");
+        EXPECT_EQ(world.session->errorText(), "mark unusable");
+        EXPECT_EQ(world.session->unusableMark(), mark);
+        EXPECT_EQ(world.controller().bytes("WELD.JBI"), older);
+    };
+    EXPECT_FALSE(send("WELD.JBI", true)) << "though nobody has looked at the folder";
+    expectNamed();
+    EXPECT_TRUE(world.session->settleInterruptedFetches(world.pc.path(), {mark, "WELD.JBI"}));
+    EXPECT_FALSE(send("WELD.JBI", true)) << "though the operator was told";
+    expectNamed();
+    EXPECT_EQ(world.library.callCount(), 0);
+    std::filesystem::remove(world.pc.path(mark));
+    EXPECT_TRUE(send("WELD.JBI", true));
+    EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
+}
+
+TEST_F(FetchedJobSendTest, AnotherFailureNamesNoMark) {
+    world.pc.write(mark, "?");
+    EXPECT_FALSE(send("WELD.JBI", true));
+    EXPECT_FALSE(send("NOWHERE.JBI", true));
+    EXPECT_EQ(world.error(), " 21 0");
+    EXPECT_EQ(world.session->unusableMark(), "");
+}
+
+TEST_F(FetchedJobSendTest, ATornMarkGoesAndTheFileIsSent) {
+    world.pc.write(mark, "Vantrel fe");
+    EXPECT_TRUE(send("WELD.JBI", true));
+    EXPECT_FALSE(world.pc.has(mark));
 }
 
 } // namespace

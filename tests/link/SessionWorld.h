@@ -48,6 +48,9 @@ inline MessageTable sessionMessages() {
     add(79, "; old kept as ");
     add(80, "; nothing");
     add(93, "reading directory");
+    add(371, "mark unusable");
+    add(372, " mark unusable: ");
+    add(373, " mark of nothing");
     add(502, "already exists. Overwrite it?");
     add(504, "Transferring ");
     add(507, "Deleting ");

@@ -28,12 +28,14 @@ TEST_F(HeldFileTest, NobodyElseHoldsItAsLongAsItsHolderLives) {
         ASSERT_TRUE(held) << held.reason();
         EXPECT_TRUE(held->write("mine"));
         EXPECT_FALSE(HeldFile::make(path));
-        EXPECT_FALSE(HeldFile::take(path));
+        const auto other = HeldFile::take(path);
+        ASSERT_TRUE(other) << other.reason();
+        EXPECT_FALSE(*other) << "somebody has it, which is no failure";
         EXPECT_EQ(*held->read(), "mine");
     }
     const auto next = HeldFile::take(path);
-    ASSERT_TRUE(next) << next.reason();
-    EXPECT_EQ(*next->read(), "mine");
+    ASSERT_TRUE(next && *next);
+    EXPECT_EQ(*(*next)->read(), "mine");
 }
 
 TEST_F(HeldFileTest, OneThatIsThereAndFreeIsTakenOverAsItIs) {
@@ -44,9 +46,15 @@ TEST_F(HeldFileTest, OneThatIsThereAndFreeIsTakenOverAsItIs) {
 }
 
 TEST_F(HeldFileTest, OnlyWhatIsThereIsTaken) {
-    EXPECT_FALSE(HeldFile::take(path));
+    const auto gone = HeldFile::take(path);
+    ASSERT_TRUE(gone) << gone.reason();
+    EXPECT_FALSE(*gone);
     EXPECT_FALSE(anythingExists(path));
+}
+
+TEST_F(HeldFileTest, WhatIsNoFileIsAFailure) {
     EXPECT_FALSE(HeldFile::take(folder.path()));
+    EXPECT_FALSE(HeldFile::take(std::string("a\0b", 3)));
     EXPECT_FALSE(HeldFile::make(folder.path("nowhere/mark")));
     EXPECT_FALSE(HeldFile::make(std::string("a\0b", 3)));
 }
@@ -62,8 +70,8 @@ TEST_F(HeldFileTest, RemovedItIsGoneAndFree) {
 TEST_F(HeldFileTest, OfAHugeFileOnlyTheBeginningIsRead) {
     folder.write("mark", std::string(100'000, 'x'));
     const auto held = HeldFile::take(path);
-    ASSERT_TRUE(held) << held.reason();
-    EXPECT_EQ(held->read()->size(), 65536u);
+    ASSERT_TRUE(held && *held);
+    EXPECT_EQ((*held)->read()->size(), 65536u);
 }
 
 TEST(FlushTest, WhatIsThereIsBroughtToTheDisk) {
