@@ -35,6 +35,11 @@ Outcome FetchFiles::rename(const std::string& from, const std::string& to) {
     return flushFolder(PathRules().parent(to));
 }
 
+Outcome FetchFiles::giveName(const std::string& from, const std::string& to) {
+    Outcome renamed = rename(from, to);
+    return anythingExists(from) ? renamed : Outcome(Done{});
+}
+
 Outcome FetchFiles::flush(const std::string& path) {
     return flushFile(path);
 }

@@ -23,6 +23,9 @@ class FetchFiles {
     virtual Outcome remove(HeldFile& file);
     virtual Outcome remove(const std::string& path);
     virtual Outcome rename(const std::string& from, const std::string& to);
+    /// The same for whoever goes on in either case: what has its new name, and only is not known to
+    /// be on the disk with it, has it all the same.
+    Outcome giveName(const std::string& from, const std::string& to);
     /// Somebody else, the library, has written the file.
     virtual Outcome flush(const std::string& path);
 };

@@ -159,7 +159,7 @@ std::string InterruptedFetches::bringBack(const std::string& folder, const Fetch
     const std::string part = anythingExists(path) ? putAway(folder, mark) : std::string();
     const std::string tail = part.empty() ? std::string() : keptAs(part);
     const bool isFree = !anythingExists(path);
-    if (isFree && files_.rename(pathOf(folder, mark.aside), path))
+    if (isFree && files_.giveName(pathOf(folder, mark.aside), path))
         return text(message::oldFileIsBack) + tail;
     return (isFree ? tail : text(message::fileMayBeIncomplete)) + text(message::oldFileKeptAs) +
            bracketed(mark.aside);
@@ -168,7 +168,8 @@ std::string InterruptedFetches::bringBack(const std::string& folder, const Fetch
 std::string InterruptedFetches::putAway(const std::string& folder, const FetchMark& mark) {
     const std::string path = pathOf(folder, mark.name);
     const std::string part = freeSpareName(folder, mark.name, partialSuffix);
-    return isRegularFile(path) && files_.rename(path, pathOf(folder, part)) ? part : std::string();
+    return isRegularFile(path) && files_.giveName(path, pathOf(folder, part)) ? part
+                                                                              : std::string();
 }
 
 std::string InterruptedFetches::keptAs(const std::string& part) const {

@@ -114,7 +114,7 @@ bool JobFetch::receiveOver(std::int16_t handle, const std::string& name,
         return false;
     }
     if (!receiveInto(file, handle, libraryName, index)) {
-        putBack(file, name, index);
+        putBack(file, name);
         return false;
     }
     if (file.asideName().empty())
@@ -147,16 +147,14 @@ void JobFetch::tellLeftover(const ReplacedFile& file, const std::string& name) c
                      BoxIcon::Exclamation);
 }
 
-void JobFetch::putBack(ReplacedFile& file, const std::string& name, std::int32_t index) {
+void JobFetch::putBack(ReplacedFile& file, const std::string& name) {
     if (file.putBack())
         return;
     const std::string shownName = bracketed(name);
     if (file.asideName().empty()) {
-        // The record goes on telling why the file is incomplete.
         tools_.talk.tell(shownName + tools_.messages.getMessage(message::partialFileKept),
                          BoxIcon::Exclamation);
     } else {
-        tools_.error.set(session_code::oldFileKeptAside, "", index);
         tools_.talk.tell(shownName + tools_.messages.getMessage(message::oldFileKept) +
                              bracketed(file.asideName()),
                          BoxIcon::Exclamation);

@@ -41,8 +41,8 @@ class JobFetch {
     void tellLeftover(const ReplacedFile& file, const std::string& name) const;
     /// Leaves the folder as it was before a failed transfer; that it could not be done is told
     /// whatever `DisplayMonitor` says: nobody would look for the old file under its other name, and
-    /// everybody would take half a new one for a whole.
-    void putBack(ReplacedFile& file, const std::string& name, std::int32_t index);
+    /// everybody would take half a new one for a whole. The record goes on telling why it failed.
+    void putBack(ReplacedFile& file, const std::string& name);
 
     TransferTools tools_;
     FetchFiles& files_;

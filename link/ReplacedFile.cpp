@@ -132,11 +132,8 @@ Outcome ReplacedFile::removePartial() {
     return anythingExists(path) ? files_.remove(path) : Done{};
 }
 
-// Renamed, and only not known to be on the disk, is back all the same.
 Outcome ReplacedFile::bringBack() {
-    const std::string aside = pathOf(mark_.aside);
-    Outcome renamed = files_.rename(aside, pathOf(mark_.name));
-    return anythingExists(aside) ? renamed : Done{};
+    return files_.giveName(pathOf(mark_.aside), pathOf(mark_.name));
 }
 
 // One that cannot be removed is settled at the next look at the folder.

@@ -23,7 +23,6 @@ inline constexpr std::int16_t directoryEndless = 24; ///< too many entries, or t
 inline constexpr std::int16_t fileDidNotArrive = 25; ///< reported as done, but it is not there
 inline constexpr std::int16_t fileNotReplaceable = 26; ///< the old PC file cannot be set aside
 inline constexpr std::int16_t jobNameUnusable = 27;    ///< no "//NAME" line that a job could have
-inline constexpr std::int16_t oldFileKeptAside = 28;   ///< it could not be put back
 inline constexpr std::int16_t controllerChanged = 29;  ///< or the PC folder, while it ran
 /// A variable's value is not finite. (30 to 33 stay unused: their texts would be the buttons'.)
 inline constexpr std::int16_t valueNotFinite = 34;

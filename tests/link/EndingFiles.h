@@ -48,6 +48,7 @@ class FailingFiles : public FetchFiles {
     bool failsRemoveMark = false;
     bool failsFlush = false;
     bool failsRemove = false;
+    bool failsFolderFlush = false; ///< a file has its new name, and nobody knows for how long
     bool knowsNoLocks = false;
 
     Result<HeldFile> hold(const std::string& path) override {
@@ -69,6 +70,10 @@ class FailingFiles : public FetchFiles {
     }
     Outcome remove(const std::string& path) override {
         return failsRemove ? Failure{"no"} : FetchFiles::remove(path);
+    }
+    Outcome rename(const std::string& from, const std::string& to) override {
+        Outcome renamed = FetchFiles::rename(from, to);
+        return failsFolderFlush ? Failure{"no"} : renamed;
     }
     Outcome flush(const std::string& path) override {
         return failsFlush ? Failure{"no"} : FetchFiles::flush(path);

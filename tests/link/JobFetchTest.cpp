@@ -202,7 +202,7 @@ TEST_F(JobFetchTest, AFetchThatFailsInTheMiddleLeavesTheOldFile) {
 }
 
 /// A folder takes the file's place during the transfer, so that the old file cannot come back.
-TEST_F(JobFetchTest, AnOldFileThatCannotBePutBackIsToldWithItsOtherNameEvenWithTheMonitorOff) {
+TEST_F(JobFetchTest, AnOldFileThatCannotBePutBackIsToldBesideTheFailureEvenWithTheMonitorOff) {
     world.pc.write("WELD.JBI", "old");
     world.session->DisplayMonitor = false;
     world.library.disturb({.function = "BscUpLoad", .code = 3010});
@@ -211,7 +211,7 @@ TEST_F(JobFetchTest, AnOldFileThatCannotBePutBackIsToldWithItsOtherNameEvenWithT
             world.pc.makeFolder("WELD.JBI/inside");
     };
     EXPECT_FALSE(fetch("WELD.JBI", true));
-    EXPECT_EQ(world.error(), " 28 0");
+    EXPECT_EQ(world.error(), "BscUpLoad 3010 0");
     using Box = tests::FakeMessageBoxes;
     EXPECT_THAT(world.boxes.shown,
                 ElementsAre(Box::Box{Box::Kind::Tell, "[WELD.JBI] kept as [WELD.JBI.replaced-1]",
