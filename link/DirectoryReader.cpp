@@ -46,7 +46,7 @@ DirectoryReader::End DirectoryReader::readEntries(std::int16_t handle,
     while (found == entryFound) {
         if (taken_ == mostEntries || repeats == mostRepeats)
             return {session_code::directoryEndless, true};
-        const std::string text = fromCodePage(takeEntry());
+        const std::string text = nameFromCodePage(takeEntry());
         if (const auto name = trimmed(text); !name.empty()) {
             list.emplace_back(name);
             repeats = told.emplace(name).second ? 0 : repeats + 1;

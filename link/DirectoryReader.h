@@ -26,8 +26,9 @@ class DirectoryReader {
         : link_(link), progress_(progress), error_(error) {}
 
     /// Fills `list`, emptied first, with the names in the controller's order (UTF-8, as reported
-    /// but for the blanks, tabs and line ends around them; an entry of nothing else is left out). A
-    /// press of Cancel ends the reading, which fails then with the code `cancelled`.
+    /// but for the blanks, tabs and line ends around them; an entry of nothing else is left out,
+    /// and what the library would take for another name has U+FFFD in it). A press of Cancel ends
+    /// the reading, which fails then with the code `cancelled`.
     bool read(std::vector<std::string>& list);
 
   private:

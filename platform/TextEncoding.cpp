@@ -3,6 +3,8 @@
 #include "base/Text.h"
 #include "platform/CodePage.h"
 
+#include <algorithm>
+
 namespace vantrel {
 
 namespace {
@@ -108,6 +110,23 @@ std::optional<std::string> encodeReadably(std::string_view text, TextEncoding en
     const bool misread =
         bytes && encoding == TextEncoding::CodePage && decodeText(*bytes).text != text;
     return misread ? encodeText(text, TextEncoding::Utf8) : bytes;
+}
+
+// A character's codings have the same length; beside bytes that mean nothing there may be more
+// marks than needed, and one is enough.
+std::string nameFromCodePage(std::string_view bytes) {
+    const std::string text = fromCodePage(bytes);
+    if (codePageBytes(text) == bytes)
+        return text;
+    std::string name;
+    for (const char32_t character : codePoints(text)) {
+        const std::string single = utf8(std::u32string(1, character));
+        const auto coded = codePageBytes(single);
+        const bool isGivenBack = coded && bytes.starts_with(*coded);
+        name += isGivenBack ? single : utf8(std::u32string(1, replacementCharacter));
+        bytes.remove_prefix(std::min(coded ? coded->size() : 1, bytes.size()));
+    }
+    return name;
 }
 
 std::optional<std::string> toCodePage(std::string_view text) {

@@ -37,5 +37,9 @@ std::optional<std::string> encodeReadably(std::string_view text, TextEncoding en
 std::optional<std::string> toCodePage(std::string_view text);
 /// What the communication library gives; bytes that mean nothing become U+FFFD.
 std::string fromCodePage(std::string_view bytes);
+/// The same for a name by which the library will be asked again: bytes that `toCodePage` would not
+/// give back become U+FFFD too. Code page 932 has some characters twice, and what has one of them
+/// in the other coding would be taken for something else.
+std::string nameFromCodePage(std::string_view bytes);
 
 } // namespace vantrel

@@ -317,5 +317,20 @@ TEST_F(DirectoryReaderTest, BlankEntriesAreNoRepeats) {
     EXPECT_THAT(list, ElementsAre("A"));
 }
 
+/// Code page 932 has this character at FA5C and at ED40: what the library is told is the first one.
+TEST_F(DirectoryReaderTest, ANameInACodingThatTheLibraryWouldNotBeToldIsNoOtherJobsName) {
+    world.controller().put("\xE7\xBA\x8A.JBI", "");
+    EXPECT_TRUE(read());
+    EXPECT_THAT(list, ElementsAre("\xE7\xBA\x8A.JBI"));
+    world.controller().before = "\xED\x40";
+    EXPECT_TRUE(read());
+    EXPECT_THAT(list, ElementsAre("\uFFFD\xE7\xBA\x8A.JBI"));
+    const int before = world.library.callCount();
+    EXPECT_FALSE(world.session->JobDelete(list.front()));
+    EXPECT_FALSE(world.session->JobUpLoad(list.front()));
+    EXPECT_EQ(world.error(), "BscUpLoad 20 0");
+    EXPECT_EQ(world.library.callCount(), before);
+}
+
 } // namespace
 } // namespace vantrel

@@ -195,5 +195,18 @@ TEST(TextFromGarbage, TakesTenMegabytesOfLeadBytes) {
     EXPECT_EQ(fromCodePage(std::string(10'000'000, '\x81')).size() % 3, 0u);
 }
 
+TEST(NameFromCodePageTest, ACharacterInItsOtherCodingIsNone) {
+    EXPECT_EQ(nameFromCodePage("\xFA\x5C\x41.JBI"), "\xE7\xBA\x8A\x41.JBI");
+    EXPECT_EQ(nameFromCodePage("\xED\x40\x41.JBI"), "\uFFFD\x41.JBI");
+    EXPECT_EQ(nameFromCodePage("\xED\x40\xFA\x5C\x83\x5C"), "\uFFFD\xE7\xBA\x8A\u30BD");
+    EXPECT_EQ(nameFromCodePage("PLAIN.JBI"), "PLAIN.JBI");
+}
+
+TEST(NameFromCodePageTest, BytesThatMeanNothingAreNoneEither) {
+    EXPECT_FALSE(toCodePage(nameFromCodePage("\x83\x5C\xFF"
+                                             "A")));
+    EXPECT_FALSE(toCodePage(nameFromCodePage("A\x81")));
+}
+
 } // namespace
 } // namespace vantrel
