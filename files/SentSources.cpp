@@ -1,14 +1,23 @@
 #include "files/SentSources.h"
 
+#include "base/PathRules.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/FetchMark.h"
+#include "link/ShownText.h"
 #include "link/Snappy.h"
 #include "platform/Files.h"
 
 #include <utility>
 
 namespace vantrel {
+namespace {
+
+/// Of the name that a source has while it is looked at.
+constexpr std::string_view spareSuffix = ".sent-";
+
+} // namespace
 
 void SentSources::add(const std::string& name) {
     const DirectoryReading& reading = with_.session.lastReading();
@@ -41,18 +50,25 @@ void SentSources::conclude() {
 // Everything is compared, not the time alone: a file may be saved twice in one tick of its clock.
 // The content is at hand, so no digest of it is needed, which two contents could share.
 void SentSources::remove(const Source& source) {
-    const TransferReports reports(with_);
-    const auto now = readSettledFile(source.sent.path);
-    if (now && *now != source.sent.content) {
-        allWent_ = false;
-        reports.aboutFile(source.name, message::sourceChanged);
-        return;
-    }
-    const Outcome removed = now ? removeFile(source.sent.path) : Outcome(Failure{now.reason()});
-    if (removed)
+    const std::string& path = source.sent.path;
+    const PathRules rules;
+    const std::string folder = rules.parent(path);
+    const std::string spare = freeSpareName(folder, source.name, spareSuffix);
+    const auto removed = removal_(path, rules.join(folder, spare), [&](const std::string& content) {
+        return content == source.sent.content;
+    });
+    const bool isSavedAgain = removed && (!*removed || anythingExists(path));
+    if (removed && !isSavedAgain)
         return;
     allWent_ = false;
-    reports.aboutFile(source.name, message::originalNotDeleted, removed.reason());
+    const TransferReports reports(with_);
+    if (removed)
+        reports.aboutFile(source.name, message::sourceChanged);
+    else if (anythingExists(rules.join(folder, spare)))
+        reports.tell(bracketed(source.name) + with_.messages.getMessage(message::oldFileKept) +
+                     bracketed(spare));
+    else
+        reports.aboutFile(source.name, message::originalNotDeleted, removed.reason());
 }
 
 void SentSources::noteNotShown(const Source& source) {

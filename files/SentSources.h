@@ -2,9 +2,12 @@
 
 #include "files/TransferServices.h"
 #include "link/SentFile.h"
+#include "platform/Files.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vantrel {
@@ -14,7 +17,13 @@ namespace vantrel {
 /// every file that stays.
 class SentSources {
   public:
-    explicit SentSources(const TransferServices& services) : with_(services) {}
+    /// As `removeFileIf`.
+    using Removal =
+        std::function<Result<bool>(const std::string& path, const std::string& spare,
+                                   const std::function<bool(const std::string& content)>& mayGo)>;
+
+    explicit SentSources(const TransferServices& services, Removal removal = removeFileIf)
+        : with_(services), removal_(std::move(removal)) {}
 
     /// The file that the session has just sent.
     void add(const std::string& name);
@@ -38,6 +47,7 @@ class SentSources {
     void tell(std::int32_t messageNumber, const std::vector<std::string>& names);
 
     TransferServices with_;
+    Removal removal_;
     std::vector<Source> waiting_; ///< mostly one: each send begins with a reading, which may fail
     std::vector<std::string> notShown_;
     std::vector<std::string> lost_; ///< the robot's jobs that were deleted for files not shown

@@ -43,7 +43,7 @@ std::optional<std::uint64_t> numberIn(std::string_view text) {
 } // namespace
 
 std::string FetchMark::fileNameFor(std::string_view name) {
-    return std::string(markPrefix) + std::to_string(digestOf(name));
+    return std::string(markPrefix) + std::to_string(digestOf(comparedName(name)));
 }
 
 bool FetchMark::isFileName(std::string_view name) {

@@ -17,7 +17,8 @@ struct FetchMark {
     std::uint64_t size = 0;   ///< of the old version, bytes
     std::uint64_t digest = 0; ///< of its content
 
-    /// The mark's own name. It has no point: no filter shows it, and no job or list is called so.
+    /// The mark's own name, the same for all names that the system takes for one. It has no point:
+    /// no filter shows it, and no job or list is called so.
     static std::string fileNameFor(std::string_view name);
     static bool isFileName(std::string_view name);
 

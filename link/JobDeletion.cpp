@@ -7,16 +7,21 @@
 
 namespace vantrel {
 
-bool JobDeletion::remove(const std::string& name) {
+bool JobDeletion::remove(const std::string& name, const std::function<bool()>& mayBegin) {
     progress_.show(progress_.deleting(name));
     const auto libraryName = link_.libraryFileName(normalisedJobName(name), "BscSelectJob");
-    return libraryName && removeOver(*libraryName);
+    return libraryName && removeOver(*libraryName, mayBegin);
 }
 
-bool JobDeletion::removeOver(const std::string& libraryName) {
+bool JobDeletion::removeOver(const std::string& libraryName,
+                             const std::function<bool()>& mayBegin) {
     const std::int16_t handle = link_.connect();
     if (handle < 0)
         return false;
+    if (mayBegin && !mayBegin()) {
+        link_.disconnect(handle);
+        return false;
+    }
     const std::int16_t selected = link_.library().BscSelectJob(handle, libraryName.c_str());
     if (selected != 0)
         return link_.finish(handle, selected, "BscSelectJob");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace vantrel {
@@ -16,10 +17,12 @@ class JobDeletion {
 
     /// True when the job is gone, even if the link would not close afterwards: the error record
     /// tells of that.
-    bool remove(const std::string& name);
+    /// `mayBegin` is asked when the link is there, before anything is selected on it: connecting
+    /// takes long and lets events run.
+    bool remove(const std::string& name, const std::function<bool()>& mayBegin = {});
 
   private:
-    bool removeOver(const std::string& libraryName);
+    bool removeOver(const std::string& libraryName, const std::function<bool()>& mayBegin);
 
     LinkConnection& link_;
     SessionProgress& progress_;

@@ -41,11 +41,14 @@ JobName jobNameInside(std::string_view bytes) {
 }
 
 Result<JobFile> JobFile::read(const std::string& path) {
-    auto content = readSettledFile(path);
+    auto content = readUnsharedFile(path);
+    const bool isUnshared = static_cast<bool>(content);
+    if (!isUnshared)
+        content = readSettledFile(path);
     if (!content)
         return Failure{content.reason()};
     JobName name = isJobFileName(path) ? jobNameInside(*content) : JobName();
-    return JobFile(std::move(name), std::move(*content));
+    return JobFile(std::move(name), std::move(*content), isUnshared);
 }
 
 } // namespace vantrel

@@ -28,16 +28,20 @@ class JobFile {
 
     /// The job's name by its "//NAME" line; an empty text when there is none, and for data files.
     const JobName& name() const { return name_; }
+    /// Whether no other program had the file open, as far as the system can tell: a library that
+    /// shares it with nobody can read it only then.
+    bool isUnshared() const { return isUnshared_; }
     const std::string& content() const { return content_; }
     /// The content, for somebody who needs nothing else of the file.
     std::string takeContent() { return std::move(content_); }
 
   private:
-    JobFile(JobName name, std::string content)
-        : name_(std::move(name)), content_(std::move(content)) {}
+    JobFile(JobName name, std::string content, bool isUnshared)
+        : name_(std::move(name)), content_(std::move(content)), isUnshared_(isUnshared) {}
 
     JobName name_;
     std::string content_;
+    bool isUnshared_ = true;
 };
 
 /// The name of the first "//NAME" line, without the blanks around it. Empty when a controller would

@@ -27,6 +27,11 @@ bool isUsableJobName(const std::string& name) {
            toCodePage(name);
 }
 
+/// Whether the controller's job is deleted before the file is sent.
+bool deletesFor(const std::string& file) {
+    return jobExtension(file) == ".JBI";
+}
+
 } // namespace
 
 void JobSend::begin() {
@@ -35,7 +40,10 @@ void JobSend::begin() {
 }
 
 bool JobSend::isWhole(const std::string& file, std::int32_t index) {
-    const std::int16_t code = interrupted_.forbidsSending(tools_.properties.path, file);
+    return accept(interrupted_.forbidsSending(tools_.properties.path, file), file, index);
+}
+
+bool JobSend::accept(std::int16_t code, const std::string& file, std::int32_t index) {
     if (code == 0)
         return true;
     tools_.error.set(code, "", index);
@@ -66,8 +74,7 @@ TransferOutcome JobSend::send(const std::string& file, std::int32_t index,
         return TransferOutcome::Failed;
     tools_.directory.insert(arrivesAs);
     if (sent)
-        *sent = {path,        job->takeContent(),           arrivesAs,
-                 shownBefore, jobExtension(file) != ".JBI", deleted};
+        *sent = {path, job->takeContent(), arrivesAs, shownBefore, !deletesFor(file), deleted};
     return outcome;
 }
 
@@ -88,7 +95,7 @@ TransferOutcome JobSend::prepare(const std::string& file, JobFile& job, std::int
     const auto jobs = jobsInTheWay(file, job.name().text);
     if (jobs.empty())
         return TransferOutcome::Done;
-    const bool deletes = jobExtension(file) == ".JBI";
+    const bool deletes = deletesFor(file);
     if (const std::int16_t code = deletes ? forbids(job, jobs) : std::int16_t{0}; code != 0) {
         tools_.error.set(code, "", index);
         return TransferOutcome::Failed;
@@ -98,13 +105,15 @@ TransferOutcome JobSend::prepare(const std::string& file, JobFile& job, std::int
     const TransferOutcome outcome = agree(file, job, index, consent);
     if (!goesOn(outcome))
         return outcome;
-    return !deletes || removeAll(jobs) ? outcome : TransferOutcome::Failed;
+    return !deletes || removeAll(jobs, file, job, index) ? outcome : TransferOutcome::Failed;
 }
 
-// A file that the controller could give no name to, or another name than the one that was looked
-// for, would cost it the old job for nothing; when none is in the way, the judgement is the
-// controller's.
+// A file that the library may not be able to open, or that the controller could give no name to, or
+// another name than the one that was looked for, would cost it the old job for nothing; when none
+// is in the way, the judgement is the controller's.
 std::int16_t JobSend::forbids(const JobFile& job, const std::vector<std::string>& jobs) const {
+    if (!job.isUnshared())
+        return session_code::fileNotReadable;
     if (!isUsableJobName(job.name().text))
         return session_code::jobNameUnusable;
     if (!job.name().isControllers)
@@ -129,19 +138,18 @@ TransferOutcome JobSend::agree(const std::string& file, JobFile& job, std::int32
         return isAgreed ? TransferOutcome::Done : TransferOutcome::Failed;
     }
     const TransferOutcome outcome = askAll(file);
-    const bool goesWrong = goesOn(outcome) && !isAsAsked(file, job, index);
+    const bool goesWrong = goesOn(outcome) && !accept(readAgain(file, job), file, index);
     return goesWrong ? TransferOutcome::Failed : outcome;
 }
 
-bool JobSend::isAsAsked(const std::string& file, JobFile& job, std::int32_t index) {
-    auto now = read(file, index);
-    if (!now || !isWhole(file, index))
-        return false;
+std::int16_t JobSend::readAgain(const std::string& file, JobFile& job) {
+    auto now = JobFile::read(PathRules().join(tools_.properties.path, file));
+    if (!now || (deletesFor(file) && !now->isUnshared()))
+        return session_code::fileNotReadable;
+    const std::int16_t code = interrupted_.forbidsSending(tools_.properties.path, file);
     const bool isSame = now->name() == job.name();
-    if (!isSame)
-        tools_.error.set(session_code::fileChanged, "", index);
     job = std::move(*now);
-    return isSame;
+    return code != 0 || isSame ? code : session_code::fileChanged;
 }
 
 // A file FOO.JBI whose line names BAR concerns both jobs: the operator thinks of the file by FOO,
@@ -181,12 +189,22 @@ TransferOutcome JobSend::askAll(const std::string& file) const {
     return outcome;
 }
 
-bool JobSend::removeAll(const std::vector<std::string>& jobs) {
-    for (const std::string& job : jobs) {
-        if (!deletion_.remove(job))
+// Nothing is deleted for a file that by now could not be sent, or would arrive as another job.
+bool JobSend::removeAll(const std::vector<std::string>& jobs, const std::string& file, JobFile& job,
+                        std::int32_t index) {
+    std::int16_t code = 0;
+    const auto mayBegin = [&] {
+        code = readAgain(file, job);
+        return code == 0;
+    };
+    for (const std::string& name : jobs) {
+        if (!deletion_.remove(name, mayBegin)) {
+            // Whatever the link says to being closed.
+            accept(code, file, index);
             return false;
-        tools_.directory.remove(job);
-        unreplaced_.push_back(job);
+        }
+        tools_.directory.remove(name);
+        unreplaced_.push_back(name);
     }
     return true;
 }

@@ -71,10 +71,13 @@ class JobSend {
     /// What `storedAs` is while these jobs are in the way.
     std::string otherName(const std::string& file, const std::string& nameInside) const;
     TransferOutcome askAll(const std::string& file) const;
-    /// Reads the file again and tells whether it still is the one that the operator was asked
-    /// about: somebody may have saved it meanwhile.
-    bool isAsAsked(const std::string& file, JobFile& job, std::int32_t index);
-    bool removeAll(const std::vector<std::string>& jobs);
+    /// Reads the file again, as `job`; 0, or the code for why it is not sent, since it is not the
+    /// one that was looked at before: somebody may have saved, opened or removed it meanwhile.
+    std::int16_t readAgain(const std::string& file, JobFile& job);
+    /// False, with the code recorded, for any but 0.
+    bool accept(std::int16_t code, const std::string& file, std::int32_t index);
+    bool removeAll(const std::vector<std::string>& jobs, const std::string& file, JobFile& job,
+                   std::int32_t index);
     bool transmit(const std::string& file, const std::string& libraryName,
                   const std::string& arrivesAs, std::int32_t index);
     /// Of the deleted jobs those whose place a file that arrives as this takes.

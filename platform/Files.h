@@ -21,6 +21,10 @@ Result<std::string> readFile(const std::string& path);
 /// half of what is being saved.
 Result<std::string> readSettledFile(const std::string& path);
 
+/// The same, but refused while another program has the file open at all, where the system can tell:
+/// a reader that shares with nobody could not open it either.
+Result<std::string> readUnsharedFile(const std::string& path);
+
 /// Replaces the file whole: writes a temporary file beside it, flushes it to the disk and renames
 /// it, so that the file is complete old or complete new whatever happens. A symbolic link is
 /// followed, the file's permissions are kept, a write-protected file is refused.
@@ -29,6 +33,12 @@ Outcome replaceFile(const std::string& path, std::string_view content);
 /// An existing `to` is replaced.
 Outcome renameFile(const std::string& from, const std::string& to);
 Outcome removeFile(const std::string& path);
+/// Removes the file when `mayGo` says so of its content; false when it stays. No file that somebody
+/// saves under the name meanwhile is removed. `spare` is the path of a free name beside it, which
+/// the file may have for that time; it still has it afterwards only when its own name was taken
+/// meanwhile, which is a failure.
+Result<bool> removeFileIf(const std::string& path, const std::string& spare,
+                          const std::function<bool(const std::string& content)>& mayGo);
 
 /// What somebody has written to the file is on the disk afterwards, and the file's name too.
 Outcome flushFile(const std::string& path);
@@ -45,6 +55,10 @@ bool anythingExists(const std::string& path);
 /// The entry's own spelling in `folder` of a name given in any letter case, or an empty text. An
 /// exact match wins, then the first in byte order.
 std::string findIgnoringCase(const std::string& folder, std::string_view name);
+
+/// The form in which the system compares the names of one folder: those with the same form are one
+/// name.
+std::string comparedName(std::string_view name);
 
 struct FolderEntry {
     std::string_view name; ///< valid during the call only

@@ -55,6 +55,20 @@ bool isEntryName(std::string_view name) {
            name.find('/') == std::string_view::npos;
 }
 
+/// Never over a file; 0 or the error number.
+int renameToFree(const std::string& from, const std::string& to) {
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS)
+        return errno;
+    // What knows no such renaming mostly knows hard links, which replace nothing either.
+    if (::link(from.c_str(), to.c_str()) == 0)
+        return ::unlink(from.c_str()) == 0 ? 0 : errno;
+    if (errno == EEXIST || anythingExists(to))
+        return EEXIST;
+    return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+}
+
 } // namespace
 
 Result<std::string> readFile(const std::string& path) {
@@ -78,6 +92,10 @@ Result<std::string> readSettledFile(const std::string& path) {
     return readFile(path);
 }
 
+Result<std::string> readUnsharedFile(const std::string& path) {
+    return readFile(path);
+}
+
 Outcome renameFile(const std::string& from, const std::string& to) {
     if (hasNul(from) || hasNul(to))
         return systemFailure(EINVAL);
@@ -92,6 +110,35 @@ Outcome removeFile(const std::string& path) {
     if (::unlink(path.c_str()) != 0)
         return systemFailure(errno);
     return Done{};
+}
+
+// Nobody can be kept from the file here, but under its other name nobody looks for it: whoever
+// saves it makes another file of its own name, which stays. What is left is a program that has had
+// the file open since before it was renamed and writes into it after it was read: nobody is told of
+// such writers. A program that ends here leaves the file under its other name.
+Result<bool> removeFileIf(const std::string& path, const std::string& spare,
+                          const std::function<bool(const std::string& content)>& mayGo) {
+    struct stat details {};
+    if (!readDetails(path, details) || hasNul(spare))
+        return systemFailure(hasNul(spare) ? EINVAL : errno);
+    if (!S_ISREG(details.st_mode))
+        return Failure{"Not a regular file"};
+    // What is renamed is whatever has the name by then. Nobody else makes names such as the spare
+    // one.
+    if (anythingExists(spare))
+        return systemFailure(EEXIST);
+    if (::rename(path.c_str(), spare.c_str()) != 0)
+        return systemFailure(errno);
+    const auto content = readFile(spare);
+    const bool goes = content && mayGo(*content);
+    if (goes && ::unlink(spare.c_str()) == 0)
+        return true;
+    const int error = goes ? errno : 0;
+    if (const int kept = renameToFree(spare, path); kept != 0)
+        return systemFailure(kept);
+    if (!content)
+        return Failure{content.reason()};
+    return error == 0 ? Result<bool>(false) : systemFailure(error);
 }
 
 Outcome flushFile(const std::string& path) {
@@ -147,6 +194,10 @@ std::string findIgnoringCase(const std::string& folder, std::string_view name) {
             found = entry;
     });
     return found;
+}
+
+std::string comparedName(std::string_view name) {
+    return std::string(name);
 }
 
 std::string currentFolder() {

@@ -55,17 +55,7 @@ Outcome done(BOOL success) {
     return success ? Outcome(Done{}) : Outcome(lastFailure());
 }
 
-/// `sharing` is what other programs may have the file open for.
-Result<std::string> readShared(const std::string& path, DWORD sharing) {
-    if (hasNul(path))
-        return systemFailure(ERROR_INVALID_NAME);
-    const std::wstring name = systemPath(path);
-    if (const auto details = readDetails(name); details.error == 0 && details.isFolder())
-        return Failure{"Is a folder"};
-    const Handle file(::CreateFileW(name.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING,
-                                    FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (!file.isOpen())
-        return lastFailure();
+Result<std::string> readDiskFile(const Handle& file) {
     if (::GetFileType(file.get()) != FILE_TYPE_DISK)
         return Failure{"Not a regular file"};
     try {
@@ -77,6 +67,30 @@ Result<std::string> readShared(const std::string& path, DWORD sharing) {
     }
 }
 
+/// `sharing` is what other programs may have the file open for.
+Result<std::string> readShared(const std::string& path, DWORD sharing) {
+    if (hasNul(path))
+        return systemFailure(ERROR_INVALID_NAME);
+    const std::wstring name = systemPath(path);
+    if (const auto details = readDetails(name); details.error == 0 && details.isFolder())
+        return Failure{"Is a folder"};
+    const Handle file(::CreateFileW(name.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    return file.isOpen() ? readDiskFile(file) : lastFailure();
+}
+
+/// With a moment in which the link may be made to lead elsewhere.
+Result<bool> removeLinkIf(const std::string& path,
+                          const std::function<bool(const std::string& content)>& mayGo) {
+    const auto content = readSettledFile(path);
+    if (!content)
+        return Failure{content.reason()};
+    if (!mayGo(*content))
+        return false;
+    const Outcome removed = removeFile(path);
+    return removed ? Result<bool>(true) : Failure{removed.reason()};
+}
+
 } // namespace
 
 Result<std::string> readFile(const std::string& path) {
@@ -85,6 +99,10 @@ Result<std::string> readFile(const std::string& path) {
 
 Result<std::string> readSettledFile(const std::string& path) {
     return readShared(path, FILE_SHARE_READ);
+}
+
+Result<std::string> readUnsharedFile(const std::string& path) {
+    return readShared(path, 0);
 }
 
 Outcome renameFile(const std::string& from, const std::string& to) {
@@ -98,6 +116,37 @@ Outcome removeFile(const std::string& path) {
     if (hasNul(path))
         return systemFailure(ERROR_INVALID_NAME);
     return done(::DeleteFileW(systemPath(path).c_str()));
+}
+
+// As long as the file is open here nobody can write to it, rename it or put another one in its
+// place, and it goes by this very opening of it. A link goes itself, and not what it leads to, so
+// it cannot be held like that.
+Result<bool> removeFileIf(const std::string& path, const std::string&,
+                          const std::function<bool(const std::string& content)>& mayGo) {
+    if (hasNul(path))
+        return systemFailure(ERROR_INVALID_NAME);
+    const std::wstring name = systemPath(path);
+    const auto details = readDetails(name);
+    if (details.error != 0)
+        return systemFailure(details.error);
+    if ((::GetFileAttributesW(name.c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) != 0)
+        return removeLinkIf(path, mayGo);
+    if (details.isFolder())
+        return Failure{"Is a folder"};
+    const Handle file(::CreateFileW(name.c_str(), GENERIC_READ | DELETE, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!file.isOpen())
+        return lastFailure();
+    const auto content = readDiskFile(file);
+    if (!content)
+        return Failure{content.reason()};
+    if (!mayGo(*content))
+        return false;
+    FILE_DISPOSITION_INFO gone{};
+    gone.DeleteFile = TRUE;
+    if (!::SetFileInformationByHandle(file.get(), FileDispositionInfo, &gone, sizeof gone))
+        return lastFailure();
+    return true;
 }
 
 Outcome flushFile(const std::string& path) {
@@ -150,6 +199,10 @@ std::string findIgnoringCase(const std::string& folder, std::string_view name) {
     ::FindClose(search);
     const std::string spelling = narrow(found.cFileName);
     return upperCase(spelling) == upperCase(name) ? spelling : std::string();
+}
+
+std::string comparedName(std::string_view name) {
+    return upperCase(name);
 }
 
 std::string currentFolder() {

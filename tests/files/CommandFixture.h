@@ -68,6 +68,7 @@ class CommandFixture : public testing::Test {
             text(49, "skipped: %"),
             text(54, "list not written: "),
             text(56, " is local"),
+            text(61, " kept as "),
             text(62, " is ambiguous"),
             text(57, "nothing to print"),
             text(93, "reading directory"),

@@ -156,6 +156,26 @@ TEST_F(InterruptedFetchesTest, AMarkThatCannotBeRemovedIsToldOnce) {
     EXPECT_EQ(world.boxes.shown.size(), 1u);
 }
 
+TEST_F(InterruptedFetchesTest, ANameThatIsOnlyNotKnownToBeOnTheDiskIsToldAsItIs) {
+    tests::FailingFiles failing;
+    failing.failsFolderFlush = true;
+    world.pc.write(job, "old");
+    leave("ne");
+    EXPECT_TRUE(settleAfterStart(failing));
+    EXPECT_EQ(contentOf(job), "old");
+    EXPECT_EQ(contentOf("A.JBI.partial-1"), "ne");
+    EXPECT_EQ(told(), "[A.JBI] interrupted; old back; part kept as [A.JBI.partial-1]");
+}
+
+TEST_F(InterruptedFetchesTest, APartWithoutAnOldFileIsToldByItsNewNameTooWhereThatIsNotKnown) {
+    tests::FailingFiles failing;
+    failing.failsFolderFlush = true;
+    leave("ne");
+    EXPECT_TRUE(settleAfterStart(failing));
+    EXPECT_THAT(names(), ElementsAre("A.JBI.partial-1"));
+    EXPECT_EQ(told(), "[A.JBI] interrupted; part kept as [A.JBI.partial-1]");
+}
+
 TEST_F(InterruptedFetchesTest, WhatIsFetchedAgainAfterItWasToldIsToldAnew) {
     tests::FailingFiles failing;
     failing.failsRemoveMark = true;
@@ -390,6 +410,14 @@ TEST_F(InterruptedFetchesTest, ATornMarkGoesWithoutAWord) {
     }
     EXPECT_EQ(contentOf(job), "mine");
     EXPECT_THAT(world.boxes.shown, IsEmpty());
+}
+
+TEST_F(InterruptedFetchesTest, SpellingsHaveOneMarkWhereTheyAreOneFile) {
+    world.pc.write("weld.jbi", "half");
+    const bool isOneFile = anythingExists(world.pc.path("WELD.JBI"));
+    EXPECT_EQ(FetchMark::fileNameFor("weld.jbi") == FetchMark::fileNameFor("WELD.JBI"), isOneFile);
+    world.pc.write(FetchMark::fileNameFor("weld.jbi"), FetchMark{.name = "weld.jbi"}.format());
+    EXPECT_EQ(interrupted.forbidsSending(world.pc.path(), "WELD.JBI") != 0, isOneFile);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/Files.h"
 
+#include "FolderNames.h"
 #include "support/CurrentFolderKept.h"
 #include "support/SystemReasons.h"
 #include "support/TemporaryFolder.h"
@@ -135,6 +136,41 @@ TEST(CurrentFolder, IsChangedAndTold) {
     EXPECT_EQ(currentFolder(), folder.path("\u8868"));
     EXPECT_EQ(changeCurrentFolder(folder.path("none")).reason(), noSuchFile());
     EXPECT_EQ(currentFolder(), folder.path("\u8868"));
+}
+
+struct RemoveFileIfTest : testing::Test {
+    TemporaryFolder folder;
+    const std::string path = folder.write("A.JBI", "sent");
+    const std::string spare = folder.path("A.JBI.sent-1");
+
+    Result<bool> remove(const std::string& wanted) {
+        return removeFileIf(path, spare,
+                            [&wanted](const std::string& content) { return content == wanted; });
+    }
+};
+
+TEST_F(RemoveFileIfTest, WhatMayGoGoes) {
+    const auto removed = remove("sent");
+    ASSERT_TRUE(removed) << removed.reason();
+    EXPECT_TRUE(*removed);
+    EXPECT_TRUE(namesIn(folder.path()).empty());
+}
+
+TEST_F(RemoveFileIfTest, WhatMayNotGoStaysUnderItsName) {
+    const auto removed = remove("other");
+    ASSERT_TRUE(removed) << removed.reason();
+    EXPECT_FALSE(*removed);
+    EXPECT_EQ(namesIn(folder.path()), std::set<std::string>{"A.JBI"});
+    EXPECT_EQ(folder.read("A.JBI"), "sent");
+}
+
+TEST_F(RemoveFileIfTest, WhatIsNoFileIsAFailureAndStays) {
+    const auto all = [](const std::string&) { return true; };
+    folder.makeFolder("SUB");
+    EXPECT_FALSE(removeFileIf(folder.path("SUB"), spare, all));
+    EXPECT_FALSE(removeFileIf(folder.path("nowhere"), spare, all));
+    EXPECT_FALSE(removeFileIf(std::string("a\0b", 3), spare, all));
+    EXPECT_EQ(namesIn(folder.path()), (std::set<std::string>{"A.JBI", "SUB"}));
 }
 
 } // namespace

@@ -54,5 +54,43 @@ TEST(PosixFindIgnoringCase, PrefersTheExactSpellingThenTheFirstInByteOrder) {
     EXPECT_EQ(findIgnoringCase(folder.path(), "b.LNG"), "B.LNG");
 }
 
+struct RemoveWhileSavedTest : testing::Test {
+    TemporaryFolder folder;
+    const std::string path = folder.write("A.JBI", "sent");
+    const std::string spare = folder.path("A.JBI.sent-1");
+
+    Result<bool> removeWhileSaved(bool mayGo) {
+        return removeFileIf(path, spare, [&](const std::string&) {
+            folder.write("A.JBI", "saved");
+            return mayGo;
+        });
+    }
+};
+
+TEST_F(RemoveWhileSavedTest, WhatIsSavedUnderTheNameMeanwhileStays) {
+    const auto removed = removeWhileSaved(true);
+    ASSERT_TRUE(removed) << removed.reason();
+    EXPECT_TRUE(*removed);
+    EXPECT_EQ(folder.read("A.JBI"), "saved");
+    EXPECT_FALSE(folder.has("A.JBI.sent-1"));
+}
+
+TEST_F(RemoveWhileSavedTest, NeitherOfTwoVersionsReplacesTheOther) {
+    EXPECT_FALSE(removeWhileSaved(false));
+    EXPECT_EQ(folder.read("A.JBI"), "saved");
+    EXPECT_EQ(folder.read("A.JBI.sent-1"), "sent");
+}
+
+TEST_F(RemoveWhileSavedTest, ASpareNameThatIsTakenIsNotReplaced) {
+    folder.write("A.JBI.sent-1", "somebody's");
+    EXPECT_FALSE(removeFileIf(path, spare, [](const std::string&) { return true; }));
+    EXPECT_EQ(folder.read("A.JBI"), "sent");
+    EXPECT_EQ(folder.read("A.JBI.sent-1"), "somebody's");
+}
+
+TEST(PosixFileNames, DifferInLetterCase) {
+    EXPECT_EQ(comparedName("aB.jbi"), "aB.jbi");
+}
+
 } // namespace
 } // namespace vantrel

@@ -86,5 +86,43 @@ TEST(WindowsFiles, TakePathsOfAnyLength) {
         ::RemoveDirectoryW(systemPath(rules.withoutTrailingSeparator(deep)).c_str());
 }
 
+TEST(WindowsFiles, NobodySavesAFileWhileItIsRemoved) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("A.JBI", "sent");
+    const auto removed =
+        removeFileIf(path, folder.path("A.JBI.sent-1"), [&path](const std::string& content) {
+            EXPECT_FALSE(replaceFile(path, "saved"));
+            const Handle writer(
+                ::CreateFileW(wide(path).c_str(), GENERIC_WRITE,
+                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                              OPEN_EXISTING, 0, nullptr));
+            EXPECT_FALSE(writer.isOpen());
+            return content == "sent";
+        });
+    ASSERT_TRUE(removed) << removed.reason();
+    EXPECT_TRUE(*removed);
+    EXPECT_TRUE(namesIn(folder.path()).empty());
+}
+
+/// Even a program that only reads the file keeps a reader out that shares it with nobody.
+TEST(WindowsFiles, AFileThatIsOpenAtAllIsNotUnshared) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("file", "whole");
+    {
+        const Handle reader(::CreateFileW(wide(path).c_str(), GENERIC_READ,
+                                          FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                          nullptr, OPEN_EXISTING, 0, nullptr));
+        const auto refused = readUnsharedFile(path);
+        ASSERT_FALSE(refused);
+        EXPECT_EQ(refused.reason(), systemFailure(ERROR_SHARING_VIOLATION).reason);
+    }
+    ASSERT_TRUE(readUnsharedFile(path));
+    EXPECT_EQ(*readUnsharedFile(path), "whole");
+}
+
+TEST(WindowsFiles, NamesKnowNoLetterCase) {
+    EXPECT_EQ(comparedName("aB.jbi"), comparedName("Ab.JBI"));
+}
+
 } // namespace
 } // namespace vantrel
