@@ -3,6 +3,7 @@
 #include "app/RobotFileReader.h"
 #include "app/RobotFileWriter.h"
 #include "app/RobotList.h"
+#include "app/RobotNames.h"
 #include "app/RobotPaths.h"
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
@@ -33,6 +34,14 @@ std::string nameWithoutText(const std::vector<RobotRecord>& robots) {
         return !isValidUtf8(robot.Name) || !isValidUtf8(robot.IPaddr);
     });
     return found == robots.end() ? std::string() : "[" + onOneLine(found->Name) + "]";
+}
+
+// A name that more than one robot has, as it can be shown; empty when there is none.
+std::string sharedName(std::vector<RobotRecord> robots) {
+    robots.resize(robotCount(robots));
+    std::ranges::sort(robots, {}, &RobotRecord::Name);
+    const auto found = std::ranges::adjacent_find(robots, {}, &RobotRecord::Name);
+    return found == robots.end() ? std::string() : bracketed(found->Name);
 }
 
 } // namespace
@@ -69,8 +78,10 @@ void RobotRegistry::read(RobotBox& box) {
         tellNotRead();
         return;
     }
-    selectBootRobot();
+    const bool isPlain = selectBootRobot(names(*content));
     fillBox(box);
+    if (!isPlain)
+        tellNameIsShared();
 }
 
 Result<std::string> RobotRegistry::fileContent() const {
@@ -95,7 +106,7 @@ bool RobotRegistry::readList(const std::string& content) {
     const DecodedText decoded = decodeText(content);
     encoding_ = decoded.encoding;
     plain_ = encoding_ == TextEncoding::Utf8 && isAscii(content);
-    readBootName(decoded.text);
+    state_.BootName = cutToBuffer(bootName(decoded.text), bootNameBuffer);
     TextLines lines(decoded.text);
     RobotFileReader reader(lines, boxes_, programFolder_);
     state_.RobotList = reader.readList();
@@ -104,26 +115,40 @@ bool RobotRegistry::readList(const std::string& content) {
     return makeFoldersAbsolute(state_.RobotList, RobotPaths(state_.BaseDir));
 }
 
-// The only key that is read as in any profile. The rules for it work on a file's bytes, and only
-// UTF-16 holds every text.
-void RobotRegistry::readBootName(const std::string& text) {
-    const ProfileText profile(
-        encodeText(text, TextEncoding::Utf16LittleEndian).value_or(std::string()));
-    state_.BootName =
-        cutToBuffer(profile.value("Boot", "Name").value_or(std::string()), bootNameBuffer);
+// A file that was read whole holds what its text says; of another one the bytes decide.
+RobotNames RobotRegistry::names(const std::string& content) const {
+    RobotNames shown{state_.BootName, {}};
+    const std::size_t count = robotCount(state_.RobotList);
+    for (std::size_t index = 0; index < count; ++index)
+        shown.robots.push_back(state_.RobotList[index].Name);
+    if (readWhole_)
+        return shown;
+    RobotNames names = namesByBytes(content, encoding_, boxes_);
+    return names.robots.size() == count ? names : shown;
 }
 
-void RobotRegistry::selectBootRobot() {
+// Among equal names the last one wins, and no match means the first robot.
+bool RobotRegistry::selectBootRobot(const RobotNames& names) {
     constexpr std::size_t limit = std::numeric_limits<std::int16_t>::max();
-    const std::size_t count = std::min(robotCount(state_.RobotList), limit);
+    const std::size_t count = std::min(names.robots.size(), limit);
+    std::size_t matches = 0;
     state_.CurrentRobotIndex = 0;
     for (std::size_t index = 0; index < count; ++index) {
-        if (state_.RobotList[index].Name == state_.BootName)
-            state_.CurrentRobotIndex = static_cast<std::int16_t>(index);
+        if (names.robots[index] != names.boot)
+            continue;
+        state_.CurrentRobotIndex = static_cast<std::int16_t>(index);
+        ++matches;
     }
     if (count > 0)
         state_.CurrentRobot = state_.RobotList[static_cast<std::size_t>(state_.CurrentRobotIndex)];
     state_.StartRobotIndex = state_.CurrentRobotIndex;
+    return matches < 2;
+}
+
+void RobotRegistry::tellNameIsShared() const {
+    boxes_.tell(messages_.getMessage(message::bootNameShared) + bracketed(state_.BootName) + " " +
+                    shownText(state_.CurrentRobot.IPaddr),
+                BoxIcon::Exclamation);
 }
 
 void RobotRegistry::fillBox(RobotBox& box) const {
@@ -171,6 +196,10 @@ Outcome RobotRegistry::writeBesideUnreadFile(const std::string& bytes) {
 Outcome RobotRegistry::write() {
     if (!readWhole_ && !edited_)
         return Done{};
+    // Names that were different in the file would be one name in the new one.
+    const std::string shared = readWhole_ ? std::string() : sharedName(state_.RobotList);
+    if (!shared.empty())
+        return Failure{messages_.getMessage(message::reasonNameShared) + shared};
     const auto bytes = encoded(
         registryText(state_.CurrentRobot.Name, state_.RobotList, RobotPaths(state_.BaseDir)));
     if (!bytes)

@@ -14,6 +14,7 @@ class MessageBoxes;
 class MessageTable;
 class RobotPaths;
 struct ApplicationState;
+struct RobotNames;
 
 /// The robot box `cmbRbtName` as the registry fills it; filling raises no operator's event.
 class RobotBox {
@@ -32,6 +33,7 @@ class RobotRegistry {
 
     /// Fills the robot list, selects the boot robot and fills the box. A file that is missing is
     /// written first; one that cannot be read is told, and box and current robot stay as they were.
+    /// So is a name to start with that more than one robot has.
     void read(RobotBox& box);
 
     /// Fills the box again after an edit and selects the current robot.
@@ -46,7 +48,7 @@ class RobotRegistry {
     /// Rewrites the file whole from the list and the current robot's name, in the encoding in which
     /// it was read, or in UTF-8 where a code page lacks one of the characters. A file that could
     /// not be read whole is left alone, or kept beside the new one under another name when the
-    /// operator has edited the list.
+    /// operator has edited the list; that is refused while two robots have the same name.
     Outcome write();
 
     const std::string& path() const { return path_; }
@@ -55,8 +57,10 @@ class RobotRegistry {
     std::string defaultText() const;
     Result<std::string> fileContent() const;
     bool readList(const std::string& content);
-    void readBootName(const std::string& text);
-    void selectBootRobot();
+    RobotNames names(const std::string& content) const;
+    /// Whether no more than one robot has the name to start with.
+    bool selectBootRobot(const RobotNames& names);
+    void tellNameIsShared() const;
     void tellNotRead();
     std::optional<std::string> encoded(const std::string& text) const;
     std::string freeBackupPath() const;

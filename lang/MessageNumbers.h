@@ -82,6 +82,10 @@ inline constexpr std::int32_t reasonInUse = 90;
 inline constexpr std::int32_t reasonNoFile = 91;
 inline constexpr std::int32_t reasonNoText = 92; ///< then [robot's name]
 
+// Robots of the same name in the registry.
+inline constexpr std::int32_t bootNameShared = 380;   ///< then [robot's name] and the address
+inline constexpr std::int32_t reasonNameShared = 381; ///< then [robot's name]
+
 // What the operator is told of a file whose transfer to the PC ended with the program.
 inline constexpr std::int32_t transferInterrupted = 75; ///< after [name], then what became of it
 inline constexpr std::int32_t oldFileIsBack = 76;

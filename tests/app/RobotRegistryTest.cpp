@@ -9,14 +9,18 @@
 #include "platform/TextEncoding.h"
 #include "support/NamedRow.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace vantrel {
 namespace {
 
+using testing::ElementsAre;
+using testing::IsEmpty;
 using tests::RobotRegistryTest;
 
 TEST_F(RobotRegistryTest, AMissingFileIsCreated) {
@@ -97,6 +101,77 @@ TEST_F(RobotRegistryTest, TheLastOfEqualNamesIsSelected) {
     read("[Boot]\r\nName=B\r\n[Robot]\r\nName=B\r\n[Robot]\r\nName=B\r\n[Robot]\r\nName=C\r\n");
     EXPECT_EQ(state_.CurrentRobotIndex, 1);
 }
+
+TEST_F(RobotRegistryTest, ThatSeveralRobotsHaveTheBootNameIsTold) {
+    read(boot("B") + blockOf("B", "10.0.0.1", "/a") + blockOf("B", "10.0.0.2", "/b") +
+         blockOf("C", "10.0.0.3", "/c"));
+    ASSERT_THAT(boxes_.texts(), ElementsAre("m380[B] 10.0.0.2"));
+    EXPECT_EQ(boxes_.shown[0].icon, BoxIcon::Exclamation);
+    EXPECT_EQ(box_.selected, 1) << "the box is filled all the same";
+}
+
+TEST_F(RobotRegistryTest, EqualNamesThatAreNotTheBootNameAreNotTold) {
+    read(boot("C") + blockOf("B", "10.0.0.1", "/a") + blockOf("B", "10.0.0.2", "/b") +
+         blockOf("C", "10.0.0.3", "/c"));
+    EXPECT_THAT(boxes_.texts(), IsEmpty());
+    EXPECT_EQ(state_.CurrentRobot.IPaddr, "10.0.0.3");
+}
+
+struct BytesRow : tests::NamedRow {
+    std::string content;
+    int selected;
+    bool isTold;
+};
+
+/// Robots whose names are one text once they are decoded, each at an address of its own.
+class BootBytesTest : public RobotRegistryTest, public testing::WithParamInterface<BytesRow> {};
+
+TEST_P(BootBytesTest, DecideWhichRobotIsChosen) {
+    read(GetParam().content);
+    ASSERT_EQ(robotCount(state_.RobotList), 3U);
+    EXPECT_EQ(state_.RobotList[0].Name, state_.RobotList[1].Name);
+    EXPECT_EQ(state_.CurrentRobotIndex, GetParam().selected);
+    EXPECT_EQ(state_.CurrentRobot, state_.RobotList[static_cast<std::size_t>(GetParam().selected)]);
+    EXPECT_EQ(boxes_.shown.size(), GetParam().isTold ? 1U : 0U);
+}
+
+std::string robots(const std::string& start, const std::string& first, const std::string& second,
+                   const std::string& third) {
+    return "[Boot]\r\nName=" + start + "\r\n[Robot]\r\nName=" + first + "\r\nIPaddr=1.1.1.1\r\n" +
+           "[Robot]\r\nName=" + second + "\r\nIPaddr=2.2.2.2\r\n[Robot]\r\nName=" + third +
+           "\r\nIPaddr=3.3.3.3\r\n";
+}
+
+/// In UTF-16 of either byte order. "\x10" to "\x1F" are halves of a pair of surrogates.
+std::string halves(const std::string& text, bool isBigEndian) {
+    std::string bytes = isBigEndian ? "\xFE\xFF" : "\xFF\xFE";
+    for (const char character : text) {
+        const bool isHalf = character >= '\x10' && character < '\x20';
+        const std::string unit = {character, isHalf ? '\xD8' : '\0'};
+        bytes += isBigEndian ? std::string(unit.rbegin(), unit.rend()) : unit;
+    }
+    return bytes;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, BootBytesTest,
+    testing::Values(
+        BytesRow{{"First"}, robots("R\xFD", "R\xFD", "R\xFE", "C"), 0, false},
+        BytesRow{{"Second"}, robots("R\xFE", "R\xFD", "R\xFE", "C"), 1, false},
+        BytesRow{{"None"}, robots("R\xFF", "R\xFD", "R\xFE", "C"), 0, false},
+        BytesRow{{"InQuotes"}, robots("\"R\xFD\"", "R\xFD", "R\xFE", "C"), 0, false},
+        BytesRow{{"Both"}, robots("R\xFE", "R\xFE", "R\xFE", "C"), 1, true},
+        BytesRow{{"AnotherRobot"}, robots("R%253;", "R\xFE", "R\xFD", "R%253;"), 2, false},
+        BytesRow{
+            {"TwoCodesOfOneCharacter"}, robots("\x87\x9A", "\x87\x9A", "\x81\xE6", "C"), 0, false},
+        BytesRow{
+            {"Utf8WithMark"}, "\xEF\xBB\xBF" + robots("R\xFD", "R\xFD", "R\xFE", "C"), 0, false},
+        BytesRow{{"Utf16"}, halves(robots("R\x11", "R\x11", "R\x12", "C"), false), 0, false},
+        BytesRow{{"Utf16OfTheOtherOrder"},
+                 halves(robots("R\x11", "R\x11", "R\x12", "C"), true),
+                 0,
+                 false}),
+    tests::rowName);
 
 TEST_F(RobotRegistryTest, AnUnknownBootNameSelectsTheFirstRobot) {
     read("[Boot]\r\nName=X\r\n[Robot]\r\nName=A\r\n[Robot]\r\nName=B\r\n");
@@ -344,6 +419,30 @@ TEST_F(RobotRegistryTest, AFileWithBytesOfAnotherCodePageIsLeftAsItIs) {
     read(content);
     ASSERT_TRUE(registry_.write());
     EXPECT_EQ(file(), content);
+}
+
+TEST_F(RobotRegistryTest, NamesThatReadingMadeEqualAreNotWrittenAfterAnEdit) {
+    const std::string content = blockOf("R\xFC", "10.0.0.1", "/a") +
+                                blockOf("S", "10.0.0.3", "/c") + blockOf("R\xFE", "10.0.0.2", "/b");
+    read(content);
+    state_.RobotList[1].Name = "T";
+    registry_.noteEdit();
+    const Outcome refused = registry_.write();
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.reason(), "m381[R\uFFFD]");
+    EXPECT_EQ(file(), content);
+    EXPECT_FALSE(folder_.has("robot.ini.bak"));
+    EXPECT_TRUE(registry_.hasUnwrittenEdit());
+    state_.RobotList[0].Name = "R";
+    ASSERT_TRUE(registry_.write());
+    EXPECT_EQ(folder_.read("robot.ini.bak"), content);
+}
+
+TEST_F(RobotRegistryTest, EqualNamesOfAFileThatWasReadWholeAreWritten) {
+    read(blockOf("B", "10.0.0.1", "/a") + blockOf("B", "10.0.0.2", "/b"));
+    registry_.noteEdit();
+    EXPECT_TRUE(registry_.write());
+    EXPECT_EQ(file(), boot("B") + blockOf("B", "10.0.0.1", "/a") + blockOf("B", "10.0.0.2", "/b"));
 }
 
 TEST_F(RobotRegistryTest, GarbageGivesAnEmptyList) {
