@@ -87,12 +87,14 @@ CommandOutcome ListTransferCommands::receiveJobs(const CommandProgress& progress
     return {.pcTouched = transferJobs(Direction::Receive, progress)};
 }
 
-/// After an unset address another attempt would only bring the same message again.
+/// After an unset address another attempt would only bring the same message again, and a reading
+/// that was cancelled would begin anew.
 CommandOutcome ListTransferCommands::sendJobs(const CommandProgress& progress) {
     const bool called = transferJobs(Direction::Send, progress);
     if (!called)
         return {};
-    return {.controllerTouched = !with_.session.operatorIsTold(),
+    return {.controllerTouched =
+                !with_.session.operatorIsTold() && !wasCancelledReading(with_.session),
             .goneFromController = with_.session.unreplacedJobs()};
 }
 
@@ -146,7 +148,7 @@ void ListTransferCommands::reportEntry(const std::string& entry) const {
 /// An operator who pressed Cancel knows; an address that is not set has been told by the session.
 void ListTransferCommands::reportFailure(const std::string& details) const {
     const auto& session = with_.session;
-    if (session.wasCancelled() || session.operatorIsTold())
+    if (operatorKnows(session))
         return TransferReports(with_).unreplacedJobs();
     const std::string place =
         with_.messages.getMessage(message::listIndex) + inParentheses(session.failedIndex());

@@ -122,8 +122,7 @@ void StartRoutine::offerControllerDirectory() {
     if (with_.boxes.askYesNo(messages.getMessage(message::askReadController), BoxIcon::Question)) {
         with_.windows.loadVersionWindow();
         if (!panes.readController()) {
-            // An address that is not set has been told by the session.
-            if (!with_.session.operatorIsTold())
+            if (!operatorKnows(with_.session))
                 with_.boxes.tell(messages.getMessage(message::controllerNotRead) +
                                      directoryFailure(with_.state, with_.session),
                                  BoxIcon::Exclamation);

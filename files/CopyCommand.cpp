@@ -22,14 +22,16 @@ void askForRelatedJob(std::string& name) {
 
 } // namespace
 
-/// After an unset address another attempt would only bring the same message again.
+/// After an unset address another attempt would only bring the same message again, and a reading
+/// that was cancelled would begin anew.
 CommandOutcome CopyCommand::send(const std::vector<SelectedItem>& items) {
     CommandOutcome outcome;
     bool called = false;
     outcome.succeeded = transfer(items, Direction::Send, called);
     if (called)
         outcome.goneFromController = with_.session.unreplacedJobs();
-    outcome.controllerTouched = called && !with_.session.operatorIsTold();
+    outcome.controllerTouched =
+        called && !with_.session.operatorIsTold() && !wasCancelledReading(with_.session);
     return outcome;
 }
 

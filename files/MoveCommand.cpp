@@ -148,8 +148,8 @@ MoveCommand::Arrival MoveCommand::transferOver(const std::string& name, const Ag
         return Arrival::EndOfCommand;
     if (direction_ == Direction::Receive || overwriteAll_)
         return callSession(name, true) ? Arrival::Arrived : failed(name);
-    touchBothSides();
     const bool sent = with_.session.replaceJobs(name, agreed.jobs, agreed.storedAs);
+    noteTouched();
     noteEffects(name, sent);
     if (sent)
         return Arrival::Arrived;
@@ -162,12 +162,13 @@ bool MoveCommand::somethingElseIsInTheWay() const {
 }
 
 bool MoveCommand::callSession(const std::string& name, bool overwrite) {
-    touchBothSides();
-    if (direction_ == Direction::Receive)
-        return with_.session.JobUpLoad(name, overwrite);
-    const bool sent = with_.session.JobDownLoad(name, overwrite);
-    noteEffects(name, sent);
-    return sent;
+    const bool isSend = direction_ == Direction::Send;
+    const bool isDone = isSend ? with_.session.JobDownLoad(name, overwrite)
+                               : with_.session.JobUpLoad(name, overwrite);
+    noteTouched();
+    if (isSend)
+        noteEffects(name, isDone);
+    return isDone;
 }
 
 /// Every send has begun with a reading of the directory, which shows what went before it.
@@ -192,7 +193,9 @@ void MoveCommand::tellUnreplaced() const {
         TransferReports(with_).aboutFiles(message::notReplaced, unreplaced_);
 }
 
-void MoveCommand::touchBothSides() {
+void MoveCommand::noteTouched() {
+    if (wasCancelledReading(with_.session))
+        return;
     outcome_.pcTouched = true;
     outcome_.controllerTouched = true;
 }

@@ -62,7 +62,7 @@ class MoveCommand {
     void noteEffects(const std::string& name, bool sent);
     void tellUnreplaced() const;
     bool removeFromController(const std::string& name);
-    void touchBothSides();
+    void noteTouched();
 
     TransferServices with_;
     Direction direction_;

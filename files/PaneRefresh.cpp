@@ -22,12 +22,10 @@ bool PaneRefresh::refreshPC() const {
 }
 
 /// The old list stays when the directory cannot be read, and the operator is told so even when the
-/// command has reported a failure already: what is shown may be out of date. Only an unset address
-/// has been named by the session itself.
+/// command has reported a failure already: what is shown may be out of date.
 bool PaneRefresh::refreshController() const {
     if (!with_.panes.readController()) {
-        if (!with_.session.operatorIsTold())
-            TransferReports(with_).controllerNotRead();
+        TransferReports(with_).controllerNotRead();
         return false;
     }
     return fill(ActiveSide::Controller, selectedOnController_);

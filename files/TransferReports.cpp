@@ -47,7 +47,17 @@ std::string directoryFailure(const ApplicationState& state, const Snappy& sessio
     return "\n" + robotText(state, session) + "\n" + functionAndReason(session);
 }
 
+bool operatorKnows(const Snappy& session) {
+    return session.wasCancelled() || session.operatorIsTold();
+}
+
+bool wasCancelledReading(const Snappy& session) {
+    return session.wasCancelled() && !session.triedAnEntry();
+}
+
 void TransferReports::controllerNotRead() const {
+    if (operatorKnows(with_.session))
+        return;
     tell(with_.messages.getMessage(message::controllerNotRead) +
          directoryFailure(with_.state, with_.session));
 }
@@ -78,7 +88,7 @@ void TransferReports::transferFailed(const std::string& name) const {
 
 bool TransferReports::listTransferFailed() const {
     const Snappy& session = with_.session;
-    if (session.wasCancelled() || session.operatorIsTold())
+    if (operatorKnows(session))
         return false;
     const std::int32_t index = session.failedIndex();
     tellTransferFailure(" (" + std::to_string(index) + ")",

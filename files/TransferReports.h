@@ -12,6 +12,14 @@ namespace vantrel {
 /// in lines of their own below a message.
 std::string directoryFailure(const ApplicationState& state, const Snappy& session);
 
+/// Whether the operator needs no word of the session's last failure: he pressed Cancel, or the
+/// session has told him of an address that is not set.
+bool operatorKnows(const Snappy& session);
+
+/// Whether Cancel ended the session's last operation while it read the directory, before its first
+/// file: it has changed nothing on either side.
+bool wasCancelledReading(const Snappy& session);
+
 /// What the transfer commands tell the operator, each in a message box with an exclamation icon.
 class TransferReports {
   public:
@@ -32,8 +40,7 @@ class TransferReports {
     /// The session's last failure as a failed transfer, of one file or of a list, with the file's
     /// name in a line of its own.
     void transferFailed(const std::string& name) const;
-    /// False, without a word, when the operator knows: he pressed Cancel, or the session has told
-    /// him of an address that is not set.
+    /// False, without a word, when the operator knows.
     bool listTransferFailed() const;
     /// A failed transfer that the session knows nothing of.
     void transferFailed(const std::string& function, const std::string& reason) const;
@@ -41,7 +48,8 @@ class TransferReports {
     /// The file has arrived, but the session could not delete the controller's job.
     void originalNotDeleted(const std::string& name) const;
 
-    /// The session's last failure as one of reading the controller's directory.
+    /// The session's last failure as one of reading the controller's directory, unless the operator
+    /// knows.
     void controllerNotRead() const;
 
     /// What stands below the session's last failure whatever the report's form: the PC folder, or

@@ -59,8 +59,9 @@ class DirectoryLibrary final : public Zurolink {
 
     std::vector<std::string> directory;
     bool refusesConnection = false;
-    std::string address;   ///< of the last BscSetEther
-    std::int16_t port = 0; ///< of the last BscSetCom
+    std::function<void()> whenAsked = [] {}; ///< runs before an entry is told
+    std::string address;                     ///< of the last BscSetEther
+    std::int16_t port = 0;                   ///< of the last BscSetCom
 
     std::int16_t BscOpen(const char* path, std::int16_t type) override {
         log_.push_back("BscOpen " + std::string(path) + " " + std::to_string(type));
@@ -83,6 +84,7 @@ class DirectoryLibrary final : public Zurolink {
         return BscFindNext(handle, buffer, length);
     }
     std::int16_t BscFindNext(std::int16_t, char* buffer, std::int16_t length) override {
+        whenAsked();
         if (next_ == directory.size())
             return -1;
         const std::string& name = directory[next_++];

@@ -240,6 +240,21 @@ TEST_F(ListTransferCommandsTest, CancelAtTheQuestionIsNoFailureAndThePaneIsReadA
     EXPECT_THAT(boxes.texts(), IsEmpty());
 }
 
+TEST_F(ListTransferCommandsTest, CancelWhileTheDirectoryIsReadCostsNoOtherReading) {
+    pcJob("A");
+    robotJob("B");
+    list("A.JBI\r\n");
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscFindNext")
+            progress.pressCancel();
+    };
+    run(loadJobs);
+    EXPECT_EQ(library.callCount("BscFindFirst"), 1);
+    EXPECT_FALSE(robot().has("A.JBI"));
+    EXPECT_THAT(window.controller.names, ElementsAre("B.JBI"));
+    EXPECT_THAT(boxes.texts(), IsEmpty());
+}
+
 TEST_F(ListTransferCommandsTest, EntriesOfARefusedKindAreNamedAndLeftOut) {
     robot().put("A.CND", "values");
     robotJob("B");

@@ -311,6 +311,16 @@ TEST_F(StartRoutineTest, AFailingReadIsToldAndTheStartGoesOn) {
     EXPECT_TRUE(logged("show version"));
 }
 
+TEST_F(StartRoutineTest, ACancelledReadNeedsNoWordAndTheStartGoesOn) {
+    desk_.boxes.answers = {true};
+    desk_.library.directory = {"A.JBI", "B.JBI"};
+    desk_.library.whenAsked = [this] { desk_.progress.pressCancel(); };
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m1"}));
+    EXPECT_EQ(desk_.state.CtrlListing.Count, 0);
+    EXPECT_TRUE(logged("show version"));
+}
+
 TEST_F(StartRoutineTest, AnAddressThatIsNotSetIsToldOnce) {
     addSettings("[Vantrel]\r\nTransMode=16\r\n");
     desk_.folder.write("robot.ini", "[Robot]\r\nName=R1\r\nIPaddr=0.0.0.0\r\n");

@@ -179,6 +179,21 @@ TEST_F(CopyCommandTest, CancelAtTheQuestionKeepsWhatWasSentAndNeedsNoReport) {
     EXPECT_THAT(window.controller.names, ElementsAre("A.JBI", "B.JBI")) << "refreshed all the same";
 }
 
+TEST_F(CopyCommandTest, CancelPressedWhileTheDirectoryIsReadCostsNoOtherReading) {
+    pcJob("A");
+    robotJob("B");
+    selectOnPC({"A.JBI"});
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscFindNext")
+            progress.pressCancel();
+    };
+    EXPECT_FALSE(commands.sendCopy());
+    EXPECT_EQ(library.callCount("BscFindFirst"), 1);
+    EXPECT_THAT(robot().names(), ElementsAre("B.JBI"));
+    EXPECT_THAT(window.controller.names, ElementsAre("B.JBI"));
+    EXPECT_THAT(boxes.texts(), IsEmpty());
+}
+
 TEST_F(CopyCommandTest, CancelPressedBeforeTheSessionBeginsSendsNothing) {
     pcJob("A");
     robot();

@@ -457,8 +457,21 @@ TEST_F(MoveCancelledReading, EndsTheCommandBeforeAnythingIsSent) {
     pressInReading(1);
     EXPECT_FALSE(commands.sendMove());
     EXPECT_EQ(library.callCount("BscDownLoad"), 0);
+    EXPECT_EQ(library.callCount("BscFindFirst"), 1) << "nothing has changed there";
     EXPECT_TRUE(pc.has("A.JBI"));
     EXPECT_TRUE(pc.has("B.JBI"));
+    EXPECT_TRUE(boxes.texts().empty());
+}
+
+TEST_F(MoveCancelledReading, OfALaterFileIsFollowedByAFullOne) {
+    pcJob("A");
+    pcJob("B");
+    robotJob("C");
+    selectOnPC({"A.JBI", "B.JBI"});
+    pressInReading(2);
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_EQ(window.controller.names, (std::vector<std::string>{"A.JBI", "C.JBI"}));
+    EXPECT_FALSE(pc.has("A.JBI")) << "what went is shown, so its source goes";
     EXPECT_TRUE(boxes.texts().empty());
 }
 

@@ -43,6 +43,20 @@ TEST_F(RefreshTest, AFailedReadShowsItsMessageAndKeepsTheOldList) {
     EXPECT_THAT(window.controller.names, ElementsAre("A.JBI"));
 }
 
+TEST_F(RefreshTest, ACancelledReadKeepsTheOldListWithoutAWord) {
+    robotJob("A");
+    showPanes();
+    robotJob("B");
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscFindNext")
+            progress.pressCancel();
+    };
+    EXPECT_FALSE(commands.refresh(ActiveSide::Controller));
+    EXPECT_THAT(boxes.texts(), IsEmpty());
+    EXPECT_THAT(window.controller.names, ElementsAre("A.JBI"));
+    EXPECT_EQ(library.callCount("BscFindFirst"), 1);
+}
+
 TEST_F(RefreshTest, AnUnsetAddressGivesOneMessage) {
     robotJob("A");
     showPanes();
