@@ -139,13 +139,14 @@ void StartRoutine::openMainWindow() {
     with_.windows.showMainWindow();
     main_->window.list(ActiveSide::PC).focus();
     with_.state.Busy = false;
-    startMainWindow();
+    startOpenedWindow();
+    with_.windows.mainWindowStarted();
     with_.state.StartupDone = true;
 }
 
 // An error there leaves a window that may lack its last touches; the operator can work with it, and
 // settings and robots have been read.
-void StartRoutine::startMainWindow() {
+void StartRoutine::startOpenedWindow() {
     try {
         main_->start();
     } catch (const std::exception& error) {

@@ -46,6 +46,8 @@ class StartWindows {
     /// Builds the main window hidden; what it hands out is there for the rest of the program.
     virtual StartedWindow buildMainWindow() = 0;
     virtual void showMainWindow() = 0;
+    /// Its start is over, be it by an error that the operator has read of.
+    virtual void mainWindowStarted() = 0;
 };
 
 /// How the start routine ended. In all cases but `Running` the program ends with it.
@@ -90,7 +92,7 @@ class StartRoutine {
     void makeFolderAbsolute();
     void offerControllerDirectory();
     void openMainWindow();
-    void startMainWindow();
+    void startOpenedWindow();
     StartResult trap(const std::string& reason);
     void tellStartFailed(const std::string& reason);
 

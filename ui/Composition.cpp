@@ -123,7 +123,7 @@ StartedWindow Composition::buildMainWindow() {
     return {.panes = opened_->program.panes,
             .robots = *window_,
             .window = *window_,
-            .start = [this] { startMainWindow(); }};
+            .start = [this] { opened_->program.start(); }};
 }
 
 void Composition::connectMainWindow() {
@@ -142,8 +142,7 @@ void Composition::showMainWindow() {
     window_->Show();
 }
 
-void Composition::startMainWindow() {
-    opened_->program.start();
+void Composition::mainWindowStarted() {
     // The library is looked at when everything stands, not while the operator waits for the window.
     window_->CallAfter([this] {
         opened_->dialogs.showSimulationNotice();

@@ -63,6 +63,7 @@ class Composition : private StartWindows, private ShutdownWindows {
     void showVersionWindow() override;
     StartedWindow buildMainWindow() override;
     void showMainWindow() override;
+    void mainWindowStarted() override;
 
     bool isLocked() const override;
     void unloadOtherWindows() override;
@@ -70,7 +71,6 @@ class Composition : private StartWindows, private ShutdownWindows {
 
     EngineGround ground(std::string executable, Zurolink* library);
     void connectMainWindow();
-    void startMainWindow();
     void yield();
     void bringScreenUpToDate();
 

@@ -56,6 +56,7 @@ class RecordingStartWindows final : public StartWindows {
         return {desk_.panes, box_, desk_.window, [this] { startMainWindow(); }};
     }
     void showMainWindow() override { add("show main"); }
+    void mainWindowStarted() override { add("main started"); }
     const LoggingRobotBox& box() const { return box_; }
 
   private:
@@ -134,7 +135,7 @@ TEST_F(StartRoutineTest, StepsRunInTheirOrder) {
     EXPECT_EQ(start(), StartResult::Running);
     EXPECT_EQ(desk_.log, (tests::Log{"show message", "build main, port 1", "robot box, port 3",
                                      "unload message", "askYesNo m1", "status Ctrl m150m16",
-                                     "show main", "start main, focus"}));
+                                     "show main", "start main, focus", "main started"}));
     EXPECT_FALSE(desk_.state.Busy);
     EXPECT_TRUE(desk_.state.StartupDone);
     EXPECT_FALSE(desk_.state.NoSave);
@@ -381,6 +382,7 @@ TEST_F(StartRoutineTest, AnErrorInTheMainWindowsStartIsToldAndWhatWasDoneIsKept)
     EXPECT_EQ(start(), StartResult::Running);
     EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m1", "m43no more lists"}));
     EXPECT_EQ(desk_.state.PCPath, "/as far as it came");
+    EXPECT_EQ(desk_.log.back(), "main started") << "what comes behind the start comes all the same";
     EXPECT_TRUE(desk_.state.StartupDone);
     EXPECT_FALSE(desk_.state.NoSave) << "the robots of the run are kept";
 }

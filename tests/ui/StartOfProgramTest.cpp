@@ -3,6 +3,8 @@
 #include "support/ScreenPicture.h"
 #include "ui/PathDisplay.h"
 
+#include <stdexcept>
+
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
 #include <wx/stattext.h>
@@ -271,6 +273,20 @@ TEST_F(StartOfProgramTest, AStoredFolderThatIsGoneOpensTheOneAbove) {
     expectBox("[" + folder.path("jobs/gone/deeper") + "] This folder ");
     ASSERT_EQ(startProgram(), StartResult::Running);
     EXPECT_EQ(controls().trvFolderName->GetToolTipText(), folder.path("jobs"));
+}
+
+TEST_F(StartOfProgramTest, AfterAnErrorInTheWindowsStartTheSimulationIsShownAllTheSame) {
+    folder.write("Vantrel.ini", "[Vantrel]\r\nPath=" + folder.path("gone") +
+                                    "\r\n[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n");
+    answerDirectoryQuestion(false);
+    modal.answer([](wxDialog&) -> int { throw std::runtime_error("no more boxes"); });
+    modal.answer([this](wxDialog&) {
+        runEvents();
+        EXPECT_EQ(count(2), "") << "not while the operator still reads of the error";
+        return wxID_OK;
+    });
+    ASSERT_EQ(startProgram(), StartResult::Running);
+    EXPECT_TRUE(waitFor([this] { return !count(2).empty(); }));
 }
 
 TEST_F(StartOfProgramTest, InAFolderThatCannotBeWrittenItWorksAndTellsOfTheRobotsOnce) {
