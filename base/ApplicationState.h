@@ -1,9 +1,8 @@
 #pragma once
 
+#include "base/Connection.h"
 #include "base/FolderListing.h"
 #include "base/RobotRecord.h"
-#include "base/SerialLine.h"
-#include "base/TransferMode.h"
 
 #include <array>
 #include <cstdint>

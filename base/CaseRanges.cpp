@@ -1,4 +1,4 @@
-#include "base/CaseRanges.h"
+#include "base/TextCase.h"
 
 #include <algorithm>
 #include <iterator>

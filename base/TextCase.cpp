@@ -1,6 +1,5 @@
 #include "base/TextCase.h"
 
-#include "base/CaseRanges.h"
 #include "base/Text.h"
 
 namespace vantrel {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "files/ControllerModels.h"
-#include "files/FileFilters.h"
 #include "files/FolderScan.h"
 #include "files/PaneRows.h"
 #include "support/TemporaryFolder.h"

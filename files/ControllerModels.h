@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace vantrel {
 
@@ -25,5 +27,12 @@ const ControllerModel& controllerModel(std::int16_t controler);
 const ControllerModel& pcModel();
 /// The rows 0 to 5.
 std::span<const ControllerModel> controllerModels();
+
+/// The captions of a filter box: the entry "DAT;CND;SYS" reads "*.DAT;*.CND;*.SYS".
+std::vector<std::string> filterChoices(const ControllerModel& model);
+
+/// Whether an upper-cased name passes the model's filter entry. An index past the entries accepts
+/// every name with a point.
+bool matchesFilter(std::string_view upperName, int filterIndex, const ControllerModel& model);
 
 } // namespace vantrel

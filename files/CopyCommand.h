@@ -1,7 +1,6 @@
 #pragma once
 
-#include "files/CommandOutcome.h"
-#include "files/TransferPermission.h"
+#include "files/ListTransfer.h"
 #include "files/TransferServices.h"
 
 #include <vector>
@@ -19,7 +18,7 @@ class CopyCommand {
     CommandOutcome receive(std::vector<SelectedItem> items);
 
   private:
-    bool transfer(const std::vector<SelectedItem>& items, Direction direction, bool& called);
+    CommandOutcome transfer(const std::vector<SelectedItem>& items, Direction direction);
 
     TransferServices with_;
 };

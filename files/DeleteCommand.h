@@ -1,6 +1,5 @@
 #pragma once
 
-#include "files/CommandOutcome.h"
 #include "files/CommandScopes.h"
 #include "files/TransferServices.h"
 

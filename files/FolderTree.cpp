@@ -6,24 +6,73 @@
 #include <utility>
 
 namespace vantrel {
-
 namespace {
+
 constexpr std::string_view driveImage = "drive";
 constexpr std::string_view folderImage = "open";
+
+/// The drive and the names below it.
+std::vector<std::string> partsOf(std::string_view path, const PathRules& rules) {
+    const std::string drive = rules.drive(path);
+    std::vector<std::string> parts;
+    if (!drive.empty())
+        parts.push_back(drive);
+    std::string name;
+    for (const char character : path.substr(drive.size())) {
+        if (!rules.isSeparator(character))
+            name += character;
+        else if (!name.empty())
+            parts.push_back(std::exchange(name, {}));
+    }
+    if (!name.empty())
+        parts.push_back(name);
+    return parts;
+}
+
+bool isSameName(std::string_view left, std::string_view right, const PathRules& rules) {
+    return left == right ||
+           (rules.style() == PathStyle::Windows && upperCase(left) == upperCase(right));
+}
+
 } // namespace
+
+FolderNode folderNode(std::string_view folder, const PathRules& rules) {
+    if (rules.isRoot(folder))
+        return {rules.drive(folder), "drive"};
+    return {rules.lastName(rules.withoutTrailingSeparator(folder)), "open"};
+}
+
+std::optional<std::size_t> driveOf(std::string_view folder, const std::vector<Drive>& drives,
+                                   const PathRules& rules) {
+    const auto path = partsOf(folder, rules);
+    const auto sameName = [&rules](const auto& left, const auto& right) {
+        return isSameName(left, right, rules);
+    };
+    std::optional<std::size_t> best;
+    std::size_t longest = 0;
+    for (std::size_t index = 0; index < drives.size(); ++index) {
+        const auto root = partsOf(drives[index].path, rules);
+        const bool holds = root.size() > longest && root.size() <= path.size() &&
+                           std::equal(root.begin(), root.end(), path.begin(), sameName);
+        if (!holds)
+            continue;
+        best = index;
+        longest = root.size();
+    }
+    return best;
+}
 
 FolderTree FolderTree::whole(const std::string& folder, const std::vector<Drive>& drives,
                              const ListSubfolders& list, PathRules rules) {
     FolderTree tree(rules);
     for (const auto& drive : drives)
         tree.add({drive.text, driveImage, drive.path, {}}, none);
-    const auto parts = tree.parts(folder);
-    Id at = tree.rootFor(parts);
-    if (at == none && folder.empty())
+    const auto drive = driveOf(folder, drives, rules);
+    if (!drive && folder.empty())
         return tree;
-    if (at == none)
-        at = tree.missingRoot(folder);
-    const auto above = tree.parts(tree.node(at).path).size();
+    Id at = drive ? tree.roots_[*drive] : tree.missingRoot(folder);
+    const auto parts = partsOf(folder, rules);
+    const auto above = partsOf(tree.node(at).path, rules).size();
     for (std::size_t part = above; part < parts.size(); ++part) {
         tree.read(at, list);
         tree.nodes_[at].expanded = true;
@@ -78,25 +127,6 @@ FolderTree::Id FolderTree::addFolder(Id parent, const std::string& name) {
     return add({name, folderImage, rules_.join(nodes_[parent].path, name), {}}, parent);
 }
 
-/// The drive that the path is on: of a medium and the drive that it is mounted on the medium.
-FolderTree::Id FolderTree::rootFor(const std::vector<std::string>& path) const {
-    const auto sameName = [this](const auto& left, const auto& right) {
-        return isSameName(left, right);
-    };
-    Id best = none;
-    std::size_t longest = 0;
-    for (const Id root : roots_) {
-        const auto drive = parts(nodes_[root].path);
-        const bool holds = drive.size() <= path.size() &&
-                           std::equal(drive.begin(), drive.end(), path.begin(), sameName);
-        if (holds && drive.size() > longest) {
-            best = root;
-            longest = drive.size();
-        }
-    }
-    return best;
-}
-
 /// A share, or a drive that the system does not list; a path without a drive is taken whole.
 FolderTree::Id FolderTree::missingRoot(const std::string& folder) {
     const std::string drive = rules_.drive(folder);
@@ -107,32 +137,9 @@ FolderTree::Id FolderTree::missingRoot(const std::string& folder) {
 
 FolderTree::Id FolderTree::child(Id parent, const std::string& name) {
     for (const Id id : nodes_[parent].children)
-        if (isSameName(nodes_[id].text, name))
+        if (isSameName(nodes_[id].text, name, rules_))
             return id;
     return addFolder(parent, name);
-}
-
-/// The drive and the names below it.
-std::vector<std::string> FolderTree::parts(std::string_view path) const {
-    const std::string drive = rules_.drive(path);
-    std::vector<std::string> parts;
-    if (!drive.empty())
-        parts.push_back(drive);
-    std::string name;
-    for (const char character : path.substr(drive.size())) {
-        if (!rules_.isSeparator(character))
-            name += character;
-        else if (!name.empty())
-            parts.push_back(std::exchange(name, {}));
-    }
-    if (!name.empty())
-        parts.push_back(name);
-    return parts;
-}
-
-bool FolderTree::isSameName(std::string_view left, std::string_view right) const {
-    return left == right ||
-           (rules_.style() == PathStyle::Windows && upperCase(left) == upperCase(right));
 }
 
 } // namespace vantrel

@@ -5,11 +5,27 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vantrel {
+
+/// The one node of the path display.
+struct FolderNode {
+    std::string text;
+    std::string_view image; ///< "drive" or "open"
+
+    bool operator==(const FolderNode&) const = default;
+};
+
+/// A root shows its drive ("C:", "\\server\share", "/"), any other folder its last name.
+FolderNode folderNode(std::string_view folder, const PathRules& rules = PathRules());
+
+/// Which of the drives a folder is on: of a medium and the drive that it is mounted on the medium.
+std::optional<std::size_t> driveOf(std::string_view folder, const std::vector<Drive>& drives,
+                                   const PathRules& rules);
 
 struct FolderTreeNode {
     std::string text;
@@ -54,11 +70,8 @@ class FolderTree {
   private:
     Id add(FolderTreeNode node, Id parent);
     Id addFolder(Id parent, const std::string& name);
-    Id rootFor(const std::vector<std::string>& path) const;
     Id missingRoot(const std::string& folder);
     Id child(Id parent, const std::string& name);
-    std::vector<std::string> parts(std::string_view path) const;
-    bool isSameName(std::string_view left, std::string_view right) const;
 
     PathRules rules_;
     std::vector<FolderTreeNode> nodes_;

@@ -8,7 +8,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/JobFile.h"
-#include "link/LocalJobList.h"
+#include "link/JobLists.h"
 #include "link/OperatorTalk.h"
 #include "link/OverwriteQuestion.h"
 #include "link/Snappy.h"

@@ -1,6 +1,5 @@
 #include "files/PaneRefresh.h"
 
-#include "files/PaneErrors.h"
 #include "files/Panes.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"

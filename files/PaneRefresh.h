@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/ApplicationState.h"
-#include "files/CommandOutcome.h"
 #include "files/TransferServices.h"
 
 #include <functional>
@@ -9,6 +8,10 @@
 #include <vector>
 
 namespace vantrel {
+
+// Fixed texts in every language, with the spelling by which operators and their manuals know them.
+inline constexpr const char* folderNotRead = "File Get Error!!";
+inline constexpr const char* listNotShown = "File Dispaly Error!!";
 
 /// Reads panes anew at the end of a command. The items that were selected when the object was made
 /// and are still there are selected again.

@@ -1,8 +1,6 @@
 #include "files/Panes.h"
 
-#include "files/BusyPointer.h"
 #include "files/ControllerModels.h"
-#include "files/FileFilters.h"
 #include "files/FolderScan.h"
 #include "files/PaneWindow.h"
 #include "files/TransferTable.h"

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "files/CommandOutcome.h"
 #include "files/TransferServices.h"
 
 #include <string>

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 namespace vantrel {
 
-struct ApplicationState;
 class MessageTable;
 class OperatorTalk;
 class PaneWindow;
@@ -10,6 +12,7 @@ class Panes;
 class ProgressPanel;
 class Snappy;
 class TransferTable;
+struct ApplicationState;
 
 /// What the transfer commands work with; everything is borrowed and outlives them.
 struct TransferServices {
@@ -21,6 +24,22 @@ struct TransferServices {
     const MessageTable& messages;
     ProgressPanel& progress;
     OperatorTalk& talk;
+};
+
+/// What a transfer command comes to. A side is touched when something there may have changed; only
+/// touched sides are read anew at the end.
+struct CommandOutcome {
+    bool succeeded = true;
+    bool pcTouched = false;
+    bool controllerTouched = false;
+    /// What the controller has no more, by the entries of its listing.
+    std::vector<std::string> goneFromController = {};
+};
+
+/// An item of a pane when a command began.
+struct SelectedItem {
+    std::string name;
+    bool isFolder = false;
 };
 
 } // namespace vantrel

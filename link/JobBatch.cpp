@@ -2,12 +2,12 @@
 
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/JobLists.h"
 #include "link/LinkConnection.h"
-#include "link/LocalJobList.h"
 #include "link/OperatorTalk.h"
 #include "link/SessionErrorRecord.h"
 #include "link/SessionProgress.h"
-#include "link/SessionProperties.h"
+#include "link/SessionServices.h"
 
 namespace vantrel {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "link/TransferOutcome.h"
+#include "link/TransferTools.h"
 
 #include <cstdint>
 #include <functional>

@@ -12,7 +12,7 @@
 #include "link/ReplacedFile.h"
 #include "link/SessionErrorRecord.h"
 #include "link/SessionProgress.h"
-#include "link/SessionProperties.h"
+#include "link/SessionServices.h"
 #include "link/ShownText.h"
 #include "link/Zurolink.h"
 #include "platform/Files.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/Result.h"
-#include "link/TransferOutcome.h"
 #include "link/TransferTools.h"
 
 #include <cstdint>

@@ -1,9 +1,9 @@
 #include "link/JobSend.h"
 
 #include "base/PathRules.h"
+#include "base/TextCase.h"
 #include "link/FetchMark.h"
 #include "link/InterruptedFetches.h"
-#include "link/JobDeletion.h"
 #include "link/JobFile.h"
 #include "link/JobNameSet.h"
 #include "link/LinkConnection.h"
@@ -11,7 +11,7 @@
 #include "link/SentFile.h"
 #include "link/SessionErrorRecord.h"
 #include "link/SessionProgress.h"
-#include "link/SessionProperties.h"
+#include "link/SessionServices.h"
 #include "link/Zurolink.h"
 #include "platform/TextEncoding.h"
 
@@ -33,6 +33,29 @@ bool deletesFor(const std::string& file) {
 }
 
 } // namespace
+
+bool JobDeletion::remove(const std::string& name, const std::function<bool()>& mayBegin) {
+    progress_.show(progress_.deleting(name));
+    const auto libraryName = link_.libraryFileName(normalisedJobName(name), "BscSelectJob");
+    return libraryName && removeOver(*libraryName, mayBegin);
+}
+
+bool JobDeletion::removeOver(const std::string& libraryName,
+                             const std::function<bool()>& mayBegin) {
+    const std::int16_t handle = link_.connect();
+    if (handle < 0)
+        return false;
+    if (mayBegin && !mayBegin()) {
+        link_.disconnect(handle);
+        return false;
+    }
+    const std::int16_t selected = link_.library().BscSelectJob(handle, libraryName.c_str());
+    if (selected != 0)
+        return link_.finish(handle, selected, "BscSelectJob");
+    const std::int16_t deleted = link_.library().BscDeleteJob(handle);
+    link_.finish(handle, deleted, "BscDeleteJob");
+    return deleted == 0;
+}
 
 void JobSend::begin() {
     unreplaced_.clear();

@@ -1,19 +1,40 @@
 #pragma once
 
-#include "link/TransferOutcome.h"
 #include "link/TransferTools.h"
 
 #include <cstdint>
 #include <optional>
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace vantrel {
 
 class InterruptedFetches;
-class JobDeletion;
 class JobFile;
+class LinkConnection;
+class SessionProgress;
 struct SentFile;
+
+/// Deletes one job on the controller over a link of its own. Shows what it does and leaves the
+/// progress dialog open, for it is also a part of a send.
+class JobDeletion {
+  public:
+    JobDeletion(LinkConnection& link, SessionProgress& progress)
+        : link_(link), progress_(progress) {}
+
+    /// True when the job is gone, even if the link would not close afterwards: the error record
+    /// tells of that.
+    /// `mayBegin` is asked when the link is there, before anything is selected on it: connecting
+    /// takes long and lets events run.
+    bool remove(const std::string& name, const std::function<bool()>& mayBegin = {});
+
+  private:
+    bool removeOver(const std::string& libraryName, const std::function<bool()>& mayBegin);
+
+    LinkConnection& link_;
+    SessionProgress& progress_;
+};
 
 /// What the operator has agreed to replace before a send begins; everything else is asked for.
 struct ReplaceConsent {

@@ -5,7 +5,6 @@
 #include "lang/MessageTable.h"
 #include "link/OperatorTalk.h"
 #include "link/SessionErrorRecord.h"
-#include "link/SessionProperties.h"
 #include "link/SessionServices.h"
 #include "link/Zurolink.h"
 #include "platform/Files.h"

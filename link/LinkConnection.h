@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/TransferMode.h"
+#include "base/Connection.h"
 
 #include <cstdint>
 #include <optional>

@@ -3,7 +3,7 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/OperatorTalk.h"
-#include "link/SessionProperties.h"
+#include "link/SessionServices.h"
 #include "link/ShownText.h"
 
 namespace vantrel {

@@ -2,6 +2,8 @@
 
 #include "base/Result.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -14,6 +16,21 @@ class Snappy;
 /// An argument or result of an operation called by name: nothing, a number or a text (UTF-8).
 /// Truth values are 1 and 0.
 using SessionValue = std::variant<std::monostate, double, std::string>;
+
+// Conversions between late-bound values and the session's types. Nothing where a value does not
+// convert; a missing value converts to nothing but a text.
+
+SessionValue toSessionValue(bool value);
+SessionValue toSessionValue(std::int32_t value);
+SessionValue toSessionValue(const std::string& value);
+
+std::optional<double> numberFrom(const SessionValue& value);
+/// To the nearest whole number, a half to the even one.
+std::optional<std::int32_t> integer32From(const SessionValue& value);
+std::optional<std::int16_t> integer16From(const SessionValue& value);
+/// 0 is false, every other number true; the words "true" and "false" in any letter case too.
+std::optional<bool> flagFrom(const SessionValue& value);
+std::string textFrom(const SessionValue& value);
 
 /// The session's operations and properties by their names, for scripts and remote callers that bind
 /// late. Numbers given as text and texts given as numbers are converted; arguments beyond those

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "link/SessionErrorRecord.h"
-#include "link/SessionProperties.h"
 #include "link/SessionServices.h"
 
 #include <cstdint>

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,20 @@ class OverwriteQuestion;
 class SessionProgress;
 struct SessionErrorRecord;
 struct SessionProperties;
+
+/// How the transfer of one file ended. 0 to 3 are the answers of the question dialog.
+enum class TransferOutcome : std::int16_t {
+    Failed = -1,   ///< the reason is in the error record
+    Done = 0,      ///< transferred
+    Refused = 1,   ///< the operator keeps what is there
+    DoneAll = 2,   ///< transferred, and no further question is wanted
+    Cancelled = 3, ///< the operator wants no more
+};
+
+/// Whether the transfer itself may go on, or has been made.
+constexpr bool goesOn(TransferOutcome outcome) {
+    return outcome == TransferOutcome::Done || outcome == TransferOutcome::DoneAll;
+}
 
 /// What the transfer of single files works with; everything is borrowed.
 struct TransferTools {

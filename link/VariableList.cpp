@@ -3,7 +3,7 @@
 #include "base/PathRules.h"
 #include "base/Text.h"
 #include "link/SessionErrorRecord.h"
-#include "link/SessionProperties.h"
+#include "link/SessionServices.h"
 #include "platform/Files.h"
 
 namespace vantrel {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "link/EntryList.h"
+#include "link/JobLists.h"
 #include "platform/TextEncoding.h"
 
 #include <cstdint>

@@ -2,7 +2,7 @@
 
 #include "base/PathRules.h"
 #include "link/SessionErrorRecord.h"
-#include "link/ZurolinkTypes.h"
+#include "link/Zurolink.h"
 #include "platform/DynamicLibrary.h"
 #include "platform/Environment.h"
 #include "platform/TextEncoding.h"

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "simulator/CodeOr.h"
 #include "simulator/ControllerFolder.h"
+#include "simulator/ResultCodes.h"
 #include "simulator/SimulatorSettings.h"
-#include "simulator/VariableKinds.h"
+#include "simulator/VariableStore.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "simulator/CodeOr.h"
+#include "base/Result.h"
+#include "simulator/ResultCodes.h"
 
 #include <cstdint>
 #include <string>
@@ -10,6 +11,18 @@
 namespace vantrel::simulator {
 
 struct ControllerFileName;
+
+/// File access that never follows a symbolic link at the end of the path, so that no link in a
+/// folder leads out of it. Paths are absolute and UTF-8.
+
+/// A regular file itself, not a link to one.
+bool isPlainFile(const std::string& path);
+
+/// Whether a file may be written at the path: nothing is there, or a plain file.
+bool isFreeOrPlainFile(const std::string& path);
+
+/// Replaces a plain file whole or creates it; refused where anything else has the name.
+Outcome writePlainFile(const std::string& path, std::string_view content);
 
 /// The files that a controller holds, as real files in one folder. Only plain files whose names are
 /// in the controller's own form (upper case but for Greek letters) count, so that each is found by

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <utility>
+#include <variant>
 
 /// What the library's functions return beside their own success values. The language files carry a
 /// text for each. `BscOpen` returns a failure as a negative number, since any other is a handle.
@@ -37,3 +39,23 @@ inline constexpr std::int16_t noJobSelected = 4030;
 inline constexpr std::int16_t internalError = 5200;
 
 } // namespace vantrel::simulator::code
+
+namespace vantrel::simulator {
+
+/// A value, or the code that says why there is none.
+template <typename Value>
+class CodeOr {
+  public:
+    CodeOr(Value value) : content_(std::move(value)) {}
+    CodeOr(std::int16_t code) : content_(code) {}
+
+    explicit operator bool() const { return std::holds_alternative<Value>(content_); }
+    const Value& operator*() const { return std::get<Value>(content_); }
+    const Value* operator->() const { return &std::get<Value>(content_); }
+    std::int16_t code() const { return std::get<std::int16_t>(content_); }
+
+  private:
+    std::variant<Value, std::int16_t> content_;
+};
+
+} // namespace vantrel::simulator

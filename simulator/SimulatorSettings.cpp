@@ -4,14 +4,19 @@
 #include "base/Text.h"
 #include "base/TextCase.h"
 #include "platform/TextEncoding.h"
-#include "simulator/IniText.h"
 
 #include <algorithm>
 #include <charconv>
 
 namespace vantrel::simulator {
-
 namespace {
+
+void readKey(std::string_view line, IniSection& section) {
+    const auto equals = line.find('=');
+    if (equals == std::string_view::npos)
+        return;
+    section.keys.emplace_back(trimmed(line.substr(0, equals)), trimmed(line.substr(equals + 1)));
+}
 
 /// The whole text as a number of the type, or nothing.
 template <typename Number>
@@ -74,6 +79,28 @@ bool leadsTo(const ControllerSettings& controller, const Line& line) {
 }
 
 } // namespace
+
+std::string_view IniSection::value(std::string_view key) const {
+    for (const auto& [known, text] : keys) {
+        if (equalsIgnoringAsciiCase(known, key))
+            return text;
+    }
+    return {};
+}
+
+std::vector<IniSection> parseIni(std::string_view text) {
+    std::vector<IniSection> sections;
+    for (const auto outer : lines(text)) {
+        const auto line = trimmed(outer);
+        if (line.empty() || line.front() == ';')
+            continue;
+        if (line.front() == '[')
+            sections.push_back({std::string(trimmed(line.substr(1, line.find(']') - 1))), {}});
+        else if (!sections.empty())
+            readKey(line, sections.back());
+    }
+    return sections;
+}
 
 const ControllerSettings* SimulatorSettings::find(const Line& line) const {
     const auto found = std::find_if(controllers.begin(), controllers.end(),

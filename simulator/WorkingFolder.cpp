@@ -2,7 +2,7 @@
 
 #include "base/PathRules.h"
 #include "platform/Files.h"
-#include "simulator/PlainFiles.h"
+#include "simulator/ControllerFolder.h"
 #include "simulator/ResultCodes.h"
 
 namespace vantrel::simulator {

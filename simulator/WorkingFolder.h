@@ -1,6 +1,6 @@
 #pragma once
 
-#include "simulator/CodeOr.h"
+#include "simulator/ResultCodes.h"
 
 #include <string>
 #include <string_view>

@@ -1,21 +1,28 @@
 #include "ui/CommandDialogs.h"
 
-#include "app/Engine.h"
-#include "app/LanguageDraft.h"
-#include "app/MainProgram.h"
-#include "app/SettingDraft.h"
-#include "files/FolderFiles.h"
-#include "files/Subfolders.h"
+#include "app/lists/ListFileDraft.h"
+#include "app/settings/LanguageDraft.h"
+#include "app/settings/SettingDraft.h"
+#include "app/start/Engine.h"
+#include "app/start/MainProgram.h"
+#include "files/FolderScan.h"
 #include "lang/MessageNumbers.h"
 #include "platform/Drives.h"
 #include "platform/Environment.h"
-#include "platform/NetworkFolders.h"
 #include "ui/VersionWindow.h"
 #include "ui/dialogs/frmLanguage.h"
+#include "ui/dialogs/frmListFile.h"
 #include "ui/dialogs/frmSetting.h"
 #include "ui/frmZuroVant.h"
 
 namespace vantrel {
+
+bool ListFileDialogs::readList(std::string_view mode) {
+    ListFileDraft draft(state_, session_, boxes_, messages_, mode);
+    frmListFile dialog(&parent_, draft, state_);
+    dialog.ShowModal();
+    return draft.result() == list_file_result::listRead;
+}
 
 void openLanguageDialog(wxWindow* parent, Engine& engine) {
     LanguageDraft draft({engine.state, engine.messages, engine.languages, engine.language,

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "app/CommandRunner.h"
+#include "app/commands/CommandRunner.h"
+#include "app/lists/ListTransferCommands.h"
 #include "ui/dialogs/frmMsgStat.h"
 #include "ui/look/WindowHolder.h"
 
@@ -10,8 +11,29 @@ namespace vantrel {
 
 class Engine;
 class MainProgram;
+class MessageBoxes;
+class MessageTable;
+class Snappy;
 class VersionWindow;
 class frmZuroVant;
+struct ApplicationState;
+
+/// Opens `frmListFile` over a window, anew for each list; everything is borrowed.
+class ListFileDialogs : public ListFileWindow {
+  public:
+    ListFileDialogs(wxWindow& parent, ApplicationState& state, Snappy& session, MessageBoxes& boxes,
+                    const MessageTable& messages)
+        : parent_(parent), state_(state), session_(session), boxes_(boxes), messages_(messages) {}
+
+    bool readList(std::string_view mode) override;
+
+  private:
+    wxWindow& parent_;
+    ApplicationState& state_;
+    Snappy& session_;
+    MessageBoxes& boxes_;
+    const MessageTable& messages_;
+};
 
 /// `frmLanguage`, modal; leaves `LangCancelled` in the state. The parent may be null.
 void openLanguageDialog(wxWindow* parent, Engine& engine);

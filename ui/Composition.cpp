@@ -1,6 +1,6 @@
 #include "ui/Composition.h"
 
-#include "files/Subfolders.h"
+#include "files/FolderScan.h"
 #include "platform/Drives.h"
 #include "platform/Environment.h"
 #include "ui/FolderTreeDropDown.h"
@@ -17,8 +17,8 @@ Composition::Composition(std::string executable, std::span<const std::string> ar
     : commandLine_(readCommandLine(arguments)), boxes_(messages_), printer_(messages_),
       questions_(messages_, state_), engine_(ground(std::move(executable), library)),
       versionWindow_(messages_, state_) {
-    // Until the start is over, what the operator does to the windows being built is refused.
-    guard_.lock();
+    // What the operator does to the windows being built is refused.
+    starting_.emplace(guard_);
     guard_.onBegun = [this] {
         if (progressWindow_)
             progressWindow_->beginCommand();
@@ -86,7 +86,7 @@ StartResult Composition::start() {
                                       .executable = engine_.executable,
                                       .programFolder = engine_.programFolder})
                             .Main();
-    guard_.unlock();
+    starting_.reset();
     return result;
 }
 
@@ -169,7 +169,7 @@ void Composition::yield() {
 }
 
 void Composition::bringScreenUpToDate() {
-    const OperationLock lock(guard_);
+    const ActionsRefused refused(guard_);
     screen_.bringUpToDate();
 }
 

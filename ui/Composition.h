@@ -1,13 +1,12 @@
 #pragma once
 
-#include "app/CommandRunner.h"
-#include "app/Engine.h"
-#include "app/MainProgram.h"
-#include "app/StartRoutine.h"
+#include "app/commands/CommandRunner.h"
+#include "app/start/Engine.h"
+#include "app/start/MainProgram.h"
+#include "app/start/StartRoutine.h"
 #include "base/ApplicationState.h"
 #include "lang/MessageTable.h"
 #include "ui/CommandDialogs.h"
-#include "ui/ListFileDialogs.h"
 #include "ui/OperationGuard.h"
 #include "ui/ScreenPaint.h"
 #include "ui/VersionWindow.h"
@@ -20,6 +19,7 @@
 #include "ui/look/WindowHolder.h"
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -77,7 +77,8 @@ class Composition : private StartWindows, private ShutdownWindows {
     CommandLine commandLine_;
     ApplicationState state_;
     MessageTable messages_;
-    OperationGuard guard_;
+    OperationGuard guard_{state_.Busy};
+    std::optional<ActionsRefused> starting_; ///< until the start is over
     ScreenPaint screen_;
     WxMessageBoxes boxes_;
     WxFilePrinter printer_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/TextSlices.h"
+#include "app/viewer/TextSlices.h"
 
 #include <string_view>
 

@@ -1,8 +1,8 @@
 #include "ui/FolderTreeDropDown.h"
 
-#include "app/FolderTreeCommands.h"
-#include "ui/look/FolderImages.h"
+#include "app/folders/FolderTreeCommands.h"
 #include "ui/look/FolderNodes.h"
+#include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
 
 #include <utility>

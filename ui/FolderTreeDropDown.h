@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/FolderTreeView.h"
+#include "app/folders/FolderTreeCommands.h"
 #include "files/FolderTree.h"
 
 #include <wx/eventfilter.h>

@@ -1,6 +1,6 @@
 #include "ui/MainWindowControls.h"
 
-#include "app/Commands.h"
+#include "app/commands/Commands.h"
 #include "ui/CommandToolBar.h"
 #include "ui/FileListControl.h"
 #include "ui/FileViewer.h"

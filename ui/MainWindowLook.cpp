@@ -1,21 +1,60 @@
 #include "ui/MainWindowLook.h"
 
-#include "app/Commands.h"
-#include "app/ModeCommands.h"
+#include "app/commands/Commands.h"
+#include "app/commands/ModeCommands.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
 #include "ui/CommandToolBar.h"
+#include "ui/FileListControl.h"
+#include "ui/FolderTreeDropDown.h"
 #include "ui/MainWindowControls.h"
 #include "ui/look/IconSet.h"
+#include "ui/look/WxText.h"
 
+#include <array>
 #include <cstdint>
+#include <utility>
 
 #include <wx/choice.h>
 #include <wx/panel.h>
 #include <wx/statbmp.h>
+#include <wx/statbox.h>
 #include <wx/stattext.h>
 
 namespace vantrel {
-
 namespace {
+
+void captionToolBars(const MainWindowControls& controls, const MessageTable& messages) {
+    for (CommandToolBar* bar : controls.toolBars())
+        bar->applyTips(messages);
+}
+
+void captionLabels(const MainWindowControls& controls, const MessageTable& messages) {
+    const std::pair<wxWindow*, std::int32_t> captions[] = {
+        {controls.fraPC.box, message::framePC},
+        {controls.fraCtrl.box, message::frameController},
+        // The viewer's frame has no caption of its own: it is named after the command that shows
+        // it.
+        {controls.fraFile.box, message::tipDisplayFile},
+        {controls.lblFile, message::labelFile},
+        {controls.lblPCFileType, message::labelFileType},
+        {controls.lblCtrlFileType, message::labelFileType},
+        {controls.lblSerial, message::labelSerialLine},
+        {controls.lblFolder, message::labelFolder},
+        {controls.lblRbtName, message::labelRobot},
+        {controls.lblIPaddr, message::labelIPAddress}};
+    for (const auto& [control, message] : captions)
+        control->SetLabel(toWx(messages.getMessage(message)));
+    controls.trvFolderList->setCaption(toWx(messages.getMessage(message::tipFolderTree)));
+}
+
+void captionColumns(const MainWindowControls& controls, const MessageTable& messages) {
+    const std::array titles{toWx(messages.getMessage(message::columnName)),
+                            toWx(messages.getMessage(message::columnSize)),
+                            toWx(messages.getMessage(message::columnDate))};
+    controls.lsvPC->setColumnTitles(titles);
+    controls.lsvCtrl->setColumnTitles(titles);
+}
 
 const wxSize arrowIcon{32, 32};
 
@@ -26,6 +65,12 @@ wxColour colour(std::uint32_t redGreenBlue) {
 }
 
 } // namespace
+
+void captionControls(const MainWindowControls& controls, const MessageTable& messages) {
+    captionToolBars(controls, messages);
+    captionLabels(controls, messages);
+    captionColumns(controls, messages);
+}
 
 void showCommandStates(const MainWindowControls& controls, const CommandInput& input) {
     for (CommandToolBar* bar : controls.toolBars())

@@ -4,9 +4,14 @@
 
 namespace vantrel {
 
+class MessageTable;
 struct CommandInput;
 struct MainWindowControls;
 struct ModeLook;
+
+/// Gives every control of the main window its caption, tool tip and column titles; the menus have
+/// their own.
+void captionControls(const MainWindowControls& controls, const MessageTable& messages);
 
 /// Dims and presses the tool bars' buttons, and dims all that a running operation locks; the menus
 /// have their own states.

@@ -31,7 +31,7 @@ bool isNotice(const wxEvent& event) {
 
 } // namespace
 
-OperationGuard::OperationGuard() {
+OperationGuard::OperationGuard(bool& busy) : busy_(busy) {
     wxEvtHandler::AddFilter(this);
 }
 
@@ -40,13 +40,16 @@ OperationGuard::~OperationGuard() {
 }
 
 void OperationGuard::lock() {
-    if (depth_++ == 0 && onBegun)
+    const bool begins = operations_++ == 0;
+    busy_ = true;
+    if (begins && onBegun)
         onBegun();
 }
 
 void OperationGuard::unlock() {
-    if (depth_ > 0)
-        --depth_;
+    if (operations_ > 0)
+        --operations_;
+    busy_ = operations_ > 0;
 }
 
 void OperationGuard::yield() {
@@ -54,7 +57,7 @@ void OperationGuard::yield() {
         return;
     yielding_ = true;
     // What happens in between has to find things as it left them: nothing is begun here.
-    const OperationLock lock(*this);
+    const ActionsRefused refused(*this);
     wxTheApp->Yield(true);
     yielding_ = false;
 }

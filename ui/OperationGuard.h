@@ -14,7 +14,8 @@ namespace vantrel {
 /// anything in it. Other windows (progress, questions, message boxes) are not touched.
 class OperationGuard : public wxEventFilter {
   public:
-    OperationGuard();
+    /// `busy` is true as long as an operation runs; nobody else writes it.
+    explicit OperationGuard(bool& busy);
     ~OperationGuard() override;
     OperationGuard(const OperationGuard&) = delete;
     OperationGuard& operator=(const OperationGuard&) = delete;
@@ -22,33 +23,39 @@ class OperationGuard : public wxEventFilter {
     /// The window that is closed to the operator while locked; null when it is gone.
     void guard(wxWindow* window) { guarded_ = window; }
 
-    /// Calls nest.
+    /// An operation begins or ends. Calls nest.
     void lock();
     void unlock();
-    bool isLocked() const { return depth_ > 0; }
+    /// Whether the operator's actions are refused: for an operation or for a moment.
+    bool isLocked() const { return operations_ > 0 || moments_ > 0; }
 
-    /// Called when the first of nested locks is set: an operation begins.
+    /// Called when the first of nested operations begins.
     std::function<void()> onBegun;
 
     /// Lets pending events run once, locked; does nothing when called from within itself.
     void yield();
 
   private:
+    friend class ActionsRefused;
+
     int FilterEvent(wxEvent& event) override;
     bool concernsGuarded(const wxEvent& event) const;
 
     wxWindow* guarded_ = nullptr;
-    int depth_ = 0;
+    bool& busy_;
+    int operations_ = 0;
+    int moments_ = 0;
     bool yielding_ = false;
 };
 
-/// Locks for as long as it lives.
-class OperationLock {
+/// Refuses the operator's actions for as long as it lives, without an operation that runs: while
+/// windows are built or painted.
+class ActionsRefused {
   public:
-    explicit OperationLock(OperationGuard& guard) : guard_(guard) { guard_.lock(); }
-    ~OperationLock() { guard_.unlock(); }
-    OperationLock(const OperationLock&) = delete;
-    OperationLock& operator=(const OperationLock&) = delete;
+    explicit ActionsRefused(OperationGuard& guard) : guard_(guard) { ++guard_.moments_; }
+    ~ActionsRefused() { --guard_.moments_; }
+    ActionsRefused(const ActionsRefused&) = delete;
+    ActionsRefused& operator=(const ActionsRefused&) = delete;
 
   private:
     OperationGuard& guard_;

@@ -1,7 +1,6 @@
 #include "ui/PathDisplay.h"
 
-#include "ui/look/FieldBorder.h"
-#include "ui/look/FolderImages.h"
+#include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
 
 namespace vantrel {

@@ -1,6 +1,6 @@
 #include "ui/VersionWindow.h"
 
-#include "app/VersionText.h"
+#include "app/commands/HelpCommands.h"
 #include "platform/Environment.h"
 #include "ui/look/SystemLook.h"
 

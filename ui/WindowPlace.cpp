@@ -1,9 +1,8 @@
 #include "ui/WindowPlace.h"
 
-#include "app/ScreenPlace.h"
-#include "app/SettingsFile.h"
-#include "app/Twips.h"
-#include "app/WindowLayout.h"
+#include "app/settings/SettingsFile.h"
+#include "app/window/WindowLayout.h"
+#include "app/window/WindowPlaces.h"
 #include "ui/look/SystemLook.h"
 
 #include <algorithm>

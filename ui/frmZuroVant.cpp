@@ -1,21 +1,19 @@
 #include "ui/frmZuroVant.h"
 
-#include "app/CommandRunner.h"
-#include "app/MainCommands.h"
-#include "app/ModeCommands.h"
-#include "app/SettingsFile.h"
-#include "app/Twips.h"
-#include "app/WindowLayout.h"
-#include "files/FolderPath.h"
+#include "app/commands/CommandRunner.h"
+#include "app/commands/MainCommands.h"
+#include "app/commands/ModeCommands.h"
+#include "app/settings/SettingsFile.h"
+#include "app/window/WindowLayout.h"
+#include "app/window/WindowPlaces.h"
+#include "files/FolderTree.h"
 #include "lang/MessageTable.h"
 #include "link/ShownText.h"
-#include "ui/CaptionRoom.h"
 #include "ui/ChoiceKeys.h"
 #include "ui/CommandToolBar.h"
 #include "ui/FileListControl.h"
 #include "ui/FileViewer.h"
 #include "ui/FolderTreeDropDown.h"
-#include "ui/MainWindowCaptions.h"
 #include "ui/MainWindowLook.h"
 #include "ui/MainWindowPlaces.h"
 #include "ui/OperationGuard.h"
@@ -241,7 +239,6 @@ void frmZuroVant::setLocked(bool locked) {
         guard_.lock();
     else
         guard_.unlock();
-    state_.Busy = guard_.isLocked();
     if (closesWhenUnlocked_ && !state_.Busy)
         CallAfter([this] { Close(true); });
     // A command that works on a pane for a moment is over by then.

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/Commands.h"
-#include "app/MainWindowView.h"
-#include "app/RobotRegistry.h"
-#include "app/ViewerPane.h"
+#include "app/commands/Commands.h"
+#include "app/commands/MainServices.h"
+#include "app/robots/RobotRegistry.h"
+#include "app/viewer/ViewerCommands.h"
 #include "files/PaneWindow.h"
 #include "ui/MainMenus.h"
 #include "ui/MainWindowControls.h"

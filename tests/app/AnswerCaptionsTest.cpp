@@ -1,4 +1,4 @@
-#include "app/AnswerCaptions.h"
+#include "app/window/AnswerCaptions.h"
 
 #include "lang/MessageTable.h"
 

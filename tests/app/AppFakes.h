@@ -1,9 +1,7 @@
 #pragma once
 
-#include "app/RobotRegistry.h"
+#include "app/robots/RobotRegistry.h"
 #include "base/ApplicationState.h"
-#include "files/PaneRows.h"
-#include "files/PaneWindow.h"
 #include "files/Panes.h"
 #include "files/TransferTable.h"
 #include "lang/LanguageFiles.h"
@@ -11,13 +9,12 @@
 #include "link/OperatorTalk.h"
 #include "link/ProgressPanel.h"
 #include "link/Snappy.h"
-#include "link/Zurolink.h"
 #include "platform/Files.h"
 #include "support/FakeMessageBoxes.h"
+#include "support/FakePaneWindow.h"
+#include "support/FakeZurolink.h"
 #include "support/TemporaryFolder.h"
 
-#include <algorithm>
-#include <cstring>
 #include <functional>
 #include <string>
 #include <utility>
@@ -52,98 +49,29 @@ class InFolder {
     std::string before_;
 };
 
-/// A controller that only has a directory; it can refuse to be connected.
-class DirectoryLibrary final : public Zurolink {
+/// The library in memory, whose openings stand in the common log.
+class LoggingLibrary final : public FakeZurolink {
   public:
-    explicit DirectoryLibrary(Log& log) : log_(log) {}
-
-    std::vector<std::string> directory;
-    bool refusesConnection = false;
-    std::function<void()> whenAsked = [] {}; ///< runs before an entry is told
-    std::string address;                     ///< of the last BscSetEther
-    std::int16_t port = 0;                   ///< of the last BscSetCom
+    explicit LoggingLibrary(Log& log) : log_(log) {}
 
     std::int16_t BscOpen(const char* path, std::int16_t type) override {
         log_.push_back("BscOpen " + std::string(path) + " " + std::to_string(type));
-        return 1;
-    }
-    std::int16_t BscSetCom(std::int16_t, std::int16_t number, std::int32_t, std::int16_t,
-                           std::int16_t, std::int16_t) override {
-        port = number;
-        return 1;
-    }
-    std::int16_t BscSetEther(std::int16_t, const char* ip, std::int16_t, void*) override {
-        address = ip;
-        return 1;
-    }
-    std::int16_t BscConnect(std::int16_t) override { return refusesConnection ? 0 : 1; }
-    std::int16_t BscDisConnect(std::int16_t) override { return 1; }
-    std::int16_t BscClose(std::int16_t) override { return 0; }
-    std::int16_t BscFindFirst(std::int16_t handle, char* buffer, std::int16_t length) override {
-        next_ = 0;
-        return BscFindNext(handle, buffer, length);
-    }
-    std::int16_t BscFindNext(std::int16_t, char* buffer, std::int16_t length) override {
-        whenAsked();
-        if (next_ == directory.size())
-            return -1;
-        const std::string& name = directory[next_++];
-        std::memcpy(buffer, name.c_str(),
-                    std::min(name.size() + 1, static_cast<std::size_t>(length)));
-        return 0;
-    }
-    std::int16_t BscDownLoad(std::int16_t, const char*) override { return -1; }
-    std::int16_t BscUpLoad(std::int16_t, const char*) override { return -1; }
-    std::int16_t BscSelectJob(std::int16_t, const char*) override { return -1; }
-    std::int16_t BscDeleteJob(std::int16_t) override { return -1; }
-    std::int16_t BscGetVarData(std::int16_t, std::int16_t, std::int16_t, double*) override {
-        return -1;
-    }
-    std::int16_t BscPutVarData(std::int16_t, std::int16_t, std::int16_t, const double*) override {
-        return -1;
+        return FakeZurolink::BscOpen(path, type);
     }
 
   private:
     Log& log_;
-    std::size_t next_ = 0;
 };
 
-class RecordingList final : public PaneList {
+/// The window without pixels, whose status bar stands in the common log.
+class LoggingPaneWindow final : public FakePaneWindow {
   public:
-    std::vector<std::string> names;
+    explicit LoggingPaneWindow(Log& log) : log_(log) {}
 
-    void show(const PaneRows& rows) override {
-        names.clear();
-        for (std::size_t row = 0; row < rows.size(); ++row)
-            names.push_back(rows.name(row));
-    }
-    std::vector<std::size_t> selectedRows() const override { return {}; }
-    std::optional<std::size_t> selectedRow() const override { return {}; }
-    void select(const std::vector<std::size_t>&) override {}
-    void focus() override { ++focuses; }
-
-    int focuses = 0;
-};
-
-class RecordingPaneWindow final : public PaneWindow {
-  public:
-    explicit RecordingPaneWindow(Log& log) : log_(log) {}
-
-    RecordingList pc, controller;
-    std::vector<std::string> controllerFilters;
-
-    PaneList& list(ActiveSide side) override { return side == ActiveSide::PC ? pc : controller; }
-    int filterIndex(ActiveSide side) const override { return side == ActiveSide::PC ? 4 : 0; }
-    void setFilterChoices(ActiveSide side, const std::vector<std::string>& choices) override {
-        if (side == ActiveSide::Controller)
-            controllerFilters = choices;
-    }
     void setStatus(ActiveSide side, const std::string& text) override {
         log_.push_back((side == ActiveSide::PC ? "status PC " : "status Ctrl ") + text);
+        FakePaneWindow::setStatus(side, text);
     }
-    void setBusyPointer(bool) override {}
-    void setLocked(bool) override {}
-    void yield() override {}
 
   private:
     Log& log_;
@@ -192,7 +120,8 @@ class LoggingBoxes final : public FakeMessageBoxes {
     Log& log_;
 };
 
-/// A program folder and everything below the main window, with a session on a DirectoryLibrary.
+/// A program folder and everything below the main window, real but for library, windows and
+/// operator.
 struct Desk {
     TemporaryFolder folder;
     Log log;
@@ -203,7 +132,7 @@ struct Desk {
     ProgressPanel progress;
     UnansweredQuestion question;
     OperatorTalk talk{progress, question, boxes};
-    DirectoryLibrary library{log};
+    LoggingLibrary library{log};
     Snappy session{{.library = library,
                     .TransMode = state.TransMode,
                     .messages = messages,
@@ -214,7 +143,7 @@ struct Desk {
                     .dummyWindow = [] { return nullptr; },
                     .unloadWindows = [this] { log.push_back("session quit"); }}};
     TransferTable table;
-    RecordingPaneWindow window{log};
+    LoggingPaneWindow window{log};
     Panes panes{state, session, table, messages, window};
 };
 

@@ -1,5 +1,4 @@
-#include "app/CharacterWidth.h"
-
+#include "app/viewer/PrintPages.h"
 #include "support/NamedRow.h"
 
 namespace vantrel::tests {

@@ -1,4 +1,4 @@
-#include "app/CommandRunner.h"
+#include "app/commands/CommandRunner.h"
 
 #include "MainCommandsFixture.h"
 

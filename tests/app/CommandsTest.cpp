@@ -1,6 +1,6 @@
-#include "app/Commands.h"
+#include "app/commands/Commands.h"
 
-#include "app/CommandRunner.h"
+#include "app/commands/CommandRunner.h"
 #include "support/NamedCommands.h"
 
 #include <set>

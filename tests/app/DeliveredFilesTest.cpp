@@ -1,4 +1,4 @@
-#include "app/DeliveredFiles.h"
+#include "app/start/DeliveredFiles.h"
 
 #include "platform/Environment.h"
 #include "platform/Files.h"

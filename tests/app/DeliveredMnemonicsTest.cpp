@@ -1,4 +1,4 @@
-#include "app/Commands.h"
+#include "app/commands/Commands.h"
 #include "lang/LanguageFiles.h"
 #include "lang/MessageTable.h"
 #include "support/ProjectFiles.h"

@@ -1,4 +1,4 @@
-#include "app/FolderChoice.h"
+#include "app/settings/FolderChoice.h"
 
 #include <gmock/gmock.h>
 

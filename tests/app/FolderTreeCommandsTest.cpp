@@ -1,4 +1,4 @@
-#include "app/FolderTreeCommands.h"
+#include "app/folders/FolderTreeCommands.h"
 
 #include "MainCommandsFixture.h"
 

@@ -1,4 +1,4 @@
-#include "app/HelpCommands.h"
+#include "app/commands/HelpCommands.h"
 
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/LanguageDraft.h"
+#include "app/settings/LanguageDraft.h"
 #include "base/ApplicationState.h"
 #include "lang/LanguageChoice.h"
 #include "lang/LanguageFiles.h"

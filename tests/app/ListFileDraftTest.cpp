@@ -1,4 +1,4 @@
-#include "app/ListFileDraft.h"
+#include "app/lists/ListFileDraft.h"
 
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"

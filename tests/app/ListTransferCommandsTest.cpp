@@ -1,6 +1,6 @@
-#include "app/ListTransferCommands.h"
+#include "app/lists/ListTransferCommands.h"
 
-#include "app/ListFileDraft.h"
+#include "app/lists/ListFileDraft.h"
 #include "files/CommandFixture.h"
 #include "support/NamedRow.h"
 

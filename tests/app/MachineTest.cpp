@@ -1,4 +1,4 @@
-#include "app/Machine.h"
+#include "app/robots/Machine.h"
 
 #include "base/ApplicationState.h"
 

@@ -1,4 +1,4 @@
-#include "app/MainWindowStart.h"
+#include "app/start/MainWindowStart.h"
 
 #include "MainCommandsFixture.h"
 #include "base/PathRules.h"

@@ -1,4 +1,4 @@
-#include "app/ModeCommands.h"
+#include "app/commands/ModeCommands.h"
 
 #include "AppFakes.h"
 

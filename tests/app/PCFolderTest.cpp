@@ -1,4 +1,4 @@
-#include "app/PCFolder.h"
+#include "app/folders/PCFolder.h"
 
 #include "MainCommandsFixture.h"
 #include "base/PathRules.h"

@@ -1,4 +1,4 @@
-#include "app/PrintPages.h"
+#include "app/viewer/PrintPages.h"
 
 #include "support/NamedRow.h"
 

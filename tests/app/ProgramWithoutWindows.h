@@ -1,8 +1,8 @@
 #pragma once
 
 #include "MainCommandsFixture.h"
-#include "app/Engine.h"
-#include "app/MainProgram.h"
+#include "app/start/Engine.h"
+#include "app/start/MainProgram.h"
 
 #include <string>
 

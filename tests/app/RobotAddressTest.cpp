@@ -1,5 +1,4 @@
-#include "app/RobotAddress.h"
-
+#include "app/robots/RobotCheck.h"
 #include "support/NamedRow.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "app/RobotCheck.h"
+#include "app/robots/RobotCheck.h"
 
 #include "AppFakes.h"
-#include "app/RobotListDraft.h"
+#include "app/robots/RobotListDraft.h"
 #include "support/NamedRow.h"
 
 #include <gtest/gtest.h>

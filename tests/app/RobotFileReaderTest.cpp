@@ -1,5 +1,4 @@
-#include "app/RobotFileReader.h"
-
+#include "app/robots/RobotFile.h"
 #include "support/FakeMessageBoxes.h"
 
 #include <new>

@@ -1,8 +1,5 @@
-#include "app/RobotFileWriter.h"
-
-#include "app/RobotFileReader.h"
-#include "app/RobotList.h"
-#include "app/RobotPaths.h"
+#include "app/robots/RobotFile.h"
+#include "app/robots/RobotPaths.h"
 #include "support/FakeMessageBoxes.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "app/RobotListDraft.h"
+#include "app/robots/RobotListDraft.h"
 
-#include "app/RobotList.h"
+#include "app/robots/RobotFile.h"
 #include "base/ApplicationState.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "app/RobotList.h"
+#include "app/robots/RobotFile.h"
 
 #include <gtest/gtest.h>
 

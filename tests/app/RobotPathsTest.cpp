@@ -1,4 +1,4 @@
-#include "app/RobotPaths.h"
+#include "app/robots/RobotPaths.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "AppFakes.h"
-#include "app/RobotRegistry.h"
+#include "app/robots/RobotRegistry.h"
 
 #include <string>
 #include <string_view>

@@ -1,9 +1,8 @@
-#include "app/RobotRegistry.h"
+#include "app/robots/RobotRegistry.h"
 
 #include "RobotRegistryFixture.h"
-#include "app/RobotFileReader.h"
-#include "app/RobotList.h"
-#include "app/RobotPaths.h"
+#include "app/robots/RobotFile.h"
+#include "app/robots/RobotPaths.h"
 #include "base/PathRules.h"
 #include "base/TextCase.h"
 #include "platform/TextEncoding.h"

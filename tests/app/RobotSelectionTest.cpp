@@ -1,9 +1,9 @@
-#include "app/RobotSelection.h"
+#include "app/robots/RobotSelection.h"
 
 #include "MainCommandsFixture.h"
-#include "app/Machine.h"
-#include "app/RobotList.h"
-#include "app/RobotRegistry.h"
+#include "app/robots/Machine.h"
+#include "app/robots/RobotFile.h"
+#include "app/robots/RobotRegistry.h"
 #include "base/PathRules.h"
 
 #include <optional>

@@ -1,5 +1,4 @@
-#include "app/ScreenPlace.h"
-
+#include "app/window/WindowPlaces.h"
 #include "support/NamedRow.h"
 
 #include <limits>

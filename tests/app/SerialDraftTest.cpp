@@ -1,6 +1,6 @@
-#include "app/SerialDraft.h"
+#include "app/settings/SerialDraft.h"
 
-#include "base/SerialLine.h"
+#include "base/Connection.h"
 #include "support/NamedRow.h"
 
 #include <gtest/gtest.h>

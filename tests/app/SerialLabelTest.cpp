@@ -1,5 +1,4 @@
-#include "app/SerialLabel.h"
-
+#include "app/settings/SerialDraft.h"
 #include "base/ApplicationState.h"
 
 #include <gtest/gtest.h>

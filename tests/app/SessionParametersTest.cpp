@@ -1,6 +1,5 @@
-#include "app/SessionParameters.h"
-
 #include "AppFakes.h"
+#include "app/robots/Machine.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "app/SettingCommands.h"
+#include "app/settings/SettingCommands.h"
 
 #include "MainCommandsFixture.h"
-#include "app/RobotList.h"
-#include "app/RobotRegistry.h"
-#include "app/SettingDraft.h"
+#include "app/robots/RobotFile.h"
+#include "app/robots/RobotRegistry.h"
+#include "app/settings/SettingDraft.h"
 #include "platform/Files.h"
 
 #include <algorithm>

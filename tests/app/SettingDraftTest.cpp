@@ -1,7 +1,7 @@
-#include "app/SettingDraft.h"
+#include "app/settings/SettingDraft.h"
 
 #include "AppFakes.h"
-#include "app/RobotList.h"
+#include "app/robots/RobotFile.h"
 
 #include <gtest/gtest.h>
 

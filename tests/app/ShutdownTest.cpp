@@ -1,4 +1,4 @@
-#include "app/Shutdown.h"
+#include "app/start/Shutdown.h"
 
 #include "AppFakes.h"
 
@@ -106,10 +106,7 @@ TEST_F(ShutdownTest, WhileLockedTheCloseIsRefusedWithoutAWord) {
     expectNothingWritten();
 }
 
-TEST_F(ShutdownTest, WhileBusyOrStartingTheCloseIsRefusedWithoutAWord) {
-    desk_.state.Busy = true;
-    EXPECT_FALSE(shutdown_.close());
-    desk_.state.Busy = false;
+TEST_F(ShutdownTest, WhileTheProgramStartsTheCloseIsRefusedWithoutAWord) {
     desk_.state.StartupDone = false;
     EXPECT_FALSE(shutdown_.close());
     EXPECT_TRUE(desk_.log.empty());

@@ -1,5 +1,5 @@
 #include "ProgramWithoutWindows.h"
-#include "app/RobotList.h"
+#include "app/robots/RobotFile.h"
 #include "link/SimulatedWorld.h"
 
 #include <filesystem>

@@ -1,7 +1,7 @@
-#include "app/StartRoutine.h"
+#include "app/start/StartRoutine.h"
 
 #include "AppFakes.h"
-#include "app/SettingsFile.h"
+#include "app/settings/SettingsFile.h"
 #include "base/PathRules.h"
 #include "lang/LanguageChoice.h"
 
@@ -80,6 +80,7 @@ class StartRoutineTest : public testing::Test {
         desk_.state.Busy = true;
         desk_.state.StartupDone = true;
     }
+    tests::FakeController& controller() { return desk_.library.at("COM1"); }
     /// Every message N reads "mN" in this language.
     void writeLanguage(const std::string& name) {
         std::string text = "Start:\r\n";
@@ -279,12 +280,13 @@ TEST_F(StartRoutineTest, TheSessionGetsItsParametersAndTheFolder) {
 TEST_F(StartRoutineTest, TheControllersFiltersFollowTheStoredModel) {
     addSettings("[Vantrel]\r\nControler=1\r\n");
     EXPECT_EQ(start(), StartResult::Running);
-    EXPECT_EQ(desk_.window.controllerFilters, (std::vector<std::string>{"*.JBI", "*.DAT"}));
+    EXPECT_EQ(desk_.window.controllerChoices, (std::vector<std::string>{"*.JBI", "*.DAT"}));
 }
 
 TEST_F(StartRoutineTest, YesReadsTheDirectory) {
     desk_.boxes.answers = {true};
-    desk_.library.directory = {"A.JBI", "B.JBI"};
+    controller().put("A.JBI", "A");
+    controller().put("B.JBI", "B");
     EXPECT_EQ(start(), StartResult::Running);
     const auto question = std::ranges::find(desk_.log, "askYesNo m1");
     EXPECT_EQ(tests::Log(question + 1, question + 5),
@@ -294,7 +296,7 @@ TEST_F(StartRoutineTest, YesReadsTheDirectory) {
 }
 
 TEST_F(StartRoutineTest, NoLeavesThePaneEmpty) {
-    desk_.library.directory = {"A.JBI"};
+    controller().put("A.JBI", "A");
     EXPECT_EQ(start(), StartResult::Running);
     EXPECT_EQ(desk_.state.CtrlListing.Count, 0);
     EXPECT_TRUE(logged("status Ctrl m150m16"));
@@ -303,7 +305,7 @@ TEST_F(StartRoutineTest, NoLeavesThePaneEmpty) {
 
 TEST_F(StartRoutineTest, AFailingReadIsToldAndTheStartGoesOn) {
     desk_.boxes.answers = {true};
-    desk_.library.refusesConnection = true;
+    desk_.library.disturb({.function = "BscConnect", .code = 0});
     desk_.state.CtrlListing.append("OLD.JBI", 0, DateText());
     EXPECT_EQ(start(), StartResult::Running);
     ASSERT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m1", "m2\nCOM1\nBscConnect ( 0 )"}));
@@ -314,8 +316,12 @@ TEST_F(StartRoutineTest, AFailingReadIsToldAndTheStartGoesOn) {
 
 TEST_F(StartRoutineTest, ACancelledReadNeedsNoWordAndTheStartGoesOn) {
     desk_.boxes.answers = {true};
-    desk_.library.directory = {"A.JBI", "B.JBI"};
-    desk_.library.whenAsked = [this] { desk_.progress.pressCancel(); };
+    controller().put("A.JBI", "A");
+    controller().put("B.JBI", "B");
+    desk_.library.onCall = [this](const std::string& function) {
+        if (function == "BscFindNext")
+            desk_.progress.pressCancel();
+    };
     EXPECT_EQ(start(), StartResult::Running);
     EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m1"}));
     EXPECT_EQ(desk_.state.CtrlListing.Count, 0);
@@ -342,6 +348,8 @@ TEST_P(StartModeTest, TheDirectoryIsReadTheRightWay) {
     addSettings("[Vantrel]\r\n" + std::string(GetParam().settings));
     desk_.folder.write("robot.ini", "[Robot]\r\nName=R1\r\nIPaddr=10.0.0.5\r\n");
     desk_.boxes.answers = {true};
+    desk_.library.at("COM1");
+    desk_.library.at("10.0.0.5");
     EXPECT_EQ(start(), StartResult::Running);
     EXPECT_TRUE(
         logged("BscOpen " + desk_.folder.path() + " " + std::to_string(GetParam().linkType)));

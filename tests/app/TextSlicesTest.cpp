@@ -1,4 +1,4 @@
-#include "app/TextSlices.h"
+#include "app/viewer/TextSlices.h"
 
 #include "base/Text.h"
 #include "support/NamedRow.h"

@@ -1,4 +1,4 @@
-#include "app/Twips.h"
+#include "app/window/WindowPlaces.h"
 
 #include <cstdint>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "app/VersionText.h"
+#include "app/commands/HelpCommands.h"
 
 #include <gtest/gtest.h>
 

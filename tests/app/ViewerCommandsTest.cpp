@@ -1,4 +1,4 @@
-#include "app/ViewerCommands.h"
+#include "app/viewer/ViewerCommands.h"
 
 #include "MainCommandsFixture.h"
 

@@ -1,4 +1,4 @@
-#include "app/WindowLayout.h"
+#include "app/window/WindowLayout.h"
 
 #include <gtest/gtest.h>
 

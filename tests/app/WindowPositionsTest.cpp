@@ -1,6 +1,5 @@
-#include "app/WindowPositions.h"
-
-#include "app/SettingsFile.h"
+#include "app/settings/SettingsFile.h"
+#include "app/window/WindowPlaces.h"
 
 #include <gtest/gtest.h>
 

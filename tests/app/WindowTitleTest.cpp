@@ -1,6 +1,5 @@
-#include "app/WindowTitle.h"
-
 #include "AppFakes.h"
+#include "app/commands/ModeCommands.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
 #include "base/Text.h"
 #include "files/ControllerModels.h"
 #include "files/TransferTable.h"
-#include "files/TransferTableLine.h"
 #include "platform/Files.h"
 #include "support/ProjectFiles.h"
 #include "support/TemporaryFolder.h"

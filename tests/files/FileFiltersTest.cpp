@@ -1,7 +1,6 @@
-#include "files/FileFilters.h"
-
 #include "base/Text.h"
 #include "base/Wildcard.h"
+#include "files/ControllerModels.h"
 
 #include <algorithm>
 

@@ -1,5 +1,4 @@
-#include "files/FolderFiles.h"
-
+#include "files/FolderScan.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>

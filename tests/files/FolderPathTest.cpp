@@ -1,4 +1,4 @@
-#include "files/FolderPath.h"
+#include "files/FolderTree.h"
 
 #include <string>
 

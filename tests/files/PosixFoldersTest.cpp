@@ -1,6 +1,4 @@
-#include "files/FolderFiles.h"
 #include "files/FolderScan.h"
-#include "files/Subfolders.h"
 #include "support/TemporaryFolder.h"
 
 #include <filesystem>

@@ -1,5 +1,4 @@
-#include "files/Subfolders.h"
-
+#include "files/FolderScan.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>

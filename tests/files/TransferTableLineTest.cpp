@@ -1,4 +1,4 @@
-#include "files/TransferTableLine.h"
+#include "files/TransferTable.h"
 
 #include <string>
 

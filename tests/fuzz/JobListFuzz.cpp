@@ -1,11 +1,11 @@
 #include "FuzzFolder.h"
 #include "FuzzInput.h"
 #include "lang/MessageTable.h"
-#include "link/JobListStore.h"
+#include "link/JobLists.h"
 #include "link/OperatorTalk.h"
 #include "link/ProgressPanel.h"
 #include "link/SessionErrorRecord.h"
-#include "link/SessionProperties.h"
+#include "link/SessionServices.h"
 #include "support/FakeMessageBoxes.h"
 #include "support/ScriptedQuestionWindow.h"
 

@@ -1,6 +1,6 @@
 #include "FuzzInput.h"
 #include "base/Text.h"
-#include "lang/LanguageFile.h"
+#include "lang/LanguageFiles.h"
 
 using namespace vantrel;
 

@@ -1,6 +1,6 @@
 #include "FuzzFolder.h"
 #include "FuzzInput.h"
-#include "link/LocalJobList.h"
+#include "link/JobLists.h"
 
 #include <algorithm>
 

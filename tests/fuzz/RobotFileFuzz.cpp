@@ -1,7 +1,6 @@
 #include "FuzzInput.h"
-#include "app/RobotFileReader.h"
-#include "app/RobotFileWriter.h"
-#include "app/RobotPaths.h"
+#include "app/robots/RobotFile.h"
+#include "app/robots/RobotPaths.h"
 #include "support/FakeMessageBoxes.h"
 
 using namespace vantrel;

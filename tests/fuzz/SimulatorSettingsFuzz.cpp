@@ -1,5 +1,4 @@
 #include "FuzzInput.h"
-#include "simulator/IniText.h"
 #include "simulator/Script.h"
 #include "simulator/SimulatorSettings.h"
 

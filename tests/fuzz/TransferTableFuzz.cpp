@@ -1,7 +1,6 @@
 #include "FuzzFolder.h"
 #include "FuzzInput.h"
 #include "files/TransferTable.h"
-#include "files/TransferTableLine.h"
 
 using namespace vantrel;
 

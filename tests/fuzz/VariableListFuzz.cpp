@@ -1,7 +1,7 @@
 #include "FuzzFolder.h"
 #include "FuzzInput.h"
 #include "link/SessionErrorRecord.h"
-#include "link/SessionProperties.h"
+#include "link/SessionServices.h"
 #include "link/VariableList.h"
 
 using namespace vantrel;

@@ -1,6 +1,6 @@
 #include "FuzzInput.h"
-#include "app/SettingsFile.h"
-#include "app/WindowPositions.h"
+#include "app/settings/SettingsFile.h"
+#include "app/window/WindowPlaces.h"
 
 using namespace vantrel;
 

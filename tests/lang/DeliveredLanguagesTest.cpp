@@ -1,6 +1,6 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "lang/LanguageFile.h"
+#include "lang/LanguageFiles.h"
 #include "platform/Files.h"
 #include "platform/TextEncoding.h"
 #include "support/ProjectFiles.h"

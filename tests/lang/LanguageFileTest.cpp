@@ -1,4 +1,4 @@
-#include "lang/LanguageFile.h"
+#include "lang/LanguageFiles.h"
 
 #include <random>
 #include <string>

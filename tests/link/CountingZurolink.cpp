@@ -1,7 +1,7 @@
 // A communication library for the binding's tests. Its handles are counted from 1, anew each time
 // that it is loaded, and no link can be disconnected.
 
-#include "link/ZurolinkTypes.h"
+#include "link/Zurolink.h"
 
 #define EXPORTED(arguments) __attribute__((visibility("default"))) short ZUROLINK_CALL arguments
 

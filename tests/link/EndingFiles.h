@@ -1,6 +1,6 @@
 #pragma once
 
-#include "link/FetchFiles.h"
+#include "link/FetchMark.h"
 
 #include <limits>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "link/EntryList.h"
+#include "link/JobLists.h"
 
 #include <gtest/gtest.h>
 

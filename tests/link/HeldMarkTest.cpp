@@ -1,4 +1,3 @@
-#include "link/FetchFiles.h"
 #include "link/FetchMark.h"
 #include "link/ReplacedFile.h"
 #include "link/SessionErrorRecord.h"

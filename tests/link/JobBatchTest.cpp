@@ -2,13 +2,12 @@
 
 #include "JobBatchFixture.h"
 #include "base/TextCase.h"
-#include "link/FetchFiles.h"
+#include "link/FetchMark.h"
 #include "link/InterruptedFetches.h"
-#include "link/JobDeletion.h"
+#include "link/JobLists.h"
 #include "link/JobNameSet.h"
 #include "link/JobSend.h"
 #include "link/LinkConnection.h"
-#include "link/LocalJobList.h"
 #include "link/OverwriteQuestion.h"
 #include "link/SessionProgress.h"
 

@@ -1,6 +1,5 @@
-#include "link/JobDeletion.h"
-
 #include "SessionWorld.h"
+#include "link/JobSend.h"
 
 namespace vantrel {
 namespace {

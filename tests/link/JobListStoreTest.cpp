@@ -1,6 +1,5 @@
-#include "link/JobListStore.h"
-
 #include "SessionWorld.h"
+#include "link/JobLists.h"
 #include "support/SystemReasons.h"
 
 namespace vantrel {

@@ -1,5 +1,4 @@
-#include "link/LocalJobList.h"
-
+#include "link/JobLists.h"
 #include "support/NamedRow.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,5 +1,4 @@
-#include "link/SessionValues.h"
-
+#include "link/SessionOperations.h"
 #include "support/NamedRow.h"
 
 #include <limits>

@@ -1,6 +1,5 @@
-#include "link/VariableBatch.h"
-
 #include "SessionWorld.h"
+#include "link/VariableTransfer.h"
 
 #include <limits>
 

@@ -1,5 +1,5 @@
 #include "base/Text.h"
-#include "lang/LanguageFile.h"
+#include "lang/LanguageFiles.h"
 #include "lang/MessageNumbers.h"
 #include "platform/Files.h"
 #include "support/NamedRow.h"

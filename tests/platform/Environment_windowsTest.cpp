@@ -1,7 +1,6 @@
 #include "platform/Drives.h"
 #include "platform/Environment.h"
 #include "platform/LocalDates_windows.h"
-#include "platform/NetworkFolders.h"
 #include "platform/System_windows.h"
 #include "platform/TextEncoding.h"
 #include "support/NamedRow.h"

@@ -1,5 +1,4 @@
-#include "platform/NetworkFolders.h"
-
+#include "platform/Drives.h"
 #include "support/NamedRow.h"
 
 #include <gtest/gtest.h>

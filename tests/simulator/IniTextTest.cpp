@@ -1,4 +1,4 @@
-#include "simulator/IniText.h"
+#include "simulator/SimulatorSettings.h"
 
 #include <gtest/gtest.h>
 

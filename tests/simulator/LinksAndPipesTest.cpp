@@ -1,7 +1,6 @@
 #include "SimulatorFixture.h"
 #include "simulator/ControllerFileName.h"
 #include "simulator/ControllerFolder.h"
-#include "simulator/PlainFiles.h"
 #include "simulator/VariableStore.h"
 #include "simulator/WorkingFolder.h"
 

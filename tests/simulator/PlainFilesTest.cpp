@@ -1,5 +1,4 @@
-#include "simulator/PlainFiles.h"
-
+#include "simulator/ControllerFolder.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>

@@ -6,7 +6,6 @@
 #include "simulator/JobText.h"
 #include "simulator/ResultCodes.h"
 #include "simulator/SimulatorSettings.h"
-#include "simulator/VariableKinds.h"
 #include "simulator/VariableStore.h"
 #include "support/ProjectFiles.h"
 

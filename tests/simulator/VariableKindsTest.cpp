@@ -1,6 +1,5 @@
-#include "simulator/VariableKinds.h"
-
 #include "simulator/ResultCodes.h"
+#include "simulator/VariableStore.h"
 
 #include <limits>
 #include <ostream>

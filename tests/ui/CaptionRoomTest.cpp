@@ -1,7 +1,6 @@
-#include "ui/CaptionRoom.h"
-
 #include "MainWindowTest.h"
-#include "app/SettingsFile.h"
+#include "app/settings/SettingsFile.h"
+#include "ui/MainWindowPlaces.h"
 
 #include <wx/display.h>
 #include <wx/stattext.h>

@@ -1,7 +1,6 @@
 #include "ui/dialogs/FolderChoicePanel.h"
 
 #include "SettingWorld.h"
-#include "ui/dialogs/FileNameList.h"
 
 #include <wx/treectrl.h>
 

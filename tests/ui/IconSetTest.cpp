@@ -1,7 +1,6 @@
 #include "ui/look/IconSet.h"
 
 #include "support/Windows.h"
-#include "ui/look/IconDrawings.h"
 
 #include <set>
 

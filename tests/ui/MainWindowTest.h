@@ -2,7 +2,7 @@
 
 #include "DialogTest.h"
 #include "PaneWorld.h"
-#include "app/ModeCommands.h"
+#include "app/commands/ModeCommands.h"
 #include "support/NamedCommands.h"
 #include "ui/FileListControl.h"
 #include "ui/OperationGuard.h"
@@ -38,7 +38,7 @@ class MainWindowTest : public DialogInLanguage {
         return window.menus().find(item)->GetItemLabel();
     }
 
-    OperationGuard guard;
+    OperationGuard guard{state.Busy};
     PaneWorld world{{"B.JBI", "A.JBI", "FOLDER/"}};
     frmZuroVant& window = *new frmZuroVant(state, messages, guard);
     const MainWindowControls& controls = window.controls();

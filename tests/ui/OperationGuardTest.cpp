@@ -47,7 +47,8 @@ class OperationGuardTest : public testing::Test {
         frame.HandleWindowEvent(tick);
     }
 
-    OperationGuard guard;
+    bool busy = false;
+    OperationGuard guard{busy};
     wxFrame* window = new wxFrame(nullptr, wxID_ANY, "guarded");
     wxFrame* other = new wxFrame(nullptr, wxID_ANY, "progress");
     wxButton& inside = *new wxButton(window, wxID_ANY, "inside");
@@ -62,35 +63,38 @@ TEST_F(OperationGuardTest, LetsEverythingThroughWhileNothingRuns) {
 }
 
 TEST_F(OperationGuardTest, RefusesEverythingWhileLocked) {
-    const OperationLock lock(guard);
+    guard.lock();
     doEverything(*window, inside);
     EXPECT_EQ(reached, 0);
 }
 
 TEST_F(OperationGuardTest, LetsOtherWindowsWorkWhileLocked) {
-    const OperationLock lock(guard);
+    guard.lock();
     doEverything(*other, cancel);
     EXPECT_EQ(reachedOther, 5);
 }
 
 TEST_F(OperationGuardTest, RefusesTheCloseWithoutAWord) {
-    const OperationLock lock(guard);
+    guard.lock();
     EXPECT_FALSE(window->Close());
     EXPECT_EQ(reached, 0);
 }
 
 TEST_F(OperationGuardTest, LocksNest) {
     guard.lock();
-    { const OperationLock inner(guard); }
+    guard.lock();
+    guard.unlock();
     EXPECT_TRUE(guard.isLocked());
+    EXPECT_TRUE(busy);
     guard.unlock();
     EXPECT_FALSE(guard.isLocked());
+    EXPECT_FALSE(busy);
     guard.unlock();
     EXPECT_FALSE(guard.isLocked());
 }
 
 TEST_F(OperationGuardTest, RefusesPopUpMenusToo) {
-    const OperationLock lock(guard);
+    guard.lock();
     wxMenu menu;
     wxCommandEvent event(wxEVT_MENU, wxID_COPY);
     event.SetEventObject(&menu);
@@ -100,12 +104,15 @@ TEST_F(OperationGuardTest, RefusesPopUpMenusToo) {
 
 TEST_F(OperationGuardTest, NothingIsBegunDuringAYield) {
     bool lockedInside = false;
+    bool busyInside = true;
     window->CallAfter([&] {
         lockedInside = guard.isLocked();
+        busyInside = busy;
         doEverything(*window, inside);
     });
     guard.yield();
     EXPECT_TRUE(lockedInside);
+    EXPECT_FALSE(busyInside) << "no operation runs";
     EXPECT_EQ(reached, 0);
     EXPECT_FALSE(guard.isLocked());
 }

@@ -1,6 +1,5 @@
-#include "ui/look/PlainCaption.h"
-
 #include "support/NamedRow.h"
+#include "ui/look/Captions.h"
 
 namespace vantrel::tests {
 namespace {
@@ -21,7 +20,6 @@ INSTANTIATE_TEST_SUITE_P(Captions, PlainCaption,
                                          Row{{"Leading"}, "&About", "About"},
                                          Row{{"Inner"}, "E&xit", "Exit"},
                                          Row{{"RealAmpersand"}, "A && B", "A & B"},
-                                         Row{{"LoneAtTheEnd"}, "A &", "A &"},
                                          Row{{"Bracketed"}, "終了(&X)", "終了"},
                                          Row{{"BracketedWithPoints"}, "設定(&S)...", "設定"},
                                          Row{{"OtherBrackets"}, "Font (8)", "Font (8)"},

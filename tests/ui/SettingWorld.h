@@ -1,10 +1,9 @@
 #pragma once
 
 #include "DialogTest.h"
-#include "app/RobotList.h"
-#include "app/SettingDraft.h"
-#include "files/FolderFiles.h"
-#include "files/Subfolders.h"
+#include "app/robots/RobotFile.h"
+#include "app/settings/SettingDraft.h"
+#include "files/FolderScan.h"
 #include "support/Choices.h"
 #include "support/FakeMessageBoxes.h"
 #include "support/TemporaryFolder.h"

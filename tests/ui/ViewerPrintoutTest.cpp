@@ -1,6 +1,5 @@
-#include "ui/ViewerPrintout.h"
-
 #include "DialogTest.h"
+#include "ui/WxFilePrinter.h"
 
 #include <wx/bitmap.h>
 #include <wx/dcmemory.h>

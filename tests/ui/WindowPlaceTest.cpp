@@ -1,7 +1,7 @@
 #include "ui/WindowPlace.h"
 
-#include "app/SettingsFile.h"
-#include "app/Twips.h"
+#include "app/settings/SettingsFile.h"
+#include "app/window/WindowPlaces.h"
 #include "support/Windows.h"
 #include "ui/look/WindowHolder.h"
 

@@ -2,7 +2,7 @@
 
 #include "DialogTest.h"
 #include "support/ModalScript.h"
-#include "ui/dialogs/DialogParent.h"
+#include "ui/dialogs/DialogBasics.h"
 #include "ui/dialogs/FrmMessage.h"
 #include "ui/look/WindowHolder.h"
 

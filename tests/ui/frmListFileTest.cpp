@@ -2,7 +2,7 @@
 
 #include "DialogTest.h"
 #include "LateKeys.h"
-#include "app/ListFileDraft.h"
+#include "app/lists/ListFileDraft.h"
 #include "link/SessionWorld.h"
 
 namespace vantrel::tests {

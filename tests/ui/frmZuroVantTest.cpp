@@ -1,8 +1,8 @@
 #include "ui/frmZuroVant.h"
 
 #include "MainWindowTest.h"
-#include "app/SettingsFile.h"
-#include "app/WindowLayout.h"
+#include "app/settings/SettingsFile.h"
+#include "app/window/WindowLayout.h"
 #include "lang/MessageNumbers.h"
 #include "support/ScreenPicture.h"
 #include "ui/CommandToolBar.h"

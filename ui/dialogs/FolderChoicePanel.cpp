@@ -1,10 +1,9 @@
 #include "ui/dialogs/FolderChoicePanel.h"
 
 #include "link/ShownText.h"
-#include "ui/dialogs/DialogKeys.h"
-#include "ui/dialogs/FileNameList.h"
-#include "ui/look/FolderImages.h"
+#include "ui/dialogs/DialogBasics.h"
 #include "ui/look/FolderNodes.h"
+#include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
 #include "ui/look/WxText.h"
 
@@ -25,6 +24,37 @@ constexpr int fileListWidth = 150;
 constexpr int listHeight = 150;
 
 } // namespace
+
+FileNameList::FileNameList(wxWindow* parent, const wxString& name)
+    : wxListView(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                 wxLC_REPORT | wxLC_VIRTUAL | wxLC_NO_HEADER | wxLC_SINGLE_SEL | wxBORDER_SIMPLE,
+                 wxDefaultValidator, name) {
+    AppendColumn("");
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        fitColumn();
+    });
+}
+
+void FileNameList::show(const std::vector<std::string>& names) {
+    names_ = names;
+    // The row that was selected means nothing in another folder.
+    if (const long row = GetFirstSelected(); row >= 0)
+        Select(row, false);
+    SetItemCount(long(names_.size()));
+    Refresh();
+}
+
+wxString FileNameList::OnGetItemText(long item, long) const {
+    const auto row = std::size_t(item);
+    return row < names_.size() ? toWx(names_[row]) : wxString();
+}
+
+void FileNameList::fitColumn() {
+    const int width = GetClientSize().x - wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
+    if (width > 0)
+        SetColumnWidth(0, width);
+}
 
 FolderChoicePanel::FolderChoicePanel(wxWindow* parent, FolderSources sources,
                                      const std::string& caption)

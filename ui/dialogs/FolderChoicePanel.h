@@ -1,10 +1,13 @@
 #pragma once
 
-#include "app/FolderChoice.h"
+#include "app/settings/FolderChoice.h"
 
 #include <functional>
+#include <span>
 #include <string>
+#include <vector>
 
+#include <wx/listctrl.h>
 #include <wx/panel.h>
 
 class wxChoice;
@@ -14,7 +17,20 @@ class wxTreeEvent;
 
 namespace vantrel {
 
-class FileNameList;
+/// A plain list of file names. It asks for visible rows only, so that a folder of 100,000 files
+/// opens at once.
+class FileNameList : public wxListView {
+  public:
+    FileNameList(wxWindow* parent, const wxString& name);
+
+    void show(const std::vector<std::string>& names);
+
+  private:
+    wxString OnGetItemText(long item, long column) const override;
+    void fitColumn();
+
+    std::vector<std::string> names_;
+};
 
 /// `Drive1`, `Dir1`, `File1` and `lblDirName`: the choice of a folder. The files are there to find
 /// one's way and choose nothing.

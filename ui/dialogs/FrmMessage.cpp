@@ -3,7 +3,7 @@
 #include "base/ApplicationState.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "ui/dialogs/DialogSize.h"
+#include "ui/dialogs/DialogBasics.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/WindowFont.h"
 #include "ui/look/WxText.h"

@@ -1,6 +1,6 @@
 #include "ui/dialogs/SettingOptionPage.h"
 
-#include "app/SettingDraft.h"
+#include "app/settings/SettingDraft.h"
 #include "files/ControllerModels.h"
 #include "lang/FormCaptions.h"
 #include "lang/MessageNumbers.h"

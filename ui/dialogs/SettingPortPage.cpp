@@ -1,11 +1,11 @@
 #include "ui/dialogs/SettingPortPage.h"
 
-#include "app/SerialDraft.h"
+#include "app/settings/SerialDraft.h"
 #include "lang/FormCaptions.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "ui/dialogs/DialogSize.h"
-#include "ui/look/CaptionButton.h"
+#include "ui/dialogs/DialogBasics.h"
+#include "ui/look/Captions.h"
 #include "ui/look/SystemLook.h"
 #include "ui/look/WxText.h"
 

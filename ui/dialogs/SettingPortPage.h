@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/SerialChoices.h"
+#include "app/settings/SerialDraft.h"
 
 #include <array>
 #include <functional>

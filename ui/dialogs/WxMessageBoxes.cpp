@@ -2,7 +2,7 @@
 
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "ui/dialogs/DialogParent.h"
+#include "ui/dialogs/DialogBasics.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/WrappedText.h"
 #include "ui/look/WxText.h"

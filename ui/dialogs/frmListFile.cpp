@@ -1,9 +1,8 @@
 #include "ui/dialogs/frmListFile.h"
 
-#include "app/ListFileDraft.h"
-#include "ui/dialogs/DialogKeys.h"
-#include "ui/dialogs/DialogSize.h"
-#include "ui/look/CaptionButton.h"
+#include "app/lists/ListFileDraft.h"
+#include "ui/dialogs/DialogBasics.h"
+#include "ui/look/Captions.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/WindowFont.h"
 #include "ui/look/WxText.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/FolderChoice.h"
+#include "app/settings/FolderChoice.h"
 
 #include <functional>
 #include <string>

@@ -4,11 +4,9 @@
 #include "lang/FormCaptions.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "ui/dialogs/DialogKeys.h"
-#include "ui/dialogs/DialogSize.h"
-#include "ui/look/CaptionButton.h"
+#include "ui/dialogs/DialogBasics.h"
+#include "ui/look/Captions.h"
 #include "ui/look/IconSet.h"
-#include "ui/look/PlainCaption.h"
 #include "ui/look/WindowFont.h"
 #include "ui/look/WxText.h"
 

@@ -1,5 +1,5 @@
 # Writes OUTPUT, a C++ source with one raw string literal per file of DRAWINGS, a list with "|"
-# between, sorted by key; see ui/look/IconDrawings.h.
+# between, sorted by key; see ui/look/IconSet.h.
 string(REPLACE "|" ";" drawings "${DRAWINGS}")
 list(SORT drawings)
 
@@ -10,7 +10,7 @@ foreach(drawing IN LISTS drawings)
     string(APPEND rows "    {\"${key}\", R\"svg(${svg})svg\"},\n")
 endforeach()
 
-file(WRITE "${OUTPUT}" "#include \"ui/look/IconDrawings.h\"
+file(WRITE "${OUTPUT}" "#include \"ui/look/IconSet.h\"
 
 namespace vantrel {
 namespace {

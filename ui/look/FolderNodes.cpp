@@ -1,7 +1,7 @@
 #include "ui/look/FolderNodes.h"
 
 #include "link/ShownText.h"
-#include "ui/look/FolderImages.h"
+#include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
 #include "ui/look/WxText.h"
 

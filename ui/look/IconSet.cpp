@@ -1,6 +1,5 @@
 #include "ui/look/IconSet.h"
 
-#include "ui/look/IconDrawings.h"
 #include "ui/look/SystemLook.h"
 
 #include <algorithm>
@@ -10,7 +9,6 @@
 #include <wx/iconbndl.h>
 
 namespace vantrel {
-
 namespace {
 
 wxSize besideTexts(wxSize size) {
@@ -38,6 +36,18 @@ wxIconBundle programIcons() {
         icons.AddIcon(one);
     }
     return icons;
+}
+
+wxVector<wxBitmapBundle> folderImages() {
+    constexpr int iconSize = 16;
+    wxVector<wxBitmapBundle> images;
+    for (const auto* key : {"drive", "open"})
+        images.push_back(icon(key, wxSize(iconSize, iconSize)));
+    return images;
+}
+
+int folderImage(std::string_view key) {
+    return key == "drive" ? 0 : 1;
 }
 
 } // namespace vantrel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <wx/defs.h>
+
 class wxBitmapBundle;
 class wxSize;
 class wxString;
@@ -7,6 +9,14 @@ class wxTreeCtrl;
 class wxWindow;
 
 namespace vantrel {
+
+/// The border of a list or tree that stands as a field. Those of the GTK port are drawn by the
+/// toolkit and have no themed border of their own.
+#ifdef __WXGTK__
+inline constexpr long fieldBorder = wxBORDER_SIMPLE;
+#else
+inline constexpr long fieldBorder = wxBORDER_THEME;
+#endif
 
 /// To be called before the toolkit starts: keeps it from loading what this program has no use for.
 void prepareSystem();

@@ -1,0 +1,145 @@
+#include "app/lists/ListTransferCommands.h"
+
+#include "base/ApplicationState.h"
+#include "base/Text.h"
+#include "files/CommandScopes.h"
+#include "files/PaneRefresh.h"
+#include "files/PaneWindow.h"
+#include "files/TransferReports.h"
+#include "files/TransferServices.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "lang/SystemReasons.h"
+#include "link/OperatorTalk.h"
+#include "link/ShownText.h"
+#include "link/Snappy.h"
+
+#include <vector>
+
+namespace vantrel {
+
+namespace {
+
+/// Blank lines of a variable list are entries as well.
+bool holdsVariables(const Snappy& session) {
+    for (std::int32_t index = 0; index < session.VarListCount(); ++index)
+        if (!trimmed(session.VarList(index)).empty())
+            return true;
+    return false;
+}
+
+std::vector<SelectedItem> jobsOf(const Snappy& session) {
+    std::vector<SelectedItem> items;
+    items.reserve(std::size_t(session.JobListCount()));
+    for (std::int32_t index = 0; index < session.JobListCount(); ++index)
+        items.push_back({session.JobList(index), false});
+    return items;
+}
+
+std::string inParentheses(std::int32_t number) {
+    return " ( " + std::to_string(number) + " )";
+}
+
+} // namespace
+
+void ListTransferCommands::saveJobs() {
+    run(list_file_mode::saveJobs, message::saveJobsTitle, &ListTransferCommands::receiveJobs);
+}
+
+void ListTransferCommands::loadJobs() {
+    run(list_file_mode::loadJobs, message::loadJobsTitle, &ListTransferCommands::sendJobs);
+}
+
+void ListTransferCommands::saveVariables() {
+    run(list_file_mode::saveVariables, message::saveVariablesTitle,
+        &ListTransferCommands::receiveVariables);
+}
+
+void ListTransferCommands::loadVariables() {
+    run(list_file_mode::loadVariables, message::loadVariablesTitle,
+        &ListTransferCommands::sendVariables);
+}
+
+/// A list in a locked window cannot take the focus, so that comes after the lock.
+void ListTransferCommands::run(std::string_view mode, std::int32_t title, Transfer transfer) {
+    if (!dialog_.readList(mode) || !holdsSomething(mode))
+        return;
+    {
+        const PaneRefresh refresh(with_);
+        const WindowLock lock(with_.window);
+        refresh.refreshTouched(perform(title, transfer));
+    }
+    with_.window.list(with_.state.Active).focus();
+}
+
+CommandOutcome ListTransferCommands::perform(std::int32_t title, Transfer transfer) {
+    ListTransfer list(with_, with_.messages.getMessage(title));
+    return (this->*transfer)(list);
+}
+
+bool ListTransferCommands::holdsSomething(std::string_view mode) const {
+    const bool isForJobs = mode == list_file_mode::saveJobs || mode == list_file_mode::loadJobs;
+    if (isForJobs ? with_.session.JobListCount() > 0 : holdsVariables(with_.session))
+        return true;
+    const auto& file = isForJobs ? with_.state.JobListFile : with_.state.VarListFile;
+    with_.talk.tell(with_.messages.getMessage(message::listFileEmpty) + bracketed(file),
+                    BoxIcon::Exclamation);
+    return false;
+}
+
+CommandOutcome ListTransferCommands::receiveJobs(ListTransfer& list) {
+    return transferJobs(Direction::Receive, list);
+}
+
+CommandOutcome ListTransferCommands::sendJobs(ListTransfer& list) {
+    return transferJobs(Direction::Send, list);
+}
+
+/// The session is left alone when nothing is to be transferred.
+CommandOutcome ListTransferCommands::transferJobs(Direction direction, ListTransfer& list) {
+    if (!list.take(jobsOf(with_.session), direction))
+        return {};
+    const bool succeeded = list.run(direction);
+    if (!succeeded)
+        reportEntry(with_.session.JobList(with_.session.ErrorIndex()));
+    else
+        TransferReports(with_).unreplacedJobs();
+    return list.outcome(direction, succeeded);
+}
+
+CommandOutcome ListTransferCommands::receiveVariables(ListTransfer&) {
+    const std::string& file = with_.state.VarListFile;
+    if (!with_.session.VarListUpLoad())
+        reportEntry(with_.session.VarList(with_.session.ErrorIndex()));
+    else if (!with_.session.WriteVarListFile(file))
+        reportFailure("\n" + with_.messages.getMessage(message::listFileNotWritten) +
+                      bracketed(file) + " " +
+                      reasonInLanguage(with_.messages, with_.session.systemReason()));
+    return {.pcTouched = true};
+}
+
+CommandOutcome ListTransferCommands::sendVariables(ListTransfer&) {
+    if (!with_.session.VarListDownLoad())
+        reportEntry(with_.session.VarList(with_.session.ErrorIndex()));
+    return {};
+}
+
+void ListTransferCommands::reportEntry(const std::string& entry) const {
+    const bool namesIt = !entry.empty() && with_.session.triedAnEntry();
+    reportFailure(namesIt ? "\n" + bracketed(entry) : std::string());
+}
+
+/// An operator who pressed Cancel knows; an address that is not set has been told by the session.
+void ListTransferCommands::reportFailure(const std::string& details) const {
+    const auto& session = with_.session;
+    if (operatorKnows(session))
+        return TransferReports(with_).unreplacedJobs();
+    const std::string place =
+        with_.messages.getMessage(message::listIndex) + inParentheses(session.failedIndex());
+    with_.talk.tell(with_.messages.getMessage(message::transferFailed) + session.ErrorFunction() +
+                        inParentheses(session.ErrorCode()) + session.errorText() + place + details +
+                        TransferReports(with_).furtherLines(),
+                    BoxIcon::Exclamation);
+}
+
+} // namespace vantrel

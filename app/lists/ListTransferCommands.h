@@ -1,0 +1,63 @@
+#pragma once
+
+#include "files/ListTransfer.h"
+#include "files/TransferServices.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vantrel {
+
+/// Modes of the list-file dialog: what its list is for.
+namespace list_file_mode {
+inline constexpr std::string_view saveJobs = "0";      ///< from the controller to the PC
+inline constexpr std::string_view loadJobs = "1";      ///< from the PC to the controller
+inline constexpr std::string_view saveVariables = "2"; ///< from the controller to the PC
+inline constexpr std::string_view loadVariables = "3"; ///< from the PC to the controller
+} // namespace list_file_mode
+
+/// The list-file dialog, as the commands that need a list see it.
+class ListFileWindow {
+  public:
+    virtual ~ListFileWindow() = default;
+
+    /// Shows it in one of the modes "0" to "3". True when the session has read the list file
+    /// that was chosen; its name is then the state's `JobListFile` or `VarListFile`.
+    virtual bool readList(std::string_view mode) = 0;
+};
+
+/// The entries of the option menu that transfer whole lists: the operator names a list file, and
+/// the jobs or variables in it go to the controller or come from it. The window is locked while one
+/// runs, and failures are reported here.
+class ListTransferCommands {
+  public:
+    ListTransferCommands(const TransferServices& services, ListFileWindow& dialog)
+        : with_(services), dialog_(dialog) {}
+
+    void saveJobs();
+    void loadJobs();
+    void saveVariables();
+    void loadVariables();
+
+  private:
+    using Transfer = CommandOutcome (ListTransferCommands::*)(ListTransfer&);
+
+    void run(std::string_view mode, std::int32_t title, Transfer transfer);
+    /// Tells the operator of a list without entries.
+    bool holdsSomething(std::string_view mode) const;
+    /// The progress is gone when this returns.
+    CommandOutcome perform(std::int32_t title, Transfer transfer);
+    CommandOutcome receiveJobs(ListTransfer& list);
+    CommandOutcome sendJobs(ListTransfer& list);
+    CommandOutcome receiveVariables(ListTransfer& list);
+    CommandOutcome sendVariables(ListTransfer& list);
+    CommandOutcome transferJobs(Direction direction, ListTransfer& list);
+    void reportEntry(const std::string& entry) const;
+    void reportFailure(const std::string& details) const;
+
+    TransferServices with_;
+    ListFileWindow& dialog_;
+};
+
+} // namespace vantrel

@@ -1,0 +1,43 @@
+#include "app/start/Engine.h"
+
+#include "base/PathRules.h"
+#include "lang/MessageNumbers.h"
+#include "platform/Environment.h"
+
+#include <utility>
+
+namespace vantrel {
+
+Engine::Engine(EngineGround ground)
+    : executable(std::move(ground.executable)), programFolder(PathRules().parent(executable)),
+      state(ground.state), messages(ground.messages), boxes(ground.boxes), languages(programFolder),
+      language(state, messages, languages, boxes, localeLanguageName()),
+      settings(programFolder, settingsFileName(executable)),
+      registry(state, messages, boxes, programFolder), talk(progress, ground.questions, boxes),
+      library_(programFolder,
+               [this](const LibraryProblem& problem) { tellLibraryProblem(problem); }),
+      gate_(ground.library ? *ground.library : library_, std::move(ground.beforeLibraryCall)),
+      session({.library = gate_,
+               .TransMode = state.TransMode,
+               .messages = messages,
+               .languages = languages,
+               .progress = progress,
+               .talk = talk,
+               .programFolder = programFolder,
+               .dummyWindow = std::move(ground.dummyWindow),
+               .unloadWindows = std::move(ground.unloadWindows),
+               .modeChanged = std::move(ground.modeChanged)}) {}
+
+void Engine::tellLibraryProblem(const LibraryProblem& problem) {
+    std::string text = messages.getMessage(message::libraryUnusable) + problem.path;
+    if (!problem.reason.empty())
+        text += "\n" + problem.reason;
+    if (!problem.missing.empty())
+        text += "\n" + messages.getMessage(message::libraryFunctionsMissing);
+    for (const auto& name : problem.missing)
+        text += "\n" + name;
+    talk.tell(text, BoxIcon::Exclamation);
+    session.noteOperatorTold();
+}
+
+} // namespace vantrel

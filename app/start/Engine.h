@@ -1,0 +1,75 @@
+#pragma once
+
+#include "app/robots/RobotRegistry.h"
+#include "app/settings/SettingsFile.h"
+#include "base/ApplicationState.h"
+#include "files/TransferTable.h"
+#include "lang/LanguageChoice.h"
+#include "lang/LanguageFiles.h"
+#include "lang/MessageTable.h"
+#include "link/OperatorTalk.h"
+#include "link/ProgressPanel.h"
+#include "link/Snappy.h"
+#include "link/ZurolinkBinding.h"
+#include "link/ZurolinkGate.h"
+
+#include <functional>
+#include <string>
+
+namespace vantrel {
+
+class MessageBoxes;
+class QuestionWindow;
+class Zurolink;
+
+/// What the engine stands on: windows in one program, a terminal in another. Everything that is
+/// borrowed outlives the engine.
+struct EngineGround {
+    ApplicationState& state;
+    MessageTable& messages;
+    MessageBoxes& boxes;
+    QuestionWindow& questions;
+    std::string executable;                   ///< the program's own file, absolute
+    std::function<void()> beforeLibraryCall;  ///< each may take long
+    std::function<void*()> dummyWindow;       ///< the handle that the library is given
+    std::function<void()> unloadWindows = {}; ///< the session quits
+    std::function<void()> modeChanged = {};   ///< the session was told another mode by name
+    Zurolink* library = nullptr;              ///< in place of the one in the program's folder
+};
+
+/// The program without its windows: texts, settings, registry, file table, library and session,
+/// each built once, in the order in which they need each other. No file is read and no
+/// library loaded yet.
+class Engine {
+  public:
+    explicit Engine(EngineGround ground);
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+
+    /// Whether the library is the stand-in of this program, so that no robot moves.
+    bool isSimulation() { return library_.simulation().has_value(); }
+
+    const std::string executable;
+    const std::string programFolder;
+    ApplicationState& state;
+    MessageTable& messages;
+    MessageBoxes& boxes;
+    const LanguageFiles languages;
+    LanguageChoice language;
+    const SettingsFile settings;
+    RobotRegistry registry;
+    TransferTable table;
+    ProgressPanel progress;
+    OperatorTalk talk;
+
+  private:
+    void tellLibraryProblem(const LibraryProblem& problem);
+
+    ZurolinkBinding library_;
+    ZurolinkGate gate_;
+
+  public:
+    Snappy session;
+};
+
+} // namespace vantrel

@@ -1,0 +1,30 @@
+#include "app/start/MainProgram.h"
+
+#include "app/start/Engine.h"
+#include "app/start/MainWindowStart.h"
+
+namespace vantrel {
+
+MainProgram::MainProgram(Engine& engine, const MainWindowParts& parts)
+    : panes(engine.state, engine.session, engine.table, engine.messages, parts.panes),
+      transferServices_{engine.state, engine.session,  panes,           parts.panes,
+                        engine.table, engine.messages, engine.progress, engine.talk},
+      transfers_(transferServices_),
+      folder_(engine.state, panes, engine.talk, parts.view, parts.tree),
+      services_{engine.state,    engine.session,     panes,        transfers_,
+                engine.messages, engine.talk,        parts.panes,  parts.view,
+                folder_,         parts.editTextFile, parts.viewer, parts.printer},
+      main(services_), folderTree(services_, main, parts.tree, parts.folders),
+      robots(services_, main, parts.robots, engine.boxes),
+      settings(
+          {engine.state, engine.session, panes, engine.registry, parts.robots, parts.view, main}),
+      lists(transferServices_, parts.listFiles),
+      help(engine.state, engine.programFolder, parts.openDocument),
+      shutdown({engine.state, engine.settings, engine.registry, engine.session, engine.messages,
+                engine.boxes, parts.shutdown}) {}
+
+void MainProgram::start() {
+    startMainWindow(services_, main);
+}
+
+} // namespace vantrel

@@ -1,0 +1,81 @@
+#include "app/viewer/ViewerCommands.h"
+
+#include "base/ApplicationState.h"
+#include "base/PathRules.h"
+#include "files/CommandScopes.h"
+#include "files/PaneWindow.h"
+#include "files/Panes.h"
+#include "files/ViewerText.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "lang/SystemReasons.h"
+#include "link/OperatorTalk.h"
+#include "link/ShownText.h"
+
+#include <utility>
+
+namespace vantrel {
+
+void ViewerCommands::showOrHide() {
+    if (with_.state.ViewerShown)
+        hide();
+    else if (const auto name = selectedJobFile())
+        show(*name);
+}
+
+void ViewerCommands::show(const std::string& name) {
+    Result<std::string> text = Failure{};
+    {
+        const BusyPointer busy(with_.window);
+        text = readViewerText(PathRules().join(with_.state.PCPath, name), with_.state.Headder);
+        if (text) {
+            name_ = name;
+            text_ = std::move(*text);
+            with_.viewerPane.showFile(name_, text_);
+        }
+    }
+    with_.state.ViewerShown = bool(text);
+    if (!text)
+        tell(message::viewerFailed, name, text.reason());
+}
+
+void ViewerCommands::hide() {
+    with_.viewerPane.hideFile();
+    with_.state.ViewerShown = false;
+    text_ = std::string(); // it may be large
+}
+
+void ViewerCommands::print() {
+    if (!with_.state.ViewerShown)
+        return with_.talk.tell(with_.messages.getMessage(message::nothingToPrint),
+                               BoxIcon::Exclamation);
+    const auto question = with_.messages.getMessage(message::askPrint) + bracketed(name_);
+    if (!with_.talk.askYesNo(question, BoxIcon::Question))
+        return;
+    Outcome printed = Done{};
+    {
+        // The system's print dialog and its work let events run, and the text is borrowed
+        // meanwhile.
+        const WindowLock lock(with_.window);
+        printed = with_.printer.print(name_, text_);
+    }
+    if (!printed)
+        tell(message::printFailed, name_, printed.reason());
+}
+
+std::optional<std::string> ViewerCommands::selectedJobFile() const {
+    const auto row = with_.window.list(ActiveSide::PC).selectedRow();
+    const auto& rows = with_.panes.rows(ActiveSide::PC);
+    if (!row || *row >= rows.size() || rows.kind(*row) != FileKind::JobFile)
+        return std::nullopt;
+    return rows.name(*row);
+}
+
+void ViewerCommands::tell(std::int32_t messageNumber, const std::string& name,
+                          const std::string& reason) const {
+    with_.talk.tell(with_.messages.getMessage(messageNumber) + bracketed(name) + "\n" +
+                        reasonInLanguage(with_.messages, reason),
+                    BoxIcon::Exclamation);
+}
+
+} // namespace vantrel

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "files/CommandScopes.h"
+#include "files/TransferPermission.h"
+#include "files/TransferServices.h"
+
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+/// A transfer of the session's lists: the session shows its progress, under the command's title, in
+/// the window that is on the screen as long as this lives.
+class ListTransfer {
+  public:
+    ListTransfer(const TransferServices& services, const std::string& title);
+
+    /// Makes the job list of the items that may be transferred; each that may not is named in a box
+    /// of its own. False when nothing is left or the operator has cancelled.
+    bool take(const std::vector<SelectedItem>& items, Direction direction);
+    bool isCancelled() const { return progress_.isCancelled(); }
+
+    /// Transfers the job list.
+    bool run(Direction direction);
+
+    /// What a transfer that was run has touched.
+    CommandOutcome outcome(Direction direction, bool succeeded) const;
+
+  private:
+    TransferServices with_;
+    CommandProgress progress_;
+};
+
+} // namespace vantrel

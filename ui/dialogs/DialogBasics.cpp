@@ -1,0 +1,77 @@
+#include "ui/dialogs/DialogBasics.h"
+
+#include "app/window/WindowPlaces.h"
+
+#include <wx/app.h>
+#include <wx/dialog.h>
+#include <wx/display.h>
+#include <wx/event.h>
+#include <wx/frame.h>
+#include <wx/sizer.h>
+#include <wx/textctrl.h>
+#include <wx/toplevel.h>
+#include <wx/window.h>
+
+namespace vantrel {
+namespace {
+
+wxWindow* innermostModalWindow() {
+    for (auto* node = wxTopLevelWindows.GetLast(); node; node = node->GetPrevious()) {
+        auto* const dialog = dynamic_cast<wxDialog*>(node->GetData());
+        if (dialog && dialog->IsModal() && dialog->IsShown() && !dialog->IsBeingDeleted())
+            return dialog;
+    }
+    return nullptr;
+}
+
+wxWindow* shownMainWindow() {
+    auto* const main = dynamic_cast<wxFrame*>(wxTheApp->GetTopWindow());
+    return main && main->IsShown() && !main->IsBeingDeleted() ? main : nullptr;
+}
+
+ScreenRect rectangleOf(const wxRect& rectangle) {
+    return {rectangle.x, rectangle.y, rectangle.width, rectangle.height};
+}
+
+} // namespace
+
+wxWindow* dialogParent() {
+    wxWindow* const modal = innermostModalWindow();
+    return modal ? modal : shownMainWindow();
+}
+
+void centreOverMainWindow(wxTopLevelWindow& window) {
+    const wxWindow* const main = shownMainWindow();
+    if (!main) {
+        window.CentreOnScreen();
+        return;
+    }
+    const auto size = window.GetSize();
+    const auto place = centredOver(rectangleOf(main->GetRect()), size.x, size.y,
+                                   rectangleOf(wxDisplay(main).GetClientArea()));
+    window.SetPosition(wxPoint(place.left, place.top));
+}
+
+void fitToContents(wxTopLevelWindow& window) {
+    // A limit from larger contents must not keep the window large.
+    window.SetMinSize(wxDefaultSize);
+    // The smallest size is set as well, not only the size: on X11 the window manager's frame is
+    // known after the window is shown, and its height would be taken off the contents.
+    window.GetSizer()->SetSizeHints(&window);
+}
+
+void makeRoomFor(wxTextCtrl& field, const char* longestText) {
+    const int text = field.GetTextExtent(longestText).x + field.GetCharWidth();
+    field.SetMinSize(wxSize(field.GetSizeFromTextSize(text).x, -1));
+}
+
+void swallowF1(wxWindow& window) {
+    window.Bind(wxEVT_CHAR_HOOK, [](wxKeyEvent& event) {
+        if (event.GetKeyCode() != WXK_F1)
+            event.Skip();
+    });
+    // Some systems turn the key into a request for help before a window sees it.
+    window.Bind(wxEVT_HELP, [](wxHelpEvent&) {});
+}
+
+} // namespace vantrel
