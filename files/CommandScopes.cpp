@@ -18,9 +18,10 @@ WindowLock::~WindowLock() {
 }
 
 CommandProgress::CommandProgress(const TransferServices& services, const std::string& title,
-                                 std::string label)
+                                 std::string label, std::string place)
     : with_(services), label_(std::move(label)) {
     with_.progress.setTitle(title);
+    with_.progress.setPlace(std::move(place));
     with_.progress.setCancelCaption(with_.messages.resourceMessage(message::resource::cancel));
     with_.progress.showCancelButton(true);
     with_.progress.showBar(true);
@@ -30,12 +31,13 @@ CommandProgress::CommandProgress(const TransferServices& services, const std::st
 
 CommandProgress::~CommandProgress() {
     with_.progress.hide();
+    with_.progress.setPlace({});
     with_.session.DisplayMonitor = true;
 }
 
 bool CommandProgress::next(const std::string& name, std::size_t item, std::size_t count) {
     with_.progress.step(label_ + shownText(name), static_cast<int>(item), static_cast<int>(count),
-                        with_.messages.getMessage(message::waitingForController));
+                        waitingText(with_.messages, std::int32_t(item), std::int32_t(count)));
     with_.progress.yield();
     return !isCancelled();
 }

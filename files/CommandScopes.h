@@ -23,8 +23,10 @@ class WindowLock {
 /// command ends, the progress is hidden and the session's `DisplayMonitor` on again.
 class CommandProgress {
   public:
-    /// `label` stands alone first and before the file's name in each step.
-    CommandProgress(const TransferServices& services, const std::string& title, std::string label);
+    /// `label` stands alone first and before the file's name in each step; `place` names the
+    /// controller that the command has to do with, in its questions too.
+    CommandProgress(const TransferServices& services, const std::string& title, std::string label,
+                    std::string place);
     ~CommandProgress();
     CommandProgress(const CommandProgress&) = delete;
     CommandProgress& operator=(const CommandProgress&) = delete;

@@ -35,13 +35,13 @@ CommandOutcome CopyCommand::receive(std::vector<SelectedItem> items) {
 /// The session is left alone when there is nothing to do: each of its operations opens a link.
 CommandOutcome CopyCommand::transfer(const std::vector<SelectedItem>& items, Direction direction) {
     with_.session.path = PathRules().withSeparator(with_.state.PCPath);
-    ListTransfer list(with_, with_.messages.getMessage(message::transferTitle));
-    if (!list.take(items, direction))
+    ListTransfer list(with_, with_.messages.getMessage(message::transferTitle), direction);
+    if (!list.take(items))
         return {.succeeded = !list.isCancelled()};
-    const bool succeeded = list.run(direction);
+    const bool succeeded = list.run();
     if (succeeded || !TransferReports(with_).listTransferFailed())
         TransferReports(with_).unreplacedJobs();
-    return list.outcome(direction, succeeded);
+    return list.outcome(succeeded);
 }
 
 } // namespace vantrel

@@ -1,8 +1,8 @@
 #include "files/DeleteCommand.h"
 
-#include "base/ApplicationState.h"
 #include "base/PathRules.h"
 #include "files/AmbiguousNames.h"
+#include "files/ControllerPlace.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -13,29 +13,34 @@
 
 namespace vantrel {
 
-DeleteCommand::DeleteCommand(const TransferServices& services)
-    : with_(services), title_(with_.messages.getMessage(message::title)),
-      progress_(with_, title_, with_.messages.resourceMessage(message::resource::deleting)) {}
+DeleteCommand::DeleteCommand(const TransferServices& services, ActiveSide side)
+    : with_(services), side_(side), title_(with_.messages.getMessage(message::title)),
+      progress_(with_, title_, with_.messages.resourceMessage(message::resource::deleting),
+                side == ActiveSide::PC ? std::string() : towardController(with_.state)) {}
+
+CommandOutcome DeleteCommand::run(const std::vector<SelectedItem>& items) {
+    return side_ == ActiveSide::PC ? onPC(items) : onController(items);
+}
 
 /// The session works silently, since its progress would take the place of this command's, whose
 /// Cancel button has to stay for the files that follow.
 CommandOutcome DeleteCommand::onController(const std::vector<SelectedItem>& items) {
     with_.session.DisplayMonitor = false;
-    run(withoutAmbiguousNames(with_, items), message::askDeleteOnController,
-        [this](const std::string& name) { return deleteOnController(name); });
+    each(withoutAmbiguousNames(with_, items), message::askDeleteOnController,
+         [this](const std::string& name) { return deleteOnController(name); });
     return outcome_;
 }
 
 CommandOutcome DeleteCommand::onPC(const std::vector<SelectedItem>& items) {
-    run(items, message::askDeleteOnPC, [this](const std::string& name) {
+    each(items, message::askDeleteOnPC, [this](const std::string& name) {
         deleteOnPC(name);
         return true;
     });
     return outcome_;
 }
 
-void DeleteCommand::run(const std::vector<SelectedItem>& items, std::int32_t question,
-                        const Deletion& deletion) {
+void DeleteCommand::each(const std::vector<SelectedItem>& items, std::int32_t question,
+                         const Deletion& deletion) {
     for (std::size_t item = 0; item < items.size() && !cancelled_; ++item) {
         const std::string& name = items[item].name;
         if (items[item].isFolder)
@@ -49,11 +54,19 @@ void DeleteCommand::run(const std::vector<SelectedItem>& items, std::int32_t que
 bool DeleteCommand::isWanted(const std::string& name, std::int32_t question) {
     if (deleteAll_)
         return true;
-    const std::string text = bracketed(name) + with_.messages.getMessage(question);
-    const Answer answer = with_.talk.ask(title_, text);
+    const Answer answer = with_.talk.ask(title_, questionText(name, question));
     deleteAll_ = answer == Answer::All;
     cancelled_ = answer == Answer::Cancel;
     return answer == Answer::Yes || answer == Answer::All;
+}
+
+std::string DeleteCommand::questionText(const std::string& name, std::int32_t question) const {
+    const std::string shown = shownText(name);
+    const std::string text =
+        with_.messages.getMessageWithInsertion(question, shown, controllerName(with_.state));
+    // A language file that was edited for an earlier version asks without the name.
+    const bool isNamed = with_.messages.getMessage(question).find('%') != std::string::npos;
+    return isNamed ? text : "[" + shown + "]" + text;
 }
 
 bool DeleteCommand::deleteOnController(const std::string& name) {

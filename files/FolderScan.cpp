@@ -13,6 +13,9 @@
 namespace vantrel {
 namespace {
 
+/// In the program's folder: what an installation remembers, nothing to work in.
+constexpr std::string_view programsOwnFolder = ".installed";
+
 std::int32_t listedSize(const FolderEntry& entry) {
     constexpr std::uint64_t largest = std::numeric_limits<std::int32_t>::max();
     return entry.isFolder ? FolderListing::folderSize
@@ -36,8 +39,10 @@ std::vector<std::string> inNameOrder(std::vector<std::string> names) {
 std::vector<std::string> subfolders(const std::string& folder) {
     std::vector<std::string> found;
     // Names that were read before a failure are as good as any.
-    (void)visitSubfolders(PathRules().withSeparator(folder),
-                          [&found](std::string_view name) { found.emplace_back(name); });
+    (void)visitSubfolders(PathRules().withSeparator(folder), [&found](std::string_view name) {
+        if (name != programsOwnFolder)
+            found.emplace_back(name);
+    });
     return inNameOrder(std::move(found));
 }
 

@@ -12,7 +12,8 @@ namespace vantrel {
 /// letter case, equal ones by their bytes.
 std::vector<std::string> inNameOrder(std::vector<std::string> names);
 
-/// The names of a folder's sub-folders, hidden ones included, sorted without regard to letter case.
+/// The names of a folder's sub-folders, hidden ones included but for the program's own, sorted
+/// without regard to letter case.
 /// A folder that cannot be read has none.
 std::vector<std::string> subfolders(const std::string& folder);
 

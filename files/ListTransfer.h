@@ -13,21 +13,22 @@ namespace vantrel {
 /// the window that is on the screen as long as this lives.
 class ListTransfer {
   public:
-    ListTransfer(const TransferServices& services, const std::string& title);
+    ListTransfer(const TransferServices& services, const std::string& title, Direction direction);
 
     /// Makes the job list of the items that may be transferred; each that may not is named in a box
     /// of its own. False when nothing is left or the operator has cancelled.
-    bool take(const std::vector<SelectedItem>& items, Direction direction);
+    bool take(const std::vector<SelectedItem>& items);
     bool isCancelled() const { return progress_.isCancelled(); }
 
     /// Transfers the job list.
-    bool run(Direction direction);
+    bool run();
 
     /// What a transfer that was run has touched.
-    CommandOutcome outcome(Direction direction, bool succeeded) const;
+    CommandOutcome outcome(bool succeeded) const;
 
   private:
     TransferServices with_;
+    Direction direction_;
     CommandProgress progress_;
 };
 

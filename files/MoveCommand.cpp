@@ -3,6 +3,7 @@
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
 #include "files/AmbiguousNames.h"
+#include "files/ControllerPlace.h"
 #include "files/SentSources.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
@@ -33,7 +34,9 @@ MoveCommand::MoveCommand(const TransferServices& services, SentSources& sent)
 MoveCommand::MoveCommand(const TransferServices& services, Direction direction, SentSources* sent)
     : with_(services), direction_(direction), sent_(sent),
       title_(with_.messages.getMessage(message::transferTitle)),
-      progress_(with_, title_, with_.messages.resourceMessage(message::resource::transferring)) {
+      progress_(with_, title_, with_.messages.resourceMessage(message::resource::transferring),
+                direction == Direction::Send ? towardController(with_.state)
+                                             : fromController(with_.state)) {
     with_.session.path = PathRules().withSeparator(with_.state.PCPath);
     with_.session.DisplayMonitor = false;
 }
@@ -112,7 +115,7 @@ MoveCommand::Arrival MoveCommand::askFor(const std::string& file,
     for (const std::string& job : jobs) {
         if (overwriteAll_ && !hasArrived(job))
             continue;
-        switch (askOverwrite(job, job == file ? with_.session.storedAs() : std::string())) {
+        switch (askOverwrite(file, job)) {
         case Answer::No:
             return Arrival::NotArrived;
         case Answer::Cancel:
@@ -205,8 +208,13 @@ bool MoveCommand::existsAlready() const {
     return !with_.session.operatorIsTold() && with_.session.wasCancelled();
 }
 
-Answer MoveCommand::askOverwrite(const std::string& name, const std::string& storedAs) const {
-    return with_.talk.ask(title_, overwriteQuestion(with_.messages, name, storedAs));
+Answer MoveCommand::askOverwrite(const std::string& file, const std::string& job) const {
+    const Overwrite overwrite{.name = job,
+                              .storedAs = job == file ? with_.session.storedAs() : std::string(),
+                              .pcFile = PathRules().join(with_.state.PCPath, file),
+                              .isOnPC = direction_ == Direction::Receive};
+    return with_.talk.ask(title_, overwriteQuestion(with_.messages, overwrite),
+                          overwriteFacts(with_.messages, overwrite, with_.progress));
 }
 
 /// An unset address concerns every file: the session has told the operator, and the command ends

@@ -51,7 +51,7 @@ class MoveCommand {
     bool callSession(const std::string& name, bool overwrite);
     bool existsAlready() const;
     bool somethingElseIsInTheWay() const;
-    Answer askOverwrite(const std::string& name, const std::string& storedAs) const;
+    Answer askOverwrite(const std::string& file, const std::string& job) const;
     /// The name under which the file ends up at its destination.
     std::string arrivalName(const std::string& name) const;
     /// Whether this very command has brought something there that goes by this name.

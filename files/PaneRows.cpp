@@ -28,6 +28,12 @@ void PaneRows::sort() {
                    [](const RowKeys::Key& key) { return key.entry; });
 }
 
+std::int16_t PaneRows::sortColumn() const {
+    const bool isKnown =
+        listing_.SortType == sort_column::size || listing_.SortType == sort_column::date;
+    return isKnown ? listing_.SortType : sort_column::name;
+}
+
 const std::string& PaneRows::name(std::size_t row) const {
     static const std::string nothing;
     return isThere(row) ? listing_.Names[order_[row]] : nothing;

@@ -27,6 +27,9 @@ class PaneRows {
     /// folders and files apart.
     void sort();
     void clear() { order_.clear(); }
+    /// What they are sorted by, one of `sort_column`.
+    std::int16_t sortColumn() const;
+    bool isDescending() const { return listing_.SortDir == 1; }
 
     std::size_t size() const { return order_.size(); }
     const std::string& name(std::size_t row) const;

@@ -49,13 +49,15 @@ bool TransferCommands::receiveMove() {
 }
 
 bool TransferCommands::deleteOnController() {
-    return run(ActiveSide::Controller,
-               [this](const Items& items) { return DeleteCommand(with_).onController(items); });
+    return run(ActiveSide::Controller, [this](const Items& items) {
+        return DeleteCommand(with_, ActiveSide::Controller).run(items);
+    });
 }
 
 bool TransferCommands::deleteOnPC() {
-    return run(ActiveSide::PC,
-               [this](const Items& items) { return DeleteCommand(with_).onPC(items); });
+    return run(ActiveSide::PC, [this](const Items& items) {
+        return DeleteCommand(with_, ActiveSide::PC).run(items);
+    });
 }
 
 bool TransferCommands::refresh(ActiveSide side) {

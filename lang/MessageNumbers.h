@@ -17,8 +17,8 @@ inline constexpr std::int32_t noSuchFile = 6;
 inline constexpr std::int32_t transferTitle = 7;
 inline constexpr std::int32_t kindRefused = 8;            ///< after [name]
 inline constexpr std::int32_t deleteFailed = 9;           ///< then the function that failed
-inline constexpr std::int32_t askDeleteOnPC = 10;         ///< after [name]
-inline constexpr std::int32_t askDeleteOnController = 11; ///< after [name]
+inline constexpr std::int32_t askDeleteOnPC = 10;         ///< with the name
+inline constexpr std::int32_t askDeleteOnController = 11; ///< with the name and the robot's
 inline constexpr std::int32_t folderNotOpened = 12;       ///< then [folder]
 inline constexpr std::int32_t askExit = 13;
 inline constexpr std::int32_t countPC = 14;         ///< then the count, then `countEnd`
@@ -64,6 +64,7 @@ inline constexpr std::int32_t libraryFunctionsMissing = 60; ///< then the names
 inline constexpr std::int32_t oldFileKept = 61;             ///< after [name], then [other name]
 inline constexpr std::int32_t nameIsAmbiguous = 62;         ///< after [name]
 inline constexpr std::int32_t partialFileKept = 63;         ///< after [name]
+inline constexpr std::int32_t askReplaceValues = 394;       ///< then [file name]
 inline constexpr std::int32_t listFileEmpty = 64;           ///< then [file name]
 inline constexpr std::int32_t notReplaced = 65;             ///< then the names of deleted jobs
 inline constexpr std::int32_t storedUnderOtherName = 66;    ///< after [name] > [other name]
@@ -210,7 +211,12 @@ inline constexpr std::int32_t executionMessage = 350; ///< the start message's t
 inline constexpr std::int32_t page = 361; ///< then the page, `progressOf`, the number of pages
 inline constexpr std::int32_t tipFolderTree = 370;
 
-// A mark in the PC folder that does not tell what became of its file. (371 is the session's text.)
+// What a question about an existing file tells below its text.
+inline constexpr std::int32_t factsOfPCFile = 390; ///< with its size in bytes and its date
+inline constexpr std::int32_t controllerLoses = 391;
+inline constexpr std::int32_t pcLoses = 392;
+inline constexpr std::int32_t allMeans = 393; ///< with the number of items that follow
+// A mark in the PC folder that does not tell what became of its file.
 inline constexpr std::int32_t markUnusable = 372; ///< after [name], then [the mark's name]
 inline constexpr std::int32_t markOfNoFile = 373; ///< after [the mark's name]
 

@@ -33,12 +33,16 @@ std::string MessageTable::getMessage(std::int32_t number, int kind) const {
     return kind == 1 ? found->second.Text1 : std::string{};
 }
 
-std::string MessageTable::getMessageWithInsertion(std::int32_t number,
-                                                  const std::string& argument) const {
+std::string MessageTable::getMessageWithInsertion(std::int32_t number, std::string_view argument,
+                                                  std::string_view next) const {
     auto text = getMessage(number);
-    if (const auto place = text.find('%'); place != std::string::npos)
-        text.replace(place, 1, argument);
-    return text;
+    const auto place = text.find('%');
+    if (place == std::string::npos)
+        return text;
+    // From behind: an argument may hold the sign itself.
+    if (const auto second = text.find('%', place + 1); second != std::string::npos && !next.empty())
+        text.replace(second, 1, next);
+    return text.replace(place, 1, argument);
 }
 
 std::string MessageTable::resourceMessage(std::int32_t number) const {

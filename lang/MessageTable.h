@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -22,8 +23,9 @@ class MessageTable {
 
     /// Kind 2 is the text shown, kind 1 the reference text, any other kind gives the empty text.
     std::string getMessage(std::int32_t number, int kind = 2) const;
-    /// The message with its first "%" replaced by `argument`.
-    std::string getMessageWithInsertion(std::int32_t number, const std::string& argument) const;
+    /// The message with its first "%" replaced by the first argument, the next by the next one.
+    std::string getMessageWithInsertion(std::int32_t number, std::string_view argument,
+                                        std::string_view next = {}) const;
     /// Message `number` + 500: captions and labels of dialogs, and texts of our own codes.
     std::string resourceMessage(std::int32_t number) const;
 

@@ -71,7 +71,11 @@ TransferOutcome JobFetch::fetch(const std::string& name, std::int32_t index, boo
     TransferOutcome outcome = TransferOutcome::Done;
     if (existsOnPC(name)) {
         tools_.inTheWay = {name};
-        outcome = overwriteAll ? outcome : tools_.question.ask(name);
+        const Overwrite overwrite{.name = name,
+                                  .storedAs = {},
+                                  .pcFile = PathRules().join(tools_.properties.path, name),
+                                  .isOnPC = true};
+        outcome = overwriteAll ? outcome : tools_.question.ask(overwrite);
     }
     if (!goesOn(outcome))
         return outcome;

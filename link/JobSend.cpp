@@ -205,7 +205,9 @@ std::string JobSend::otherName(const std::string& file, const std::string& nameI
 TransferOutcome JobSend::askAll(const std::string& file) const {
     TransferOutcome outcome = TransferOutcome::Done;
     for (const std::string& name : tools_.inTheWay) {
-        outcome = tools_.question.ask(name, name == file ? storedAs_ : std::string());
+        outcome = tools_.question.ask({.name = name,
+                                       .storedAs = name == file ? storedAs_ : std::string(),
+                                       .pcFile = PathRules().join(tools_.properties.path, file)});
         if (outcome != TransferOutcome::Done)
             break;
     }

@@ -26,9 +26,13 @@ class ProgressAside {
 
 } // namespace
 
-Answer OperatorTalk::ask(const std::string& title, const std::string& question) {
+Answer OperatorTalk::ask(const std::string& title, const std::string& question,
+                         const std::string& facts) {
     const ProgressAside aside(progress_);
-    return question_.ask(title, question);
+    std::string note = progress_.place();
+    if (!note.empty() && !facts.empty())
+        note += '\n';
+    return question_.ask(title, question, note + facts);
 }
 
 void OperatorTalk::tell(const std::string& text, BoxIcon icon) {

@@ -16,7 +16,10 @@ enum class Answer { Yes = 0, No = 1, All = 2, Cancel = 3 };
 class QuestionWindow {
   public:
     virtual ~QuestionWindow() = default;
-    virtual Answer ask(const std::string& title, const std::string& question) = 0;
+    /// `note` stands below the question: which controller is meant, and facts to decide by; it may
+    /// be empty.
+    virtual Answer ask(const std::string& title, const std::string& question,
+                       const std::string& note) = 0;
 };
 
 /// Speaks with the operator while an operation may be showing its progress: since the progress
@@ -27,10 +30,14 @@ class OperatorTalk {
     OperatorTalk(ProgressPanel& progress, QuestionWindow& question, MessageBoxes& boxes)
         : progress_(progress), question_(question), boxes_(boxes) {}
 
-    Answer ask(const std::string& title, const std::string& question);
+    /// `facts` stand below the controller that is meant.
+    Answer ask(const std::string& title, const std::string& question,
+               const std::string& facts = {});
     void tell(const std::string& text, BoxIcon icon);
     bool askOkCancel(const std::string& text, BoxIcon icon);
     bool askYesNo(const std::string& text, BoxIcon icon);
+
+    const ProgressPanel& progress() const { return progress_; }
 
   private:
     ProgressPanel& progress_;

@@ -8,12 +8,25 @@ namespace vantrel {
 
 class MessageTable;
 class OperatorTalk;
+class ProgressPanel;
 struct SessionProperties;
 
-/// The question whether `name` is to be overwritten. With `storedAs`, a further line says that the
-/// file becomes another job, so that what has its own name is deleted for it and not replaced.
-std::string overwriteQuestion(const MessageTable& messages, const std::string& name,
-                              const std::string& storedAs = {});
+/// What a transfer is about to replace.
+struct Overwrite {
+    std::string name; ///< of what is there
+    /// Where the file becomes another job: that one's name. What has the file's own name is then
+    /// deleted for it and not replaced, which a further line of the question says.
+    std::string storedAs;
+    std::string pcFile;  ///< the file on the PC, which comes or goes; absolute
+    bool isOnPC = false; ///< what is replaced
+};
+
+std::string overwriteQuestion(const MessageTable& messages, const Overwrite& overwrite);
+
+/// What the operator may want to know before the answer: size and date of the file on the PC, which
+/// side loses its file, and of how many items this is which.
+std::string overwriteFacts(const MessageTable& messages, const Overwrite& overwrite,
+                           const ProgressPanel& progress);
 
 /// The session's question whether something that is already there is to be overwritten.
 class OverwriteQuestion {
@@ -22,8 +35,8 @@ class OverwriteQuestion {
                       OperatorTalk& talk)
         : properties_(properties), messages_(messages), talk_(talk) {}
 
-    /// Cancelled at once while `DisplayMonitor` is off. `storedAs` as in `overwriteQuestion`.
-    TransferOutcome ask(const std::string& name, const std::string& storedAs = {}) const;
+    /// Cancelled at once while `DisplayMonitor` is off.
+    TransferOutcome ask(const Overwrite& overwrite) const;
 
   private:
     const SessionProperties& properties_;

@@ -14,6 +14,17 @@ void ProgressPanel::setCancelCaption(std::string caption) {
     refresh();
 }
 
+void ProgressPanel::setPlace(std::optional<std::string> place) {
+    place_ = std::move(place);
+    refresh();
+}
+
+std::string ProgressPanel::place() const {
+    if (place_)
+        return *place_;
+    return usualPlace_ ? usualPlace_() : std::string();
+}
+
 void ProgressPanel::showCancelButton(bool shown) {
     cancelButtonShown_ = shown;
     refresh();

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 
 namespace vantrel {
 
@@ -30,6 +33,11 @@ class ProgressPanel {
 
     void setTitle(std::string title);
     void setCancelCaption(std::string caption);
+    /// The line that names the controller meant: where nobody has said otherwise, what `usual`
+    /// gives; it is asked anew each time.
+    void setUsualPlace(std::function<std::string()> usual) { usualPlace_ = std::move(usual); }
+    /// The line for the command under way, which may be empty; nothing for the usual one.
+    void setPlace(std::optional<std::string> place);
     void showCancelButton(bool shown);
     void showBar(bool shown);
 
@@ -60,6 +68,7 @@ class ProgressPanel {
     const std::string& message() const { return message_; }
     const std::string& waitingFor() const { return waitingFor_; }
     const std::string& cancelCaption() const { return cancelCaption_; }
+    std::string place() const;
     bool cancelButtonShown() const { return cancelButtonShown_; }
     bool barShown() const { return barShown_; }
     int item() const { return item_; }
@@ -72,6 +81,8 @@ class ProgressPanel {
     std::string title_;
     std::string message_;
     std::string waitingFor_;
+    std::function<std::string()> usualPlace_;
+    std::optional<std::string> place_;
     std::string cancelCaption_;
     std::string cancelText_;
     bool pressKept_ = false;

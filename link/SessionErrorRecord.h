@@ -38,7 +38,7 @@ inline constexpr std::int16_t fetchNotMarked =
 inline constexpr std::int16_t fileNotFlushed =
     46; ///< the arrived file cannot be brought to the disk
 inline constexpr std::int16_t markUnusable =
-    -129; ///< what marks an interrupted fetch of the PC file cannot be read
+    47; ///< what marks an interrupted fetch of the PC file cannot be read
 inline constexpr std::int16_t libraryUnusable = -10; ///< missing, wrong or incomplete library
 } // namespace session_code
 

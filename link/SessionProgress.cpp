@@ -55,7 +55,7 @@ void SessionProgress::show(const std::string& message) {
 
 void SessionProgress::step(const std::string& message, std::int32_t item, std::int32_t count) {
     if (!silent())
-        panel_.step(message, item, count, waitingText(item, count));
+        panel_.step(message, item, count, waitingText(messages_, item, count));
 }
 
 void SessionProgress::hide() {
@@ -118,12 +118,6 @@ std::string SessionProgress::deleting(const std::string& name) const {
 
 bool SessionProgress::silent() const {
     return !properties_.DisplayMonitor;
-}
-
-std::string SessionProgress::waitingText(std::int32_t item, std::int32_t count) const {
-    return messages_.getMessage(message::progressItem) + std::to_string(item + 1) +
-           messages_.getMessage(message::progressOf) + std::to_string(count) + "  " +
-           messages_.getMessage(message::waitingForController);
 }
 
 } // namespace vantrel

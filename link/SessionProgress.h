@@ -57,7 +57,6 @@ class SessionProgress {
 
   private:
     bool silent() const;
-    std::string waitingText(std::int32_t item, std::int32_t count) const;
 
     const SessionProperties& properties_;
     const MessageTable& messages_;

@@ -1,6 +1,8 @@
 #include "link/ShownText.h"
 
 #include "base/Text.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
 
 namespace vantrel {
 namespace {
@@ -17,6 +19,12 @@ std::string shownText(std::string_view text) {
 
 std::string bracketed(std::string_view text) {
     return "[" + shownText(text) + "]";
+}
+
+std::string waitingText(const MessageTable& messages, std::int32_t item, std::int32_t count) {
+    return messages.getMessage(message::progressItem) + std::to_string(item + 1) +
+           messages.getMessage(message::progressOf) + std::to_string(count) + "  " +
+           messages.getMessage(message::waitingForController);
 }
 
 } // namespace vantrel

@@ -18,6 +18,8 @@ struct VariableEntry {
     std::int16_t number = 0; ///< 0 to 32767
     VariableValues values{};
 
+    bool operator==(const VariableEntry&) const = default;
+
     /// Nothing when the line is no entry: an unknown kind, no "=", a number or a value that is not
     /// one, or more than ten values. What is left empty is 0.
     static std::optional<VariableEntry> parse(std::string_view line);

@@ -68,6 +68,9 @@ struct FolderEntry {
     bool detailsKnown = true; ///< false when the entry's details could not be read
 };
 
+/// Size and time of one file; what a link leads to is what counts. The name stays empty.
+FolderEntry fileDetails(const std::string& path);
+
 /// Calls `visit` for each entry but "." and "..", in the system's order. Fails only when the folder
 /// itself cannot be opened. A name that is no valid UTF-8 is shown with U+FFFD.
 Outcome visitFolder(const std::string& path, const std::function<void(const FolderEntry&)>& visit);

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include <dirent.h>
+#include <fcntl.h>
 
 namespace vantrel {
 
@@ -67,6 +68,16 @@ bool leadsToFolder(int folder, const dirent& entry) {
 }
 
 } // namespace
+
+FolderEntry fileDetails(const std::string& path) {
+    LocalDates dates;
+    FolderEntry entry;
+    if (hasNul(path))
+        entry.detailsKnown = false;
+    else
+        readEntry(AT_FDCWD, path.c_str(), dates, entry);
+    return entry;
+}
 
 Outcome visitFolder(const std::string& path, const std::function<void(const FolderEntry&)>& visit) {
     LocalDates dates;

@@ -81,6 +81,15 @@ void readLinkedFile(const std::string& path, FolderEntry& entry) {
 
 } // namespace
 
+FolderEntry fileDetails(const std::string& path) {
+    FolderEntry entry;
+    if (hasNul(path))
+        entry.detailsKnown = false;
+    else
+        readLinkedFile(path, entry);
+    return entry;
+}
+
 Outcome visitFolder(const std::string& path, const std::function<void(const FolderEntry&)>& visit) {
     return visitEntries(path, [&](const WIN32_FIND_DATAW& found) {
         const std::string name = narrow(found.cFileName);

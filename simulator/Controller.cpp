@@ -2,7 +2,6 @@
 
 #include "base/Text.h"
 #include "simulator/ControllerFileName.h"
-#include "simulator/JobText.h"
 #include "simulator/ResultCodes.h"
 #include "simulator/VariableStore.h"
 

@@ -27,4 +27,10 @@ struct ControllerFileName {
 /// character that the interface's code page lacks; `code::unknownFileKind` for another extension.
 CodeOr<ControllerFileName> controllerFileName(std::string_view name);
 
+/// The name under which a controller keeps a job, normalised: taken from the first line of the
+/// file's bytes that reads "//NAME", a blank and the name. Else why the controller refuses the
+/// file: `code::formatError` for an empty file or one in UTF-16, `code::headerMissing` when there
+/// is no such line, `code::nameInvalid` when its name could not be a file's.
+CodeOr<std::string> jobNameIn(std::string_view bytes);
+
 } // namespace vantrel::simulator

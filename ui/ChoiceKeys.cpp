@@ -1,4 +1,4 @@
-#include "ui/ChoiceKeys.h"
+#include "ui/PortControls.h"
 
 #include <wx/choice.h>
 

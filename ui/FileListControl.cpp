@@ -191,6 +191,8 @@ void FileListControl::fillItems() {
     if (view_ == ListView::Details) {
         list_->SetItemState(-1, 0, wxLIST_STATE_SELECTED);
         list_->SetItemCount(count);
+        if (rows_)
+            list_->ShowSortIndicator(rows_->sortColumn(), !rows_->isDescending());
         list_->Refresh();
     } else if (!showsRowsAlready()) {
         list_->DeleteAllItems();

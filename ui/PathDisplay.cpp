@@ -7,11 +7,15 @@ namespace vantrel {
 
 PathDisplay::PathDisplay(wxWindow* parent, const wxString& name)
     : wxTreeCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                 wxTR_NO_BUTTONS | wxTR_NO_LINES | wxTR_FULL_ROW_HIGHLIGHT | fieldBorder,
+                 wxTR_NO_BUTTONS | wxTR_NO_LINES | wxTR_FULL_ROW_HIGHLIGHT | wxBORDER_THEME,
                  wxDefaultValidator, name) {
     SetIndent(0);
+    SetSpacing(FromDIP(2));
     SetImages(folderImages());
     hideScrollBars(*this);
+    // A tree shows the tip of the item under the pointer and not its own.
+    Bind(wxEVT_TREE_ITEM_GETTOOLTIP,
+         [this](wxTreeEvent& event) { event.SetToolTip(GetToolTipText()); });
 }
 
 wxSize PathDisplay::DoGetBestSize() const {

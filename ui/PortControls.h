@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+class wxChoice;
 class wxFrame;
 class wxString;
 class wxTextCtrl;
@@ -33,5 +34,15 @@ class MenuBarEntry {
 /// Adds UTF-8 text at the end of a multi-line control and leaves caret, selection and what is
 /// scrolled into view as they are, which the toolkit's own way does not.
 void appendQuietly(wxTextCtrl& control, const std::string& text);
+
+/// Makes keys and the wheel open the list of a closed choice in place of changing it: passing by an
+/// entry is no choice, only a press on it or Enter in the open list is.
+void chooseInOpenListOnly(wxChoice& choice);
+
+/// Shows the list of a choice.
+void openList(wxChoice& choice);
+
+/// Whether that list is shown now. On some systems the choice gets the keys meant for it.
+bool isListOpen(const wxChoice& choice);
 
 } // namespace vantrel

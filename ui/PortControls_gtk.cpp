@@ -1,5 +1,4 @@
 #include "base/Text.h"
-#include "ui/ChoiceKeys.h"
 #include "ui/PortControls.h"
 
 #include <utility>

@@ -1,4 +1,3 @@
-#include "ui/ChoiceKeys.h"
 #include "ui/PortControls.h"
 #include "ui/look/WxText.h"
 

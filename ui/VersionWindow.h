@@ -1,8 +1,12 @@
 #pragma once
 
-#include "ui/dialogs/ModalWatch.h"
 #include "ui/dialogs/frmVers.h"
 #include "ui/look/WindowHolder.h"
+
+#include <functional>
+#include <utility>
+
+#include <wx/modalhook.h>
 
 class wxDialog;
 class wxWindow;
@@ -11,6 +15,25 @@ namespace vantrel {
 
 struct ApplicationState;
 class MessageTable;
+
+/// Tells of each modal dialog, message boxes included, before it opens.
+class ModalWatch : public wxModalDialogHook {
+  public:
+    explicit ModalWatch(std::function<void(wxDialog&)> onOpening)
+        : onOpening_(std::move(onOpening)) {
+        Register();
+    }
+    ~ModalWatch() override { Unregister(); }
+
+  private:
+    int Enter(wxDialog* dialog) override {
+        onOpening_(*dialog);
+        return wxID_NONE;
+    }
+    void Exit(wxDialog*) override {}
+
+    std::function<void(wxDialog&)> onOpening_;
+};
 
 /// The one `frmVers` of the program: shown by the start without waiting, opened modally by the
 /// menu.

@@ -19,8 +19,9 @@ namespace {
 constexpr double margin = 15;     ///< millimetres
 constexpr double rowHeight = 4.2; ///< millimetres
 constexpr double millimetresPerInch = 25.4;
-// Above the text its heading and a ruled row, below it an empty row and the page's number.
-constexpr int rowsAbove = 2;
+// Above the text two rows of its heading and a ruled one, below it an empty row and the page's
+// number.
+constexpr int rowsAbove = 3;
 constexpr int rowsBelow = 2;
 
 wxFont printFont() {
@@ -59,9 +60,9 @@ class CollectedLog : public wxLog {
 
 } // namespace
 
-ViewerPrintout::ViewerPrintout(std::string name, std::string_view text, std::string date,
+ViewerPrintout::ViewerPrintout(PrintedFile file, std::string_view text, std::string date,
                                const MessageTable& messages)
-    : wxPrintout(toWx(name)), name_(std::move(name)), text_(text), date_(std::move(date)),
+    : wxPrintout(toWx(file.name)), file_(std::move(file)), text_(text), date_(std::move(date)),
       messages_(messages) {}
 
 void ViewerPrintout::OnPreparePrinting() {
@@ -115,15 +116,21 @@ bool ViewerPrintout::OnPrintPage(int page) {
 }
 
 void ViewerPrintout::drawFrame(wxDC& dc, int page) const {
-    const int dateColumns = columnsOf(date_);
-    drawRow(dc, 0, fittingColumns(name_, grid_.columns - dateColumns - 2));
-    dc.DrawText(toWx(date_), x(grid_.columns - dateColumns), y(0));
-    const auto rule = y(1) + wxCoord(grid_.cellHeight / 4);
+    drawHeading(dc, 0, file_.name, date_);
+    drawHeading(dc, 1, file_.folder, file_.changed);
+    const auto rule = y(2) + wxCoord(grid_.cellHeight / 4);
     dc.DrawLine(x(0), rule, x(grid_.columns), rule);
     const auto number = messages_.getMessage(message::page) + std::to_string(page) +
                         messages_.getMessage(message::progressOf) + std::to_string(pageCount());
     const auto bottom = std::max(rowsAbove + rowsBelow, grid_.rows) - 1;
     dc.DrawText(toWx(number), x((grid_.columns - columnsOf(number)) / 2.0), y(bottom));
+}
+
+void ViewerPrintout::drawHeading(wxDC& dc, int row, std::string_view left,
+                                 std::string_view right) const {
+    const int rightColumns = columnsOf(right);
+    drawRow(dc, row, fittingColumns(left, grid_.columns - rightColumns - 2));
+    dc.DrawText(toWx(std::string(right)), x(grid_.columns - rightColumns), y(row));
 }
 
 void ViewerPrintout::drawRow(wxDC& dc, int row, std::string_view text) const {
@@ -139,8 +146,8 @@ wxCoord ViewerPrintout::y(int row) const {
     return wxCoord(std::lround(grid_.top + row * grid_.cellHeight));
 }
 
-Outcome WxFilePrinter::print(const std::string& name, std::string_view text) {
-    ViewerPrintout printout(name, text, fromWx(wxDateTime::Now().Format("%Y/%m/%d %H:%M")),
+Outcome WxFilePrinter::print(const PrintedFile& file, std::string_view text) {
+    ViewerPrintout printout(file, text, fromWx(wxDateTime::Now().Format("%Y/%m/%d %H:%M")),
                             messages_);
     wxPrintDialogData settings(chosen_);
     wxPrinter printer(&settings);

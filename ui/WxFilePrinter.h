@@ -14,12 +14,12 @@ namespace vantrel {
 
 class MessageTable;
 
-/// A text on paper: fixed pitch, the file's name and the date of printing above, the page's number
-/// below. Counts its pages once it knows the paper.
+/// A text on paper: fixed pitch, the file's name and the date of printing above, its folder and
+/// date in a second row, the page's number below. Counts its pages once it knows the paper.
 class ViewerPrintout : public wxPrintout {
   public:
     /// The text, UTF-8, is borrowed.
-    ViewerPrintout(std::string name, std::string_view text, std::string date,
+    ViewerPrintout(PrintedFile file, std::string_view text, std::string date,
                    const MessageTable& messages);
 
     void OnPreparePrinting() override;
@@ -38,12 +38,13 @@ class ViewerPrintout : public wxPrintout {
 
     Grid measure(wxDC& dc) const;
     void drawFrame(wxDC& dc, int page) const;
+    void drawHeading(wxDC& dc, int row, std::string_view left, std::string_view right) const;
     void drawRow(wxDC& dc, int row, std::string_view text) const;
     wxCoord x(double column) const;
     wxCoord y(int row) const;
     int pageCount() const;
 
-    std::string name_;
+    PrintedFile file_;
     std::string_view text_;
     std::string date_;
     const MessageTable& messages_;
@@ -57,7 +58,7 @@ class WxFilePrinter : public FilePrinter {
   public:
     explicit WxFilePrinter(const MessageTable& messages) : messages_(messages) {}
 
-    Outcome print(const std::string& name, std::string_view text) override;
+    Outcome print(const PrintedFile& file, std::string_view text) override;
 
   private:
     const MessageTable& messages_;

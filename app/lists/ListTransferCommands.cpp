@@ -13,7 +13,9 @@
 #include "link/OperatorTalk.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
+#include "link/VariableEntry.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace vantrel {
@@ -36,6 +38,31 @@ std::vector<SelectedItem> jobsOf(const Snappy& session) {
     return items;
 }
 
+std::vector<std::string> variablesOf(const Snappy& session) {
+    std::vector<std::string> entries;
+    for (std::int32_t index = 0; index < session.VarListCount(); ++index)
+        entries.push_back(session.VarList(index));
+    return entries;
+}
+
+/// Whether the entry holds values. One that only names its variable, "B001=", has none to lose.
+bool holdsValues(std::string_view entry) {
+    const auto sign = entry.find('=');
+    return sign != entry.npos && !trimmed(entry.substr(sign + 1)).empty();
+}
+
+bool isSameVariable(const std::string& left, const std::string& right) {
+    const auto one = VariableEntry::parse(left), other = VariableEntry::parse(right);
+    return one && other ? *one == *other : left == right;
+}
+
+/// Whether values of a list are others after it was refreshed.
+bool losesValues(const std::vector<std::string>& before, const std::vector<std::string>& after) {
+    return !std::ranges::equal(before, after, [](const auto& old, const auto& refreshed) {
+        return !holdsValues(old) || isSameVariable(old, refreshed);
+    });
+}
+
 std::string inParentheses(std::int32_t number) {
     return " ( " + std::to_string(number) + " )";
 }
@@ -43,37 +70,41 @@ std::string inParentheses(std::int32_t number) {
 } // namespace
 
 void ListTransferCommands::saveJobs() {
-    run(list_file_mode::saveJobs, message::saveJobsTitle, &ListTransferCommands::receiveJobs);
+    run(list_file_mode::saveJobs, message::saveJobsTitle, Direction::Receive,
+        &ListTransferCommands::transferJobs);
 }
 
 void ListTransferCommands::loadJobs() {
-    run(list_file_mode::loadJobs, message::loadJobsTitle, &ListTransferCommands::sendJobs);
+    run(list_file_mode::loadJobs, message::loadJobsTitle, Direction::Send,
+        &ListTransferCommands::transferJobs);
 }
 
 void ListTransferCommands::saveVariables() {
-    run(list_file_mode::saveVariables, message::saveVariablesTitle,
+    run(list_file_mode::saveVariables, message::saveVariablesTitle, Direction::Receive,
         &ListTransferCommands::receiveVariables);
 }
 
 void ListTransferCommands::loadVariables() {
-    run(list_file_mode::loadVariables, message::loadVariablesTitle,
+    run(list_file_mode::loadVariables, message::loadVariablesTitle, Direction::Send,
         &ListTransferCommands::sendVariables);
 }
 
 /// A list in a locked window cannot take the focus, so that comes after the lock.
-void ListTransferCommands::run(std::string_view mode, std::int32_t title, Transfer transfer) {
+void ListTransferCommands::run(std::string_view mode, std::int32_t title, Direction direction,
+                               Transfer transfer) {
     if (!dialog_.readList(mode) || !holdsSomething(mode))
         return;
     {
         const PaneRefresh refresh(with_);
         const WindowLock lock(with_.window);
-        refresh.refreshTouched(perform(title, transfer));
+        refresh.refreshTouched(perform(title, direction, transfer));
     }
     with_.window.list(with_.state.Active).focus();
 }
 
-CommandOutcome ListTransferCommands::perform(std::int32_t title, Transfer transfer) {
-    ListTransfer list(with_, with_.messages.getMessage(title));
+CommandOutcome ListTransferCommands::perform(std::int32_t title, Direction direction,
+                                             Transfer transfer) {
+    ListTransfer list(with_, with_.messages.getMessage(title), direction);
     return (this->*transfer)(list);
 }
 
@@ -87,35 +118,37 @@ bool ListTransferCommands::holdsSomething(std::string_view mode) const {
     return false;
 }
 
-CommandOutcome ListTransferCommands::receiveJobs(ListTransfer& list) {
-    return transferJobs(Direction::Receive, list);
-}
-
-CommandOutcome ListTransferCommands::sendJobs(ListTransfer& list) {
-    return transferJobs(Direction::Send, list);
-}
-
 /// The session is left alone when nothing is to be transferred.
-CommandOutcome ListTransferCommands::transferJobs(Direction direction, ListTransfer& list) {
-    if (!list.take(jobsOf(with_.session), direction))
+CommandOutcome ListTransferCommands::transferJobs(ListTransfer& list) {
+    if (!list.take(jobsOf(with_.session)))
         return {};
-    const bool succeeded = list.run(direction);
+    const bool succeeded = list.run();
     if (!succeeded)
         reportEntry(with_.session.JobList(with_.session.ErrorIndex()));
     else
         TransferReports(with_).unreplacedJobs();
-    return list.outcome(direction, succeeded);
+    return list.outcome(succeeded);
 }
 
 CommandOutcome ListTransferCommands::receiveVariables(ListTransfer&) {
     const std::string& file = with_.state.VarListFile;
+    const auto before = variablesOf(with_.session);
     if (!with_.session.VarListUpLoad())
         reportEntry(with_.session.VarList(with_.session.ErrorIndex()));
+    else if (losesValues(before, variablesOf(with_.session)) && !mayReplaceValues())
+        return {};
     else if (!with_.session.WriteVarListFile(file))
         reportFailure("\n" + with_.messages.getMessage(message::listFileNotWritten) +
                       bracketed(file) + " " +
                       reasonInLanguage(with_.messages, with_.session.systemReason()));
     return {.pcTouched = true};
+}
+
+/// The values in a list file may be the only copy of those that a robot had before.
+bool ListTransferCommands::mayReplaceValues() const {
+    return with_.talk.askYesNo(with_.messages.getMessage(message::askReplaceValues) +
+                                   bracketed(with_.state.VarListFile),
+                               BoxIcon::Question);
 }
 
 CommandOutcome ListTransferCommands::sendVariables(ListTransfer&) {

@@ -43,16 +43,15 @@ class ListTransferCommands {
   private:
     using Transfer = CommandOutcome (ListTransferCommands::*)(ListTransfer&);
 
-    void run(std::string_view mode, std::int32_t title, Transfer transfer);
+    void run(std::string_view mode, std::int32_t title, Direction direction, Transfer transfer);
     /// Tells the operator of a list without entries.
     bool holdsSomething(std::string_view mode) const;
     /// The progress is gone when this returns.
-    CommandOutcome perform(std::int32_t title, Transfer transfer);
-    CommandOutcome receiveJobs(ListTransfer& list);
-    CommandOutcome sendJobs(ListTransfer& list);
+    CommandOutcome perform(std::int32_t title, Direction direction, Transfer transfer);
+    CommandOutcome transferJobs(ListTransfer& list);
     CommandOutcome receiveVariables(ListTransfer& list);
     CommandOutcome sendVariables(ListTransfer& list);
-    CommandOutcome transferJobs(Direction direction, ListTransfer& list);
+    bool mayReplaceValues() const;
     void reportEntry(const std::string& entry) const;
     void reportFailure(const std::string& details) const;
 

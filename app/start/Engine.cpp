@@ -1,6 +1,7 @@
 #include "app/start/Engine.h"
 
 #include "base/PathRules.h"
+#include "files/ControllerPlace.h"
 #include "lang/MessageNumbers.h"
 #include "platform/Environment.h"
 
@@ -26,7 +27,9 @@ Engine::Engine(EngineGround ground)
                .programFolder = programFolder,
                .dummyWindow = std::move(ground.dummyWindow),
                .unloadWindows = std::move(ground.unloadWindows),
-               .modeChanged = std::move(ground.modeChanged)}) {}
+               .modeChanged = std::move(ground.modeChanged)}) {
+    progress.setUsualPlace([this] { return fromController(state); });
+}
 
 void Engine::tellLibraryProblem(const LibraryProblem& problem) {
     std::string text = messages.getMessage(message::libraryUnusable) + problem.path;

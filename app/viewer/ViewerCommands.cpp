@@ -11,6 +11,7 @@
 #include "lang/SystemReasons.h"
 #include "link/OperatorTalk.h"
 #include "link/ShownText.h"
+#include "platform/Files.h"
 
 #include <utility>
 
@@ -27,11 +28,13 @@ void ViewerCommands::show(const std::string& name) {
     Result<std::string> text = Failure{};
     {
         const BusyPointer busy(with_.window);
-        text = readViewerText(PathRules().join(with_.state.PCPath, name), with_.state.Headder);
+        const std::string path = PathRules().join(with_.state.PCPath, name);
+        const std::string changed(fileDetails(path).changed.view());
+        text = readViewerText(path, with_.state.Headder);
         if (text) {
-            name_ = name;
+            file_ = {name, with_.state.PCPath, changed};
             text_ = std::move(*text);
-            with_.viewerPane.showFile(name_, text_);
+            with_.viewerPane.showFile(name, text_);
         }
     }
     with_.state.ViewerShown = bool(text);
@@ -49,7 +52,7 @@ void ViewerCommands::print() {
     if (!with_.state.ViewerShown)
         return with_.talk.tell(with_.messages.getMessage(message::nothingToPrint),
                                BoxIcon::Exclamation);
-    const auto question = with_.messages.getMessage(message::askPrint) + bracketed(name_);
+    const auto question = with_.messages.getMessage(message::askPrint) + bracketed(file_.name);
     if (!with_.talk.askYesNo(question, BoxIcon::Question))
         return;
     Outcome printed = Done{};
@@ -57,10 +60,10 @@ void ViewerCommands::print() {
         // The system's print dialog and its work let events run, and the text is borrowed
         // meanwhile.
         const WindowLock lock(with_.window);
-        printed = with_.printer.print(name_, text_);
+        printed = with_.printer.print(file_, text_);
     }
     if (!printed)
-        tell(message::printFailed, name_, printed.reason());
+        tell(message::printFailed, file_.name, printed.reason());
 }
 
 std::optional<std::string> ViewerCommands::selectedJobFile() const {

@@ -23,14 +23,21 @@ class ViewerPane {
     virtual void hideFile() = 0;
 };
 
+/// What is printed, as it was when it was read.
+struct PrintedFile {
+    std::string name;
+    std::string folder;
+    std::string changed; ///< date of the last change, or empty
+};
+
 /// Prints texts, implemented by the windows.
 class FilePrinter {
   public:
     virtual ~FilePrinter() = default;
 
-    /// Lets the operator choose a printer and prints the text, under the name of its file. An
-    /// operator who chooses none is no failure. The text is borrowed for the call.
-    virtual Outcome print(const std::string& name, std::string_view text) = 0;
+    /// Lets the operator choose a printer and prints the text, under name, folder and date of its
+    /// file. An operator who chooses none is no failure. The text is borrowed for the call.
+    virtual Outcome print(const PrintedFile& file, std::string_view text) = 0;
 };
 
 /// Displaying and printing a job file of the PC pane. Both leave it to the caller to bring menus
@@ -53,7 +60,7 @@ class ViewerCommands {
     void tell(std::int32_t messageNumber, const std::string& name, const std::string& reason) const;
 
     MainServices with_;
-    std::string name_;
+    PrintedFile file_;
     std::string text_;
 };
 

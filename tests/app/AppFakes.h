@@ -79,7 +79,9 @@ class LoggingPaneWindow final : public FakePaneWindow {
 
 class UnansweredQuestion final : public QuestionWindow {
   public:
-    Answer ask(const std::string&, const std::string&) override { return Answer::Cancel; }
+    Answer ask(const std::string&, const std::string&, const std::string&) override {
+        return Answer::Cancel;
+    }
 };
 
 class RecordingRobotBox final : public RobotBox {

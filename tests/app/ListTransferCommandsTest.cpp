@@ -85,7 +85,7 @@ struct EntryRow : NamedRow {
 const EntryRow entries[] = {
     {{"SaveJobs"}, &ListTransferCommands::saveJobs, "0", "Save jobs", "A.JBI\r\n"},
     {{"LoadJobs"}, &ListTransferCommands::loadJobs, "1", "Load jobs", "B.JBI\r\n"},
-    {{"SaveVariables"}, &ListTransferCommands::saveVariables, "2", "Save variables", "B001=5\r\n"},
+    {{"SaveVariables"}, &ListTransferCommands::saveVariables, "2", "Save variables", "B001=7\r\n"},
     {{"LoadVariables"}, &ListTransferCommands::loadVariables, "3", "Load variables", "B001=5\r\n"}};
 
 class EachListTransfer : public ListTransferCommandsTest,
@@ -323,9 +323,29 @@ TEST_F(ListTransferCommandsTest, JobsOfThePCAloneArePassedOverAndCounted) {
 TEST_F(ListTransferCommandsTest, SavedVariablesAreWrittenToTheirList) {
     byte(1, 7);
     list("B001=5\r\n");
+    boxes.answers = {true};
     run(saveVariables);
     EXPECT_EQ(pc.read("LIST.LST"), "B001=7\r\n");
     EXPECT_GT(window.pc.shows, 1);
+    EXPECT_THAT(boxes.texts(), ElementsAre("replace values? [LIST.LST]"));
+}
+
+TEST_F(ListTransferCommandsTest, ValuesOfAListAreKeptWhereTheOperatorSaysSo) {
+    byte(1, 7);
+    byte(2, 9);
+    list("B001=7\r\nB002=6\r\n");
+    boxes.answers = {false};
+    run(saveVariables);
+    EXPECT_EQ(pc.read("LIST.LST"), "B001=7\r\nB002=6\r\n");
+    EXPECT_THAT(boxes.texts(), ElementsAre("replace values? [LIST.LST]"));
+}
+
+TEST_F(ListTransferCommandsTest, NothingIsAskedWhereNoValueIsLost) {
+    byte(1, 7);
+    byte(2, 9);
+    list("b1=7\r\nB002=\r\nB002= \r\n");
+    run(saveVariables);
+    EXPECT_EQ(pc.read("LIST.LST"), "B001=7\r\nB002=9\r\nB002=9\r\n");
     EXPECT_THAT(boxes.texts(), IsEmpty());
 }
 
@@ -357,12 +377,12 @@ TEST_F(ListTransferCommandsTest, AListFileThatCannotBeWrittenIsNamedWithTheReaso
             pc.makeFolder("LIST.LST");
         };
     };
+    boxes.answers = {true};
     run(saveVariables);
-    ASSERT_EQ(boxes.texts().size(), 1U);
-    EXPECT_THAT(boxes.texts().front(),
-                StartsWith("Transfer failed:  ( 6 )list not opened at ( 0 )\n"
-                           "list not written: [LIST.LST] "));
-    EXPECT_FALSE(boxes.texts().front().ends_with("] ")) << boxes.texts().front();
+    ASSERT_EQ(boxes.texts().size(), 2U);
+    EXPECT_THAT(boxes.texts().back(), StartsWith("Transfer failed:  ( 6 )list not opened at ( 0 )\n"
+                                                 "list not written: [LIST.LST] "));
+    EXPECT_FALSE(boxes.texts().back().ends_with("] ")) << boxes.texts().back();
 }
 
 TEST_F(ListTransferCommandsTest, TheActiveListGetsTheFocusBack) {

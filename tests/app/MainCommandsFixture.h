@@ -97,14 +97,16 @@ class RecordingViewerPane : public ViewerPane {
 /// A printer that prints into memory.
 class RecordingPrinter : public FilePrinter {
   public:
-    Outcome print(const std::string& name, std::string_view text) override {
-        printed.push_back(name + ":" + std::string(text));
+    Outcome print(const PrintedFile& file, std::string_view text) override {
+        printed.push_back(file.name + ":" + std::string(text));
+        files.push_back(file);
         if (whilePrinting)
             whilePrinting();
         return answer;
     }
 
     std::vector<std::string> printed;
+    std::vector<PrintedFile> files;
     std::function<void()> whilePrinting;
     Outcome answer = Done{};
 };

@@ -1,11 +1,12 @@
 #include "app/viewer/ViewerCommands.h"
 
 #include "MainCommandsFixture.h"
+#include "platform/Files.h"
 
+#include <chrono>
 #include <filesystem>
 
 #include <gmock/gmock.h>
-
 namespace vantrel::tests {
 namespace {
 
@@ -164,7 +165,12 @@ TEST_F(ViewerCommandsTest, APathIsJoinedWithOneSeparator) {
 }
 
 TEST_F(ViewerCommandsTest, PrintingAsksFirstAndPrintsWhatIsDisplayed) {
+    const std::string folder = state.PCPath;
+    const std::string changed(fileDetails(pc.path("A.JBI")).changed.view());
     press();
+    state.PCPath = pc.makeFolder("elsewhere");
+    std::filesystem::last_write_time(
+        pc.path("A.JBI"), std::filesystem::file_time_type::clock::now() - std::chrono::hours(100));
     pc.write("A.JBI", "changed");
     state.Headder = true;
     window.pc.click({"B.DAT"});
@@ -174,6 +180,8 @@ TEST_F(ViewerCommandsTest, PrintingAsksFirstAndPrintsWhatIsDisplayed) {
     EXPECT_EQ(boxes.shown[0], (FakeMessageBoxes::Box{FakeMessageBoxes::Kind::YesNo,
                                                      "print? [A.JBI]", BoxIcon::Question}));
     EXPECT_THAT(printer.printed, ElementsAre("A.JBI:NOP\r\n"));
+    EXPECT_EQ(printer.files[0].folder, folder);
+    EXPECT_EQ(printer.files[0].changed, changed) << "as it was read";
 }
 
 TEST_F(ViewerCommandsTest, ABoxThatIsClosedPrintsNothing) {

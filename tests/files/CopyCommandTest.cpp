@@ -81,6 +81,34 @@ TEST_F(CopyCommandTest, ProgressIsShownWithAClearedPressAndACancelButton) {
     EXPECT_TRUE(robot().has("A.JBI"));
 }
 
+TEST_F(CopyCommandTest, ProgressAndQuestionsNameTheControllerAndTheDirection) {
+    state.TransMode = TransferMode::HispeedLink;
+    state.CurrentRobot.Name = "LINE1";
+    state.CurrentRobot.IPaddr = session.IPaddress = "10.0.0.5";
+    tests::FakeController& line1 = library.at("10.0.0.5");
+    pcJob("A", "new");
+    line1.put("A.JBI", job("A", "old"));
+    selectOnPC({"A.JBI"});
+    std::vector<std::string> places;
+    library.onCall = [&](const std::string& function) {
+        if (function == "BscFindFirst")
+            places.push_back(progress.place());
+    };
+    progress.setUsualPlace([] { return "usual"; });
+    question.answers = {Answer::Cancel, Answer::Yes};
+    commands.sendCopy();
+    EXPECT_THAT(places, ElementsAre("\u2192 LINE1 (10.0.0.5)", "usual"))
+        << "the controller is read at the end of the command too";
+    selectOnController({"A.JBI"});
+    places.clear();
+    library.onCall = [&](const std::string&) { places.push_back(progress.place()); };
+    commands.receiveCopy();
+    ASSERT_THAT(places, Not(IsEmpty()));
+    EXPECT_EQ(places.front(), "\u2190 LINE1 (10.0.0.5)");
+    EXPECT_THAT(question.notes, ElementsAre("\u2192 LINE1 (10.0.0.5)\nthe controller loses",
+                                            "\u2190 LINE1 (10.0.0.5)\nthe PC loses"));
+}
+
 TEST_F(CopyCommandTest, AfterASendTheControllerPaneIsUpToDateAndThePCListHasTheFocus) {
     pcJob("NEW");
     robotJob("OLD");

@@ -29,13 +29,45 @@ TEST_F(DeleteCommandTest, EachJobIsAskedForByName) {
     robotJobs();
     question.answers = {Answer::Yes, Answer::No, Answer::Yes};
     EXPECT_TRUE(commands.deleteOnController());
-    EXPECT_THAT(question.questions, ElementsAre("[A.JBI] delete from the controller?",
-                                                "[B.JBI] delete from the controller?",
-                                                "[C.JBI] delete from the controller?"));
+    EXPECT_THAT(question.questions,
+                ElementsAre("Delete [A.JBI] from COM1?", "Delete [B.JBI] from COM1?",
+                            "Delete [C.JBI] from COM1?"));
     EXPECT_THAT(robot().names(), ElementsAre("B.JBI"));
     EXPECT_THAT(window.controller.names, ElementsAre("B.JBI"));
     EXPECT_EQ(window.controllerStatus, "Controller: 1 items");
     EXPECT_EQ(window.controller.focuses, 1);
+}
+
+TEST_F(DeleteCommandTest, ALanguageWithoutAPlaceForTheNameNamesTheFileAllTheSame) {
+    messages.replace({text(10, " from the PC?"), text(11, " from the controller?")});
+    robotJobs();
+    commands.deleteOnController();
+    pcJobs();
+    commands.deleteOnPC();
+    EXPECT_THAT(question.questions,
+                ElementsAre("[A.JBI] from the controller?", "[A.JBI] from the PC?"));
+}
+
+TEST_F(DeleteCommandTest, TheControllerIsNamedWhereOneIsMeant) {
+    progress.setUsualPlace([] { return "usual"; });
+    robotJobs();
+    commands.deleteOnController();
+    pcJobs();
+    commands.deleteOnPC();
+    EXPECT_THAT(question.notes, ElementsAre("\u2192 COM1", ""));
+    EXPECT_EQ(progress.place(), "usual") << "once the command has ended";
+}
+
+TEST_F(DeleteCommandTest, EachDeletionSaysWhichItemItIs) {
+    robotJobs();
+    question.answers = {Answer::No, Answer::All};
+    std::vector<std::string> waitingFor;
+    library.onCall = [&](const std::string& function) {
+        if (function == "BscDeleteJob")
+            waitingFor.push_back(progress.waitingFor());
+    };
+    EXPECT_TRUE(commands.deleteOnController());
+    EXPECT_THAT(waitingFor, ElementsAre("item 2 of 3  waiting", "item 3 of 3  waiting"));
 }
 
 TEST_F(DeleteCommandTest, AllDeletesThisAndEveryFollowingJob) {
@@ -87,7 +119,7 @@ TEST_F(DeleteCommandTest, AVeryLongNameIsAskedForAndShownShortened) {
     question.answers = {Answer::Yes};
     EXPECT_TRUE(commands.deleteOnController());
     const std::string shown = std::string(200, 'A') + "\u2026";
-    EXPECT_THAT(question.questions, ElementsAre("[" + shown + "] delete from the controller?"));
+    EXPECT_THAT(question.questions, ElementsAre("Delete [" + shown + "] from COM1?"));
     EXPECT_THAT(progressView.messages(),
                 ElementsAre("Deleting ", "Deleting " + shown, "reading directory"));
 }
@@ -100,7 +132,7 @@ TEST_F(DeleteCommandTest, JobsWhoseNamesDifferInLetterCaseOnlyAreNotDeleted) {
     question.answers = {Answer::Yes};
     EXPECT_TRUE(commands.deleteOnController());
     EXPECT_THAT(boxes.texts(), ElementsAre("[foo.JBI] is ambiguous"));
-    EXPECT_THAT(question.questions, ElementsAre("[B.JBI] delete from the controller?"));
+    EXPECT_THAT(question.questions, ElementsAre("Delete [B.JBI] from COM1?"));
     EXPECT_THAT(robot().names(), ElementsAre("foo.JBI", "FOO.JBI"));
 }
 
@@ -113,7 +145,7 @@ TEST_F(DeleteCommandTest, AFileOfTheTableThatTheDirectorySpellsOtherwiseIsDelete
     ASSERT_THAT(state.CtrlListing.Names, ElementsAre("tool.JBI", "TOOL.JBI"));
     question.answers = {Answer::Yes};
     commands.deleteOnController();
-    EXPECT_THAT(question.questions, ElementsAre("[tool.JBI] delete from the controller?"));
+    EXPECT_THAT(question.questions, ElementsAre("Delete [tool.JBI] from COM1?"));
     EXPECT_EQ(library.callCount("BscSelectJob"), 1) << "the controller is asked, not the listing";
     EXPECT_THAT(boxes.texts(), testing::Not(testing::Contains("[tool.JBI] is ambiguous")));
 }
@@ -143,8 +175,8 @@ TEST_F(DeleteCommandTest, FilesOfThePCAreAskedForAndDeleted) {
     question.answers = {Answer::Yes, Answer::No, Answer::Yes};
     EXPECT_TRUE(commands.deleteOnPC());
     EXPECT_THAT(question.questions,
-                ElementsAre("[A.JBI] delete from the PC?", "[B.JBI] delete from the PC?",
-                            "[C.JBI] delete from the PC?"));
+                ElementsAre("Delete [A.JBI] from the PC?", "Delete [B.JBI] from the PC?",
+                            "Delete [C.JBI] from the PC?"));
     EXPECT_FALSE(pc.has("A.JBI"));
     EXPECT_TRUE(pc.has("B.JBI"));
     EXPECT_THAT(window.pc.names, ElementsAre("B.JBI"));

@@ -45,15 +45,35 @@ TEST_F(MoveCommandTest, TheSessionWorksSilentlyWhileTheCommandShowsEachFile) {
     pcJob("B");
     robot();
     selectOnPC({"A.JBI", "B.JBI"});
-    library.onCall = [this](const std::string& function) {
+    std::vector<std::string> waitingFor;
+    library.onCall = [&](const std::string& function) {
         if (function == "BscDownLoad") {
             EXPECT_FALSE(session.DisplayMonitor);
             EXPECT_TRUE(progress.isVisible());
+            waitingFor.push_back(progress.waitingFor());
         }
     };
     EXPECT_TRUE(commands.sendMove());
+    EXPECT_THAT(waitingFor, ElementsAre("item 1 of 2  waiting", "item 2 of 2  waiting"));
     EXPECT_THAT(progressView.messages(), ElementsAre("Transferring ", "Transferring A.JBI",
                                                      "Transferring B.JBI", "reading directory"));
+}
+
+TEST_F(MoveCommandTest, TheOverwriteQuestionTellsWhichSideLosesAndHowManyFilesAreLeft) {
+    for (const char* name : {"A", "B", "C"}) {
+        pcJob(name, "new");
+        robotJob(name, "old");
+    }
+    selectOnPC({"A.JBI", "B.JBI", "C.JBI"});
+    question.answers = {Answer::No, Answer::Cancel};
+    commands.sendMove();
+    EXPECT_THAT(question.notes,
+                ElementsAre("\u2192 COM1\nthe controller loses\nitem 1 of 3  2 more",
+                            "\u2192 COM1\nthe controller loses\nitem 2 of 3  1 more"));
+    question.notes.clear();
+    selectOnController({"A.JBI"});
+    commands.receiveMove();
+    EXPECT_THAT(question.notes, ElementsAre("\u2190 COM1\nthe PC loses"));
 }
 
 TEST_F(MoveCommandTest, TheOverwriteQuestionNamesTheFile) {

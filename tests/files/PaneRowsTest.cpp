@@ -45,6 +45,17 @@ class PaneRowsTest : public testing::Test {
     PaneRows rows{listing};
 };
 
+TEST_F(PaneRowsTest, TellWhatTheyAreSortedBy) {
+    for (const std::int16_t type : {byName, bySize, byDate}) {
+        sorted(type, descending);
+        EXPECT_EQ(rows.sortColumn(), type);
+        EXPECT_TRUE(rows.isDescending());
+    }
+    sorted(7, ascending);
+    EXPECT_EQ(rows.sortColumn(), byName) << "any other value";
+    EXPECT_FALSE(rows.isDescending());
+}
+
 TEST_F(PaneRowsTest, AFileReadsWithItsOwnSpellingSizeAndDate) {
     file("a.jbi", 1234567, "2026/11/20 08:05:09");
     rows.fill(all);

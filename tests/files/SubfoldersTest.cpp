@@ -11,7 +11,7 @@ using testing::IsEmpty;
 
 TEST(Subfolders, ComeInTheOrderOfTheirNamesWithoutRegardToCase) {
     const TemporaryFolder folder;
-    for (const char* name : {"b", "A", "C", ".hidden", "\u00E4", "\u00C4b"})
+    for (const char* name : {"b", "A", "C", ".hidden", ".installed", "\u00E4", "\u00C4b"})
         folder.makeFolder(name);
     folder.write("file.JBI", "");
     EXPECT_THAT(subfolders(folder.path()),

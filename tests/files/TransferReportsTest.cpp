@@ -289,11 +289,11 @@ TEST_F(TransferReportsTest, AMarkThatKeepsAFileFromBeingSentIsNamedBelowTheFile)
     const std::string report = "\n[A.JBI]\n[" + mark + "]";
     EXPECT_FALSE(commands.sendCopy());
     ASSERT_FALSE(boxes.shown.empty());
-    EXPECT_EQ(boxes.shown[0].text, "Transfer failed:  ( mark unusable (-129) ) (0)" + report);
+    EXPECT_EQ(boxes.shown[0].text, "Transfer failed:  ( mark unusable (47) ) (0)" + report);
     boxes.shown.clear();
     EXPECT_FALSE(commands.sendMove());
     ASSERT_FALSE(boxes.shown.empty());
-    EXPECT_EQ(boxes.shown[0].text, "Transfer failed:  ( mark unusable (-129) )" + report);
+    EXPECT_EQ(boxes.shown[0].text, "Transfer failed:  ( mark unusable (47) )" + report);
     EXPECT_TRUE(pc.has("A.JBI"));
 }
 

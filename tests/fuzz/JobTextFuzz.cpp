@@ -1,5 +1,5 @@
 #include "FuzzInput.h"
-#include "simulator/JobText.h"
+#include "simulator/ControllerFileName.h"
 
 using namespace vantrel;
 

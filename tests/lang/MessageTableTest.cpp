@@ -74,6 +74,13 @@ INSTANTIATE_TEST_SUITE_P(
                     Insertion{"EmptyText", "", "3", ""}),
     [](const auto& row) { return row.param.name; });
 
+TEST(MessageTable, ASecondInsertionGoesToTheSecondPercentSign) {
+    const auto table = tableOf({{3, "", "[%] from %?"}, {4, "", "[%] only"}});
+    EXPECT_EQ(table.getMessageWithInsertion(3, "A", "R"), "[A] from R?");
+    EXPECT_EQ(table.getMessageWithInsertion(3, "100%", "50%"), "[100%] from 50%?");
+    EXPECT_EQ(table.getMessageWithInsertion(4, "A", "R"), "[A] only");
+}
+
 TEST(MessageTable, InsertionIntoAMissingMessageGivesNothing) {
     EXPECT_EQ(MessageTable().getMessageWithInsertion(3, "x"), "");
 }

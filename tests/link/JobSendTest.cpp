@@ -611,7 +611,7 @@ TEST_F(FetchedJobSendTest, BesideADamagedMarkIsRefusedByACodeOfItsOwnThatNamesTh
     world.controller().put("WELD.JBI", older);
     world.pc.write(mark, "Vantrel fetch 2\nWELD.JBI\nend\n");
     const auto expectNamed = [this] {
-        EXPECT_EQ(world.error(), " -129 0");
+        EXPECT_EQ(world.error(), " 47 0");
         EXPECT_EQ(world.session->errorText(), "mark unusable");
         EXPECT_EQ(world.session->unusableMark(), mark);
         EXPECT_EQ(world.controller().bytes("WELD.JBI"), older);

@@ -79,6 +79,25 @@ TEST_F(OperatorTalkTest, HiddenProgressStaysHidden) {
     EXPECT_TRUE(view.pictures.empty());
 }
 
+TEST_F(OperatorTalkTest, AQuestionNamesTheControllerThatIsMeant) {
+    talk.ask("title", "question");
+    panel.setUsualPlace([] { return "usual"; });
+    talk.ask("title", "question");
+    panel.setPlace("of the command");
+    talk.ask("title", "question");
+    panel.setPlace("");
+    talk.ask("title", "question");
+    panel.setPlace({});
+    talk.ask("title", "question");
+    EXPECT_EQ(question.notes,
+              (std::vector<std::string>{"", "usual", "of the command", "", "usual"}));
+    talk.ask("title", "question", "facts");
+    EXPECT_EQ(question.notes.back(), "usual\nfacts");
+    panel.setPlace("");
+    talk.ask("title", "question", "facts");
+    EXPECT_EQ(question.notes.back(), "facts");
+}
+
 TEST_F(OperatorTalkTest, AnswersComeBackAsGiven) {
     question.answers = {Answer::Yes, Answer::No, Answer::All, Answer::Cancel};
     EXPECT_EQ(talk.ask("title", "question"), Answer::Yes);

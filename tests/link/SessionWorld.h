@@ -48,7 +48,7 @@ inline MessageTable sessionMessages() {
     add(79, "; old kept as ");
     add(80, "; nothing");
     add(93, "reading directory");
-    add(371, "mark unusable");
+    add(547, "mark unusable");
     add(372, " mark unusable: ");
     add(373, " mark of nothing");
     add(502, "already exists. Overwrite it?");

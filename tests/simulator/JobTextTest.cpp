@@ -1,5 +1,4 @@
-#include "simulator/JobText.h"
-
+#include "simulator/ControllerFileName.h"
 #include "simulator/ResultCodes.h"
 
 #include <ostream>

@@ -3,7 +3,6 @@
 #include "platform/TextEncoding.h"
 #include "simulator/ControllerFileName.h"
 #include "simulator/ControllerFolder.h"
-#include "simulator/JobText.h"
 #include "simulator/ResultCodes.h"
 #include "simulator/SimulatorSettings.h"
 #include "simulator/VariableStore.h"

@@ -14,8 +14,10 @@ namespace vantrel::tests {
 /// dialog closed by its close box is.
 class ScriptedQuestionWindow : public QuestionWindow {
   public:
-    Answer ask(const std::string& title, const std::string& question) override {
+    Answer ask(const std::string& title, const std::string& question,
+               const std::string& note) override {
         titles.push_back(title);
+        notes.push_back(note);
         questions.push_back(question);
         if (whileOpen)
             whileOpen();
@@ -25,6 +27,7 @@ class ScriptedQuestionWindow : public QuestionWindow {
     std::deque<Answer> answers;
     std::vector<std::string> titles;
     std::vector<std::string> questions;
+    std::vector<std::string> notes;  ///< what stood below them
     std::function<void()> whileOpen; ///< what happens while the dialog is on the screen
 
   private:

@@ -61,6 +61,21 @@ TEST_P(FileListControlTest, ShowsTheRowsInTheirOrder) {
     EXPECT_EQ(list.native().GetItemText(3), "C.TXT");
 }
 
+TEST_P(FileListControlTest, TheHeaderPointsOutTheOrderOfTheRows) {
+    if (GetParam() != ListView::Details)
+        GTEST_SKIP() << "has no header";
+    EXPECT_EQ(list.native().GetSortIndicator(), 0);
+    EXPECT_TRUE(list.native().IsAscendingSortIndicator());
+    world.listing.SortType = sort_column::date;
+    world.listing.SortDir = 1;
+    list.show(world.rows);
+    EXPECT_EQ(list.native().GetSortIndicator(), 2);
+    EXPECT_FALSE(list.native().IsAscendingSortIndicator());
+    list.setView(ListView::List);
+    list.setView(ListView::Details);
+    EXPECT_EQ(list.native().GetSortIndicator(), 2) << "after another view";
+}
+
 TEST_P(FileListControlTest, KeepsItsRowsWhenItsAppearanceChanges) {
     list.select({1, 2});
     for (const auto appearance : {Appearance::Flat, Appearance::ThreeDimensional}) {

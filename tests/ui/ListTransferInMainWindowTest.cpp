@@ -58,7 +58,7 @@ TEST_F(ListTransferInMainWindowTest, LoadsVariablesIntoTheControllerAndSavesThem
     start(false);
     run(loadVariables, "VARS.LST");
     EXPECT_NE(folder.read("robot/variables.txt").find("B001=5"), std::string::npos);
-    folder.write("jobs/OTHER.LST", "B001=0\r\n");
+    folder.write("jobs/OTHER.LST", "B001=\r\n");
     run(saveVariables, "OTHER.LST");
     EXPECT_EQ(folder.read("jobs/OTHER.LST"), "B001=5\r\n");
 }

@@ -20,7 +20,8 @@ class ViewerPrintoutTest : public DialogTest {
     }
 
     ViewerPrintout& printout(std::string_view text, const std::string& name = "A.JBI") {
-        printout_.emplace(name, text, "2026/11/21 08:05", messages);
+        printout_.emplace(PrintedFile{name, folder_, "2026/11/20 07:30:00"}, text,
+                          "2026/11/21 08:05", messages);
         printout_->SetDC(&dc);
         printout_->SetPPIScreen(resolution, resolution);
         printout_->SetPPIPrinter(resolution, resolution);
@@ -60,6 +61,7 @@ class ViewerPrintoutTest : public DialogTest {
 
     wxBitmap paper{width, height};
     wxMemoryDC dc;
+    std::string folder_ = "/srv/jobs";
     std::optional<ViewerPrintout> printout_;
 };
 
@@ -67,10 +69,13 @@ TEST_F(ViewerPrintoutTest, CarriesNameAndDateAboveTextAndPageNumberBelow) {
     ASSERT_TRUE(printout("NOP\r\n").OnPrintPage(1));
     EXPECT_EQ(pages(), 1);
     const auto heading = inkBetween(14, 19.2);
-    EXPECT_LT(heading.GetLeft(), 100);          // the name begins at the left margin
-    EXPECT_GT(heading.GetRight(), 827 - 100);   // the date ends at the right one
-    EXPECT_FALSE(inkBetween(23, 28).IsEmpty()); // the text
-    EXPECT_TRUE(inkBetween(30, 270).IsEmpty());
+    EXPECT_LT(heading.GetLeft(), 100);        // the name begins at the left margin
+    EXPECT_GT(heading.GetRight(), 827 - 100); // the date ends at the right one
+    const auto second = inkBetween(19.5, 23.2);
+    EXPECT_LT(second.GetLeft(), 100);             // the folder
+    EXPECT_GT(second.GetRight(), 827 - 100);      // the file's date
+    EXPECT_FALSE(inkBetween(27.2, 32).IsEmpty()); // the text
+    EXPECT_TRUE(inkBetween(34, 270).IsEmpty());
     const auto number = inkBetween(270, 297);
     EXPECT_GT(number.GetLeft(), 300);
     EXPECT_LT(number.GetRight(), 527);
@@ -80,6 +85,7 @@ TEST_F(ViewerPrintoutTest, KeepsTheMargins) {
     std::string text;
     for (int line = 0; line < 200; ++line)
         text += std::string(300, 'W') + "開く\r\n";
+    folder_ = '/' + std::string(300, 'F');
     ASSERT_TRUE(printout(text, std::string(300, 'N')).OnPrintPage(1));
     const auto ink = inkBetween(0, 297);
     constexpr int margin = 55; // pixels; 14 of the 15 millimetres
@@ -106,18 +112,18 @@ TEST_F(ViewerPrintoutTest, AnEmptyTextIsOnePageWithItsHeading) {
     ASSERT_TRUE(printout("").OnPrintPage(1));
     EXPECT_EQ(pages(), 1);
     EXPECT_FALSE(inkBetween(14, 19.2).IsEmpty());
-    EXPECT_TRUE(inkBetween(23, 270).IsEmpty());
+    EXPECT_TRUE(inkBetween(27.2, 270).IsEmpty());
 }
 
 TEST_F(ViewerPrintoutTest, EachPageHasItsOwnLines) {
-    std::string text(61, '\n'); // more than the first page, which is empty but for its frame
+    std::string text(60, '\n'); // more than the first page, which is empty but for its frame
     text += "\nNOP\n";
     printout(text);
     ASSERT_EQ(pages(), 2);
     ASSERT_TRUE(printout_->OnPrintPage(1));
-    EXPECT_TRUE(inkBetween(23, 270).IsEmpty());
+    EXPECT_TRUE(inkBetween(27.2, 270).IsEmpty());
     ASSERT_TRUE(printout_->OnPrintPage(2));
-    EXPECT_FALSE(inkBetween(23, 60).IsEmpty());
+    EXPECT_FALSE(inkBetween(27.2, 60).IsEmpty());
 }
 
 TEST_F(ViewerPrintoutTest, ATinyPaperIsNoHarm) {

@@ -17,7 +17,7 @@ class frmMsgYesNoTest : public DialogInLanguage {
         return name + " " + messages.resourceMessage(2);
     }
 
-    frmMsgYesNo dialog{nullptr, "Snappy", overwriteQuestion("WELD_01.JBI"), messages, state};
+    frmMsgYesNo dialog{nullptr, "Snappy", overwriteQuestion("WELD_01.JBI"), "", messages, state};
 };
 
 TEST_P(frmMsgYesNoTest, ShowsTheQuestionAndFourAnswers) {
@@ -37,7 +37,7 @@ TEST_P(frmMsgYesNoTest, StandsInTheMiddleOfTheScreen) {
     wxFrame corner(nullptr, wxID_ANY, "Snappy", wxPoint(0, 0), wxSize(320, 200));
     corner.Show();
     runEvents();
-    frmMsgYesNo question(&corner, "Snappy", overwriteQuestion("WELD_01.JBI"), messages, state);
+    frmMsgYesNo question(&corner, "Snappy", overwriteQuestion("WELD_01.JBI"), "", messages, state);
     const auto isInTheMiddle = [&question] {
         constexpr int frame = 60; // what a window manager adds at one side only, in half pixels
         const wxRect screen = wxDisplay(&question).GetClientArea();
@@ -94,7 +94,7 @@ TEST_P(frmMsgYesNoTest, TheKeyboardAnswersIt) {
          {KeyRow{'Y', wxMOD_ALT, "0"}, KeyRow{'N', wxMOD_ALT, "1"}, KeyRow{'A', wxMOD_ALT, "2"},
           KeyRow{'C', wxMOD_ALT, "3"}, KeyRow{WXK_RETURN, wxMOD_NONE, "3"},
           KeyRow{WXK_ESCAPE, wxMOD_NONE, "3"}, KeyRow{WXK_F4, wxMOD_ALT, "3"}}) {
-        frmMsgYesNo asked(nullptr, "Snappy", "?", messages, state);
+        frmMsgYesNo asked(nullptr, "Snappy", "?", "", messages, state);
         whileModal(asked, [&] {
             ASSERT_TRUE(waitFor([&] { return asked.IsActive(); }));
             pressKey(key, modifiers);
@@ -105,7 +105,7 @@ TEST_P(frmMsgYesNoTest, TheKeyboardAnswersIt) {
 }
 
 TEST_P(frmMsgYesNoTest, ALongNameWrapsInsteadOfWideningIt) {
-    frmMsgYesNo longOne(nullptr, "Snappy", overwriteQuestion(std::string(200, 'W') + ".JBI"),
+    frmMsgYesNo longOne(nullptr, "Snappy", overwriteQuestion(std::string(200, 'W') + ".JBI"), "",
                         messages, state);
     EXPECT_LT(longOne.GetSize().x, longOne.FromDIP(600));
     whileModal(longOne, [&] {
@@ -116,7 +116,7 @@ TEST_P(frmMsgYesNoTest, ALongNameWrapsInsteadOfWideningIt) {
 }
 
 TEST_P(frmMsgYesNoTest, AmpersandsOfNamesAreShown) {
-    const frmMsgYesNo asked(nullptr, "Snappy", "A&B.JBI ?", messages, state);
+    const frmMsgYesNo asked(nullptr, "Snappy", "A&B.JBI ?", "", messages, state);
     const auto* const label =
         dynamic_cast<wxStaticText*>(wxWindow::FindWindowByName("lblMsg", &asked));
     EXPECT_EQ(label->GetLabelText(), "A&B.JBI ?");
@@ -124,9 +124,21 @@ TEST_P(frmMsgYesNoTest, AmpersandsOfNamesAreShown) {
 
 TEST_P(frmMsgYesNoTest, ALanguageWithoutCaptionsLeavesNoButtonEmpty) {
     messages.replace({});
-    frmMsgYesNo asked(nullptr, "Snappy", "?", messages, state);
+    frmMsgYesNo asked(nullptr, "Snappy", "?", "", messages, state);
     EXPECT_EQ(labelOf(asked, "cmdYesNo0"), "はい(&Y)");
     EXPECT_EQ(labelOf(asked, "cmdYesNo3"), "ｷｬﾝｾﾙ(&C)");
+}
+
+TEST_P(frmMsgYesNoTest, NamesTheControllerBelowTheQuestion) {
+    const frmMsgYesNo asked(nullptr, "Snappy", "A.JBI ?", "\u2192 A&B (10.0.0.5)", messages, state);
+    const auto* const question = wxWindow::FindWindowByName("lblMsg", &asked);
+    const auto* const place =
+        dynamic_cast<wxStaticText*>(wxWindow::FindWindowByName("lblPlace", &asked));
+    ASSERT_NE(place, nullptr);
+    EXPECT_EQ(question->GetLabel(), "A.JBI ?");
+    EXPECT_EQ(place->GetLabelText().utf8_string(), "\u2192 A&B (10.0.0.5)");
+    EXPECT_GE(place->GetPosition().y, question->GetRect().GetBottom());
+    EXPECT_EQ(wxWindow::FindWindowByName("lblPlace", &dialog), nullptr) << "nothing to name";
 }
 
 TEST_P(frmMsgYesNoTest, EachQuestionIsAskedByADialogOfItsOwn) {
@@ -134,8 +146,8 @@ TEST_P(frmMsgYesNoTest, EachQuestionIsAskedByADialogOfItsOwn) {
     ModalScript operatorsHand;
     operatorsHand.act([](wxDialog& asked) { click(asked, "cmdYesNo2"); });
     operatorsHand.act([](wxDialog& asked) { asked.Close(); });
-    EXPECT_EQ(questions.ask("title", "one?"), Answer::All);
-    EXPECT_EQ(questions.ask("title", "two?"), Answer::Cancel);
+    EXPECT_EQ(questions.ask("title", "one?", ""), Answer::All);
+    EXPECT_EQ(questions.ask("title", "two?", ""), Answer::Cancel);
 }
 
 INSTANTIATE_TEST_SUITE_P(In, frmMsgYesNoTest, bothLanguages, languageName);

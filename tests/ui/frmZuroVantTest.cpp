@@ -253,6 +253,12 @@ TEST_P(MainWindowTest, ShowsTheFolderWithItsFullPathAsTip) {
     window.showFolder("/srv/jobs/");
     EXPECT_EQ(controls.trvFolderName->nodeText(), "jobs");
     EXPECT_EQ(controls.trvFolderName->GetToolTipText(), "/srv/jobs/");
+    // What the tree asks for when the pointer comes to its item; without an answer it shows none.
+    wxTreeEvent asked(wxEVT_TREE_ITEM_GETTOOLTIP, controls.trvFolderName,
+                      controls.trvFolderName->GetRootItem());
+    ASSERT_TRUE(controls.trvFolderName->GetEventHandler()->ProcessEvent(asked));
+    EXPECT_TRUE(asked.IsAllowed());
+    EXPECT_EQ(asked.GetLabel(), "/srv/jobs/");
 }
 
 TEST_P(MainWindowTest, AWindowThatNobodyMovedKeepsItsStoredPlace) {

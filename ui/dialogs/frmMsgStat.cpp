@@ -68,6 +68,8 @@ void frmMsgStat::buildControls() {
                           wxGA_HORIZONTAL | wxGA_SMOOTH, wxDefaultValidator, "pgbInf");
     lblWaiting_ =
         new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblWaiting");
+    lblPlace_ =
+        new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblPlace");
     cmdCancel_ = newCaptionButton(this, "", "cmdCancel");
 
     const int gap = FromDIP(8);
@@ -79,6 +81,8 @@ void frmMsgStat::buildControls() {
     column->Add(pgbInf_, whole);
     column->AddSpacer(gap);
     column->Add(lblWaiting_, whole);
+    column->AddSpacer(gap);
+    column->Add(lblPlace_, whole);
     column->AddSpacer(2 * gap);
     column->Add(cmdCancel_, wxSizerFlags().CentreHorizontal().ReserveSpaceEvenIfHidden());
     auto* const margins = new wxBoxSizer(wxVERTICAL);
@@ -132,6 +136,7 @@ void frmMsgStat::showTexts(const ProgressPanel& panel) {
         SetTitle(toWx(panel.title()));
     showText(*lblMsg_, panel.message());
     showText(*lblWaiting_, panel.waitingFor());
+    showText(*lblPlace_, panel.place());
     const auto caption = toWx(panel.cancelCaption());
     if (!caption.empty() && cmdCancel_->GetLabel() != caption)
         cmdCancel_->SetLabel(caption);

@@ -57,6 +57,7 @@ class frmMsgStat : public wxDialog, public ProgressView {
     wxStaticText* lblMsg_ = nullptr;
     wxGauge* pgbInf_ = nullptr;
     wxStaticText* lblWaiting_ = nullptr;
+    wxStaticText* lblPlace_ = nullptr;
     wxButton* cmdCancel_ = nullptr;
     bool placed_ = false;
 };

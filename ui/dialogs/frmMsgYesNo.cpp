@@ -28,12 +28,13 @@ constexpr std::size_t cancelIndex = std::size_t(Answer::Cancel);
 } // namespace
 
 frmMsgYesNo::frmMsgYesNo(wxWindow* parent, const std::string& title, const std::string& question,
-                         const MessageTable& messages, const ApplicationState& state)
+                         const std::string& place, const MessageTable& messages,
+                         const ApplicationState& state)
     : wxDialog(parent, wxID_ANY, toWx(title), wxDefaultPosition, wxDefaultSize,
                wxCAPTION | wxCLOSE_BOX, "frmMsgYesNo") {
     SetIcons(programIcons());
     auto* const column = new wxBoxSizer(wxVERTICAL);
-    column->Add(buildQuestion(question, state),
+    column->Add(buildQuestion(question, place, state),
                 wxSizerFlags(1).Expand().Border(wxALL, FromDIP(16)));
     column->Add(buildButtons(messages),
                 wxSizerFlags().CentreHorizontal().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(16)));
@@ -44,23 +45,33 @@ frmMsgYesNo::frmMsgYesNo(wxWindow* parent, const std::string& title, const std::
     CentreOnScreen();
 }
 
-wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const ApplicationState& state) {
+wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const std::string& place,
+                                    const ApplicationState& state) {
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     auto* const picture = new wxStaticBitmap(this, wxID_ANY, questionPicture());
     row->Add(picture, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(16)));
+    auto* const texts = new wxBoxSizer(wxVERTICAL);
+    texts->Add(newText(question, state, "lblMsg"), wxSizerFlags().Expand());
+    if (!place.empty())
+        texts->Add(newText(place, state, "lblPlace"),
+                   wxSizerFlags().Expand().Border(wxTOP, FromDIP(8)));
+    row->Add(texts, wxSizerFlags(1).CentreVertical());
+    return row;
+}
 
+wxStaticText* frmMsgYesNo::newText(const std::string& text, const ApplicationState& state,
+                                   const std::string& name) {
     const wxFont font = captionFont(state);
-    const auto widthOf = [this, &font](std::string_view text) {
+    const auto widthOf = [this, &font](std::string_view part) {
         int width = 0;
-        GetTextExtent(toWx(std::string(text)), &width, nullptr, nullptr, nullptr, &font);
+        GetTextExtent(toWx(std::string(part)), &width, nullptr, nullptr, nullptr, &font);
         return width;
     };
-    auto* const lblMsg =
-        new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0, "lblMsg");
-    lblMsg->SetFont(font);
-    lblMsg->SetLabelText(toWx(wrappedText(question, FromDIP(questionWidth), widthOf)));
-    row->Add(lblMsg, wxSizerFlags(1).CentreVertical());
-    return row;
+    auto* const label =
+        new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0, toWx(name));
+    label->SetFont(font);
+    label->SetLabelText(toWx(wrappedText(text, FromDIP(questionWidth), widthOf)));
+    return label;
 }
 
 wxSizer* frmMsgYesNo::buildButtons(const MessageTable& messages) {
@@ -87,8 +98,9 @@ void frmMsgYesNo::press(std::size_t index) {
         Hide();
 }
 
-Answer QuestionDialogs::ask(const std::string& title, const std::string& question) {
-    frmMsgYesNo dialog(dialogParent(), title, question, messages_, state_);
+Answer QuestionDialogs::ask(const std::string& title, const std::string& question,
+                            const std::string& place) {
+    frmMsgYesNo dialog(dialogParent(), title, question, place, messages_, state_);
     dialog.ShowModal();
     const int number = dialog.answerText().at(0) - '0';
     return number >= 0 && number <= int(Answer::Cancel) ? Answer(number) : Answer::Cancel;

@@ -8,6 +8,7 @@
 #include <wx/dialog.h>
 
 class wxButton;
+class wxStaticText;
 
 namespace vantrel {
 
@@ -17,15 +18,20 @@ class MessageTable;
 /// The question dialog with the answers Yes, No, All and Cancel.
 class frmMsgYesNo : public wxDialog {
   public:
+    /// `place` says below the question which controller is meant; an empty one leaves no room.
     frmMsgYesNo(wxWindow* parent, const std::string& title, const std::string& question,
-                const MessageTable& messages, const ApplicationState& state);
+                const std::string& place, const MessageTable& messages,
+                const ApplicationState& state);
 
     /// The number of the button that was pressed, as text. It is Cancel's until a button is
     /// pressed, so that any other end of the dialog is a Cancel.
     const std::string& answerText() const { return answerText_; }
 
   private:
-    wxSizer* buildQuestion(const std::string& question, const ApplicationState& state);
+    wxSizer* buildQuestion(const std::string& question, const std::string& place,
+                           const ApplicationState& state);
+    wxStaticText* newText(const std::string& text, const ApplicationState& state,
+                          const std::string& name);
     wxSizer* buildButtons(const MessageTable& messages);
     void press(std::size_t index);
 
@@ -39,7 +45,8 @@ class QuestionDialogs : public QuestionWindow {
     QuestionDialogs(const MessageTable& messages, const ApplicationState& state)
         : messages_(messages), state_(state) {}
 
-    Answer ask(const std::string& title, const std::string& question) override;
+    Answer ask(const std::string& title, const std::string& question,
+               const std::string& place) override;
 
   private:
     const MessageTable& messages_;

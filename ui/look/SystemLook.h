@@ -10,14 +10,6 @@ class wxWindow;
 
 namespace vantrel {
 
-/// The border of a list or tree that stands as a field. Those of the GTK port are drawn by the
-/// toolkit and have no themed border of their own.
-#ifdef __WXGTK__
-inline constexpr long fieldBorder = wxBORDER_SIMPLE;
-#else
-inline constexpr long fieldBorder = wxBORDER_THEME;
-#endif
-
 /// To be called before the toolkit starts: keeps it from loading what this program has no use for.
 void prepareSystem();
 
@@ -35,7 +27,8 @@ double textScale();
 /// Lets a button be as small as its image, where the system would give it a margin.
 void allowNarrow(wxWindow& button);
 
-/// Keeps scroll bars from a tree that shows one line only, which they would cover.
+/// Keeps scroll bars from a tree that shows one line only, which they would cover: it stands as a
+/// field, in a field's frame.
 void hideScrollBars(wxTreeCtrl& tree);
 
 /// Undoes that bringing an item into view has scrolled the tree sideways.

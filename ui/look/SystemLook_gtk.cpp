@@ -59,6 +59,8 @@ void allowNarrow(wxWindow& button) {
 
 void hideScrollBars(wxTreeCtrl& tree) {
     tree.ShowScrollbars(wxSHOW_SB_NEVER, wxSHOW_SB_NEVER);
+    // What scrolls has a list's frame, which this theme leaves out.
+    tree.SetWindowStyleFlag(tree.GetWindowStyleFlag() & ~(wxHSCROLL | wxVSCROLL));
 }
 
 // The toolkit's own tree scrolls up and down only.
