@@ -13,7 +13,7 @@
 namespace vantrel {
 namespace {
 
-/// In the program's folder: what an installation remembers, nothing to work in.
+/// Left out of every folder tree: what an installation remembers, nothing to work in.
 constexpr std::string_view programsOwnFolder = ".installed";
 
 std::int32_t listedSize(const FolderEntry& entry) {

@@ -38,8 +38,8 @@ bool isSameName(std::string_view left, std::string_view right, const PathRules& 
 
 FolderNode folderNode(std::string_view folder, const PathRules& rules) {
     if (rules.isRoot(folder))
-        return {rules.drive(folder), "drive"};
-    return {rules.lastName(rules.withoutTrailingSeparator(folder)), "open"};
+        return {rules.drive(folder), driveImage};
+    return {rules.lastName(rules.withoutTrailingSeparator(folder)), folderImage};
 }
 
 std::optional<std::size_t> driveOf(std::string_view folder, const std::vector<Drive>& drives,

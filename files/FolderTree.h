@@ -23,7 +23,7 @@ struct FolderNode {
 /// A root shows its drive ("C:", "\\server\share", "/"), any other folder its last name.
 FolderNode folderNode(std::string_view folder, const PathRules& rules = PathRules());
 
-/// Which of the drives a folder is on: of a medium and the drive that it is mounted on the medium.
+/// The drive that holds a folder, the innermost of several; nothing when none does.
 std::optional<std::size_t> driveOf(std::string_view folder, const std::vector<Drive>& drives,
                                    const PathRules& rules);
 

@@ -213,8 +213,7 @@ Answer MoveCommand::askOverwrite(const std::string& file, const std::string& job
                               .storedAs = job == file ? with_.session.storedAs() : std::string(),
                               .pcFile = PathRules().join(with_.state.PCPath, file),
                               .isOnPC = direction_ == Direction::Receive};
-    return with_.talk.ask(title_, overwriteQuestion(with_.messages, overwrite),
-                          overwriteFacts(with_.messages, overwrite, with_.progress));
+    return vantrel::askOverwrite(with_.talk, with_.messages, title_, overwrite);
 }
 
 /// An unset address concerns every file: the session has told the operator, and the command ends

@@ -74,7 +74,8 @@ Outcome FetchFiles::rename(const std::string& from, const std::string& to) {
 
 Outcome FetchFiles::giveName(const std::string& from, const std::string& to) {
     Outcome renamed = rename(from, to);
-    return anythingExists(from) ? renamed : Outcome(Done{});
+    const bool hasNewName = !anythingExists(from) && anythingExists(to);
+    return hasNewName ? Outcome(Done{}) : renamed;
 }
 
 Outcome FetchFiles::flush(const std::string& path) {

@@ -78,8 +78,9 @@ bool InterruptedFetches::settle(const std::string& folder, const std::vector<std
             continue;
         Look look = lookAt(files_, path, name);
         if (look.isUnusable) {
-            told.push_back(describeUnusable(name, names));
-            told_.insert(path);
+            // It may become readable, and is settled then.
+            if (toldUnusable_.insert(path).second)
+                told.push_back(describeUnusable(name, names));
         } else if (look.held) {
             const bool isOver = files_.isHeldAlone(*look.held);
             told.push_back(isOver ? settleOne(folder, look.mark) : describe(folder, look.mark));

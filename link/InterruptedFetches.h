@@ -60,8 +60,9 @@ class InterruptedFetches {
     FetchFiles& files_;
     const MessageTable& messages_;
     OperatorTalk& talk_;
-    std::set<std::string> told_; ///< paths of marks that stay
-    std::string running_;        ///< path of this program's own mark, or empty
+    std::set<std::string> told_;         ///< paths of marks that stay, of which the text was read
+    std::set<std::string> toldUnusable_; ///< of those that could not be read
+    std::string running_;                ///< path of this program's own mark, or empty
 };
 
 } // namespace vantrel

@@ -115,6 +115,8 @@ bool JobFetch::receiveOver(std::int16_t handle, const std::string& name,
     if (file.problem() != 0) {
         tools_.link.disconnect(handle);
         tools_.error.set(file.problem(), "", index);
+        if (file.problem() == session_code::markUnusable)
+            tools_.error.mark = FetchMark::fileNameFor(name);
         return false;
     }
     if (!receiveInto(file, handle, libraryName, index)) {

@@ -240,6 +240,11 @@ bool JobSend::transmit(const std::string& file, const std::string& libraryName,
     const std::int16_t handle = tools_.link.connect();
     if (handle < 0)
         return false;
+    // Connecting takes long and lets events run: somebody may have begun to fetch the file.
+    if (const auto code = interrupted_.forbidsSending(tools_.properties.path, file); code != 0) {
+        tools_.link.disconnect(handle);
+        return accept(code, file, index);
+    }
     const std::int16_t sent = tools_.link.library().BscDownLoad(handle, libraryName.c_str());
     if (sent == 0)
         replaced(arrivesAs);

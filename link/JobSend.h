@@ -3,8 +3,8 @@
 #include "link/TransferTools.h"
 
 #include <cstdint>
-#include <optional>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 

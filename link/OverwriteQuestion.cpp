@@ -12,7 +12,7 @@ namespace vantrel {
 
 namespace {
 
-/// A language file that was made for an earlier version lacks some.
+/// An empty line leaves nothing: a language file made for an earlier version lacks some texts.
 void addLine(std::string& lines, const std::string& line) {
     if (!lines.empty() && !line.empty())
         lines += '\n';
@@ -31,9 +31,7 @@ std::string itemFacts(const MessageTable& messages, const ProgressPanel& progres
     return item + "  " + messages.getMessageWithInsertion(message::allMeans, std::to_string(left));
 }
 
-} // namespace
-
-std::string overwriteQuestion(const MessageTable& messages, const Overwrite& overwrite) {
+std::string questionText(const MessageTable& messages, const Overwrite& overwrite) {
     std::string text = shownText(overwrite.name) + " " +
                        messages.resourceMessage(message::resource::alreadyExists);
     if (!overwrite.storedAs.empty())
@@ -41,6 +39,8 @@ std::string overwriteQuestion(const MessageTable& messages, const Overwrite& ove
                 messages.getMessage(message::storedUnderOtherName);
     return text;
 }
+
+} // namespace
 
 std::string overwriteFacts(const MessageTable& messages, const Overwrite& overwrite,
                            const ProgressPanel& progress) {
@@ -54,12 +54,16 @@ std::string overwriteFacts(const MessageTable& messages, const Overwrite& overwr
     return facts;
 }
 
+Answer askOverwrite(OperatorTalk& talk, const MessageTable& messages, const std::string& title,
+                    const Overwrite& overwrite) {
+    return talk.ask(title, questionText(messages, overwrite),
+                    overwriteFacts(messages, overwrite, talk.progress()));
+}
+
 TransferOutcome OverwriteQuestion::ask(const Overwrite& overwrite) const {
     if (!properties_.DisplayMonitor)
         return TransferOutcome::Cancelled;
-    const std::string question = overwriteQuestion(messages_, overwrite);
-    const std::string facts = overwriteFacts(messages_, overwrite, talk_.progress());
-    switch (talk_.ask(properties_.MonitorTitle, question, facts)) {
+    switch (askOverwrite(talk_, messages_, properties_.MonitorTitle, overwrite)) {
     case Answer::Yes:
         return TransferOutcome::Done;
     case Answer::No:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "link/OperatorTalk.h"
 #include "link/TransferTools.h"
 
 #include <string>
@@ -7,7 +8,6 @@
 namespace vantrel {
 
 class MessageTable;
-class OperatorTalk;
 class ProgressPanel;
 struct SessionProperties;
 
@@ -21,12 +21,14 @@ struct Overwrite {
     bool isOnPC = false; ///< what is replaced
 };
 
-std::string overwriteQuestion(const MessageTable& messages, const Overwrite& overwrite);
-
 /// What the operator may want to know before the answer: size and date of the file on the PC, which
 /// side loses its file, and of how many items this is which.
 std::string overwriteFacts(const MessageTable& messages, const Overwrite& overwrite,
                            const ProgressPanel& progress);
+
+/// Asks whether to replace it, with these facts below the question.
+Answer askOverwrite(OperatorTalk& talk, const MessageTable& messages, const std::string& title,
+                    const Overwrite& overwrite);
 
 /// The session's question whether something that is already there is to be overwritten.
 class OverwriteQuestion {

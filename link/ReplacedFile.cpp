@@ -73,10 +73,15 @@ std::int16_t ReplacedFile::setMark(bool takesMarkOver) {
     if (!held)
         return session_code::fetchNotMarked;
     const auto before = held->read();
-    const bool isFree =
-        before && (!FetchMark::parse(*before) || (takesMarkOver && !files_.isHeldAlone(*held)));
-    if (!isFree)
+    if (!before)
         return session_code::fetchNotMarked;
+    if (!FetchMark::parse(*before)) {
+        // What no program left half written tells of something: it goes on forbidding the file.
+        if (!FetchMark::isTorn(*before))
+            return session_code::markUnusable;
+    } else if (!takesMarkOver || files_.isHeldAlone(*held)) {
+        return session_code::fetchNotMarked;
+    }
     held_ = std::move(*held);
     return files_.write(*held_, mark_.format()) ? noProblem : session_code::fetchNotMarked;
 }
@@ -133,7 +138,10 @@ Outcome ReplacedFile::removePartial() {
 }
 
 Outcome ReplacedFile::bringBack() {
-    return files_.giveName(pathOf(mark_.aside), pathOf(mark_.name));
+    const Outcome renamed = files_.rename(pathOf(mark_.aside), pathOf(mark_.name));
+    // What has its name again, and only is not known to be on the disk with it, is back all the
+    // same.
+    return renamed || !mark_.describes(pathOf(mark_.name)) ? renamed : Outcome(Done{});
 }
 
 // One that cannot be removed is settled at the next look at the folder.

@@ -127,6 +127,13 @@ Result<bool> removeFileIf(const std::string& path, const std::string& spare,
     // one.
     if (anythingExists(spare))
         return systemFailure(EEXIST);
+    // Only what may go is ever seen under the spare name, so that a program that ends here hides
+    // nothing else.
+    const auto found = readFile(path);
+    if (!found)
+        return Failure{found.reason()};
+    if (!mayGo(*found))
+        return false;
     if (::rename(path.c_str(), spare.c_str()) != 0)
         return systemFailure(errno);
     const auto content = readFile(spare);

@@ -387,7 +387,7 @@ def chosen_texts(options):
     for file in sorted((str(path) for path in source_files(options.source)),
                        key=lambda file: (harm.index(room_of(file)) if room_of(file) in harm else 0, file)):
         room, _, name = file.partition("/")
-        if room in rooms and name.endswith(".cpp") and not name.endswith("_windows.cpp") and "/" not in name:
+        if room in rooms and name.endswith(".cpp") and not name.endswith("_windows.cpp"):
             if not options.file or file in options.file:
                 texts[file] = (options.source / file).read_text()
     if not texts:

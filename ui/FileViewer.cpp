@@ -1,6 +1,6 @@
 #include "ui/FileViewer.h"
 
-#include "ui/PortControls.h"
+#include "ui/NativeControls.h"
 #include "ui/look/WxText.h"
 
 namespace vantrel {

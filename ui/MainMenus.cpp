@@ -1,7 +1,7 @@
 #include "ui/MainMenus.h"
 
 #include "lang/MessageTable.h"
-#include "ui/PortControls.h"
+#include "ui/NativeControls.h"
 #include "ui/look/WxText.h"
 
 #include <algorithm>

@@ -9,9 +9,9 @@ class wxWindow;
 
 namespace vantrel {
 
-/// The one place that refuses the operator's actions while an operation runs: as long as it is
-/// locked, no command, key, choice, mouse press, timer or close reaches the guarded window or
-/// anything in it. Other windows (progress, questions, message boxes) are not touched.
+/// The one place that refuses the operator's actions while an operation runs, or for a moment: as
+/// long as it is locked, no command, key, choice, mouse press, timer or close reaches the guarded
+/// window or anything in it. Other windows (progress, questions, message boxes) are not touched.
 class OperationGuard : public wxEventFilter {
   public:
     /// `busy` is true as long as an operation runs; nobody else writes it.

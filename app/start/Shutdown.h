@@ -16,7 +16,8 @@ struct ApplicationState;
 class ShutdownWindows {
   public:
     virtual ~ShutdownWindows() = default;
-    /// An operation runs: `tlbMain` is disabled.
+    /// The operator's actions are refused: an operation runs, or windows are being built or
+    /// painted.
     virtual bool isLocked() const = 0;
     /// `FrmMessage`, `frmSetting`, `frmListFile` and `frmVers`. The progress and question dialogs
     /// are the session's, which lets go of them when it quits.

@@ -15,12 +15,15 @@ using testing::IsEmpty;
 /// Somebody saves the file in the moment between the look at what is on the disk and its removal.
 struct SavedSourceTest : tests::CommandFixture {
     std::function<void()> save;
+    int savesAtLook = 2; ///< the first is at the file under its own name
+    int looks = 0;
     SentSources sources{{state, session, panes, window, table, messages, progress, talk},
                         [this](const std::string& path, const std::string& spare,
                                const std::function<bool(const std::string&)>& mayGo) {
                             return removeFileIf(path, spare, [&](const std::string& content) {
                                 const bool goes = mayGo(content);
-                                save();
+                                if (++looks == savesAtLook)
+                                    save();
                                 return goes;
                             });
                         }};
@@ -54,13 +57,25 @@ TEST_F(SavedSourceTest, WhatIsSavedThenStaysAndIsTold) {
     EXPECT_THAT(boxes.texts(), ElementsAre("[A.JBI] changed meanwhile, stays"));
 }
 
+TEST_F(SavedSourceTest, WhatIsSavedBeforeTheFileIsSetAsideStaysAndIsTold) {
+    pcJob("A");
+    savesAtLook = 1;
+    save = [this] { pcJob("A", "2"); };
+    sendAndRemove();
+    EXPECT_FALSE(sources.allWent());
+    EXPECT_EQ(pc.read("A.JBI"), job("A", "2"));
+    EXPECT_FALSE(pc.has("A.JBI.sent-1"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("[A.JBI] changed meanwhile, stays"));
+}
+
 TEST_F(SavedSourceTest, OfTwoNewerVersionsNoneIsLost) {
     pcJob("A");
-    save = [this] { pcJob("A", "3"); };
-    library.onCall = [this](const std::string& function) {
-        if (function == "BscDownLoad")
-            pcJob("A", "2");
+    int saved = 1;
+    save = [&] {
+        pcJob("A", std::to_string(++saved));
+        savesAtLook = 2;
     };
+    savesAtLook = 1;
     sendAndRemove();
     EXPECT_FALSE(sources.allWent());
     EXPECT_EQ(pc.read("A.JBI"), job("A", "3"));

@@ -291,6 +291,25 @@ TEST_F(InterruptedFetchesTest, AMarkThatMayNotBeOpenedIsToldOnce) {
     EXPECT_EQ(contentOf(job), "half");
 }
 
+TEST_F(InterruptedFetchesTest, AMarkThatCanBeReadAtLastIsSettled) {
+    const std::string mark = FetchMark::fileNameFor(job);
+    world.pc.write(job, "half");
+    world.pc.write("A.JBI.replaced-1", "old");
+    FetchMark file{.name = job, .aside = "A.JBI.replaced-1"};
+    file.describeOld("old");
+    world.pc.write(mark, file.format());
+    tests::FailingFiles failing;
+    failing.failsTake = true;
+    InterruptedFetches fetches(failing, world.messages, world.talk);
+    EXPECT_TRUE(fetches.settle(world.pc.path(), names()));
+    EXPECT_EQ(fetches.forbidsSending(world.pc.path(), job), session_code::markUnusable);
+    failing.failsTake = false;
+    EXPECT_EQ(fetches.forbidsSending(world.pc.path(), job), session_code::fileNotReadable);
+    EXPECT_TRUE(fetches.settle(world.pc.path(), names()));
+    EXPECT_EQ(contentOf(job), "old");
+    EXPECT_EQ(fetches.forbidsSending(world.pc.path(), job), 0);
+}
+
 TEST_F(InterruptedFetchesTest, ATornMarkThatCannotBeRemovedIsToldOnce) {
     const std::string mark = FetchMark::fileNameFor(job);
     world.pc.write(job, "mine");

@@ -233,6 +233,35 @@ TEST_F(JobFetchTest, WhatAKilledProgramLeftIsPutBackFirstAndAskedFor) {
     EXPECT_THAT(world.boxes.texts(), ElementsAre("[WELD.JBI] interrupted; old back"));
 }
 
+TEST_F(JobFetchTest, AMarkThatCannotBeReadIsNotWrittenOver) {
+    const std::string mark = FetchMark::fileNameFor("WELD.JBI");
+    for (const std::string content : {"?", "Vantrel fetch 2\nWELD.JBI\nend\n"}) {
+        world.pc.write("WELD.JBI", "half");
+        world.pc.write(mark, content);
+        EXPECT_FALSE(fetch("WELD.JBI", true));
+        EXPECT_EQ(world.error(), " 47 0");
+        EXPECT_EQ(world.session->unusableMark(), mark);
+        EXPECT_EQ(world.pc.read("WELD.JBI"), "half");
+        EXPECT_EQ(world.pc.read(mark), content);
+        EXPECT_FALSE(world.session->JobDownLoad("WELD.JBI", true)) << "and goes on forbidding";
+        EXPECT_EQ(world.controller().bytes("WELD.JBI"), weld);
+    }
+    EXPECT_EQ(world.library.callCount("BscUpLoad"), 0);
+}
+
+TEST_F(JobFetchTest, AnOldFileThatIsGoneIsNotTakenForOneThatIsBack) {
+    world.pc.write("WELD.JBI", "old");
+    world.library.disturb({.function = "BscUpLoad", .code = 3010});
+    world.library.onCall = [this](const std::string& function) {
+        if (function != "BscUpLoad")
+            return;
+        world.pc.write("WELD.JBI", "ne");
+        std::filesystem::remove(world.pc.path("WELD.JBI.replaced-1"));
+    };
+    EXPECT_FALSE(fetch("WELD.JBI", true));
+    EXPECT_THAT(world.boxes.texts(), ElementsAre("[WELD.JBI] kept as [WELD.JBI.replaced-1]"));
+}
+
 /// The operator deleted the file, and did not mean its old version to come back.
 TEST_F(JobFetchTest, AnOldVersionWithoutAMarkIsNeverPutBack) {
     world.pc.write("WELD.JBI.replaced-1", "old");

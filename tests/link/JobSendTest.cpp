@@ -595,6 +595,20 @@ TEST_F(FetchedJobSendTest, IsRefusedWhenTheFetchBeganDuringTheQuestion) {
     expectRefused();
 }
 
+TEST_F(FetchedJobSendTest, OneThatBeginsWhileTheSendConnectsKeepsADataFileBackToo) {
+    const std::string data = FetchMark::fileNameFor("TOOL.CND");
+    world.pc.write("TOOL.CND", "half");
+    world.controller().put("TOOL.CND", "whole");
+    world.library.onCall = [&](const std::string& function) {
+        if (function == "BscConnect")
+            world.pc.write(data, FetchMark{.name = "TOOL.CND"}.format());
+    };
+    EXPECT_FALSE(send("TOOL.CND", true));
+    EXPECT_EQ(world.error(), " 21 0");
+    EXPECT_EQ(world.controller().bytes("TOOL.CND"), "whole");
+    EXPECT_EQ(world.library.openLinks(), 0);
+}
+
 TEST_F(FetchedJobSendTest, OneThatTheOperatorWasToldOfIsSent) {
     world.services.files = &files;
     world.session = std::make_unique<Snappy>(world.services);

@@ -113,11 +113,11 @@ struct FixedMessage {
     const char* source;
 };
 
-constexpr FixedMessage fixedMessages[] = {{"File Get Error!!", "files/PaneErrors.h"},
-                                          {"File Dispaly Error!!", "files/PaneErrors.h"},
-                                          {"Start Error.", "app/StartRoutine.cpp"},
+constexpr FixedMessage fixedMessages[] = {{"File Get Error!!", "files/PaneRefresh.h"},
+                                          {"File Dispaly Error!!", "files/PaneRefresh.h"},
+                                          {"Start Error.", "app/start/StartRoutine.cpp"},
                                           {"Language File Read Error.", "lang/LanguageChoice.cpp"},
-                                          {"Error(", "app/RobotFileReader.cpp"}};
+                                          {"Error(", "app/robots/RobotFile.cpp"}};
 
 constexpr Manual manuals[] = {{{"English"}, "Zurolink_us.adoc", "English.lng", "en"},
                               {{"Japanese"}, "Zurolink_jp.adoc", "Japanese.lng", "ja"}};
@@ -230,7 +230,7 @@ TEST_P(ManualText, GivesEveryMenuEntryItsKeys) {
 }
 
 TEST_P(ManualText, NamesEveryAcceleratorOfTheMenus) {
-    const auto menus = contentOf("app/Commands.cpp");
+    const auto menus = contentOf("app/commands/Commands.cpp");
     const auto accelerators = matches(menus, R"-(\.key = "([^"]+)")-");
     EXPECT_THAT(accelerators, testing::Not(IsEmpty()));
     const auto listed = tables("keys");

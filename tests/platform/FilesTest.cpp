@@ -164,6 +164,16 @@ TEST_F(RemoveFileIfTest, WhatMayNotGoStaysUnderItsName) {
     EXPECT_EQ(folder.read("A.JBI"), "sent");
 }
 
+TEST_F(RemoveFileIfTest, WhatMayNotGoIsNeverSeenUnderTheSpareName) {
+    bool seen = false;
+    const auto removed = removeFileIf(path, spare, [&](const std::string&) {
+        seen = seen || folder.has("A.JBI.sent-1");
+        return false;
+    });
+    ASSERT_TRUE(removed) << removed.reason();
+    EXPECT_FALSE(seen);
+}
+
 TEST_F(RemoveFileIfTest, WhatIsNoFileIsAFailureAndStays) {
     const auto all = [](const std::string&) { return true; };
     folder.makeFolder("SUB");

@@ -6,7 +6,7 @@ set -euo pipefail
 script=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)/scripts/mutation.py
 work=$1
 rm -rf "$work"
-mkdir -p "$work/link" "$work/tests"
+mkdir -p "$work/link/rules" "$work/tests"
 cd "$work"
 
 fail() {
@@ -15,7 +15,7 @@ fail() {
     exit 1
 }
 
-cat >link/Hours.cpp <<'END'
+cat >link/rules/Hours.cpp <<'END'
 // A comment with if (hour > 17) and a text are no code.
 const char* title = "return hour > 17;";
 
@@ -48,7 +48,7 @@ END
 cat >CMakeLists.txt <<'END'
 cmake_minimum_required(VERSION 3.25)
 project(Toy LANGUAGES CXX)
-add_executable(link_tests link/Hours.cpp tests/HoursTest.cpp)
+add_executable(link_tests link/rules/Hours.cpp tests/HoursTest.cpp)
 END
 cat >CMakePresets.json <<'END'
 { "version": 6, "configurePresets": [
@@ -57,7 +57,7 @@ END
 
 said() { grep -qF -- "$1" output; }
 outcome() { # of the change $1
-    grep -B1 -F -- "link/Hours.cpp | $1" output | head -n 1 | sed 's/^[^:]*:[0-9]*: [^:]*: //'
+    grep -B1 -F -- "link/rules/Hours.cpp | $1" output | head -n 1 | sed 's/^[^:]*:[0-9]*: [^:]*: //'
 }
 is() {
     [ "$(outcome "$1")" = "$2" ] || fail "'$1' is '$(outcome "$1")' and not '$2'"
@@ -71,23 +71,23 @@ is 'return hour > 17; => return hour > 18;' 'killed by HoursTest.TellsLateFromEa
 is 'return hour > 17; => return {};' 'killed by HoursTest.TellsLateFromEarly'
 is '++count; => ;' 'killed by timeout in link_tests'
 said 'const char* title' && fail "a text was changed"
-cmp -s link/Hours.cpp build/mutation/tree/link/Hours.cpp || fail "the copy keeps a change"
+cmp -s link/rules/Hours.cpp build/mutation/tree/link/rules/Hours.cpp || fail "the copy keeps a change"
 
 cp output first
 run --resume --first-red --own-tests && fail "a survivor that is taken over is still one"
 diff <(grep '|' first) <(grep '|' output) >/dev/null || fail "the same seed made other changes"
 
 # What the lines explain is none, wherever it stands now; every other one still is.
-sed -n 's/^    \(link\/Hours.cpp | .*\)$/\1/p' <(grep -A1 ': survived$' output) | sort -u |
+sed -n 's/^    \(link\/rules\/Hours.cpp | .*\)$/\1/p' <(grep -A1 ': survived$' output) | sort -u |
     sed 's/$/ | nobody works at the border/' >tests/mutation-survivors.txt
-echo 'link/Hours.cpp | gone(); => ; | it was there once' >>tests/mutation-survivors.txt
-sed -i '1i // One line more above.' link/Hours.cpp
+echo 'link/rules/Hours.cpp | gone(); => ; | it was there once' >>tests/mutation-survivors.txt
+sed -i '1i // One line more above.' link/rules/Hours.cpp
 run || fail "an explained survivor is a failure"
 is "$border" explained
-said 'No longer there, so its line can go: link/Hours.cpp | gone(); => ;' || fail "an outdated line is not named"
+said 'No longer there, so its line can go: link/rules/Hours.cpp | gone(); => ;' || fail "an outdated line is not named"
 sed -i 's/!isLate(9)/!isLate(17)/' tests/HoursTest.cpp
 run --resume || fail "a survivor is not tried again when its test is there"
 is "$border" 'killed by HoursTest.TellsLateFromEarly'
-echo 'link/Hours.cpp | without a reason' >tests/mutation-survivors.txt
+echo 'link/rules/Hours.cpp | without a reason' >tests/mutation-survivors.txt
 run --list && fail "a line without a reason is accepted"
 echo "Killed, survived, explained, endless and taken over: each is told."

@@ -259,7 +259,7 @@ TEST_F(StartOfProgramTest, RobotsWhoseFoldersAreGoneAreListedAndNamedWhenChosen)
     EXPECT_EQ(controls().cmbRbtName->GetCount(), 2u);
     EXPECT_EQ(controls().cmbRbtName->GetStringSelection(), "SECOND");
     EXPECT_EQ(pcList().GetItemText(0), "A.JBI");
-    expectBox("[FIRST] The folder of this robot could not be opened. The folder shown stays.");
+    expectBox("[FIRST] The folder of this robot could not be opened. The current folder is kept.");
     window().onRobotChosen(0);
     EXPECT_EQ(pcList().GetItemText(0), "A.JBI");
     EXPECT_EQ(controls().lblIPAddr2->GetLabel(), "10.0.0.1");

@@ -28,13 +28,13 @@ constexpr std::size_t cancelIndex = std::size_t(Answer::Cancel);
 } // namespace
 
 frmMsgYesNo::frmMsgYesNo(wxWindow* parent, const std::string& title, const std::string& question,
-                         const std::string& place, const MessageTable& messages,
+                         const std::string& note, const MessageTable& messages,
                          const ApplicationState& state)
     : wxDialog(parent, wxID_ANY, toWx(title), wxDefaultPosition, wxDefaultSize,
                wxCAPTION | wxCLOSE_BOX, "frmMsgYesNo") {
     SetIcons(programIcons());
     auto* const column = new wxBoxSizer(wxVERTICAL);
-    column->Add(buildQuestion(question, place, state),
+    column->Add(buildQuestion(question, note, state),
                 wxSizerFlags(1).Expand().Border(wxALL, FromDIP(16)));
     column->Add(buildButtons(messages),
                 wxSizerFlags().CentreHorizontal().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(16)));
@@ -45,15 +45,15 @@ frmMsgYesNo::frmMsgYesNo(wxWindow* parent, const std::string& title, const std::
     CentreOnScreen();
 }
 
-wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const std::string& place,
+wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const std::string& note,
                                     const ApplicationState& state) {
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     auto* const picture = new wxStaticBitmap(this, wxID_ANY, questionPicture());
     row->Add(picture, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(16)));
     auto* const texts = new wxBoxSizer(wxVERTICAL);
     texts->Add(newText(question, state, "lblMsg"), wxSizerFlags().Expand());
-    if (!place.empty())
-        texts->Add(newText(place, state, "lblPlace"),
+    if (!note.empty())
+        texts->Add(newText(note, state, "lblPlace"),
                    wxSizerFlags().Expand().Border(wxTOP, FromDIP(8)));
     row->Add(texts, wxSizerFlags(1).CentreVertical());
     return row;
@@ -99,8 +99,8 @@ void frmMsgYesNo::press(std::size_t index) {
 }
 
 Answer QuestionDialogs::ask(const std::string& title, const std::string& question,
-                            const std::string& place) {
-    frmMsgYesNo dialog(dialogParent(), title, question, place, messages_, state_);
+                            const std::string& note) {
+    frmMsgYesNo dialog(dialogParent(), title, question, note, messages_, state_);
     dialog.ShowModal();
     const int number = dialog.answerText().at(0) - '0';
     return number >= 0 && number <= int(Answer::Cancel) ? Answer(number) : Answer::Cancel;

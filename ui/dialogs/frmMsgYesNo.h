@@ -18,9 +18,9 @@ class MessageTable;
 /// The question dialog with the answers Yes, No, All and Cancel.
 class frmMsgYesNo : public wxDialog {
   public:
-    /// `place` says below the question which controller is meant; an empty one leaves no room.
+    /// `note` stands below the question, as in `QuestionWindow`; an empty one leaves no room.
     frmMsgYesNo(wxWindow* parent, const std::string& title, const std::string& question,
-                const std::string& place, const MessageTable& messages,
+                const std::string& note, const MessageTable& messages,
                 const ApplicationState& state);
 
     /// The number of the button that was pressed, as text. It is Cancel's until a button is
@@ -28,7 +28,7 @@ class frmMsgYesNo : public wxDialog {
     const std::string& answerText() const { return answerText_; }
 
   private:
-    wxSizer* buildQuestion(const std::string& question, const std::string& place,
+    wxSizer* buildQuestion(const std::string& question, const std::string& note,
                            const ApplicationState& state);
     wxStaticText* newText(const std::string& text, const ApplicationState& state,
                           const std::string& name);
@@ -46,7 +46,7 @@ class QuestionDialogs : public QuestionWindow {
         : messages_(messages), state_(state) {}
 
     Answer ask(const std::string& title, const std::string& question,
-               const std::string& place) override;
+               const std::string& note) override;
 
   private:
     const MessageTable& messages_;

@@ -1,5 +1,5 @@
 #include "base/Text.h"
-#include "ui/PortControls.h"
+#include "ui/NativeControls.h"
 
 #include <utility>
 

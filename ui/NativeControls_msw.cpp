@@ -1,4 +1,4 @@
-#include "ui/PortControls.h"
+#include "ui/NativeControls.h"
 #include "ui/look/WxText.h"
 
 #include <limits>
