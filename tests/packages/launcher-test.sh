@@ -117,16 +117,26 @@ expect_text "$work/started" "|one"
 begin UpgradeThatFailsStartsTheProgramAndIsTriedAgain
 start
 printf 'mine\n' >"$own/English.lng"
-mkdir "$own/.installed/English.lng.part" # what a full disk would do
+mkdir "$own/.installed/English.lng.new" # what a full disk would do
 upgrade 1.1.0
 start 2>"$work/reason"
 expect_text "$work/started" "$own|"
 expect_text "$own/.version" 1.0.0
-expect_no_file "$own/.installed/English.lng.new"
-rm -r "$own/.installed/English.lng.part"
+[ -s "$work/reason" ] || fail "no reason is given"
+[ -z "$(find "$own/.installed" -name '*.part')" ] || fail "a part is left"
+rmdir "$own/.installed/English.lng.new"
 start
 expect_text "$own/.installed/English.lng.new" 1.1.0
 expect_text "$own/.version" 1.1.0
+
+begin UpgradeLeavesThePartsOfAnotherOneAlone
+start
+printf 'half' >"$own/.installed/English.lng.part"
+upgrade 1.1.0
+start
+expect_text "$own/.installed/English.lng.part" half
+expect_text "$own/.installed/English.lng.new" 1.1.0
+[ "$(find "$own/.installed" -name '*.part' | wc -l)" -eq 1 ] || fail "a part is left"
 
 begin TwoFirstStartsAtOnceShareOneFolder
 start &
