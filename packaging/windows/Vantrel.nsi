@@ -56,8 +56,8 @@ VIAddVersionKey /LANG=${LANG_ENGLISH} "FileDescription" "Installer of Vantrel"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "FileVersion" "${VERSION}"
 VIAddVersionKey /LANG=${LANG_ENGLISH} "LegalCopyright" "Copyright (c) 2026 The Vantrel maintainers"
 
-; The program, and what it puts into its places at its next start (app/DeliveredFiles.h): nothing
-; that the operator may have changed is touched here.
+; The program, and what it puts into its places at its next start (app/start/DeliveredFiles.h):
+; nothing that the operator may have changed is touched here.
 !macro InstallProgram FOLDER
     SetOverwrite on
     SetOutPath "$INSTDIR\${FOLDER}\.installed"
@@ -135,8 +135,8 @@ Section "Uninstall"
     Delete "$INSTDIR\Vantrel\*.lng"
     Delete "$INSTDIR\Vantrel\*.ico"
     Delete "$INSTDIR\Vantrel\FileTable.*"
-    Delete "$INSTDIR\Vantrel\*.old"
-    Delete "$INSTDIR\Vantrel\*.old?"
+    Delete "$INSTDIR\Vantrel\*.lng.old*"
+    Delete "$INSTDIR\Vantrel\*.ico.old*"
     RMDir /r "$INSTDIR\Vantrel\.installed"
     RMDir /r "$INSTDIR\Trial"
 keep:

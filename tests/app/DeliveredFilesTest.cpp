@@ -4,6 +4,9 @@
 #include "platform/Files.h"
 #include "support/TemporaryFolder.h"
 
+#include <filesystem>
+#include <fstream>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -125,16 +128,123 @@ TEST_F(DeliveredFilesTest, WhatIsKeptAlreadyIsNotKeptTwice) {
     EXPECT_FALSE(folder_.has("English.lng.old3"));
 }
 
-TEST_F(DeliveredFilesTest, TheLastOfNineKeptTextsGivesWay) {
+TEST_F(DeliveredFilesTest, NoKeptTextEverGivesWay) {
     folder_.write("English.lng.old", "kept");
-    for (int number = 2; number <= 9; ++number)
+    for (int number = 2; number <= 11; ++number)
         folder_.write("English.lng.old" + std::to_string(number), "kept");
     folder_.write("English.lng", "mine");
     deliver("English.lng", "two");
+    EXPECT_THAT(takePlaces(), ElementsAre());
+    for (int number = 2; number <= 11; ++number)
+        EXPECT_EQ(folder_.read("English.lng.old" + std::to_string(number)), "kept") << number;
+    EXPECT_EQ(folder_.read("English.lng.old12"), "mine");
+    EXPECT_EQ(folder_.read("English.lng"), "two");
+}
+
+TEST_F(DeliveredFilesTest, AChangedTextIsKeptBesideAFolderOfItsName) {
+    folder_.makeFolder("English.lng.old");
+    folder_.write("English.lng", "mine");
+    deliver("English.lng", "two");
+    EXPECT_THAT(takePlaces(), ElementsAre());
+    EXPECT_EQ(folder_.read("English.lng.old2"), "mine");
+    EXPECT_EQ(folder_.read("English.lng"), "two");
+}
+
+// Else each later start would find the operator's next change and undo that one too.
+TEST_F(DeliveredFilesTest, NothingIsTouchedUnlessItCanBeRememberedAfterwards) {
+    folder_.makeFolder(".installed/English.lng");
+    folder_.write("English.lng", "mine");
+    deliver("English.lng", "two");
+    const auto failed = takePlaces();
+    ASSERT_EQ(failed.size(), 1u);
+    EXPECT_THAT(failed[0], testing::StartsWith(folder_.path("English.lng") + ": "));
+    EXPECT_EQ(folder_.read("English.lng"), "mine");
+    EXPECT_FALSE(folder_.has("English.lng.old"));
+    EXPECT_TRUE(isWaiting("English.lng"));
+}
+
+TEST_F(DeliveredFilesTest, WhatIsRememberedAndWriteProtectedLeavesTheTextAlone) {
+    inPlace("English.lng", "one");
+    folder_.write("English.lng", "mine");
+    deliver("English.lng", "two");
+    const std::filesystem::path remembered = folder_.path(".installed/English.lng");
+    std::filesystem::permissions(remembered, std::filesystem::perms::owner_read);
+    const bool bindsUs = !std::ofstream(remembered, std::ios::app).is_open();
+    EXPECT_EQ(takePlaces().size(), bindsUs ? 1u : 0u);
+    EXPECT_EQ(folder_.read("English.lng"), bindsUs ? "mine" : "two");
+    EXPECT_EQ(folder_.has("English.lng.old"), !bindsUs);
+    EXPECT_EQ(isWaiting("English.lng"), bindsUs);
+    std::filesystem::permissions(remembered, std::filesystem::perms::owner_all);
+}
+
+TEST_F(DeliveredFilesTest, NothingIsTouchedWhereThePlacingCannotBegin) {
+    folder_.makeFolder(".installed/English.lng.placing/inner");
+    inPlace("English.lng", "one");
+    folder_.write("English.lng", "mine");
+    deliver("English.lng", "two");
+    EXPECT_EQ(takePlaces().size(), 1u) << "named once";
+    EXPECT_EQ(folder_.read("English.lng"), "mine");
+    EXPECT_FALSE(folder_.has("English.lng.old"));
+    EXPECT_TRUE(isWaiting("English.lng"));
+}
+
+TEST_F(DeliveredFilesTest, APlacingThatWasCutShortIsEndedAtTheNextStart) {
+    inPlace("English.lng", "one");
+    folder_.write("English.lng", "mine");
+    folder_.write(".installed/English.lng.placing", "two");
+    EXPECT_THAT(takePlaces(), ElementsAre());
+    EXPECT_EQ(folder_.read("English.lng"), "two");
+    EXPECT_EQ(folder_.read("English.lng.old"), "mine");
+    EXPECT_EQ(folder_.read(".installed/English.lng"), "two");
+    EXPECT_FALSE(folder_.has(".installed/English.lng.placing"));
+}
+
+TEST_F(DeliveredFilesTest, APlacingThatOnlyLacksItsMemoryKeepsNothing) {
+    inPlace("English.lng", "one");
+    folder_.write("English.lng", "two");
+    folder_.write(".installed/English.lng.placing", "two");
+    EXPECT_THAT(takePlaces(), ElementsAre());
+    EXPECT_EQ(folder_.read(".installed/English.lng"), "two");
+    EXPECT_FALSE(folder_.has(".installed/English.lng.placing"));
+    EXPECT_FALSE(folder_.has("English.lng.old"));
+}
+
+TEST_F(DeliveredFilesTest, ANewerVersionTakesThePlaceOfOneThatWasCutShort) {
+    inPlace("English.lng", "one");
+    folder_.write("English.lng", "two");
+    folder_.write(".installed/English.lng.placing", "two");
+    deliver("English.lng", "three");
+    EXPECT_THAT(takePlaces(), ElementsAre());
+    EXPECT_EQ(folder_.read("English.lng"), "three");
+    EXPECT_EQ(folder_.read(".installed/English.lng"), "three");
+    EXPECT_FALSE(folder_.has(".installed/English.lng.placing"));
+    EXPECT_FALSE(folder_.has("English.lng.old")) << "the second version is nobody's change";
+}
+
+TEST_F(DeliveredFilesTest, WhatAnotherProgramHasPlacedMeanwhileIsNoFailure) {
+    inPlace("English.lng", "one");
+    deliver("English.lng", "two");
+    deliver(library_, simulator_);
+    const DeliveredFiles slower(folder_.path());
+    const auto waiting = slower.waiting();
+    EXPECT_EQ(waiting.size(), 2u);
     takePlaces();
-    EXPECT_EQ(folder_.read("English.lng.old8"), "kept");
-    EXPECT_EQ(folder_.read("English.lng.old9"), "mine");
-    EXPECT_FALSE(folder_.has("English.lng.old10"));
+    EXPECT_TRUE(slower.takePlaces(waiting).empty());
+    EXPECT_EQ(folder_.read("English.lng"), "two");
+    EXPECT_EQ(folder_.read(library_), simulator_);
+}
+
+TEST_F(DeliveredFilesTest, AnEmptyDeliveryReplacesNothingAndIsNamed) {
+    inPlace("English.lng", "one");
+    folder_.write(library_, "older, ZurolinkSimulator too");
+    deliver("English.lng", "");
+    deliver(library_, "");
+    EXPECT_THAT(takePlaces(),
+                ElementsAre(folder_.path("English.lng") + ": The delivered file is empty",
+                            folder_.path(library_) + ": The delivered file is empty"));
+    EXPECT_EQ(folder_.read("English.lng"), "one");
+    EXPECT_EQ(folder_.read(".installed/English.lng"), "one");
+    EXPECT_EQ(folder_.read(library_), "older, ZurolinkSimulator too");
 }
 
 TEST_F(DeliveredFilesTest, OnlyWhatWaitsUnderANameIsPlaced) {

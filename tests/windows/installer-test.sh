@@ -104,9 +104,9 @@ for number in '' 2 3 4 5 6 7 8 9; do printf kept >"$folder/Vantrel/FileTable.dat
 printf changed >"$folder/Vantrel/FileTable.dat"
 install_and_start
 holds Vantrel/English.lng.old mine
-gone Vantrel/English.lng.old2 Trial/FileTable.tbl.old Vantrel/FileTable.dat.old10
-for file in Japanese.lng.old System.lng.old FileTable.dat.old9; do holds "Vantrel/$file" changed; done
-for number in '' 2 3 4 5 6 7 8; do holds "Vantrel/FileTable.dat.old$number" kept; done
+gone Vantrel/English.lng.old2 Trial/FileTable.tbl.old Vantrel/FileTable.dat.old11
+for file in Japanese.lng.old System.lng.old FileTable.dat.old10; do holds "Vantrel/$file" changed; done
+for number in '' 2 3 4 5 6 7 8 9; do holds "Vantrel/FileTable.dat.old$number" kept; done
 for file in English.lng Japanese.lng System.lng FileTable.dat; do is_renewed "Vantrel/$file"; done
 is_renewed Trial/FileTable.tbl
 as_of_another_version Vantrel/Japanese.lng
