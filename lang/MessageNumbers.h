@@ -82,10 +82,12 @@ inline constexpr std::int32_t reasonProtected = 89;
 inline constexpr std::int32_t reasonInUse = 90;
 inline constexpr std::int32_t reasonNoFile = 91;
 inline constexpr std::int32_t reasonNoText = 92; ///< then [robot's name]
+inline constexpr std::int32_t reasonEmpty = 383;
 
 // Robots of the same name in the registry.
 inline constexpr std::int32_t bootNameShared = 380;   ///< then [robot's name] and the address
 inline constexpr std::int32_t reasonNameShared = 381; ///< then [robot's name]
+inline constexpr std::int32_t filesNotPlaced = 382;   ///< then the files and the reasons
 
 // What the operator is told of a file whose transfer to the PC ended with the program.
 inline constexpr std::int32_t transferInterrupted = 75; ///< after [name], then what became of it

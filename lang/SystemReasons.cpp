@@ -15,7 +15,7 @@ struct KnownReason {
     std::int32_t number;
 };
 
-/// English words of Linux, of Windows and of our own platform room.
+/// English words of Linux, of Windows and of our own.
 constexpr KnownReason knownReasons[] = {
     {"No such file or directory", message::reasonMissing},
     {"Not a directory", message::reasonMissing},
@@ -36,6 +36,7 @@ constexpr KnownReason knownReasons[] = {
     {"Is a directory", message::reasonNoFile},
     {"Is a folder", message::reasonNoFile},
     {"Not a regular file", message::reasonNoFile},
+    {"The delivered file is empty", message::reasonEmpty},
 };
 
 } // namespace

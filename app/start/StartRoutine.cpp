@@ -44,14 +44,14 @@ StartResult StartRoutine::run() {
     const auto undelivered = DeliveredFiles(with_.programFolder).takePlaces();
     // A missing or broken table leaves its rows so far; transfers then explain what they refuse.
     (void)with_.table.load(with_.programFolder);
-    if (!with_.language.loadDefaultLanguage())
+    if (!with_.language.loadDefaultLanguage()) {
+        tellUndelivered(undelivered);
         return StartResult::NoLanguage;
+    }
     with_.state.StartupDone = false;
     if (with_.commandLine.startedForAutomation)
         return StartResult::Automation;
-    for (const auto& file : undelivered)
-        with_.boxes.tell(file.path + "\n" + reasonInLanguage(with_.messages, file.reason),
-                         BoxIcon::Exclamation);
+    tellUndelivered(undelivered);
     if (const Outcome entered = enterProgramFolder(); !entered)
         return trap(with_.programFolder + ": " +
                     reasonInLanguage(with_.messages, entered.reason()));
@@ -63,6 +63,21 @@ StartResult StartRoutine::run() {
     offerControllerDirectory();
     openMainWindow();
     return StartResult::Running;
+}
+
+// Where nothing can be placed there are no texts, or those of an older version, without this one.
+void StartRoutine::tellUndelivered(const std::vector<UndeliveredFile>& files) {
+    if (files.empty())
+        return;
+    std::string text = with_.messages.getMessage(message::filesNotPlaced);
+    if (text.empty())
+        text =
+            "New files of this version could not take their places in the folder of the program. "
+            "Each start tries it again. Check that this folder and its folder .installed can be "
+            "written, and that no file in them is write-protected:";
+    for (const auto& file : files)
+        text += "\n" + file.path + ": " + reasonInLanguage(with_.messages, file.reason);
+    with_.boxes.tell(text, BoxIcon::Exclamation);
 }
 
 Outcome StartRoutine::enterProgramFolder() {

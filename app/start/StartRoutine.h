@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace vantrel {
 
@@ -20,6 +21,7 @@ class SettingsFile;
 class Snappy;
 class TransferTable;
 struct ApplicationState;
+struct UndeliveredFile;
 
 /// The main window once it is built, as the start routine needs it.
 struct StartedWindow {
@@ -85,6 +87,7 @@ class StartRoutine {
 
   private:
     StartResult run();
+    void tellUndelivered(const std::vector<UndeliveredFile>& files);
     Outcome enterProgramFolder();
     void setHelpFile();
     bool chooseLanguage();

@@ -111,6 +111,12 @@ class StartRoutineTest : public testing::Test {
                              .programFolder = programFolder})
             .Main();
     }
+    /// A file that cannot take its place.
+    void deliverInVain(const std::string& name) {
+        desk_.folder.makeFolder(name);
+        desk_.folder.write(".installed/" + name + ".new", "new");
+    }
+    static bool isTold(const std::string& entry) { return entry.starts_with("tell "); }
     bool logged(const std::string& entry) const {
         return std::ranges::find(desk_.log, entry) != desk_.log.end();
     }
@@ -151,17 +157,45 @@ TEST_F(StartRoutineTest, ADeliveredTextIsInForceFromTheStartThatPlacesIt) {
     EXPECT_TRUE(logged("askYesNo m1"));
 }
 
-TEST_F(StartRoutineTest, ADeliveredFileThatCannotBePlacedIsTold) {
-    desk_.folder.makeFolder("FileTable.tbl");
-    desk_.folder.write(".installed/FileTable.tbl.new", "");
+TEST_F(StartRoutineTest, DeliveredFilesThatCannotBePlacedAreToldInOneBox) {
+    deliverInVain("FileTable.tbl");
+    deliverInVain("Japanese.lng");
     EXPECT_EQ(start(), StartResult::Running);
     EXPECT_THAT(desk_.log[0],
-                testing::StartsWith("tell " + desk_.folder.path("FileTable.tbl") + "\n"));
+                testing::MatchesRegex("tell m382\n" + desk_.folder.path("FileTable.tbl") +
+                                      ": .+\n" + desk_.folder.path("Japanese.lng") + ": .+"));
+    EXPECT_EQ(desk_.boxes.shown[0].icon, BoxIcon::Exclamation);
+    EXPECT_EQ(std::ranges::count_if(desk_.log, isTold), 1);
+}
+
+TEST_F(StartRoutineTest, AnEmptyDeliveryIsToldInTheLanguageInForce) {
+    desk_.folder.write(".installed/FileTable.tbl.new", "");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_EQ(desk_.log[0], "tell m382\n" + desk_.folder.path("FileTable.tbl") + ": m383");
+}
+
+// As in a folder that has been unpacked where nothing can be written.
+TEST_F(StartRoutineTest, WithoutAnyLanguageFileWhatCouldNotBePlacedIsToldToo) {
+    ASSERT_TRUE(removeFile(desk_.folder.path("English.lng")));
+    desk_.messages.replace({});
+    deliverInVain("System.lng");
+    EXPECT_EQ(start(), StartResult::NoLanguage);
+    ASSERT_EQ(desk_.log.size(), 2u);
+    EXPECT_EQ(desk_.log[0], "tell Language File Read Error.(System.lng)");
+    EXPECT_THAT(desk_.log[1], testing::MatchesRegex("tell New files .+:\n" +
+                                                    desk_.folder.path("System.lng") + ": .+"));
+}
+
+// The texts of an older version, which stay in force where the new ones cannot be placed.
+TEST_F(StartRoutineTest, TextsThatDoNotKnowTheSentenceLeaveItInEnglish) {
+    desk_.folder.write("English.lng", "Start:\r\n1 \"\" \"m1\"\r\n");
+    deliverInVain("FileTable.tbl");
+    EXPECT_EQ(start(), StartResult::Running);
+    EXPECT_THAT(desk_.log[0], testing::StartsWith("tell New files "));
 }
 
 TEST_F(StartRoutineTest, AStartForAutomationPlacesFilesAndTellsNothing) {
-    desk_.folder.makeFolder("FileTable.tbl");
-    desk_.folder.write(".installed/FileTable.tbl.new", "");
+    deliverInVain("FileTable.tbl");
     desk_.folder.write(".installed/Japanese.lng.new", "new");
     EXPECT_EQ(start({.startedForAutomation = true}), StartResult::Automation);
     EXPECT_EQ(desk_.folder.read("Japanese.lng"), "new");

@@ -28,7 +28,8 @@ TEST(SystemReasonsTest, TheUsualOnesAreJapaneseInJapanese) {
     for (const char* reason :
          {"No such file or directory", "Permission denied", "No space left on device",
           "Read-only file system", "Text file busy", "Is a directory", "Not a regular file",
-          "Access is denied", "There is not enough space on the disk"}) {
+          "Access is denied", "There is not enough space on the disk",
+          "The delivered file is empty"}) {
         const std::string shown = reasonInLanguage(japanese, reason);
         EXPECT_FALSE(shown.empty());
         EXPECT_FALSE(isAscii(shown)) << shown;
