@@ -5,7 +5,7 @@
 #include "platform/ProfileText.h"
 
 #include <cstddef>
-#include <limits>
+#include <utility>
 
 namespace vantrel {
 namespace {
