@@ -1,6 +1,7 @@
 #include "ui/FolderTreeDropDown.h"
 
 #include "app/folders/FolderTreeCommands.h"
+#include "ui/NativeControls.h"
 #include "ui/look/FolderNodes.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
@@ -62,6 +63,7 @@ void FolderTreeDropDown::bindButton() {
 }
 
 void FolderTreeDropDown::bindEvents() {
+    tellReleases(*this);
     Bind(wxEVT_TREE_ITEM_EXPANDING, &FolderTreeDropDown::expanding, this);
     Bind(wxEVT_KEY_DOWN, &FolderTreeDropDown::keyPressed, this);
     Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent& event) {

@@ -7,6 +7,7 @@ class wxChoice;
 class wxFrame;
 class wxString;
 class wxTextCtrl;
+class wxTreeCtrl;
 
 namespace vantrel {
 
@@ -30,6 +31,10 @@ class MenuBarEntry {
     std::function<void()> onChosen_;
     void* entry_ = nullptr; ///< the system's own
 };
+
+/// Has a tree tell of every release of the mouse; the system's own keeps those from the program by
+/// which it finds out whether a drag begins.
+void tellReleases(wxTreeCtrl& tree);
 
 /// Adds UTF-8 text at the end of a multi-line control and leaves caret, selection and what is
 /// scrolled into view as they are, which the toolkit's own way does not.

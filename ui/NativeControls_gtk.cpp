@@ -47,6 +47,9 @@ void MenuBarEntry::enable(bool enabled) {
     gtk_widget_set_sensitive(GTK_WIDGET(entry_), enabled);
 }
 
+// The toolkit's own tree keeps none.
+void tellReleases(wxTreeCtrl& /*tree*/) {}
+
 void appendQuietly(wxTextCtrl& control, const std::string& text) {
     // The control is a scrolled window around the view.
     auto* view = gtk_bin_get_child(GTK_BIN(control.GetHandle()));

@@ -12,6 +12,7 @@
 #include <wx/msw/wrapcctl.h>
 #include <wx/textbuf.h>
 #include <wx/textctrl.h>
+#include <wx/treectrl.h>
 
 namespace vantrel {
 namespace {
@@ -83,6 +84,12 @@ void MenuBarEntry::enable(bool enabled) {
     ::EnableMenuItem(barOf(window_), UINT(commandId(place_)),
                      MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     ::DrawMenuBar(static_cast<HWND>(entry_));
+}
+
+void tellReleases(wxTreeCtrl& tree) {
+    const HWND window = GetHwndOf(&tree);
+    const auto style = ::GetWindowLongPtrW(window, GWL_STYLE);
+    ::SetWindowLongPtrW(window, GWL_STYLE, style | TVS_DISABLEDRAGDROP);
 }
 
 void appendQuietly(wxTextCtrl& control, const std::string& text) {

@@ -114,7 +114,7 @@ wxSizer* frmLanguage::buildButtons(const MessageTable& messages) {
         column->Add(button, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(8)));
     }
     column->AddStretchSpacer();
-    column->Add(Picture1_, wxSizerFlags().CentreHorizontal());
+    column->Add(Picture1_, wxSizerFlags().CentreHorizontal().ReserveSpaceEvenIfHidden());
     static_cast<wxButton*>(FindWindow("Command1"))->SetDefault();
     SetEscapeId(FindWindow("Command2")->GetId());
     return column;
@@ -152,7 +152,10 @@ void frmLanguage::refresh() {
 
 void frmLanguage::refreshIcon() {
     const auto path = draft_.iconPath();
-    Picture1_->SetBitmap(path.empty() ? wxBitmapBundle() : bitmapOf(path));
+    const auto picture = path.empty() ? wxBitmapBundle() : bitmapOf(path);
+    Picture1_->SetBitmap(picture);
+    // The toolkit complains of a picture that it is to paint and that is none.
+    Picture1_->Show(picture.IsOk());
     Layout();
 }
 

@@ -82,11 +82,13 @@ void setAccessibleName(wxWindow& control, const wxString& name) {
 }
 
 void setOwner(wxWindow& window, wxWindow& owner) {
-    // What is shown already may stay where it is.
-    const bool isShown = window.Show(false);
-    ::SetWindowLongPtrW(window.GetHWND(), GWLP_HWNDPARENT,
-                        reinterpret_cast<LONG_PTR>(owner.GetHWND()));
-    window.Show(isShown);
+    // What is shown already may stay where it is. Not by the toolkit's own calls, with which a
+    // modal dialog would end.
+    const HWND handle = GetHwndOf(&window);
+    const bool wasShown = ::ShowWindow(handle, SW_HIDE) != FALSE;
+    ::SetWindowLongPtrW(handle, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(GetHwndOf(&owner)));
+    if (wasShown)
+        ::ShowWindow(handle, SW_SHOW);
 }
 
 } // namespace vantrel
