@@ -73,10 +73,10 @@ TEST_P(frmMsgStatTest, AmpersandsOfNamesAreShown) {
 
 TEST_P(frmMsgStatTest, ALongNameDoesNotWidenIt) {
     panel.show("short");
-    const auto size = window->GetClientSize(); // its frame comes when it likes
+    const int width = window->GetClientSize().x; // a frame that comes late changes the height
     panel.step(std::string(255, 'W'), 0, 1, std::string(255, 'W'));
     runEvents();
-    EXPECT_EQ(window->GetClientSize(), size);
+    EXPECT_EQ(window->GetClientSize().x, width);
     saveScreenshot(*window, "progress-long-" + language());
 }
 
