@@ -14,6 +14,10 @@
 namespace vantrel {
 namespace {
 
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::StartsWith;
+
 /// Records when it is filled, and a little of the state at that time.
 class LoggingRobotBox final : public RobotBox {
   public:
@@ -162,8 +166,8 @@ TEST_F(StartRoutineTest, DeliveredFilesThatCannotBePlacedAreToldInOneBox) {
     deliverInVain("Japanese.lng");
     EXPECT_EQ(start(), StartResult::Running);
     EXPECT_THAT(desk_.log[0],
-                testing::MatchesRegex("tell m382\n" + desk_.folder.path("FileTable.tbl") +
-                                      ": .+\n" + desk_.folder.path("Japanese.lng") + ": .+"));
+                AllOf(StartsWith("tell m382\n" + desk_.folder.path("FileTable.tbl") + ": m"),
+                      HasSubstr("\n" + desk_.folder.path("Japanese.lng") + ": m")));
     EXPECT_EQ(desk_.boxes.shown[0].icon, BoxIcon::Exclamation);
     EXPECT_EQ(std::ranges::count_if(desk_.log, isTold), 1);
 }
@@ -182,8 +186,8 @@ TEST_F(StartRoutineTest, WithoutAnyLanguageFileWhatCouldNotBePlacedIsToldToo) {
     EXPECT_EQ(start(), StartResult::NoLanguage);
     ASSERT_EQ(desk_.log.size(), 2u);
     EXPECT_EQ(desk_.log[0], "tell Language File Read Error.(System.lng)");
-    EXPECT_THAT(desk_.log[1], testing::MatchesRegex("tell New files .+:\n" +
-                                                    desk_.folder.path("System.lng") + ": .+"));
+    EXPECT_THAT(desk_.log[1], AllOf(StartsWith("tell New files "),
+                                    HasSubstr(":\n" + desk_.folder.path("System.lng") + ": ")));
 }
 
 // The texts of an older version, which stay in force where the new ones cannot be placed.
@@ -191,7 +195,7 @@ TEST_F(StartRoutineTest, TextsThatDoNotKnowTheSentenceLeaveItInEnglish) {
     desk_.folder.write("English.lng", "Start:\r\n1 \"\" \"m1\"\r\n");
     deliverInVain("FileTable.tbl");
     EXPECT_EQ(start(), StartResult::Running);
-    EXPECT_THAT(desk_.log[0], testing::StartsWith("tell New files "));
+    EXPECT_THAT(desk_.log[0], StartsWith("tell New files "));
 }
 
 TEST_F(StartRoutineTest, AStartForAutomationPlacesFilesAndTellsNothing) {
