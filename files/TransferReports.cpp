@@ -56,7 +56,7 @@ bool wasCancelledReading(const Snappy& session) {
 }
 
 void TransferReports::controllerNotRead() const {
-    if (operatorKnows(with_.session))
+    if (with_.session.operatorIsTold())
         return;
     tell(with_.messages.getMessage(message::controllerNotRead) +
          directoryFailure(with_.state, with_.session));

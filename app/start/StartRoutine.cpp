@@ -137,7 +137,7 @@ void StartRoutine::offerControllerDirectory() {
     if (with_.boxes.askYesNo(messages.getMessage(message::askReadController), BoxIcon::Question)) {
         with_.windows.loadVersionWindow();
         if (!panes.readController()) {
-            if (!operatorKnows(with_.session))
+            if (!with_.session.operatorIsTold())
                 with_.boxes.tell(messages.getMessage(message::controllerNotRead) +
                                      directoryFailure(with_.state, with_.session),
                                  BoxIcon::Exclamation);

@@ -352,7 +352,7 @@ TEST_F(StartRoutineTest, AFailingReadIsToldAndTheStartGoesOn) {
     EXPECT_TRUE(logged("show version"));
 }
 
-TEST_F(StartRoutineTest, ACancelledReadNeedsNoWordAndTheStartGoesOn) {
+TEST_F(StartRoutineTest, ACancelledReadIsToldAndTheStartGoesOn) {
     desk_.boxes.answers = {true};
     controller().put("A.JBI", "A");
     controller().put("B.JBI", "B");
@@ -361,7 +361,7 @@ TEST_F(StartRoutineTest, ACancelledReadNeedsNoWordAndTheStartGoesOn) {
             desk_.progress.pressCancel();
     };
     EXPECT_EQ(start(), StartResult::Running);
-    EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m1"}));
+    EXPECT_EQ(desk_.boxes.texts(), (std::vector<std::string>{"m1", "m2\nCOM1\n ( m503 (3) )"}));
     EXPECT_EQ(desk_.state.CtrlListing.Count, 0);
     EXPECT_TRUE(logged("show version"));
 }
