@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <regex>
 #include <set>
 #include <string>
 
@@ -19,6 +20,7 @@ namespace vantrel {
 namespace {
 
 using namespace std::string_literals;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 constexpr const char* languages[] = {"Japanese", "English", "System"};
@@ -232,6 +234,13 @@ TEST(DeliveredLanguages, EnglishAndSystemShowTheReferenceTexts) {
     for (const char* language : {"English", "System"})
         for (const auto& [number, entry] : textsOf(language))
             EXPECT_EQ(entry.Text2, entry.Text1) << language << number;
+}
+
+/// Where no language file can be had at all the program has this one text of its own.
+TEST(DeliveredLanguages, TheTextThatIsInTheProgramToo) {
+    const auto source = header("app/start/StartRoutine.cpp");
+    const std::string inOneLine = std::regex_replace(source, std::regex(R"("\s+")"), "");
+    EXPECT_THAT(inOneLine, HasSubstr('"' + shownText(textsOf("English"), 382) + '"'));
 }
 
 } // namespace
