@@ -71,10 +71,9 @@ void StartRoutine::tellUndelivered(const std::vector<UndeliveredFile>& files) {
         return;
     std::string text = with_.messages.getMessage(message::filesNotPlaced);
     if (text.empty())
-        text =
-            "New files of this version could not be put into the program folder. Vantrel tries "
-            "again at each start. Check that this folder and the folder .installed in it can be "
-            "written to, and that no file in them is write-protected:";
+        text = "New files of this version could not be put into the program folder. Vantrel tries "
+               "again at each start. Check that this folder and the folder .installed in it can be "
+               "written to, and that no file in them is write-protected:";
     for (const auto& file : files)
         text += "\n" + file.path + ": " + reasonInLanguage(with_.messages, file.reason);
     with_.boxes.tell(text, BoxIcon::Exclamation);
