@@ -84,6 +84,13 @@ inline constexpr std::int32_t reasonNoFile = 91;
 inline constexpr std::int32_t reasonNoText = 92; ///< then [robot's name]
 inline constexpr std::int32_t reasonEmpty = 383;
 
+// Why the file in the library's place cannot be loaded.
+inline constexpr std::int32_t reasonNoLibrary = 395;
+inline constexpr std::int32_t reasonOtherProcessor = 396;
+inline constexpr std::int32_t reasonNarrowLibrary = 397;
+inline constexpr std::int32_t reasonWideLibrary = 398;
+inline constexpr std::int32_t reasonCutShort = 399;
+
 // Robots of the same name in the registry.
 inline constexpr std::int32_t bootNameShared = 380;   ///< then [robot's name] and the address
 inline constexpr std::int32_t reasonNameShared = 381; ///< then [robot's name]

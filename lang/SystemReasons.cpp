@@ -4,6 +4,7 @@
 #include "lang/MessageTable.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <string_view>
 
@@ -37,16 +38,33 @@ constexpr KnownReason knownReasons[] = {
     {"Is a folder", message::reasonNoFile},
     {"Not a regular file", message::reasonNoFile},
     {"The delivered file is empty", message::reasonEmpty},
+    {"not a library of this system", message::reasonNoLibrary},
+    {"library for another kind of processor", message::reasonOtherProcessor},
+    {"32-bit library, 64-bit program", message::reasonNarrowLibrary},
+    {"64-bit library, 32-bit program", message::reasonWideLibrary},
+    {"the file is cut short", message::reasonCutShort},
 };
+
+/// The reason's own words. A program's name may stand before them and a file's, in brackets,
+/// behind.
+std::string_view ownWords(std::string_view reason) {
+    const auto name = reason.rfind(": ", reason.find(" ["));
+    const auto words = name == reason.npos ? reason : reason.substr(name + 2);
+    return words.substr(0, words.find(" ["));
+}
 
 } // namespace
 
 std::string reasonInLanguage(const MessageTable& messages, const std::string& reason) {
-    const auto* const known = std::ranges::find(knownReasons, reason, &KnownReason::words);
+    const std::string_view words = ownWords(reason);
+    const auto* const known = std::ranges::find(knownReasons, words, &KnownReason::words);
     if (known == std::end(knownReasons))
         return reason;
     const std::string text = messages.getMessage(known->number);
-    return text.empty() ? reason : text;
+    if (text.empty())
+        return reason;
+    const auto place = static_cast<std::size_t>(words.data() - reason.data());
+    return std::string(reason).replace(place, words.size(), text);
 }
 
 } // namespace vantrel

@@ -8,7 +8,7 @@ class MessageTable;
 
 /// A reason as `Failure` holds it, in the language in force. The system says its reasons in a
 /// language of its own, often English; the usual ones are known by their words and have messages.
-/// Any other reason stays as the system gave it.
+/// A name before the words or behind them stays, and so does any other reason.
 std::string reasonInLanguage(const MessageTable& messages, const std::string& reason);
 
 } // namespace vantrel

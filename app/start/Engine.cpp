@@ -3,6 +3,7 @@
 #include "base/PathRules.h"
 #include "files/ControllerPlace.h"
 #include "lang/MessageNumbers.h"
+#include "lang/SystemReasons.h"
 #include "platform/Environment.h"
 
 #include <utility>
@@ -34,7 +35,7 @@ Engine::Engine(EngineGround ground)
 void Engine::tellLibraryProblem(const LibraryProblem& problem) {
     std::string text = messages.getMessage(message::libraryUnusable) + problem.path;
     if (!problem.reason.empty())
-        text += "\n" + problem.reason;
+        text += "\n" + reasonInLanguage(messages, problem.reason);
     if (!problem.missing.empty())
         text += "\n" + messages.getMessage(message::libraryFunctionsMissing);
     for (const auto& name : problem.missing)

@@ -7,6 +7,7 @@
 #include "support/TemporaryFolder.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -29,7 +30,9 @@ TEST(SystemReasonsTest, TheUsualOnesAreJapaneseInJapanese) {
          {"No such file or directory", "Permission denied", "No space left on device",
           "Read-only file system", "Text file busy", "Is a directory", "Not a regular file",
           "Access is denied", "There is not enough space on the disk",
-          "The delivered file is empty"}) {
+          "The delivered file is empty", "not a library of this system",
+          "library for another kind of processor", "32-bit library, 64-bit program",
+          "64-bit library, 32-bit program", "the file is cut short"}) {
         const std::string shown = reasonInLanguage(japanese, reason);
         EXPECT_FALSE(shown.empty());
         EXPECT_FALSE(isAscii(shown)) << shown;
@@ -50,6 +53,18 @@ TEST(SystemReasonsTest, AReasonOfThisSystemIsAmongThem) {
     ASSERT_FALSE(missing);
     EXPECT_FALSE(isAscii(reasonInLanguage(delivered("Japanese"), missing.reason())))
         << missing.reason();
+}
+
+TEST(SystemReasonsTest, NamesBeforeAndBehindOneStay) {
+    const MessageTable japanese = delivered("Japanese");
+    const std::string denied = reasonInLanguage(japanese, "Permission denied");
+    ASSERT_FALSE(isAscii(denied));
+    for (const auto& [before, behind] :
+         {std::pair("xdg-open: ", ""), {"", " [/vantrel/robot.ini.bak]"}, {"a: b: ", " [c [d]]"}})
+        EXPECT_EQ(reasonInLanguage(japanese, std::string(before) + "Permission denied" + behind),
+                  before + denied + behind);
+    EXPECT_EQ(reasonInLanguage(japanese, "editor: is gone [x]"), "editor: is gone [x]");
+    EXPECT_EQ(reasonInLanguage(japanese, "Permission denied: "), "Permission denied: ");
 }
 
 TEST(SystemReasonsTest, AnyOtherStaysAsItIs) {

@@ -1,0 +1,47 @@
+#include "app/start/Engine.h"
+
+#include "ProgramWithoutWindows.h"
+#include "lang/LanguageFiles.h"
+#include "lang/MessageNumbers.h"
+#include "platform/Environment.h"
+#include "support/ProjectFiles.h"
+#include "support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace vantrel {
+namespace {
+
+using testing::ElementsAre;
+
+class EngineTest : public testing::Test {
+  protected:
+    EngineTest() {
+        EXPECT_TRUE(LanguageFiles(tests::dataFolder()).readInto("Japanese", windowless_.messages));
+    }
+
+    std::string text(std::int32_t number) const { return windowless_.messages.getMessage(number); }
+
+    tests::TemporaryFolder folder_;
+    tests::ProgramWithoutWindows windowless_{folder_.path("Vantrel")};
+};
+
+TEST_F(EngineTest, WhyTheLibraryCannotBeUsedIsToldInTheLanguageInForce) {
+    const std::string library = folder_.write(libraryFileName(), "no library at all");
+    std::vector<std::string> names;
+    EXPECT_FALSE(windowless_.engine.session.ReadDirectory(names));
+    EXPECT_THAT(windowless_.boxes.texts(), ElementsAre(text(message::libraryUnusable) + library +
+                                                       "\n" + text(message::reasonNoLibrary)));
+}
+
+TEST_F(EngineTest, ALibraryThatIsMissingIsToldInTheLanguageInForce) {
+    std::vector<std::string> names;
+    EXPECT_FALSE(windowless_.engine.session.ReadDirectory(names));
+    EXPECT_THAT(windowless_.boxes.texts(),
+                ElementsAre(text(message::libraryUnusable) + folder_.path(libraryFileName()) +
+                            "\n" + text(message::reasonMissing)));
+}
+
+} // namespace
+} // namespace vantrel
