@@ -297,5 +297,27 @@ TEST(Manuals, HaveTheSameStructureInBothLanguages) {
     EXPECT_EQ(structure(manuals[1]), english);
 }
 
+/// Chapters and table rows in their order, then every word in code letters and every link.
+std::vector<std::string> structureOfReadme(const std::string& file) {
+    const auto text = contentOf(file);
+    std::vector<std::string> parts;
+    for (const auto& part : matches(text, R"((?:^|\n)(#+ |\| |```|- ))"))
+        parts.push_back(part[1]);
+    std::set<std::string> named;
+    for (const auto& word : matches(text, R"(`[^`\n]+`|\]\([^)\n]+\))"))
+        if (!word[0].ends_with(".png)") && !word[0].starts_with("](README"))
+            named.insert(word[0]);
+    parts.insert(parts.end(), named.begin(), named.end());
+    return parts;
+}
+
+TEST(Readmes, NameTheSameThingsInBothLanguages) {
+    const auto english = structureOfReadme("README.md");
+    EXPECT_GT(english.size(), 80U);
+    EXPECT_EQ(structureOfReadme("README.ja.md"), english);
+    EXPECT_THAT(contentOf("README.md"), HasSubstr("](README.ja.md)"));
+    EXPECT_THAT(contentOf("README.ja.md"), HasSubstr("](README.md)"));
+}
+
 } // namespace
 } // namespace vantrel
