@@ -137,9 +137,12 @@ folder_tree() {
     activate "$main"
     select_on_pc TRIAL1.JBI
     import -frame -window "$main" "$work/before.png"
-    click "$main" "${tree_button[@]}"
+    # The window is as large as its captions need it, and everything in it is placed in proportion.
+    local WIDTH HEIGHT
+    eval "$(xdotool getwindowgeometry --shell "$main" | grep -E '^(WIDTH|HEIGHT)=')"
+    click "$main" $((WIDTH * 370 / 1000)) $((HEIGHT * 175 / 1000))
     until_true "the folder tree" differs "$main" "$work/before.png"
-    keep tree "$main" 400x380+0+70
+    keep tree "$main" $((WIDTH * 48 / 100))x$((HEIGHT * 70 / 100))+0+$((HEIGHT * 13 / 100))
     keys Escape
 }
 
@@ -175,7 +178,6 @@ end_program() {
     trap - EXIT
 }
 
-tree_button=(310 95)
 for language in English Japanese; do
     [ "$language" = English ] && pictures=$manual/pictures/en || pictures=$manual/pictures/ja
     mkdir -p "$pictures"
