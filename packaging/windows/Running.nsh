@@ -4,7 +4,7 @@
 !include FileFunc.nsh
 
 LangString Running ${LANG_ENGLISH} "Vantrel is running. Please close it."
-LangString Running ${LANG_JAPANESE} "Vantrelが起動中です。終了してください。"
+LangString Running ${LANG_JAPANESE} "Vantrelが実行中です。終了してください。"
 
 ; Sets $R0 to 1 when a file cannot be written because it is in use. Only a file that is not
 ; write-protected tells; the attribute is put back.
