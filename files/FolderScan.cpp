@@ -14,7 +14,6 @@ namespace vantrel {
 namespace {
 
 /// Left out of every folder tree: what an installation remembers, nothing to work in.
-constexpr std::string_view programsOwnFolder = ".installed";
 
 std::int32_t listedSize(const FolderEntry& entry) {
     constexpr std::uint64_t largest = std::numeric_limits<std::int32_t>::max();
@@ -40,7 +39,7 @@ std::vector<std::string> subfolders(const std::string& folder) {
     std::vector<std::string> found;
     // Names that were read before a failure are as good as any.
     (void)visitSubfolders(PathRules().withSeparator(folder), [&found](std::string_view name) {
-        if (name != programsOwnFolder)
+        if (name != deliveredFolder)
             found.emplace_back(name);
     });
     return inNameOrder(std::move(found));

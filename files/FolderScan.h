@@ -4,15 +4,19 @@
 #include "base/Result.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vantrel {
+
+/// Where a delivery waits in the program's folder, and what was delivered last: the program's own.
+inline constexpr std::string_view deliveredFolder = ".installed";
 
 /// Names in the order in which folders and files are listed beside each other: without regard to
 /// letter case, equal ones by their bytes.
 std::vector<std::string> inNameOrder(std::vector<std::string> names);
 
-/// The names of a folder's sub-folders, hidden ones included but for the program's own, sorted
+/// The names of a folder's sub-folders, hidden ones included but for `deliveredFolder`, sorted
 /// without regard to letter case.
 /// A folder that cannot be read has none.
 std::vector<std::string> subfolders(const std::string& folder);

@@ -3,6 +3,7 @@
 #include "base/PathRules.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/FetchFiles.h"
 #include "link/FetchMark.h"
 #include "link/OperatorTalk.h"
 #include "link/SessionErrorRecord.h"

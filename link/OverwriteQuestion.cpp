@@ -23,9 +23,7 @@ std::string itemFacts(const MessageTable& messages, const ProgressPanel& progres
     const int left = progress.count() - progress.item() - 1;
     if (progress.count() <= 1 || left < 0)
         return {};
-    const std::string item =
-        messages.getMessage(message::progressItem) + std::to_string(progress.item() + 1) +
-        messages.getMessage(message::progressOf) + std::to_string(progress.count());
+    const std::string item = itemText(messages, progress.item(), progress.count());
     if (left == 0)
         return item;
     return item + "  " + messages.getMessageWithInsertion(message::allMeans, std::to_string(left));

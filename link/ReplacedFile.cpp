@@ -1,6 +1,7 @@
 #include "link/ReplacedFile.h"
 
 #include "base/PathRules.h"
+#include "link/FetchFiles.h"
 #include "link/FetchMark.h"
 #include "link/SessionErrorRecord.h"
 #include "platform/Files.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "link/FetchFiles.h"
 #include "link/FetchMark.h"
 #include "platform/HeldFile.h"
 

@@ -21,9 +21,13 @@ std::string bracketed(std::string_view text) {
     return "[" + shownText(text) + "]";
 }
 
-std::string waitingText(const MessageTable& messages, std::int32_t item, std::int32_t count) {
+std::string itemText(const MessageTable& messages, std::int32_t item, std::int32_t count) {
     return messages.getMessage(message::progressItem) + std::to_string(item + 1) +
-           messages.getMessage(message::progressOf) + std::to_string(count) + "  " +
+           messages.getMessage(message::progressOf) + std::to_string(count);
+}
+
+std::string waitingText(const MessageTable& messages, std::int32_t item, std::int32_t count) {
+    return itemText(messages, item, count) + "  " +
            messages.getMessage(message::waitingForController);
 }
 

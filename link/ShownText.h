@@ -17,7 +17,10 @@ std::string shownText(std::string_view text);
 /// The same in square brackets, as names stand in messages.
 std::string bracketed(std::string_view text);
 
-/// "Item 2 of 5  Waiting for the controller", in the language in force; `item` counts from 0.
+/// "Item 2 of 5", in the language in force; `item` counts from 0.
+std::string itemText(const MessageTable& messages, std::int32_t item, std::int32_t count);
+
+/// "Item 2 of 5  Waiting for the controller".
 std::string waitingText(const MessageTable& messages, std::int32_t item, std::int32_t count);
 
 } // namespace vantrel

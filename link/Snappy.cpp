@@ -3,7 +3,7 @@
 #include "lang/LanguageFiles.h"
 #include "lang/MessageTable.h"
 #include "link/DirectoryReader.h"
-#include "link/FetchMark.h"
+#include "link/FetchFiles.h"
 #include "link/InterruptedFetches.h"
 #include "link/JobBatch.h"
 #include "link/JobFetch.h"

@@ -102,7 +102,7 @@ void FolderTreeDropDown::expanding(wxTreeEvent& event) {
     if (filling_ || !commands_ || GetChildrenCount(item, false) > 0)
         return;
     const wxBusyCursor busy;
-    const auto nodes = commands_->open(folderNode(*this, item));
+    const auto nodes = commands_->open(nodeOf(*this, item));
     addFolderNodes(*this, item, commands_->tree(), nodes);
     if (!nodes.empty())
         return;
@@ -111,7 +111,7 @@ void FolderTreeDropDown::expanding(wxTreeEvent& event) {
 }
 
 void FolderTreeDropDown::choose(const wxTreeItemId& item) {
-    const auto node = folderNode(*this, item);
+    const auto node = nodeOf(*this, item);
     if (!commands_ || node == FolderTree::none)
         return;
     // A box that tells of a failure takes the focus; the tree is there again when it closes.

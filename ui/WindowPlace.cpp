@@ -1,8 +1,8 @@
 #include "ui/WindowPlace.h"
 
 #include "app/settings/SettingsFile.h"
+#include "app/window/ScreenGeometry.h"
 #include "app/window/WindowLayout.h"
-#include "app/window/WindowPlaces.h"
 #include "ui/look/SystemLook.h"
 
 #include <algorithm>

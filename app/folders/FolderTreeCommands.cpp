@@ -13,7 +13,7 @@
 namespace vantrel {
 
 FolderTreeCommands::FolderTreeCommands(const MainServices& services, MainCommands& commands,
-                                       FolderTreeView& view, FolderSource source)
+                                       FolderTreeView& view, FolderTreeSource source)
     : with_(services), commands_(commands), view_(view), source_(std::move(source)) {}
 
 /// A press in the PC pane: keys in the tree must not act on the controller.

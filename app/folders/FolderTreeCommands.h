@@ -23,7 +23,7 @@ class FolderTreeView {
 };
 
 /// What the folder tree needs of the system.
-struct FolderSource {
+struct FolderTreeSource {
     std::function<std::vector<Drive>()> drives;
     FolderTree::ListSubfolders subfolders;
 };
@@ -32,7 +32,7 @@ struct FolderSource {
 class FolderTreeCommands {
   public:
     FolderTreeCommands(const MainServices& services, MainCommands& commands, FolderTreeView& view,
-                       FolderSource source);
+                       FolderTreeSource source);
 
     /// Lets the tree drop down, built anew for the PC folder.
     void drop();
@@ -48,7 +48,7 @@ class FolderTreeCommands {
     MainServices with_;
     MainCommands& commands_;
     FolderTreeView& view_;
-    FolderSource source_;
+    FolderTreeSource source_;
 };
 
 } // namespace vantrel

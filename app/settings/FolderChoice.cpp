@@ -4,7 +4,7 @@
 
 namespace vantrel {
 
-FolderChoice::FolderChoice(FolderSources sources, PathRules rules)
+FolderChoice::FolderChoice(FolderChoiceSource sources, PathRules rules)
     : sources_(std::move(sources)), rules_(rules), drives_(sources_.drives()), tree_(rules) {}
 
 std::optional<std::size_t> FolderChoice::drive() const {

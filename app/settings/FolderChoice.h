@@ -12,7 +12,7 @@
 namespace vantrel {
 
 /// What a choice of a folder sees of the disks.
-struct FolderSources {
+struct FolderChoiceSource {
     std::function<std::vector<Drive>()> drives;
     std::function<std::vector<std::string>(const std::string& folder)> subfolders;
     std::function<std::vector<std::string>(const std::string& folder)> files;
@@ -25,7 +25,7 @@ struct FolderSources {
 /// operator turns to it: the machine that it is on may be off, and reading would hang.
 class FolderChoice {
   public:
-    explicit FolderChoice(FolderSources sources, PathRules rules = PathRules());
+    explicit FolderChoice(FolderChoiceSource sources, PathRules rules = PathRules());
 
     const std::string& folder() const { return folder_; }
     const std::vector<Drive>& drives() const { return drives_; }
@@ -45,7 +45,7 @@ class FolderChoice {
     const std::vector<FolderTree::Id>& open(FolderTree::Id node);
 
   private:
-    FolderSources sources_;
+    FolderChoiceSource sources_;
     PathRules rules_;
     std::vector<Drive> drives_;
     std::string folder_;

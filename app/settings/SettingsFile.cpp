@@ -1,6 +1,6 @@
 #include "app/settings/SettingsFile.h"
 
-#include "app/window/WindowPlaces.h"
+#include "app/settings/WindowText.h"
 #include "base/ApplicationState.h"
 #include "base/Numbers.h"
 #include "base/PathRules.h"

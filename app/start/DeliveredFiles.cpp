@@ -1,6 +1,7 @@
 #include "app/start/DeliveredFiles.h"
 
 #include "base/PathRules.h"
+#include "files/FolderScan.h"
 #include "platform/Environment.h"
 #include "platform/Files.h"
 
@@ -32,7 +33,7 @@ std::string nameToKeepUnder(const std::string& path, const std::string& content)
 } // namespace
 
 DeliveredFiles::DeliveredFiles(std::string programFolder)
-    : folder_(std::move(programFolder)), installed_(PathRules().join(folder_, ".installed")) {}
+    : folder_(std::move(programFolder)), installed_(PathRules().join(folder_, deliveredFolder)) {}
 
 std::vector<UndeliveredFile>
 DeliveredFiles::takePlaces(const std::vector<std::string>& names) const {

@@ -36,7 +36,7 @@ struct MainWindowParts {
     FilePrinter& printer;
     ListFileWindow& listFiles;
     ShutdownWindows& shutdown;
-    FolderSource folders;
+    FolderTreeSource folders;
     std::function<Outcome(const std::string& path)> editTextFile; ///< the system's text editor
     HelpCommands::Opener openDocument;
 };

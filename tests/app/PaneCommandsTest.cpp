@@ -128,7 +128,7 @@ TEST_F(PaneCommandsTest, CopyAndMoveFollowTheSelectionNotAFocusBesideIt) {
     pc.makeFolder("FOLDER");
     pcJob("NEW");
     showPanes();
-    constexpr std::size_t folder = 0, job = 1;
+    constexpr std::size_t folderRow = 0, jobRow = 1;
     const auto offered = [&](const char* name, std::size_t focused) {
         window.pc.click({name});
         window.pc.focused = focused;
@@ -137,10 +137,10 @@ TEST_F(PaneCommandsTest, CopyAndMoveFollowTheSelectionNotAFocusBesideIt) {
         EXPECT_EQ(copy, shown("tlbMain FileMove"));
         return copy.enabled;
     };
-    EXPECT_TRUE(offered("NEW.JBI", folder));
-    EXPECT_FALSE(offered("FOLDER", job));
-    EXPECT_FALSE(offered("nothing", job));
-    EXPECT_TRUE(offered("NEW.JBI", job));
+    EXPECT_TRUE(offered("NEW.JBI", folderRow));
+    EXPECT_FALSE(offered("FOLDER", jobRow));
+    EXPECT_FALSE(offered("nothing", jobRow));
+    EXPECT_TRUE(offered("NEW.JBI", jobRow));
 }
 
 TEST_F(PaneCommandsTest, WorkingInAPaneGivesItTheKeyboardThoughItIsTheActiveOne) {

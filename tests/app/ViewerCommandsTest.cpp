@@ -165,7 +165,7 @@ TEST_F(ViewerCommandsTest, APathIsJoinedWithOneSeparator) {
 }
 
 TEST_F(ViewerCommandsTest, PrintingAsksFirstAndPrintsWhatIsDisplayed) {
-    const std::string folder = state.PCPath;
+    const std::string viewedFolder = state.PCPath;
     const std::string changed(fileDetails(pc.path("A.JBI")).changed.view());
     press();
     state.PCPath = pc.makeFolder("elsewhere");
@@ -180,7 +180,7 @@ TEST_F(ViewerCommandsTest, PrintingAsksFirstAndPrintsWhatIsDisplayed) {
     EXPECT_EQ(boxes.shown[0], (FakeMessageBoxes::Box{FakeMessageBoxes::Kind::YesNo,
                                                      "print? [A.JBI]", BoxIcon::Question}));
     EXPECT_THAT(printer.printed, ElementsAre("A.JBI:NOP\r\n"));
-    EXPECT_EQ(printer.files[0].folder, folder);
+    EXPECT_EQ(printer.files[0].folder, viewedFolder);
     EXPECT_EQ(printer.files[0].changed, changed) << "as it was read";
 }
 

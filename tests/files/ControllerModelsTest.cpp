@@ -1,5 +1,9 @@
 #include "files/ControllerModels.h"
 
+#include "base/Text.h"
+#include "base/Wildcard.h"
+
+#include <algorithm>
 #include <limits>
 #include <string>
 #include <vector>
@@ -64,6 +68,82 @@ TEST(ControllerModels, ASettingOutsideTheTableGivesSerialOnlyWithoutBitAndFilter
         EXPECT_EQ(model.bit, 0) << row;
         EXPECT_THAT(model.filters, IsEmpty()) << row;
     }
+}
+
+constexpr std::int16_t borin = 0;
+constexpr std::int16_t aster = 1;
+
+TEST(FilterChoices, OfThePCReadAsPatterns) {
+    EXPECT_THAT(filterChoices(pcModel()),
+                ElementsAre("*.JBI", "*.JBR", "*.DAT;*.CND;*.SYS", "*.PRM;*.LST", "*.*"));
+}
+
+TEST(FilterChoices, OfAModelAreItsOwnEntries) {
+    EXPECT_THAT(filterChoices(controllerModel(borin)),
+                ElementsAre("*.JBI", "*.DAT;*.CND;*.SYS", "*.PRM;*.LST"));
+    EXPECT_THAT(filterChoices(controllerModel(aster)), ElementsAre("*.JBI", "*.DAT"));
+    EXPECT_THAT(filterChoices(controllerModel(99)), IsEmpty());
+}
+
+struct FilterCase {
+    const char* title;
+    std::string_view name;
+    int index;
+    bool matches;
+};
+
+class PCFilter : public testing::TestWithParam<FilterCase> {};
+
+TEST_P(PCFilter, Matches) {
+    EXPECT_EQ(matchesFilter(GetParam().name, GetParam().index, pcModel()), GetParam().matches);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Names, PCFilter,
+    testing::Values(FilterCase{"Job", "A.JBI", 0, true}, FilterCase{"OtherKind", "A.JBR", 0, false},
+                    FilterCase{"FirstOfThree", "A.DAT", 2, true},
+                    FilterCase{"SecondOfThree", "A.CND", 2, true},
+                    FilterCase{"LastOfThree", "A.SYS", 2, true},
+                    FilterCase{"NoneOfThree", "A.PRM", 2, false},
+                    FilterCase{"OnlyTheLastExtensionCounts", "A.JBI.BAK", 0, false},
+                    FilterCase{"SeveralPoints", "A.B.JBI", 0, true},
+                    FilterCase{"EndWithoutPoint", "MYJBI", 0, false},
+                    FilterCase{"TheExtensionAlone", "JBI", 0, false},
+                    FilterCase{"PointAndExtensionAlone", ".JBI", 0, true},
+                    FilterCase{"LongerExtension", "A.XJBI", 0, false},
+                    FilterCase{"LetterCaseCounts", "A.jbi", 0, false},
+                    FilterCase{"AllFiles", "README.TXT", 4, true},
+                    FilterCase{"AllFilesNeedAPoint", "README", 4, false},
+                    FilterCase{"AllFilesWithAPointAtTheEnd", "README.", 4, true},
+                    FilterCase{"PastTheEntries", "README.TXT", 5, true},
+                    FilterCase{"PastTheEntriesWithoutPoint", "README", 5, false},
+                    FilterCase{"NoChoice", "README.TXT", -1, true},
+                    FilterCase{"NoChoiceWithoutPoint", "README", -1, false}),
+    [](const auto& row) { return std::string(row.param.title); });
+
+TEST(FileFilters, AreAskedOfTheGivenModel) {
+    EXPECT_TRUE(matchesFilter("A.CND", 1, controllerModel(borin)));
+    EXPECT_FALSE(matchesFilter("A.CND", 1, controllerModel(aster)));
+    EXPECT_TRUE(matchesFilter("A.CND", 2, controllerModel(aster))) << "past its two entries";
+    EXPECT_TRUE(matchesFilter("A.CND", 0, controllerModel(99))) << "a model without entries";
+}
+
+/// The shown caption is a wildcard pattern per extension; the test by the end of the name has to
+/// agree with it.
+TEST(FileFilters, AgreeWithTheirCaptionsAsWildcards) {
+    const auto choices = filterChoices(pcModel());
+    for (const std::string_view name :
+         {"A.JBI", ".JBI", "JBI", "A.B.JBR", "A.DAT", "A.CNDX", "A.SYS", "X", "", ".", "A.",
+          "溶接.PRM", "溶接.LST.", "A*.JBI"})
+        for (std::size_t index = 0; index < choices.size(); ++index) {
+            const auto patterns = split(choices[index], ';');
+            const bool wanted =
+                std::any_of(patterns.begin(), patterns.end(), [name](std::string_view pattern) {
+                    return matchesWildcard(name, pattern);
+                });
+            EXPECT_EQ(matchesFilter(name, static_cast<int>(index), pcModel()), wanted)
+                << name << " against " << choices[index];
+        }
 }
 
 } // namespace

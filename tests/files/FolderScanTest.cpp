@@ -53,5 +53,35 @@ TEST(FolderScan, AFolderThatCannotBeOpenedGivesTheSystemsReason) {
     EXPECT_FALSE(scanFolder(""));
 }
 
+TEST(FolderFiles, ComeInTheOrderOfTheirNamesWithoutRegardToCaseAndWithoutFolders) {
+    const tests::TemporaryFolder folder;
+    for (const char* name : {"b.JBI", "A.JBI", ".hidden", "C.jbi"})
+        folder.write(name, "");
+    folder.makeFolder("AB");
+    EXPECT_THAT(folderFiles(folder.path()), ElementsAre(".hidden", "A.JBI", "b.JBI", "C.jbi"));
+}
+
+TEST(FolderFiles, OfAFolderThatCannotBeReadAreNone) {
+    const tests::TemporaryFolder folder;
+    EXPECT_THAT(folderFiles(folder.path("gone")), IsEmpty());
+    EXPECT_THAT(folderFiles(folder.write("file", "")), IsEmpty());
+}
+
+TEST(Subfolders, ComeInTheOrderOfTheirNamesWithoutRegardToCase) {
+    const tests::TemporaryFolder folder;
+    for (const char* name : {"b", "A", "C", ".hidden", ".installed", "\u00E4", "\u00C4b"})
+        folder.makeFolder(name);
+    folder.write("file.JBI", "");
+    EXPECT_THAT(subfolders(folder.path()),
+                ElementsAre(".hidden", "A", "b", "C", "\u00E4", "\u00C4b"));
+}
+
+TEST(Subfolders, OfAFolderThatCannotBeReadAreNone) {
+    const tests::TemporaryFolder folder;
+    EXPECT_THAT(subfolders(folder.path("gone")), IsEmpty());
+    EXPECT_THAT(subfolders(folder.write("file", "")), IsEmpty());
+    EXPECT_THAT(subfolders(""), IsEmpty());
+}
+
 } // namespace
 } // namespace vantrel

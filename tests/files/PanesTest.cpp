@@ -1,4 +1,5 @@
 #include "CommandFixture.h"
+#include "link/FetchFiles.h"
 #include "link/FetchMark.h"
 #include "platform/HeldFile.h"
 

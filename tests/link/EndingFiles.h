@@ -1,6 +1,6 @@
 #pragma once
 
-#include "link/FetchMark.h"
+#include "link/FetchFiles.h"
 
 #include <limits>
 #include <optional>

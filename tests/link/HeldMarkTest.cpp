@@ -1,3 +1,4 @@
+#include "link/FetchFiles.h"
 #include "link/FetchMark.h"
 #include "link/ReplacedFile.h"
 #include "link/SessionErrorRecord.h"

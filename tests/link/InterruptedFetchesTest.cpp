@@ -2,6 +2,7 @@
 
 #include "EndingFiles.h"
 #include "SessionWorld.h"
+#include "link/FetchFiles.h"
 #include "link/FetchMark.h"
 #include "link/ReplacedFile.h"
 #include "link/ShownText.h"

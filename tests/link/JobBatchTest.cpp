@@ -2,7 +2,7 @@
 
 #include "JobBatchFixture.h"
 #include "base/TextCase.h"
-#include "link/FetchMark.h"
+#include "link/FetchFiles.h"
 #include "link/InterruptedFetches.h"
 #include "link/JobLists.h"
 #include "link/JobNameSet.h"

@@ -39,8 +39,8 @@ TEST_F(JobDeletionTest, ProgressNamesTheJobAndIsHiddenAtTheEnd) {
     EXPECT_TRUE(world.session->JobDelete("WELD.JBI"));
     EXPECT_THAT(world.view.messages(), ElementsAre("Deleting WELD.JBI"));
     for (const auto& picture : world.view.pictures)
-        if (picture.visible)
-            EXPECT_FALSE(picture.cancelButton) << "a single deletion cannot be cancelled";
+        EXPECT_FALSE(picture.visible && picture.cancelButton)
+            << "a single deletion cannot be cancelled";
     EXPECT_EQ(world.panel.waitingFor(), "waiting");
     EXPECT_EQ(world.view.yields, 1);
     EXPECT_FALSE(world.panel.isVisible());

@@ -85,7 +85,7 @@ inline void paintInGoodTime() {
             continue;
         bool isPainted = false;
         GdkFrameClock* const clock = gtk_widget_get_frame_clock(window);
-        const auto painted = +[](GdkFrameClock*, bool* isPainted) { *isPainted = true; };
+        const auto painted = +[](GdkFrameClock*, bool* mark) { *mark = true; };
         const gulong connection =
             g_signal_connect(clock, "after-paint", G_CALLBACK(painted), &isPainted);
         gtk_widget_queue_draw(window);

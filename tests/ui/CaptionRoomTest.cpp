@@ -1,6 +1,6 @@
 #include "MainWindowTest.h"
 #include "app/settings/SettingsFile.h"
-#include "ui/MainWindowPlaces.h"
+#include "ui/ControlPlaces.h"
 
 #include <wx/display.h>
 #include <wx/stattext.h>

@@ -40,12 +40,12 @@ class SettingWorld : public DialogInLanguage {
     frmSetting& dialog() {
         if (!window_) {
             draft_.emplace(state, messages, "/program");
-            window_ =
-                new frmSetting(nullptr, *draft_,
-                               {messages, state, boxes,
-                                FolderSources{[this] { return drives; }, subfolders, folderFiles,
-                                              [](const std::string&) { return false; }},
-                                [this] { taken.push_back(draft_->take()); }});
+            window_ = new frmSetting(
+                nullptr, *draft_,
+                {messages, state, boxes,
+                 FolderChoiceSource{[this] { return drives; }, subfolders, folderFiles,
+                                    [](const std::string&) { return false; }},
+                 [this] { taken.push_back(draft_->take()); }});
         }
         return *window_;
     }

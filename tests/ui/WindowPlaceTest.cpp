@@ -1,7 +1,7 @@
 #include "ui/WindowPlace.h"
 
 #include "app/settings/SettingsFile.h"
-#include "app/window/WindowPlaces.h"
+#include "app/window/ScreenGeometry.h"
 #include "support/Windows.h"
 #include "ui/look/WindowHolder.h"
 

@@ -1,6 +1,6 @@
 #include "ui/dialogs/DialogBasics.h"
 
-#include "app/window/WindowPlaces.h"
+#include "app/window/ScreenGeometry.h"
 
 #include <wx/app.h>
 #include <wx/dialog.h>

@@ -56,7 +56,7 @@ void FileNameList::fitColumn() {
         SetColumnWidth(0, width);
 }
 
-FolderChoicePanel::FolderChoicePanel(wxWindow* parent, FolderSources sources,
+FolderChoicePanel::FolderChoicePanel(wxWindow* parent, FolderChoiceSource sources,
                                      const std::string& caption)
     : wxPanel(parent, wxID_ANY), choice_(std::move(sources)) {
     SetSizer(buildControls(caption));
@@ -103,7 +103,7 @@ void FolderChoicePanel::bindEvents() {
     });
     Dir1_->Bind(wxEVT_TREE_ITEM_EXPANDING, &FolderChoicePanel::expanding, this);
     Dir1_->Bind(wxEVT_TREE_SEL_CHANGED, [this](wxTreeEvent& event) {
-        const auto node = folderNode(*Dir1_, event.GetItem());
+        const auto node = nodeOf(*Dir1_, event.GetItem());
         if (filling_ || node == FolderTree::none)
             return;
         const wxBusyCursor busy;
@@ -150,7 +150,7 @@ void FolderChoicePanel::rebuildTree() {
 
 void FolderChoicePanel::expanding(wxTreeEvent& event) {
     const auto item = event.GetItem();
-    const auto node = folderNode(*Dir1_, item);
+    const auto node = nodeOf(*Dir1_, item);
     if (filling_ || node == FolderTree::none || Dir1_->GetChildrenCount(item, false) > 0)
         return;
     const wxBusyCursor busy;

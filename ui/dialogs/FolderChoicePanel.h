@@ -36,7 +36,7 @@ class FileNameList : public wxListView {
 /// one's way and choose nothing.
 class FolderChoicePanel : public wxPanel {
   public:
-    FolderChoicePanel(wxWindow* parent, FolderSources sources, const std::string& caption);
+    FolderChoicePanel(wxWindow* parent, FolderChoiceSource sources, const std::string& caption);
 
     /// Called with the folder that the operator chose.
     std::function<void(const std::string& folder)> onChosen;

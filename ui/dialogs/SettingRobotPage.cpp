@@ -48,7 +48,7 @@ wxTextCtrl* newBox(wxWindow* parent, const char* name) {
 } // namespace
 
 SettingRobotPage::SettingRobotPage(wxWindow* parent, RobotListDraft& robots,
-                                   const MessageTable& messages, FolderSources sources)
+                                   const MessageTable& messages, FolderChoiceSource sources)
     : wxPanel(parent, wxID_ANY), robots_(robots) {
     const int margin = FromDIP(gap);
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
@@ -85,7 +85,7 @@ wxSizer* SettingRobotPage::buildList(const MessageTable& messages) {
     return frame;
 }
 
-wxSizer* SettingRobotPage::buildRobot(const MessageTable& messages, FolderSources sources) {
+wxSizer* SettingRobotPage::buildRobot(const MessageTable& messages, FolderChoiceSource sources) {
     auto* const frame = newFrame(this, formCaption(messages, message::selectedRobot), "frmSelRbt");
     auto* const box = frame->GetStaticBox();
     const int border = FromDIP(gap);

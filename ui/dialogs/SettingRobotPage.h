@@ -22,7 +22,7 @@ struct RobotFault;
 class SettingRobotPage : public wxPanel {
   public:
     SettingRobotPage(wxWindow* parent, RobotListDraft& robots, const MessageTable& messages,
-                     FolderSources sources);
+                     FolderChoiceSource sources);
 
     /// Called after every edit of the operator.
     std::function<void()> onEdited;
@@ -36,7 +36,7 @@ class SettingRobotPage : public wxPanel {
 
   private:
     wxSizer* buildList(const MessageTable& messages);
-    wxSizer* buildRobot(const MessageTable& messages, FolderSources sources);
+    wxSizer* buildRobot(const MessageTable& messages, FolderChoiceSource sources);
     wxSizer* buildFields(wxWindow* box, const MessageTable& messages);
     void bindList();
     void showInserted();

@@ -24,7 +24,7 @@ struct SettingWindowServices {
     const MessageTable& messages;
     const ApplicationState& state; ///< of the caption font
     MessageBoxes& boxes;
-    FolderSources folders;
+    FolderChoiceSource folders;
     std::function<void()> apply; ///< takes the draft's values; called on a draft without a fault
 };
 

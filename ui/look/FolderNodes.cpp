@@ -35,7 +35,7 @@ void addFolderNodes(wxTreeCtrl& control, const wxTreeItemId& parent, const Folde
     }
 }
 
-FolderTree::Id folderNode(const wxTreeCtrl& control, const wxTreeItemId& item) {
+FolderTree::Id nodeOf(const wxTreeCtrl& control, const wxTreeItemId& item) {
     const auto* data = item.IsOk() ? dynamic_cast<NodeData*>(control.GetItemData(item)) : nullptr;
     return data ? data->id : FolderTree::none;
 }

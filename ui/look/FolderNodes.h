@@ -15,7 +15,7 @@ namespace vantrel {
 void addFolderNodes(wxTreeCtrl& control, const wxTreeItemId& parent, const FolderTree& tree,
                     const std::vector<FolderTree::Id>& nodes);
 /// The node that an item stands for; none for the hidden root.
-FolderTree::Id folderNode(const wxTreeCtrl& control, const wxTreeItemId& item);
+FolderTree::Id nodeOf(const wxTreeCtrl& control, const wxTreeItemId& item);
 /// Scrolls to the selected node, with as much of what is below it as fits.
 void showSelectedFolder(wxTreeCtrl& control);
 

@@ -1,6 +1,6 @@
 #include "FuzzInput.h"
 #include "app/settings/SettingsFile.h"
-#include "app/window/WindowPlaces.h"
+#include "app/settings/WindowText.h"
 
 using namespace vantrel;
 

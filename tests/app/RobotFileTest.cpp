@@ -11,12 +11,12 @@ RobotRecord named(std::string_view name) {
     return record;
 }
 
-TEST(RobotListTest, CountsUpToTheSentinel) {
+TEST(RobotFileTest, CountsUpToTheSentinel) {
     EXPECT_EQ(robotCount({named("A"), named("B"), named("@END@"), named("C")}), 2U);
     EXPECT_EQ(robotCount(emptyRobotList()), 0U);
 }
 
-TEST(RobotListTest, WithoutSentinelEveryRecordCounts) {
+TEST(RobotFileTest, WithoutSentinelEveryRecordCounts) {
     EXPECT_EQ(robotCount({}), 0U);
     EXPECT_EQ(robotCount({named("A")}), 1U);
 }

@@ -1,5 +1,6 @@
+#include "app/settings/WindowText.h"
+
 #include "app/settings/SettingsFile.h"
-#include "app/window/WindowPlaces.h"
 
 #include <gtest/gtest.h>
 

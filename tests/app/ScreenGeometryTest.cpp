@@ -1,12 +1,37 @@
-#include "app/window/WindowPlaces.h"
+#include "app/window/ScreenGeometry.h"
+
 #include "support/NamedRow.h"
 
+#include <cstdint>
 #include <limits>
 
 #include <gtest/gtest.h>
 
-namespace vantrel::tests {
+namespace vantrel {
 namespace {
+
+TEST(TwipsTest, AreRoundedToThePixelsOfTheResolution) {
+    EXPECT_EQ(pixelsFromTwips(9720, 96), 648);
+    EXPECT_EQ(pixelsFromTwips(9720, 144), 972);
+    EXPECT_EQ(pixelsFromTwips(1400, 96), 93);
+    EXPECT_EQ(pixelsFromTwips(-30, 96), -2);
+}
+
+TEST(TwipsTest, NonsenseStaysWithinWhatAScreenCanBe) {
+    EXPECT_EQ(pixelsFromTwips(std::numeric_limits<std::int32_t>::max(), 192), 32767);
+    EXPECT_EQ(pixelsFromTwips(std::numeric_limits<std::int32_t>::min(), 192), -32767);
+}
+
+TEST(TwipsTest, AWidthThatNobodyChangedKeepsItsTwips) {
+    for (const std::int32_t stored : {0, 700, 1400, 1499, 1500})
+        for (const int dpi : {96, 120, 144, 192})
+            EXPECT_EQ(twipsUnlessUnchanged(pixelsFromTwips(stored, dpi), dpi, stored), stored);
+}
+
+TEST(TwipsTest, AWidthThatWasChangedIsMeasured) {
+    EXPECT_EQ(twipsUnlessUnchanged(94, 96, 1400), 1410);
+    EXPECT_EQ(twipsUnlessUnchanged(1, 192, 1400), 7.5);
+}
 
 constexpr int farAway = std::numeric_limits<int>::max() / 2;
 const std::vector<ScreenRect> twoScreens{{0, 0, 1280, 1000}, {1280, 0, 1920, 1040}};
@@ -42,7 +67,7 @@ TEST(ScreenPlaceTest, WithoutScreensTheWishStands) {
     EXPECT_EQ(placeOnScreens({9000, 0, 640, 480}, {}), (ScreenRect{9000, 0, 640, 480}));
 }
 
-struct DialogRow : NamedRow {
+struct DialogRow : tests::NamedRow {
     ScreenRect owner;
     int width, height;
     int left, top;
@@ -64,7 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
                     DialogRow{{"OwnerBelowTheBottom"}, {200, 800, 600, 400}, 300, 200, 350, 650},
                     DialogRow{{"OwnerLeftAndAbove"}, {-500, -300, 600, 400}, 300, 200, 100, 50},
                     DialogRow{{"LargerThanTheScreen"}, {200, 150, 600, 400}, 2000, 900, 100, 50}),
-    rowName);
+    tests::rowName);
 
 } // namespace
-} // namespace vantrel::tests
+} // namespace vantrel

@@ -1,7 +1,7 @@
-#include "ui/MainWindowPlaces.h"
+#include "ui/ControlPlaces.h"
 
+#include "app/window/ScreenGeometry.h"
 #include "app/window/WindowLayout.h"
-#include "app/window/WindowPlaces.h"
 #include "ui/CommandToolBar.h"
 #include "ui/FileListControl.h"
 #include "ui/FileViewer.h"
