@@ -441,7 +441,8 @@ TEST_F(RobotRegistryTest, EqualNamesOfAFileThatWasReadWholeAreWritten) {
     read(blockOf("B", "10.0.0.1", "C:\\a") + blockOf("B", "10.0.0.2", "C:\\b"));
     registry_.noteEdit();
     EXPECT_TRUE(registry_.write());
-    EXPECT_EQ(file(), boot("B") + blockOf("B", "10.0.0.1", "C:\\a") + blockOf("B", "10.0.0.2", "C:\\b"));
+    EXPECT_EQ(file(),
+              boot("B") + blockOf("B", "10.0.0.1", "C:\\a") + blockOf("B", "10.0.0.2", "C:\\b"));
 }
 
 TEST_F(RobotRegistryTest, GarbageGivesAnEmptyList) {
