@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Runs a command on a virtual display of its own with a window manager:
 #   scripts/virtual-display.sh COMMAND [ARGUMENT]...
-# VANTREL_SCREEN sets its size ("1280x1024"), VANTREL_DPI its resolution.
+# VANTREL_SCREEN sets its size ("1280x1024"), VANTREL_DPI its resolution, and VANTREL_MANAGER=none
+# leaves the window manager out.
 set -euo pipefail
 
 work=$(mktemp -d)
@@ -28,12 +29,14 @@ export DISPLAY=":$number"
 unset WAYLAND_DISPLAY
 export GDK_BACKEND=x11 NO_AT_BRIDGE=1 GTK_A11Y=none
 
-openbox --sm-disable >"$work/manager.log" 2>&1 &
-manager=$!
-for _ in $(seq 200); do
-    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
-    read -r -t 0.05 <> <(:) || true
-done
+if [ "${VANTREL_MANAGER:-openbox}" != none ]; then
+    openbox --sm-disable >"$work/manager.log" 2>&1 &
+    manager=$!
+    for _ in $(seq 200); do
+        xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
+        read -r -t 0.05 <> <(:) || true
+    done
+fi
 
 status=0
 "$@" || status=$?

@@ -2,7 +2,8 @@
 # Runs a Windows program under Wine: scripts/wine.sh PROGRAM.exe [ARGUMENT]...
 # Wine gets a folder of its own and starts in a Japanese locale, which gives it code page 932. Both
 # are made once and kept in the cache; VANTREL_WINE names another place for them, VANTREL_LOCALE
-# another locale.
+# another locale. On a display without a window manager (VANTREL_MANAGER=none) Wine puts up the
+# program's windows by itself: they are shown, moved and activated at once then, as on Windows.
 set -euo pipefail
 
 cache=${VANTREL_WINE:-${XDG_CACHE_HOME:-$HOME/.cache}/vantrel/wine}
@@ -39,6 +40,11 @@ start_services() {
     in_locale wine cmd /c exit </dev/null >/dev/null 2>&1 9>&-
 }
 
+put_up_windows() {
+    in_locale wine reg add "HKCU\\Software\\Wine\\AppDefaults\\$(basename "$1")\\X11 Driver" \
+        /v Managed /d N /f </dev/null >/dev/null 2>&1 9>&-
+}
+
 export WINEPREFIX=$cache/$locale WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d"
 exec 9>"$cache/lock"
@@ -46,5 +52,6 @@ flock 9
 prepare_locale
 prepare_wine
 start_services
+[ "${VANTREL_MANAGER:-}" != none ] || put_up_windows "$1"
 exec 9>&-
 exec env LOCPATH="$cache/locales" LC_ALL="$locale" wine "$@"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/ToolkitPort.h"
+
 #include <deque>
 #include <functional>
 #include <utility>
@@ -44,10 +46,15 @@ class ModalScript : public wxModalDialogHook {
             Start(2);
         }
         void Notify() override {
-            if (!dialog_->IsModal() || !dialog_->IsShown())
+            if (!isWaiting(*dialog_))
                 return;
-            Stop();
-            wxTheApp->CallAfter(std::exchange(action_, {}));
+            if (action_)
+                wxTheApp->CallAfter([this, action = std::exchange(action_, {})] {
+                    Stop();
+                    action();
+                });
+            // A box of the system's own takes events in its own way.
+            wxWakeUpIdle();
         }
 
       private:

@@ -1,8 +1,9 @@
-#include "support/DisplayLock.h"
+#include "support/ToolkitPort.h"
 #include "ui/look/SystemLook.h"
 
 #include <cstdio>
-#include <memory>
+#include <string>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -32,8 +33,25 @@ class WindowTestApp : public wxApp {
     }
 };
 
+/// Unless cases were asked for.
+void leaveOut(const std::vector<vantrel::tests::LeftOut>& leftOut) {
+    if (std::string(testing::GTEST_FLAG(filter)) != "*")
+        return;
+    std::string filter;
+    for (const auto& [reason, cases] : leftOut) {
+        std::printf("Left out: %s\n", reason);
+        for (const auto& pattern : cases) {
+            std::printf("    %s\n", pattern.c_str());
+            filter += (filter.empty() ? '-' : ':') + pattern;
+        }
+    }
+    if (!filter.empty())
+        testing::GTEST_FLAG(filter) = filter;
+}
+
 int runWithWindows(int argc, char** argv) {
     const vantrel::tests::DisplayLock alone;
+    vantrel::tests::prepareToolkit();
     wxApp::SetInstance(new WindowTestApp);
     if (!wxEntryStart(argc, argv) || !wxTheApp->CallOnInit()) {
         std::fputs("These tests open real windows and found no display to open them on.\n"
@@ -59,14 +77,6 @@ int main(int argc, char** argv) {
     // Listing is done by the build, where there need be no display.
     if (testing::GTEST_FLAG(list_tests))
         return RUN_ALL_TESTS();
+    leaveOut(vantrel::tests::casesLeftOut());
     return runWithWindows(argc, argv);
-}
-
-/// The font library keeps what it has read until the process ends; that is none of our leaks.
-extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions() {
-    return "leak:libfontconfig\n";
-}
-
-extern "C" __attribute__((visibility("default"))) const char* __lsan_default_options() {
-    return "print_suppressions=0";
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/ToolkitPort.h"
+
 #include <chrono>
 #include <cstdlib>
 #include <functional>
@@ -92,15 +94,26 @@ inline bool swallows(wxWindow& window, int keyCode) {
 
 /// A real key press, as from the keyboard, to the window that is active.
 inline void pressKey(int keyCode, int modifiers = wxMOD_NONE) {
-    wxUIActionSimulator keyboard;
-    keyboard.Char(keyCode, modifiers);
+    strikeKey(keyCode, modifiers);
+}
+
+/// A real key press, and all that follows from it.
+inline void pressKeyAndWait(int keyCode, int modifiers = wxMOD_NONE) {
+    pressKey(keyCode, modifiers);
+    outwaitToolkit();
+}
+
+/// Whether a modal dialog still waits for its end; some ports keep one modal, hidden already, until
+/// the call that showed it returns.
+inline bool isOpen(const wxDialog& dialog) {
+    return dialog.IsModal() && dialog.IsShown();
 }
 
 /// Shows the dialog modally and acts while it is open. An action that leaves it open fails.
 inline int whileModal(wxDialog& dialog, const std::function<void()>& action) {
     dialog.CallAfter([&] {
         action();
-        if (!dialog.IsModal())
+        if (!isOpen(dialog))
             return;
         ADD_FAILURE() << "the dialog is still open";
         dialog.EndModal(wxID_NONE);

@@ -12,7 +12,9 @@ class OwnPlace {
     TemporaryFolder above_;
 
   private:
+    // Each system asks for it by a name of its own.
     EnvironmentVariable temporary_{"TMPDIR", above_.path()};
+    EnvironmentVariable temporaryOnWindows_{"TMP", above_.path()};
 };
 
 /// The whole program with its manuals beside it, and with a program that opens them.
@@ -28,7 +30,10 @@ class HelpWorld : private OwnPlace, public ProgramWorld {
     std::string openings(const std::string& manual, int times = 1) const {
         std::string all;
         for (int time = 0; time < times; ++time)
-            all += folder.path() + "/../" + manualFolder + manual + '\n';
+            all += std::filesystem::path(folder.path() + "/../" + manualFolder + manual)
+                       .make_preferred()
+                       .string() +
+                   '\n';
         return all;
     }
 

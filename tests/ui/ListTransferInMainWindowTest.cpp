@@ -107,7 +107,7 @@ TEST_P(ListFileOfEntry, GivesAReportInFullWhenItsTransferFails) {
         EXPECT_TRUE(text.starts_with(messages.getMessage(5) + "BscUpLoad ( 1200 )")) << text;
         EXPECT_TRUE(text.ends_with("[A.JBI]")) << text;
         saveScreenshot(box, std::string("list-report-") + GetParam());
-        swallows(box, WXK_ESCAPE);
+        answer(box, wxID_OK);
     });
     menu("mnuOpt(" + std::to_string(saveJobs) + ")");
     EXPECT_TRUE(controls().fraPC.panel->IsEnabled());

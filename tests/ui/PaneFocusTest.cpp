@@ -1,4 +1,3 @@
-#include "LateKeys.h"
 #include "ProgramWorld.h"
 #include "ui/CommandToolBar.h"
 #include "ui/FileViewer.h"
@@ -48,7 +47,7 @@ class PaneFocusTest : public testing::Test, public ProgramWorld {
         mouse.MouseMove(window.ClientToScreen(place));
         runEvents();
         mouse.MouseClick(button);
-        gdk_display_sync(gdk_display_get_default());
+        awaitDisplay();
         runEvents();
     }
     /// Between the lines of a frame and its controls.
@@ -183,7 +182,7 @@ TEST_F(PaneFocusTest, TheRightButtonOpensTheMenuOfItsPane) {
     wxMenu* opened = nullptr;
     controller().Bind(wxEVT_MENU_OPEN, [&](wxMenuEvent& event) {
         opened = event.GetMenu();
-        controller().CallAfter([menu = opened] { gtk_menu_popdown(GTK_MENU(menu->m_menu)); });
+        controller().CallAfter([menu = opened] { closeOpenMenu(*menu); });
         event.Skip();
     });
     wxRect item;
@@ -267,17 +266,11 @@ TEST_F(PaneFocusTest, TheRobotBoxComesBackWithItsChoice) {
 
 TEST_F(PaneFocusTest, RefreshInTheMenuBarIsOneCommand) {
     pcJob("NEW");
-    auto& bar = *window().GetMenuBar();
     constexpr std::size_t refresh = 4;
-    GtkWidget* entry = nullptr;
-    auto* const entries = gtk_container_get_children(GTK_CONTAINER(bar.GetHandle()));
-    entry = GTK_WIDGET(g_list_nth_data(entries, refresh));
-    g_list_free(entries);
-    ASSERT_TRUE(entry);
-    EXPECT_STREQ(gtk_menu_item_get_label(GTK_MENU_ITEM(entry)), "_Refresh");
-    EXPECT_EQ(gtk_menu_item_get_submenu(GTK_MENU_ITEM(entry)), nullptr);
+    EXPECT_EQ(menuBarEntries(window()).at(refresh), "&Refresh");
+    EXPECT_FALSE(isMenu(window(), refresh));
     EXPECT_EQ(namesIn(pcList()).size(), 3U);
-    gtk_menu_item_activate(GTK_MENU_ITEM(entry));
+    chooseCommand(window(), refresh);
     EXPECT_TRUE(waitFor([&] { return pcList().FindItem(-1, "NEW.JBI") >= 0; }));
     pcJob("NEXT");
     pc().focus();

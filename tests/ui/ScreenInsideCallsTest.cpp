@@ -119,7 +119,7 @@ TEST_P(ScreenInsideCalls, TheStartShowsThatItReadsTheDirectory) {
     onRobot("OLD");
     modal.act([](wxDialog& question) {
         paintInGoodTime();
-        question.EndModal(wxID_YES);
+        answer(question, wxID_YES);
     });
     inCall("BscOpen", 1, [] {
         expectWindows(1);

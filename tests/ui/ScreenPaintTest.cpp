@@ -1,8 +1,10 @@
 #include "ui/ScreenPaint.h"
 
 #include "support/ScreenPicture.h"
+#include "support/Windows.h"
 #include "ui/look/WindowHolder.h"
 
+#include <wx/dcclient.h>
 #include <wx/frame.h>
 #include <wx/panel.h>
 #include <wx/timer.h>
@@ -10,12 +12,18 @@
 namespace vantrel::tests {
 namespace {
 
-/// A window that is all of one colour.
+/// A window that is all of one colour, which is put on when the system has it paint.
 class ColouredFrame : public wxFrame {
   public:
     ColouredFrame(const wxColour& colour, const wxRect& place)
         : wxFrame(nullptr, wxID_ANY, "coloured", place.GetPosition(), place.GetSize()) {
+        panel->SetBackgroundStyle(wxBG_STYLE_PAINT);
         panel->SetBackgroundColour(colour);
+        panel->Bind(wxEVT_PAINT, [this](wxPaintEvent&) {
+            wxPaintDC canvas(panel);
+            canvas.SetBackground(panel->GetBackgroundColour());
+            canvas.Clear();
+        });
     }
     bool isPaintedIn(std::uint32_t colour) const {
         const ScreenPicture picture(*panel);
@@ -34,18 +42,6 @@ class ScreenPaintTest : public testing::Test {
         lower.unload();
         upper.unload();
         runEvents();
-    }
-
-    /// What the display sends when the operator acts, without the time that its own takes.
-    static void send(GdkEventType type, const wxWindow& window) {
-        GdkDisplay* const display = gdk_display_get_default();
-        GdkEvent* const event = gdk_event_new(type);
-        event->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(window.GetHandle())));
-        if (type == GDK_BUTTON_PRESS)
-            event->button.button = GDK_BUTTON_PRIMARY;
-        gdk_event_set_device(event, gdk_seat_get_pointer(gdk_display_get_default_seat(display)));
-        gdk_display_put_event(display, event);
-        gdk_event_free(event);
     }
 
     ScreenPaint screen;
@@ -115,8 +111,8 @@ TEST_F(ScreenPaintTest, NothingThatTheOperatorDidNorAnyTimerRunsBeforeTheNextYie
     wxTimer timer(lower.get());
     timer.StartOnce(0);
     lower->CallAfter([&] { ++calls; });
-    send(GDK_BUTTON_PRESS, *lower->panel);
-    send(GDK_DELETE, *lower);
+    sendPress(*lower->panel);
+    sendClosing(*lower);
     upper->Show();
     screen.bringUpToDate();
     EXPECT_TRUE(upper->isPaintedIn(red));

@@ -92,7 +92,7 @@ TEST_P(SettingRobotPageTest, TypedPointsLeadThroughTheAddressAndStayOutOfIt) {
         ASSERT_TRUE(waitFor([&] { return textOf("txtIP4") == "8"; }));
         pressKey(WXK_RETURN);
         EXPECT_TRUE(hasFocus("Drive1"));
-        EXPECT_TRUE(dialog().IsModal());
+        EXPECT_TRUE(isOpen(dialog()));
         click(dialog(), "cmdCancel");
     });
     EXPECT_EQ(edited().robots().selectedRobot().IPaddr, "192.168.7.8");

@@ -9,6 +9,7 @@
 #include "support/TemporaryFolder.h"
 #include "ui/dialogs/frmSetting.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -82,7 +83,8 @@ class SettingWorld : public DialogInLanguage {
     }
 
     TemporaryFolder disk;
-    std::vector<Drive> drives{{"/", "/"}, {disk.path("pallet"), "STICK"}};
+    const std::string root = std::filesystem::path(disk.path()).root_path().string();
+    std::vector<Drive> drives{{root, root}, {disk.path("pallet"), "STICK"}};
     FakeMessageBoxes boxes;
     std::vector<SettingValues> taken;
 

@@ -1,8 +1,6 @@
 #include "ProgramWorld.h"
 #include "ui/dialogs/frmVers.h"
 
-#include <gtk/gtk.h>
-
 namespace vantrel::tests {
 namespace {
 
@@ -36,10 +34,7 @@ TEST_F(VersionWindowAtStart, StaysWhileTheOperatorOnlyLooks) {
 TEST_F(VersionWindowAtStart, StaysBeforeTheMainWindow) {
     auto* const version = wxWindow::FindWindowByName("frmVers");
     ASSERT_NE(version, nullptr);
-    EXPECT_TRUE(waitFor([&] {
-        return gtk_window_get_transient_for(GTK_WINDOW(version->GetHandle())) ==
-               GTK_WINDOW(world.window().GetHandle());
-    }));
+    EXPECT_TRUE(waitFor([&] { return staysBefore(*version, world.window()); }));
     EXPECT_TRUE(isShown());
 }
 

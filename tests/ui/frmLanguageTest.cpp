@@ -1,7 +1,6 @@
 #include "ui/dialogs/frmLanguage.h"
 
 #include "DialogTest.h"
-#include "LateKeys.h"
 #include "app/LanguageWorld.h"
 #include "platform/Files.h"
 #include "support/Choices.h"
@@ -108,7 +107,7 @@ TEST_P(frmLanguageTest, EnterInTheListIsOKOnce) {
         ASSERT_TRUE(waitFor([&] { return dialog.IsActive() && list().HasFocus(); }));
         pressKeyAndWait(WXK_RETURN);
         EXPECT_EQ(world.boxes.shown.size(), 1U);
-        EXPECT_TRUE(dialog.IsModal());
+        EXPECT_TRUE(isOpen(dialog));
         pick(list(), 1);
         list().SetFocus();
         pressKeyAndWait(WXK_RETURN);
@@ -139,7 +138,7 @@ TEST_P(frmLanguageTest, ALanguageThatCannotBeReadKeepsTheDialogOpen) {
         pick(list(), 0);
         std::filesystem::remove(world.program.path("English.lng"));
         click(dialog, "Command1");
-        EXPECT_TRUE(dialog.IsModal());
+        EXPECT_TRUE(isOpen(dialog));
         click(dialog, "Command2");
     });
     EXPECT_EQ(world.boxes.shown.size(), 1U);
@@ -181,7 +180,7 @@ TEST_P(frmLanguageTest, ADamagedIconIsNoPicture) {
 TEST_P(frmLanguageTest, EditStartsTheEditorAndStaysOpen) {
     whileModal(dialog, [&] {
         click(dialog, "Command3");
-        EXPECT_TRUE(dialog.IsModal());
+        EXPECT_TRUE(isOpen(dialog));
         click(dialog, "Command2");
     });
     EXPECT_THAT(world.edited, testing::ElementsAre(world.program.path(language() + ".lng")));

@@ -1,7 +1,6 @@
 #include "ui/dialogs/frmListFile.h"
 
 #include "DialogTest.h"
-#include "LateKeys.h"
 #include "app/lists/ListFileDraft.h"
 #include "link/SessionWorld.h"
 
@@ -105,7 +104,7 @@ TEST_P(frmListFileTest, TheKeyboardTypesANameAndConfirmsIt) {
         wxUIActionSimulator().Text("jobs");
         ASSERT_TRUE(waitFor([&] { return text.GetValue() == "jobs"; }));
         pressKey(WXK_RETURN);
-        waitFor([&] { return !dialog.IsModal(); });
+        waitFor([&] { return !isOpen(dialog); });
     });
     EXPECT_EQ(draft.result(), "1");
 }
@@ -115,7 +114,7 @@ TEST_P(frmListFileTest, EnterWithoutANameDoesNothing) {
         auto& text = control<wxTextCtrl>(dialog, "txtFile");
         ASSERT_TRUE(waitFor([&] { return dialog.IsActive() && text.HasFocus(); }));
         pressKeyAndWait(WXK_RETURN);
-        ASSERT_TRUE(dialog.IsModal());
+        ASSERT_TRUE(isOpen(dialog));
         click(dialog, "cmdCancel");
     });
     EXPECT_TRUE(world.boxes.shown.empty());
@@ -127,7 +126,7 @@ TEST_P(frmListFileTest, EnterReadsAListOnce) {
         type(dialog, "txtFile", "nowhere");
         ASSERT_TRUE(waitFor([&] { return dialog.IsActive() && text.HasFocus(); }));
         pressKey(WXK_RETURN);
-        waitFor([&] { return !dialog.IsModal(); });
+        waitFor([&] { return !isOpen(dialog); });
     });
     outwaitToolkit();
     EXPECT_EQ(world.boxes.shown.size(), 1U);

@@ -98,7 +98,7 @@ TEST_P(frmMsgYesNoTest, TheKeyboardAnswersIt) {
         whileModal(asked, [&] {
             ASSERT_TRUE(waitFor([&] { return asked.IsActive(); }));
             pressKey(key, modifiers);
-            waitFor([&] { return !asked.IsModal() || !asked.IsShown(); });
+            waitFor([&] { return !isOpen(asked); });
         });
         EXPECT_EQ(asked.answerText(), answerText) << key;
     }

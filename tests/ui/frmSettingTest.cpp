@@ -1,7 +1,7 @@
 #include "ui/dialogs/frmSetting.h"
 
-#include "LateKeys.h"
 #include "SettingWorld.h"
+#include "ui/NativeControls.h"
 
 #include <array>
 #include <functional>
@@ -17,6 +17,10 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 class frmSettingTest : public SettingWorld {};
+
+/// The drop-down lists, with the page of each.
+constexpr std::array<std::pair<std::size_t, const char*>, 5> dropDownLists{
+    {{0, "Drive1"}, {1, "cmbBaudrate"}, {1, "cmbParity"}, {1, "cmbDataLen"}, {1, "cmbStopBit"}}};
 
 struct Caption {
     const char* control;
@@ -184,14 +188,14 @@ TEST_P(frmSettingTest, EnterMovesTheFocusAndPressesNothing) {
             ASSERT_TRUE(waitFor([&] { return dialog().IsActive() && box(from).HasFocus(); }));
             pressKeyAndWait(WXK_RETURN);
             EXPECT_TRUE(hasFocus(to)) << from;
-            ASSERT_TRUE(dialog().IsModal()) << from;
+            ASSERT_TRUE(isOpen(dialog())) << from;
         }
         pages().SetSelection(1);
         box("txtPort").SetFocus();
         ASSERT_TRUE(hasFocus("txtPort"));
         pressKeyAndWait(WXK_RETURN);
         EXPECT_TRUE(hasFocus("cmbBaudrate"));
-        ASSERT_TRUE(dialog().IsModal());
+        ASSERT_TRUE(isOpen(dialog()));
         click(dialog(), "cmdCancel");
     });
     EXPECT_THAT(taken, IsEmpty());
@@ -205,8 +209,8 @@ TEST_P(frmSettingTest, EnterInTheListOfRobotsGoesToTheNameAndPressesNothing) {
             robots().SetFocus();
             ASSERT_TRUE(waitFor([&] { return dialog().IsActive() && robots().HasFocus(); }));
             pressKeyAndWait(enter);
-            EXPECT_TRUE(hasFocus("txtRbtName"));
-            ASSERT_TRUE(dialog().IsModal());
+            EXPECT_TRUE(hasFocus("txtRbtName")) << enter;
+            ASSERT_TRUE(isOpen(dialog()));
         }
         click(dialog(), "cmdCancel");
     });
@@ -223,7 +227,7 @@ TEST_P(frmSettingTest, EnterInTheListsOfFoldersAndFilesPressesNothing) {
                 ASSERT_TRUE(waitFor([&] { return dialog().IsActive(); }));
                 ASSERT_TRUE(hasFocusIn(name));
                 pressKeyAndWait(WXK_RETURN);
-                ASSERT_TRUE(dialog().IsModal()) << name << robot;
+                ASSERT_TRUE(isOpen(dialog())) << name << robot;
             }
         }
         click(dialog(), "cmdCancel");
@@ -233,10 +237,44 @@ TEST_P(frmSettingTest, EnterInTheListsOfFoldersAndFilesPressesNothing) {
 
 TEST_P(frmSettingTest, EnterInAClosedDropDownListPressesNothing) {
     whileModal(dialog(), [&] {
-        choice("Drive1").SetFocus();
-        ASSERT_TRUE(waitFor([&] { return dialog().IsActive() && choice("Drive1").HasFocus(); }));
-        pressKeyAndWait(WXK_RETURN);
-        ASSERT_TRUE(dialog().IsModal());
+        for (const auto& [page, name] : dropDownLists) {
+            pages().SetSelection(page);
+            for (const int enter : {int(WXK_RETURN), int(WXK_NUMPAD_ENTER)}) {
+                // Some systems open a list by Enter, which takes the keyboard.
+                if (isListOpen(choice(name)))
+                    pressKeyAndWait(WXK_ESCAPE);
+                choice(name).SetFocus();
+                ASSERT_TRUE(waitFor([&] { return dialog().IsActive() && choice(name).HasFocus(); }))
+                    << name;
+                pressKeyAndWait(enter);
+                ASSERT_TRUE(isOpen(dialog())) << name << enter;
+            }
+            if (isListOpen(choice(name)))
+                pressKeyAndWait(WXK_ESCAPE);
+        }
+        click(dialog(), "cmdCancel");
+    });
+    EXPECT_THAT(taken, IsEmpty());
+}
+
+TEST_P(frmSettingTest, EnterInAnOpenDropDownListChoosesTheEntryAndPressesNothing) {
+    whileModal(dialog(), [&] {
+        pages().SetSelection(1);
+        auto& list = choice("cmbBaudrate");
+        pick(list, 0);
+        for (const int enter : {int(WXK_RETURN), int(WXK_NUMPAD_ENTER)}) {
+            list.SetFocus();
+            ASSERT_TRUE(waitFor([&] { return dialog().IsActive() && list.HasFocus(); }));
+            const int before = list.GetSelection();
+            openList(list);
+            ASSERT_TRUE(waitFor([&] { return isListOpen(list); }));
+            pressKeyAndWait(WXK_DOWN);
+            pressKeyAndWait(enter);
+            EXPECT_TRUE(waitFor([&] { return !isListOpen(list); })) << enter;
+            EXPECT_EQ(list.GetSelection(), before + 1) << enter;
+            ASSERT_TRUE(isOpen(dialog())) << enter;
+        }
+        EXPECT_EQ(edited().serial().chosen(SerialList::Baudrate), std::size_t(2));
         click(dialog(), "cmdCancel");
     });
     EXPECT_THAT(taken, IsEmpty());
@@ -247,7 +285,7 @@ TEST_P(frmSettingTest, ApplyTakesTheEditsAndStaysOpen) {
         type(dialog(), "txtRbtName", "X");
         type(dialog(), "txtIP1", "010");
         click(dialog(), "cmdRefresh");
-        EXPECT_TRUE(dialog().IsModal());
+        EXPECT_TRUE(isOpen(dialog()));
         EXPECT_FALSE(canApply());
         EXPECT_EQ(textOf("txtIP1"), "10");
         click(dialog(), "cmdCancel");
@@ -287,7 +325,7 @@ TEST_P(frmSettingTest, AFaultIsToldAndTheOperatorLedThere) {
         pick(robots(), 0);
         pages().SetSelection(2);
         click(dialog(), "cmdOK");
-        EXPECT_TRUE(dialog().IsModal());
+        EXPECT_TRUE(isOpen(dialog()));
         EXPECT_EQ(pages().GetSelection(), 0);
         EXPECT_EQ(robots().GetSelection(), 1);
         EXPECT_TRUE(hasFocus("txtIP3"));
@@ -297,7 +335,7 @@ TEST_P(frmSettingTest, AFaultIsToldAndTheOperatorLedThere) {
         EXPECT_TRUE(hasFocus("txtRbtName"));
         type(dialog(), "txtRbtName", "");
         click(dialog(), "cmdOK");
-        EXPECT_TRUE(dialog().IsModal());
+        EXPECT_TRUE(isOpen(dialog()));
         click(dialog(), "cmdCancel");
     });
     EXPECT_THAT(boxes.texts(),

@@ -11,6 +11,7 @@
 #include "ui/PathDisplay.h"
 #include "ui/look/IconSet.h"
 
+#include <array>
 #include <cmath>
 #include <tuple>
 
@@ -108,7 +109,7 @@ TEST_P(MainWindowTest, EveryMenuEntryHasItsOwnCaption) {
 }
 
 TEST_P(MainWindowTest, OnlyThePCsDetailsAreFlat) {
-    for (const std::int16_t view : {3, 0, 3, 1, 3, 2, 3}) {
+    for (const auto view : std::to_array<std::int16_t>({3, 0, 3, 1, 3, 2, 3})) {
         window.showView(ActiveSide::PC, view);
         EXPECT_EQ(controls.lsvPC->appearance(),
                   view == 3 ? Appearance::Flat : Appearance::ThreeDimensional);

@@ -5,7 +5,7 @@
 #include <wx/frame.h>
 #include <wx/msw/private.h>
 
-namespace vantrel {
+namespace vantrel::tests {
 namespace {
 
 /// A window with a part of it that counts how often it is painted and pressed.
@@ -67,4 +67,4 @@ TEST_F(PaintingTest, NoWindowManagerIsWaitedFor) {
 }
 
 } // namespace
-} // namespace vantrel
+} // namespace vantrel::tests

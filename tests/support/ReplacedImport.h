@@ -1,12 +1,10 @@
-#include "ui/look/SystemLook.h"
+#pragma once
 
 #include <cstring>
 
-#include <gtest/gtest.h>
-#include <wx/msw/wrapwin.h>
+#include <windows.h>
 
-namespace vantrel {
-namespace {
+namespace vantrel::tests {
 
 /// Puts a function of ours in the place of one that this program imports, while it lives.
 class ReplacedImport {
@@ -63,27 +61,4 @@ class ReplacedImport {
     ULONG_PTR original_ = 0;
 };
 
-int ghostingCalls = 0;
-void WINAPI countGhostingCall() {
-    ++ghostingCalls;
-}
-
-/// The system does not say whether it would, so what it was told is looked at.
-TEST(PrepareSystem, KeepsTheSystemFromOfferingToEndAProgramWhoseLibraryBlocks) {
-    ghostingCalls = 0;
-    const ReplacedImport import("DisableProcessWindowsGhosting", countGhostingCall);
-    ASSERT_TRUE(import.isFound());
-    prepareSystem();
-    EXPECT_EQ(ghostingCalls, 1);
-}
-
-TEST(PrepareSystem, MakesADriveWithoutAMediumAnErrorAndNoBox) {
-    constexpr UINT wanted = SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX;
-    const UINT before = ::SetErrorMode(0);
-    prepareSystem();
-    EXPECT_EQ(::GetErrorMode() & wanted, wanted);
-    ::SetErrorMode(before);
-}
-
-} // namespace
-} // namespace vantrel
+} // namespace vantrel::tests
