@@ -2,6 +2,7 @@
 
 #include <functional>
 
+class wxChoice;
 class wxTextCtrl;
 class wxTopLevelWindow;
 class wxWindow;
@@ -30,5 +31,9 @@ void swallowF1(wxWindow& window);
 /// meaning of the key nor the dialog's default button has a part in it. Text boxes do without: they
 /// are made with wxTE_PROCESS_ENTER, since Enter may belong to an input method there.
 void onEnter(wxWindow& control, std::function<void()> action);
+
+/// Keeps Enter in a drop-down list from the dialog's default button. In the open list it chooses
+/// the entry, and in the closed one it does what the system has it do there, if anything.
+void keepEnter(wxChoice& list);
 
 } // namespace vantrel

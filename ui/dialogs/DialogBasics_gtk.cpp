@@ -37,4 +37,7 @@ void onEnter(wxWindow& control, Action action) {
                           new Action(std::move(action)), release, GConnectFlags(0));
 }
 
+// It opens a closed list, and no button hears of it.
+void keepEnter(wxChoice& /*list*/) {}
+
 } // namespace vantrel

@@ -122,6 +122,7 @@ void FolderChoicePanel::bindEvents() {
             Dir1_->Toggle(item);
     });
     onEnter(*File1_, [] {});
+    keepEnter(*Drive1_);
 }
 
 void FolderChoicePanel::show(const std::string& folder) {

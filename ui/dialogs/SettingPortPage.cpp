@@ -101,6 +101,7 @@ wxChoice* SettingPortPage::buildList(wxWindow* box, SerialList list, const Messa
     auto* const choice = new wxChoice(box, wxID_ANY, wxDefaultPosition, wxDefaultSize, entries, 0,
                                       wxDefaultValidator, rowOf(list).name);
     setAccessibleName(*choice, toWx(formCaption(messages, rowOf(list).caption)));
+    keepEnter(*choice);
     return choice;
 }
 
