@@ -39,6 +39,17 @@ wxStaticText* makeLabel(wxWindow* parent, const wxString& name, long style = 0) 
                             style | wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END, name);
 }
 
+/// Shows a colour and nothing else; an empty panel would be a stop of the Tab key.
+class ColouredShape final : public wxPanel {
+  public:
+    explicit ColouredShape(wxWindow* parent) : wxPanel(parent, wxID_ANY) {
+        wxPanel::SetCanFocus(false);
+    }
+    bool AcceptsFocus() const override { return false; }
+    bool AcceptsFocusRecursively() const override { return false; }
+    bool AcceptsFocusFromKeyboard() const override { return false; }
+};
+
 wxChoice* makeChoice(wxWindow* parent, const wxString& name) {
     auto* choice = new wxChoice(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
                                 wxDefaultValidator, name);
@@ -110,11 +121,8 @@ void MainWindowControls::makeViewerPane() {
 }
 
 void MainWindowControls::makeHighlights() {
-    pcHighlight = new wxPanel(surface, wxID_ANY);
-    controllerHighlight = new wxPanel(surface, wxID_ANY);
-    // An empty panel would be a stop of the Tab key.
-    for (auto* const highlight : {pcHighlight, controllerHighlight})
-        highlight->SetCanFocus(false);
+    pcHighlight = new ColouredShape(surface);
+    controllerHighlight = new ColouredShape(surface);
 }
 
 } // namespace vantrel
