@@ -10,6 +10,7 @@
 #include "ui/PathDisplay.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <wx/bmpbuttn.h>
 #include <wx/choice.h>
@@ -21,10 +22,12 @@
 namespace vantrel {
 namespace {
 
+/// Of the width without its rounding, which may make it smaller by a part of a pixel; a row gives
+/// its controls the height that they ask for.
 double neededRoom(const wxStaticText& label, const wxString& text, const Rectangle& place,
                   int dpi) {
     const wxSize needed = label.GetTextExtent(text);
-    return std::max(needed.x / double(pixelsFromTwips(place.width, dpi)),
+    return std::max(twipsFromPixels(needed.x, dpi) / place.width,
                     needed.y / double(pixelsFromTwips(place.height, dpi)));
 }
 
@@ -92,7 +95,9 @@ double captionRoom(const MainWindowControls& controls, int dpi) {
     double room = neededRoom(*controls.lblIPAddr2, "255.255.255.255", layout.lblIPAddr2, dpi);
     for (const auto& [label, place] : labels)
         room = std::max(room, neededRoom(*label, label->GetLabelText(), *place, dpi));
-    return std::clamp(room, 1.0, std::max(1.0, roomOnTheScreen(*controls.surface, dpi)));
+    // In whole pixels per inch, which is what it is used in.
+    const double most = std::floor(roomOnTheScreen(*controls.surface, dpi) * dpi) / dpi;
+    return std::clamp(std::ceil(room * dpi) / dpi, 1.0, std::max(1.0, most));
 }
 
 void placeControls(const MainWindowControls& controls, const WindowLayout& layout, int dpi) {
