@@ -79,18 +79,6 @@ Result<std::string> readShared(const std::string& path, DWORD sharing) {
     return file.isOpen() ? readDiskFile(file) : lastFailure();
 }
 
-/// With a moment in which the link may be made to lead elsewhere.
-Result<bool> removeLinkIf(const std::string& path,
-                          const std::function<bool(const std::string& content)>& mayGo) {
-    const auto content = readSettledFile(path);
-    if (!content)
-        return Failure{content.reason()};
-    if (!mayGo(*content))
-        return false;
-    const Outcome removed = removeFile(path);
-    return removed ? Result<bool>(true) : Failure{removed.reason()};
-}
-
 } // namespace
 
 Result<std::string> readFile(const std::string& path) {
@@ -118,9 +106,9 @@ Outcome removeFile(const std::string& path) {
     return done(::DeleteFileW(systemPath(path).c_str()));
 }
 
-// As long as the file is open here nobody can write to it, rename it or put another one in its
-// place, and it goes by this very opening of it. A link goes itself, and not what it leads to, so
-// it cannot be held like that.
+// As long as the name is open here nobody can write to the file, rename it or put another one in
+// its place, and it goes by this very opening of it. Of a link the name itself is held and goes,
+// and what it leads to is only read.
 Result<bool> removeFileIf(const std::string& path, const std::string&,
                           const std::function<bool(const std::string& content)>& mayGo) {
     if (hasNul(path))
@@ -129,22 +117,20 @@ Result<bool> removeFileIf(const std::string& path, const std::string&,
     const auto details = readDetails(name);
     if (details.error != 0)
         return systemFailure(details.error);
-    if ((::GetFileAttributesW(name.c_str()) & FILE_ATTRIBUTE_REPARSE_POINT) != 0)
-        return removeLinkIf(path, mayGo);
     if (details.isFolder())
         return Failure{"Is a folder"};
-    const Handle file(::CreateFileW(name.c_str(), GENERIC_READ | DELETE, FILE_SHARE_READ, nullptr,
-                                    OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (!file.isOpen())
+    const Handle held(::CreateFileW(name.c_str(), DELETE, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    if (!held.isOpen())
         return lastFailure();
-    const auto content = readDiskFile(file);
+    const auto content = readShared(path, FILE_SHARE_READ | FILE_SHARE_DELETE);
     if (!content)
         return Failure{content.reason()};
     if (!mayGo(*content))
         return false;
     FILE_DISPOSITION_INFO gone{};
     gone.DeleteFile = TRUE;
-    if (!::SetFileInformationByHandle(file.get(), FileDispositionInfo, &gone, sizeof gone))
+    if (!::SetFileInformationByHandle(held.get(), FileDispositionInfo, &gone, sizeof gone))
         return lastFailure();
     return true;
 }

@@ -2,6 +2,7 @@
 #include "base/PathRules.h"
 #include "platform/Files.h"
 #include "platform/System_windows.h"
+#include "support/ReplacedImport.h"
 #include "support/TemporaryFolder.h"
 
 // What only Windows has: files open in other hands, an attribute for write-protection, and paths
@@ -101,6 +102,47 @@ TEST(WindowsFiles, NobodySavesAFileWhileItIsRemoved) {
         });
     ASSERT_TRUE(removed) << removed.reason();
     EXPECT_TRUE(*removed);
+    EXPECT_EQ(namesIn(folder.path()), std::set<std::string>{"saved"});
+}
+
+std::vector<DWORD> flagsOfRemovals;
+HANDLE WINAPI noteRemoval(const wchar_t* path, DWORD access, DWORD sharing,
+                          SECURITY_ATTRIBUTES* security, DWORD creation, DWORD flags,
+                          HANDLE pattern) {
+    if ((access & DELETE) != 0)
+        flagsOfRemovals.push_back(flags);
+    const auto systems = reinterpret_cast<decltype(&::CreateFileW)>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"kernel32"), "CreateFileW")));
+    return systems(path, access, sharing, security, creation, flags, pattern);
+}
+
+DWORD WINAPI attributesOfALink(const wchar_t* /*path*/) {
+    return FILE_ATTRIBUTE_REPARSE_POINT;
+}
+
+/// Not every system makes a link for everybody, so a file passes for one here: its name is to be
+/// held and removed itself, and not what it leads to.
+TEST(WindowsFiles, NobodyPutsAnotherFileInTheNameOfALinkWhileItIsRemoved) {
+    using Function = ReplacedImport::Function;
+    const TemporaryFolder folder;
+    const std::string path = folder.write("LINK.JBI", "sent");
+    const std::string saved = folder.write("saved", "new");
+    flagsOfRemovals.clear();
+    {
+        const ReplacedImport open("CreateFileW", reinterpret_cast<Function>(&noteRemoval));
+        const ReplacedImport look("GetFileAttributesW",
+                                  reinterpret_cast<Function>(&attributesOfALink));
+        ASSERT_TRUE(open.isFound() && look.isFound());
+        const auto removed =
+            removeFileIf(path, folder.path("LINK.JBI.sent-1"), [&](const std::string& content) {
+                EXPECT_FALSE(renameFile(saved, path));
+                return content == "sent";
+            });
+        ASSERT_TRUE(removed) << removed.reason();
+        EXPECT_TRUE(*removed);
+    }
+    ASSERT_EQ(flagsOfRemovals.size(), 1u);
+    EXPECT_NE(flagsOfRemovals[0] & FILE_FLAG_OPEN_REPARSE_POINT, 0u);
     EXPECT_EQ(namesIn(folder.path()), std::set<std::string>{"saved"});
 }
 
