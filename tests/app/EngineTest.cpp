@@ -3,8 +3,10 @@
 #include "ProgramWithoutWindows.h"
 #include "lang/LanguageFiles.h"
 #include "lang/MessageNumbers.h"
+#include "lang/SystemReasons.h"
 #include "platform/Environment.h"
 #include "support/ProjectFiles.h"
+#include "support/SystemReasons.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -35,12 +37,13 @@ TEST_F(EngineTest, WhyTheLibraryCannotBeUsedIsToldInTheLanguageInForce) {
                                                        "\n" + text(message::reasonNoLibrary)));
 }
 
+// Where the system says it in the operator's own language, its words stay.
 TEST_F(EngineTest, ALibraryThatIsMissingIsToldInTheLanguageInForce) {
     std::vector<std::string> names;
     EXPECT_FALSE(windowless_.engine.session.ReadDirectory(names));
     EXPECT_THAT(windowless_.boxes.texts(),
                 ElementsAre(text(message::libraryUnusable) + folder_.path(libraryFileName()) +
-                            "\n" + text(message::reasonMissing)));
+                            "\n" + reasonInLanguage(windowless_.messages, tests::noSuchFile())));
 }
 
 } // namespace
