@@ -2,6 +2,7 @@
 
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
+#include "files/CommandResult.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -27,8 +28,10 @@ CommandOutcome CopyCommand::send(const std::vector<SelectedItem>& items) {
 
 CommandOutcome CopyCommand::receive(std::vector<SelectedItem> items) {
     if (with_.state.JBR)
-        for (SelectedItem& item : items)
-            askForRelatedJob(item.name);
+        for (std::size_t item = 0; item < items.size(); ++item) {
+            askForRelatedJob(items[item].name);
+            with_.results.rename(item, items[item].name);
+        }
     return transfer(items, Direction::Receive);
 }
 
@@ -37,7 +40,7 @@ CommandOutcome CopyCommand::transfer(const std::vector<SelectedItem>& items, Dir
     with_.session.path = PathRules().withSeparator(with_.state.PCPath);
     ListTransfer list(with_, with_.messages.getMessage(message::transferTitle), direction);
     if (!list.take(items))
-        return {.succeeded = !list.isCancelled()};
+        return {.succeeded = !list.isCancelled(), .cancelled = list.isCancelled()};
     const bool succeeded = list.run();
     if (succeeded || !TransferReports(with_).listTransferFailed())
         TransferReports(with_).unreplacedJobs();

@@ -2,6 +2,7 @@
 
 #include "base/PathRules.h"
 #include "files/AmbiguousNames.h"
+#include "files/CommandResult.h"
 #include "files/ControllerPlace.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
@@ -49,6 +50,7 @@ void DeleteCommand::each(const std::vector<SelectedItem>& items, std::int32_t qu
             cancelled_ = !progress_.next(name, item, items.size()) || !deletion(name);
     }
     outcome_.succeeded = outcome_.succeeded && !cancelled_;
+    outcome_.cancelled = cancelled_ && !with_.session.operatorIsTold();
 }
 
 bool DeleteCommand::isWanted(const std::string& name, std::int32_t question) {
@@ -57,6 +59,8 @@ bool DeleteCommand::isWanted(const std::string& name, std::int32_t question) {
     const Answer answer = with_.talk.ask(title_, questionText(name, question));
     deleteAll_ = answer == Answer::All;
     cancelled_ = answer == Answer::Cancel;
+    if (answer == Answer::No)
+        with_.results.note(name, ItemEnd::Skipped, with_.messages.getMessage(message::resultKept));
     return answer == Answer::Yes || answer == Answer::All;
 }
 
@@ -73,6 +77,7 @@ bool DeleteCommand::deleteOnController(const std::string& name) {
     outcome_.controllerTouched = true;
     if (with_.session.JobDelete(name)) {
         outcome_.goneFromController.push_back(name);
+        with_.results.note(name, ItemEnd::Done);
         return true;
     }
     outcome_.succeeded = false;
@@ -88,7 +93,7 @@ void DeleteCommand::deleteOnPC(const std::string& name) {
     outcome_.pcTouched = true;
     const Outcome removed = removeFile(PathRules().join(with_.state.PCPath, name));
     if (removed)
-        return;
+        return with_.results.note(name, ItemEnd::Done);
     outcome_.succeeded = false;
     TransferReports(with_).aboutFile(name, message::notDeletedFromPC, removed.reason());
 }

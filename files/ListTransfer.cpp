@@ -1,5 +1,6 @@
 #include "files/ListTransfer.h"
 
+#include "files/CommandResult.h"
 #include "files/ControllerPlace.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
@@ -7,6 +8,24 @@
 #include "link/Snappy.h"
 
 namespace vantrel {
+namespace {
+
+ItemEnd itemEnd(EntryEnd end) {
+    switch (end) {
+    case EntryEnd::Done:
+        return ItemEnd::Done;
+    case EntryEnd::Refused:
+    case EntryEnd::PassedOver:
+        return ItemEnd::Skipped;
+    case EntryEnd::Failed:
+        return ItemEnd::Failed;
+    case EntryEnd::NotTried:
+        break;
+    }
+    return ItemEnd::NotTried;
+}
+
+} // namespace
 
 ListTransfer::ListTransfer(const TransferServices& services, const std::string& title,
                            Direction direction)
@@ -27,18 +46,44 @@ bool ListTransfer::take(const std::vector<SelectedItem>& items) {
 }
 
 bool ListTransfer::run() {
-    return direction_ == Direction::Send ? with_.session.JobListDownLoad()
-                                         : with_.session.JobListUpLoad();
+    const bool succeeded = direction_ == Direction::Send ? with_.session.JobListDownLoad()
+                                                         : with_.session.JobListUpLoad();
+    noteEnds();
+    return succeeded;
+}
+
+void ListTransfer::noteEnds() const {
+    const auto& ends = with_.session.entryEnds();
+    for (std::size_t index = 0; index < ends.size(); ++index)
+        with_.results.note(with_.session.JobList(static_cast<std::int32_t>(index)),
+                           itemEnd(ends[index]), reasonOf(ends[index]));
+}
+
+/// Why it failed is noted where it is told.
+std::string ListTransfer::reasonOf(EntryEnd end) const {
+    switch (end) {
+    case EntryEnd::Refused:
+        return with_.messages.getMessage(message::resultKept);
+    case EntryEnd::PassedOver:
+        return with_.messages.getMessage(message::localJobPassedOver);
+    case EntryEnd::NotTried:
+    case EntryEnd::Done:
+    case EntryEnd::Failed:
+        break;
+    }
+    return {};
 }
 
 /// After an unset address another attempt to read the controller would only bring the same message
 /// again, and a reading that was cancelled would begin anew.
 CommandOutcome ListTransfer::outcome(bool succeeded) const {
+    const bool cancelled = isCancelled() || (!succeeded && with_.session.wasCancelled());
     if (direction_ == Direction::Receive)
-        return {.succeeded = succeeded, .pcTouched = true};
+        return {.succeeded = succeeded, .pcTouched = true, .cancelled = cancelled};
     return {.succeeded = succeeded,
             .controllerTouched =
                 !with_.session.operatorIsTold() && !wasCancelledReading(with_.session),
+            .cancelled = cancelled,
             .goneFromController = with_.session.unreplacedJobs()};
 }
 

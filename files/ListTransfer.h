@@ -3,6 +3,7 @@
 #include "files/CommandScopes.h"
 #include "files/TransferPermission.h"
 #include "files/TransferServices.h"
+#include "link/TransferTools.h"
 
 #include <string>
 #include <vector>
@@ -20,13 +21,16 @@ class ListTransfer {
     bool take(const std::vector<SelectedItem>& items);
     bool isCancelled() const { return progress_.isCancelled(); }
 
-    /// Transfers the job list.
+    /// Transfers the job list, and notes what became of each of its entries.
     bool run();
 
     /// What a transfer that was run has touched.
     CommandOutcome outcome(bool succeeded) const;
 
   private:
+    void noteEnds() const;
+    std::string reasonOf(EntryEnd end) const;
+
     TransferServices with_;
     Direction direction_;
     CommandProgress progress_;

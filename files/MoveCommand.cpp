@@ -3,6 +3,7 @@
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
 #include "files/AmbiguousNames.h"
+#include "files/CommandResult.h"
 #include "files/ControllerPlace.h"
 #include "files/SentSources.h"
 #include "files/TransferReports.h"
@@ -46,6 +47,8 @@ CommandOutcome MoveCommand::run(const std::vector<SelectedItem>& items) {
     for (std::size_t item = 0; item < names.size(); ++item)
         if (!progress_.next(names[item], item, names.size()) || !move(names[item])) {
             outcome_.succeeded = false;
+            // An address that is not set ends it as well.
+            outcome_.cancelled = !with_.session.operatorIsTold();
             break;
         }
     tellUnreplaced();
@@ -86,8 +89,10 @@ MoveCommand::Arrival MoveCommand::transfer(const std::string& name) {
     Arrival arrival = Arrival::Arrived;
     if (!callSession(name, overwrite))
         arrival = overwrite || !existsAlready() ? failed(name) : askAndTransfer(name);
-    if (arrival == Arrival::Arrived)
+    if (arrival == Arrival::Arrived) {
+        with_.results.note(name, ItemEnd::Done);
         arrived_.insert(direction_ == Direction::Send ? with_.session.lastSent().arrivesAs : name);
+    }
     return arrival;
 }
 
@@ -117,6 +122,8 @@ MoveCommand::Arrival MoveCommand::askFor(const std::string& file,
             continue;
         switch (askOverwrite(file, job)) {
         case Answer::No:
+            with_.results.note(file, ItemEnd::Skipped,
+                               with_.messages.getMessage(message::resultKept));
             return Arrival::NotArrived;
         case Answer::Cancel:
             return Arrival::EndOfCommand;

@@ -39,6 +39,8 @@ class PaneWindow {
     virtual void setFilterChoices(ActiveSide side, const std::vector<std::string>& choices) = 0;
     /// The status-bar panel "PC" or "Ctrl".
     virtual void setStatus(ActiveSide side, const std::string& text) = 0;
+    /// What the last command came to, on one line; empty before the first one.
+    virtual void setResult(const std::string& text) = 0;
     /// Shows the busy pointer until called with false; calls nest.
     virtual void setBusyPointer(bool busy) = 0;
     /// Refuses every command, key, choice, drop, timer and close until unlocked; calls nest.

@@ -1,6 +1,7 @@
 #include "files/SentSources.h"
 
 #include "base/PathRules.h"
+#include "files/CommandResult.h"
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -81,6 +82,8 @@ void SentSources::tell(std::int32_t messageNumber, const std::vector<std::string
     if (names.empty())
         return;
     allWent_ = false;
+    for (const std::string& name : names)
+        with_.results.note(name, ItemEnd::Failed, with_.messages.getMessage(messageNumber));
     TransferReports(with_).aboutFiles(messageNumber, names);
 }
 

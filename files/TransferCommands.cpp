@@ -26,36 +26,37 @@ std::vector<SelectedItem> selectedItems(const Panes& panes, PaneWindow& window, 
 } // namespace
 
 bool TransferCommands::sendCopy() {
-    return run(ActiveSide::PC,
+    return run(CommandKind::SendCopy,
                [this](const Items& items) { return CopyCommand(with_).send(items); });
 }
 
 bool TransferCommands::receiveCopy() {
-    return run(ActiveSide::Controller,
+    return run(CommandKind::ReceiveCopy,
                [this](const Items& items) { return CopyCommand(with_).receive(items); });
 }
 
 bool TransferCommands::sendMove() {
     SentSources sent(with_);
     const bool succeeded = run(
-        ActiveSide::PC, [&](const Items& items) { return MoveCommand(with_, sent).run(items); },
+        CommandKind::SendMove,
+        [&](const Items& items) { return MoveCommand(with_, sent).run(items); },
         [&] { sent.conclude(); });
     return succeeded && sent.allWent();
 }
 
 bool TransferCommands::receiveMove() {
-    return run(ActiveSide::Controller,
+    return run(CommandKind::ReceiveMove,
                [this](const Items& items) { return MoveCommand(with_).run(items); });
 }
 
 bool TransferCommands::deleteOnController() {
-    return run(ActiveSide::Controller, [this](const Items& items) {
+    return run(CommandKind::DeleteOnController, [this](const Items& items) {
         return DeleteCommand(with_, ActiveSide::Controller).run(items);
     });
 }
 
 bool TransferCommands::deleteOnPC() {
-    return run(ActiveSide::PC, [this](const Items& items) {
+    return run(CommandKind::DeleteOnPC, [this](const Items& items) {
         return DeleteCommand(with_, ActiveSide::PC).run(items);
     });
 }
@@ -67,8 +68,9 @@ bool TransferCommands::refresh(ActiveSide side) {
 }
 
 /// A list in a locked window cannot take the focus, so that comes after the lock.
-bool TransferCommands::run(ActiveSide source, const Work& work,
+bool TransferCommands::run(CommandKind kind, const Work& work,
                            const std::function<void()>& controllerRead) {
+    const ActiveSide source = sourceOf(kind);
     const Items items = selectedItems(with_.panes, with_.window, source);
     if (items.empty())
         return true;
@@ -76,11 +78,29 @@ bool TransferCommands::run(ActiveSide source, const Work& work,
     {
         const PaneRefresh refresh(with_);
         const WindowLock lock(with_.window);
+        beginResult(kind, items);
         outcome = work(items);
         refresh.refreshTouched(outcome, controllerRead);
+        showResult(outcome.cancelled);
     }
     with_.window.list(source).focus();
     return outcome.succeeded;
+}
+
+void TransferCommands::beginResult(CommandKind kind, const Items& items) {
+    std::vector<std::string> names;
+    names.reserve(items.size());
+    for (const SelectedItem& item : items)
+        names.push_back(item.name);
+    with_.results.begin(kind, placeOf(kind, with_.state), with_.state.PCPath, names);
+}
+
+void TransferCommands::showResult(bool cancelled) {
+    with_.results.end(cancelled);
+    const CommandResult& result = *with_.results.last();
+    with_.window.setResult(resultLine(with_.messages, result));
+    if (const auto rows = result.openRows(); !rows.empty())
+        with_.panes.selectNames(sourceOf(result.kind), rows);
 }
 
 } // namespace vantrel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ApplicationState.h"
+#include "files/CommandResult.h"
 #include "files/TransferServices.h"
 
 #include <functional>
@@ -12,8 +13,9 @@ struct CommandOutcome;
 struct SelectedItem;
 
 /// The commands on the selected items of a pane. Each locks the window while it runs, reports its
-/// failures itself, refreshes what it changed, keeps the selection by name and returns true when
-/// nothing failed. An item that was passed over with a message is no failure; a command that the
+/// failures itself, refreshes what it changed, keeps the selection by name, or of it what failed
+/// and what was not reached, shows what it came to in the status bar and returns true when nothing
+/// failed. An item that was passed over with a message is no failure; a command that the
 /// operator cancelled returns false.
 class TransferCommands {
   public:
@@ -39,7 +41,10 @@ class TransferCommands {
     using Work = std::function<CommandOutcome(const Items& items)>;
 
     /// `controllerRead`, when given, is called as by `PaneRefresh::refreshTouched`.
-    bool run(ActiveSide source, const Work& work, const std::function<void()>& controllerRead = {});
+    bool run(CommandKind kind, const Work& work, const std::function<void()>& controllerRead = {});
+    void beginResult(CommandKind kind, const Items& items);
+    /// What was not done is all that stays selected.
+    void showResult(bool cancelled);
 
     TransferServices with_;
 };

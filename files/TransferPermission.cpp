@@ -2,6 +2,7 @@
 
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
+#include "files/CommandResult.h"
 #include "files/ControllerModels.h"
 #include "files/TransferReports.h"
 #include "files/TransferTable.h"
@@ -43,8 +44,7 @@ bool TransferPermission::hasUsableName(const std::string& name) const {
         if (direction_ == Direction::Receive)
             reports.aboutFile(name, message::controllerNameRefused);
         else
-            reports.transferFailed(bracketed(name),
-                                   with_.messages.errorText(session_code::nameRefused));
+            tellNameRefused(name);
         return false;
     }
     if (!toCodePage(name)) {
@@ -52,6 +52,12 @@ bool TransferPermission::hasUsableName(const std::string& name) const {
         return false;
     }
     return true;
+}
+
+void TransferPermission::tellNameRefused(const std::string& name) const {
+    const std::string reason = with_.messages.errorText(session_code::nameRefused);
+    with_.results.note(name, ItemEnd::Skipped, reason);
+    TransferReports(with_).transferFailed(bracketed(name), reason);
 }
 
 } // namespace vantrel

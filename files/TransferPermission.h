@@ -22,6 +22,7 @@ class TransferPermission {
   private:
     bool passes(const SelectedItem& item) const;
     bool hasUsableName(const std::string& name) const;
+    void tellNameRefused(const std::string& name) const;
 
     TransferServices with_;
     Direction direction_;

@@ -1,6 +1,7 @@
 #include "files/TransferReports.h"
 
 #include "base/ApplicationState.h"
+#include "files/CommandResult.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "lang/SystemReasons.h"
@@ -26,14 +27,6 @@ std::string inParentheses(const std::string& text) {
     return " ( " + text + " )";
 }
 
-/// The text with the number by which a service man asks for it, unless that is all there is.
-std::string functionAndReason(const Snappy& session) {
-    const std::string number = std::to_string(session.ErrorCode());
-    const std::string text = session.errorText();
-    return session.ErrorFunction() +
-           inParentheses(text == number ? text : text + " (" + number + ")");
-}
-
 // The serial line has one robot at its end, whichever is chosen for the other mode.
 std::string robotText(const ApplicationState& state, const Snappy& session) {
     if (state.TransMode == TransferMode::Bsc)
@@ -42,6 +35,13 @@ std::string robotText(const ApplicationState& state, const Snappy& session) {
 }
 
 } // namespace
+
+std::string functionAndReason(const Snappy& session) {
+    const std::string number = std::to_string(session.ErrorCode());
+    const std::string text = session.errorText();
+    return session.ErrorFunction() +
+           inParentheses(text == number ? text : text + " (" + number + ")");
+}
 
 std::string directoryFailure(const ApplicationState& state, const Snappy& session) {
     return "\n" + robotText(state, session) + "\n" + functionAndReason(session);
@@ -63,13 +63,17 @@ void TransferReports::controllerNotRead() const {
 }
 
 void TransferReports::aboutFile(const std::string& name, std::int32_t messageNumber) const {
-    tell(bracketed(name) + with_.messages.getMessage(messageNumber));
+    const std::string text = with_.messages.getMessage(messageNumber);
+    with_.results.note(name, ItemEnd::Skipped, text);
+    tell(bracketed(name) + text);
 }
 
 void TransferReports::aboutFile(const std::string& name, std::int32_t messageNumber,
                                 const std::string& reason) const {
-    tell(bracketed(name) + with_.messages.getMessage(messageNumber) +
-         inParentheses(reasonInLanguage(with_.messages, reason)));
+    const std::string text = with_.messages.getMessage(messageNumber) +
+                             inParentheses(reasonInLanguage(with_.messages, reason));
+    with_.results.note(name, ItemEnd::Failed, text);
+    tell(bracketed(name) + text);
 }
 
 void TransferReports::aboutFiles(std::int32_t messageNumber,
@@ -101,13 +105,16 @@ void TransferReports::transferFailed(const std::string& function, const std::str
 }
 
 void TransferReports::deletionFailed(const std::string& name) const {
+    with_.results.note(name, ItemEnd::Failed, functionAndReason(with_.session));
     tell(with_.messages.getMessage(message::deleteFailed) + functionAndReason(with_.session) +
          lineOf(name));
 }
 
 void TransferReports::originalNotDeleted(const std::string& name) const {
-    tell(bracketed(name) + with_.messages.getMessage(message::originalNotDeleted) + " " +
-         functionAndReason(with_.session));
+    const std::string text = with_.messages.getMessage(message::originalNotDeleted) + " " +
+                             functionAndReason(with_.session);
+    with_.results.note(name, ItemEnd::Failed, text);
+    tell(bracketed(name) + text);
 }
 
 void TransferReports::tell(const std::string& text) const {
@@ -116,6 +123,9 @@ void TransferReports::tell(const std::string& text) const {
 
 void TransferReports::tellTransferFailure(const std::string& end, const std::string& name) const {
     const MessageTable& messages = with_.messages;
+    if (name.empty())
+        with_.results.noteUntried(functionAndReason(with_.session));
+    with_.results.note(name, ItemEnd::Failed, functionAndReason(with_.session));
     if (with_.session.ErrorFunction() == directoryStep)
         tell(messages.getMessage(message::noSuchFile) + lineOf(name) +
              directoryFailure(with_.state, with_.session));

@@ -12,6 +12,9 @@ namespace vantrel {
 /// in lines of their own below a message.
 std::string directoryFailure(const ApplicationState& state, const Snappy& session);
 
+/// The function that failed and why, with the number by which a service man asks for it.
+std::string functionAndReason(const Snappy& session);
+
 /// Whether the operator needs no word of the session's last failure: he pressed Cancel, or the
 /// session has told him of an address that is not set.
 bool operatorKnows(const Snappy& session);

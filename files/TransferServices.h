@@ -10,6 +10,7 @@ class OperatorTalk;
 class PaneWindow;
 class Panes;
 class ProgressPanel;
+class ResultLog;
 class Snappy;
 class TransferTable;
 struct ApplicationState;
@@ -24,6 +25,7 @@ struct TransferServices {
     const MessageTable& messages;
     ProgressPanel& progress;
     OperatorTalk& talk;
+    ResultLog& results;
 };
 
 /// What a transfer command comes to. A side is touched when something there may have changed; only
@@ -32,6 +34,7 @@ struct CommandOutcome {
     bool succeeded = true;
     bool pcTouched = false;
     bool controllerTouched = false;
+    bool cancelled = false; ///< by the operator
     /// What the controller has no more, by the entries of its listing.
     std::vector<std::string> goneFromController = {};
 };

@@ -106,6 +106,31 @@ inline constexpr std::int32_t nothingArrived = 80;
 
 inline constexpr std::int32_t readingDirectory = 93; ///< of the controller, in progress
 
+// What a command came to.
+inline constexpr std::int32_t resultSent = 400;
+inline constexpr std::int32_t resultReceived = 401;
+inline constexpr std::int32_t resultMoved = 402;
+inline constexpr std::int32_t resultDeleted = 403;
+inline constexpr std::int32_t resultSkipped = 404;
+inline constexpr std::int32_t resultFailed = 405;
+inline constexpr std::int32_t resultNotTried = 406;
+inline constexpr std::int32_t resultCancelled = 407;
+inline constexpr std::int32_t resultCount = 408; ///< with the number and one of these
+inline constexpr std::int32_t resultJoint = 409; ///< between two of them
+inline constexpr std::int32_t resultKept = 410;  ///< why a file is skipped: the answer was No
+inline constexpr std::int32_t menuTools = 411;
+inline constexpr std::int32_t menuResult = 412;
+inline constexpr std::int32_t resultTitle = 413;
+inline constexpr std::int32_t resultColumnName = 414;
+inline constexpr std::int32_t resultColumnEnd = 415;
+inline constexpr std::int32_t resultColumnReason = 416;
+inline constexpr std::int32_t resultTryAgain = 417;
+inline constexpr std::int32_t resultSave = 418;
+inline constexpr std::int32_t resultPrint = 419;
+inline constexpr std::int32_t resultClose = 420;
+inline constexpr std::int32_t resultNotSaved = 421; ///< then [file] and the reason
+inline constexpr std::int32_t resultRowGone = 422;  ///< after [name]
+
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;
 inline constexpr std::int32_t menuCopy = 102;

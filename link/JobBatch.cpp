@@ -10,6 +10,24 @@
 #include "link/SessionServices.h"
 
 namespace vantrel {
+namespace {
+
+EntryEnd endOf(TransferOutcome outcome) {
+    switch (outcome) {
+    case TransferOutcome::Done:
+    case TransferOutcome::DoneAll:
+        return EntryEnd::Done;
+    case TransferOutcome::Refused:
+        return EntryEnd::Refused;
+    case TransferOutcome::Failed:
+        return EntryEnd::Failed;
+    case TransferOutcome::Cancelled:
+        break;
+    }
+    return EntryEnd::NotTried;
+}
+
+} // namespace
 
 bool JobBatch::run(const std::vector<std::string>& entries) {
     tools_.progress.open(tools_.progress.transferring(), true, true);
@@ -23,6 +41,7 @@ bool JobBatch::run(const std::vector<std::string>& entries) {
 
 TransferOutcome JobBatch::runThrough(const std::vector<std::string>& entries) {
     const auto count = static_cast<std::int32_t>(entries.size());
+    tools_.ends.assign(entries.size(), EntryEnd::NotTried);
     for (std::int32_t index = 0; index < count; ++index) {
         const std::string& entry = entries[static_cast<std::size_t>(index)];
         const TransferOutcome outcome = tools_.localJobs.contains(entry)
@@ -38,6 +57,7 @@ TransferOutcome JobBatch::runThrough(const std::vector<std::string>& entries) {
 TransferOutcome JobBatch::passOver(const std::string& entry, std::int32_t index,
                                    std::int32_t count) {
     ++skipped_;
+    tools_.ends[static_cast<std::size_t>(index)] = EntryEnd::PassedOver;
     return tools_.progress.isCancelledPassingOver(entry, index, count) ? TransferOutcome::Cancelled
                                                                        : TransferOutcome::Done;
 }
@@ -45,6 +65,7 @@ TransferOutcome JobBatch::passOver(const std::string& entry, std::int32_t index,
 TransferOutcome JobBatch::handle(const std::string& entry, std::int32_t index, std::int32_t count) {
     tools_.progress.step(tools_.progress.transferring(entry), index, count);
     const TransferOutcome outcome = transfer_(entry, index, overwriteAll_);
+    tools_.ends[static_cast<std::size_t>(index)] = endOf(outcome);
     overwriteAll_ = overwriteAll_ || outcome == TransferOutcome::DoneAll;
     if (outcome == TransferOutcome::Failed)
         return outcome;

@@ -32,6 +32,7 @@ class JobBatch {
         const LocalJobList& localJobs;
         const MessageTable& messages;
         OperatorTalk& talk;
+        std::vector<EntryEnd>& ends; ///< filled, entry by entry
     };
 
     JobBatch(const Tools& tools, Transfer transfer)

@@ -84,6 +84,7 @@ struct Snappy::Parts {
     // Of the operation that runs or ran last:
     bool operatorTold = false;
     bool entryTried = false;
+    std::vector<EntryEnd> ends;
 };
 
 namespace {
@@ -181,6 +182,10 @@ const std::string& Snappy::systemReason() const {
     return parts_->error.systemReason;
 }
 
+const std::vector<EntryEnd>& Snappy::entryEnds() const {
+    return parts_->ends;
+}
+
 const std::string& Snappy::unusableMark() const {
     return parts_->error.mark;
 }
@@ -225,6 +230,7 @@ bool Snappy::Parts::operate(const Work& work, FolderUse use) {
     sending.begin();
     operatorTold = false;
     entryTried = false;
+    ends.clear();
     return work();
 }
 
@@ -288,8 +294,9 @@ bool Snappy::Parts::concludeSingle(TransferOutcome outcome) {
 bool Snappy::Parts::transferList(const SessionProperties& properties,
                                  const std::vector<std::string>& entries,
                                  JobBatch::Transfer transfer) {
-    JobBatch batch({properties, link, progress, error, localJobs, services.messages, services.talk},
-                   std::move(transfer));
+    JobBatch batch(
+        {properties, link, progress, error, localJobs, services.messages, services.talk, ends},
+        std::move(transfer));
     return batch.run(entries);
 }
 

@@ -2,6 +2,7 @@
 
 #include "link/SessionErrorRecord.h"
 #include "link/SessionServices.h"
+#include "link/TransferTools.h"
 
 #include <cstdint>
 #include <memory>
@@ -92,6 +93,9 @@ class Snappy : public SessionProperties {
     /// What the system said to the last failure, where it was the system that refused a list file
     /// or the PC folder; empty for every other failure, whose code tells all that is known.
     const std::string& systemReason() const;
+    /// How the last transfer of a list of jobs ended for each of its entries; empty when it came to
+    /// none, and after every other operation.
+    const std::vector<EntryEnd>& entryEnds() const;
     /// The mark in the PC folder for which the last failure was not to send a file, or empty.
     const std::string& unusableMark() const;
     /// Reads "LocalJob.lst" of `path` as a list transfer does: without one the list stays as it

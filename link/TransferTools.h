@@ -29,6 +29,15 @@ constexpr bool goesOn(TransferOutcome outcome) {
     return outcome == TransferOutcome::Done || outcome == TransferOutcome::DoneAll;
 }
 
+/// How a transfer of several files ended for one of them.
+enum class EntryEnd {
+    NotTried,
+    Done,
+    Refused,    ///< the operator keeps what is there
+    PassedOver, ///< a job that belongs to the PC alone
+    Failed,     ///< the reason is in the error record
+};
+
 /// What the transfer of single files works with; everything is borrowed.
 struct TransferTools {
     const SessionProperties& properties;

@@ -12,6 +12,7 @@
 #include "ui/VersionWindow.h"
 #include "ui/dialogs/frmLanguage.h"
 #include "ui/dialogs/frmListFile.h"
+#include "ui/dialogs/frmResult.h"
 #include "ui/dialogs/frmSetting.h"
 #include "ui/frmZuroVant.h"
 
@@ -57,6 +58,16 @@ void CommandDialogs::changeLanguage() {
 
 void CommandDialogs::openVersionWindow() {
     version_.open(window_);
+}
+
+void CommandDialogs::openResult() {
+    bool again = false;
+    {
+        frmResult dialog(&window_, program_.results, engine_.messages, engine_.state);
+        again = dialog.ShowModal() == wxID_RETRY;
+    }
+    if (again)
+        program_.results.tryAgain();
 }
 
 void CommandDialogs::showSimulationNotice() {

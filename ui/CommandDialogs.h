@@ -50,6 +50,7 @@ class CommandDialogs : public CommandWindows {
     void openSettings() override;
     void changeLanguage() override;
     void openVersionWindow() override;
+    void openResult() override;
     /// Says in the main window that no robot moves, where that is so.
     void showSimulationNotice();
 

@@ -67,11 +67,7 @@ MainWindowControls::MainWindowControls(wxFrame& window, std::span<const CommandR
     makeControllerPane(table);
     makeViewerPane();
     makeHighlights();
-    constexpr int panels = 3;
-    stsFileInf = window.CreateStatusBar(panels, wxSTB_DEFAULT_STYLE, wxID_ANY, "stsFileInf");
-    // Shares of the width: the notice is the longest text and says that nothing here is real.
-    constexpr int shares[panels] = {-3, -3, -5};
-    stsFileInf->SetStatusWidths(panels, shares);
+    stsFileInf = window.CreateStatusBar(statusPanels, wxSTB_DEFAULT_STYLE, wxID_ANY, "stsFileInf");
 }
 
 void MainWindowControls::makeConnectionBlock() {

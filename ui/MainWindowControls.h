@@ -76,6 +76,8 @@ struct MainWindowControls {
     wxPanel* controllerHighlight = nullptr;
     wxStatusBar* stsFileInf = nullptr;
 
+    static constexpr int statusPanels = 4;
+
     std::array<CommandToolBar*, 5> toolBars() const {
         return {tlbMain, tlbPCButton, tlbPC, tlbCtrlButton, tlbFile};
     }

@@ -40,6 +40,7 @@ namespace {
 constexpr int panelPC = 0;
 constexpr int panelController = 1;
 constexpr int panelNotice = 2;
+constexpr int panelResult = 3;
 
 } // namespace
 
@@ -47,12 +48,13 @@ frmZuroVant::frmZuroVant(ApplicationState& state, const MessageTable& messages,
                          OperationGuard& guard, std::span<const CommandRow> table)
     : wxFrame(nullptr, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
               wxDEFAULT_FRAME_STYLE, "frmZuroVant"),
-      state_(state), messages_(messages), guard_(guard), controls_(*this, table),
+      state_(state), messages_(messages), table_(table), guard_(guard), controls_(*this, table),
       menus_(*this, table), drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard),
       place_(*this, *controls_.surface) {
     SetIcons(programIcons());
     // No help for menu entries in the panel that shows the PC's count.
     SetStatusBarPane(-1);
+    showNotice({});
     bindEvents();
     guard_.guard(this);
 }
@@ -73,6 +75,10 @@ void frmZuroVant::connect(MainCommands& commands, const CommandRunner& runner) {
         bar->onPressed = run;
     // The window gets a key before the control that has the focus.
     Bind(wxEVT_CHAR_HOOK, [this, &runner](wxKeyEvent& event) { functionKey(event, runner); });
+    controls_.stsFileInf->Bind(wxEVT_LEFT_UP, [this, &runner](wxMouseEvent& event) {
+        event.Skip();
+        statusClicked(event.GetPosition(), runner);
+    });
     controls_.lsvPC->onColumnClicked = [&commands](int column) { commands.clickColumn(column); };
     drag_.canDrop = [&commands](ActiveSide source) { return commands.canDrop(source); };
     drag_.onDropped = [&commands](ActiveSide source) { commands.drop(source); };
@@ -189,6 +195,14 @@ void frmZuroVant::functionKey(wxKeyEvent& event, const CommandRunner& runner) {
     CallAfter([command, &runner] { runner.runIfOffered(*command); });
 }
 
+void frmZuroVant::statusClicked(const wxPoint& place, const CommandRunner& runner) {
+    wxRect result;
+    if (!controls_.stsFileInf->GetFieldRect(panelResult, result) || !result.Contains(place))
+        return;
+    for (const CommandRow* const command : commandsAt(table_, CommandPlace::stsFileInf))
+        CallAfter([command, &runner] { runner.runIfOffered(*command); });
+}
+
 void frmZuroVant::lay() {
     if (!placed_ || IsIconized())
         return;
@@ -223,7 +237,16 @@ void frmZuroVant::setStatus(ActiveSide side, const std::string& text) {
 }
 
 void frmZuroVant::showNotice(const std::string& text) {
+    // Shares of the width: a notice says that nothing here is real, and must not be cut off.
+    constexpr int withNotice[MainWindowControls::statusPanels] = {-3, -3, -5, -4};
+    constexpr int without[MainWindowControls::statusPanels] = {-3, -3, -1, -8};
+    controls_.stsFileInf->SetStatusWidths(MainWindowControls::statusPanels,
+                                          text.empty() ? without : withNotice);
     SetStatusText(toWx(text), panelNotice);
+}
+
+void frmZuroVant::setResult(const std::string& text) {
+    SetStatusText(toWx(text), panelResult);
 }
 
 void frmZuroVant::setBusyPointer(bool busy) {

@@ -47,7 +47,7 @@ class frmZuroVant : public wxFrame,
     std::function<bool()> onForcedClose;
 
     WindowPlacement placement() const;
-    /// The notice in the third panel of the status bar; an empty text hides nothing else.
+    /// The notice in the third panel of the status bar; without one the result has its room.
     void showNotice(const std::string& text);
     const MainWindowControls& controls() const { return controls_; }
     const MainMenus& menus() const { return menus_; }
@@ -57,6 +57,7 @@ class frmZuroVant : public wxFrame,
     int filterIndex(ActiveSide side) const override;
     void setFilterChoices(ActiveSide side, const std::vector<std::string>& choices) override;
     void setStatus(ActiveSide side, const std::string& text) override;
+    void setResult(const std::string& text) override;
     void setBusyPointer(bool busy) override;
     void setLocked(bool locked) override;
     void yield() override;
@@ -95,11 +96,13 @@ class frmZuroVant : public wxFrame,
     void bindPane(ActiveSide side, MainCommands& commands, const CommandRunner& runner);
     void exchangePanes(bool viewer);
     void functionKey(wxKeyEvent& event, const CommandRunner& runner);
+    void statusClicked(const wxPoint& place, const CommandRunner& runner);
     void keepFocusInActivePane();
     void lay();
 
     ApplicationState& state_;
     const MessageTable& messages_;
+    std::span<const CommandRow> table_;
     OperationGuard& guard_;
     MainWindowControls controls_;
     MainMenus menus_;

@@ -18,6 +18,8 @@ class CommandWindows {
     virtual void openSettings() = 0;
     virtual void changeLanguage() = 0;
     virtual void openVersionWindow() = 0;
+    /// What the last command came to.
+    virtual void openResult() = 0;
 };
 
 /// Who does the work of the commands in the table; everything is borrowed.

@@ -66,6 +66,10 @@ bool hasHispeed(Input input, CommandPlace) {
     return input.hispeedAvailable;
 }
 
+bool hasResult(Input input, CommandPlace) {
+    return input.hasResult;
+}
+
 std::int16_t view(Input input) {
     return isPC(input) ? input.pcDispType : input.ctrlDispType;
 }
@@ -273,6 +277,10 @@ const std::vector<CommandRow>& table() {
         {.caption = message::menuAbout,
          .offers = {{mnuHelpMain, 0, "mnuVer"}},
          .run = [](Targets to) { to.windows.openVersionWindow(); }},
+        {.caption = message::menuResult,
+         .offers = {{mnuToolsMain, 0, "mnuTools(0)"}, {stsFileInf}},
+         .isAvailable = hasResult,
+         .run = [](Targets to) { to.windows.openResult(); }},
         {.tip = message::tipPCPane,
          .icon = "PCButton",
          .offers = {{tlbPCButton}},
@@ -293,7 +301,8 @@ const std::vector<CommandRow>& table() {
 constexpr MenuHead barHeads[] = {
     {mnuFileMain, message::menuFile},          {mnuDispMain, message::menuView},
     {mnuTransMode, message::menuTransferMode}, {mnuSortMain, message::menuSort},
-    {mnuOptMain, message::menuOptions},        {mnuHelpMain, message::menuHelp}};
+    {mnuOptMain, message::menuOptions},        {mnuHelpMain, message::menuHelp},
+    {mnuToolsMain, message::menuTools}};
 constexpr MenuHead subHeads[] = {{mnuFileDispMain, message::menuView},
                                  {mnuSortIconMain, message::menuSort}};
 

@@ -27,6 +27,7 @@ struct CommandInput {
     std::optional<FileKind> selectedKind = {};
     int controllerFilter = 0; ///< the chosen entry of `cmbCtrlFileType`
     bool JBR = false;
+    bool hasResult = false; ///< a command has ended
 };
 
 /// The menus and tool bars, by their names.
@@ -38,6 +39,8 @@ enum class CommandPlace {
     mnuSortMain,
     mnuOptMain,
     mnuHelpMain,
+    mnuToolsMain,  ///< what goes beyond the other menus, behind them
+    stsFileInf,    ///< a click on the result in the status bar
     mnuRightClick, ///< the panes' pop-up menu, and the menus in it:
     mnuFileDispMain,
     mnuSortIconMain,

@@ -5,6 +5,7 @@
 #include "app/folders/PCFolder.h"
 #include "app/robots/Machine.h"
 #include "base/PathRules.h"
+#include "files/CommandResult.h"
 #include "files/PaneRefresh.h"
 #include "files/PaneWindow.h"
 #include "files/Panes.h"
@@ -257,6 +258,7 @@ CommandInput MainCommands::input() const {
         .selectedKind = selectedKind(),
         .controllerFilter = with_.window.filterIndex(ActiveSide::Controller),
         .JBR = state.JBR,
+        .hasResult = with_.results.last().has_value(),
     };
 }
 

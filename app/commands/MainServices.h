@@ -16,6 +16,7 @@ class OperatorTalk;
 class PCFolder;
 class PaneWindow;
 class Panes;
+class ResultLog;
 class Snappy;
 class TransferCommands;
 class ViewerPane;
@@ -62,6 +63,7 @@ struct MainServices {
     std::function<Outcome(const std::string& path)> editTextFile; ///< the system's text editor
     ViewerPane& viewerPane;
     FilePrinter& printer;
+    const ResultLog& results;
 };
 
 } // namespace vantrel

@@ -22,26 +22,27 @@ namespace vantrel {
 
 namespace {
 
-/// Blank lines of a variable list are entries as well.
-bool holdsVariables(const Snappy& session) {
-    for (std::int32_t index = 0; index < session.VarListCount(); ++index)
-        if (!trimmed(session.VarList(index)).empty())
-            return true;
-    return false;
+std::vector<std::string> jobNames(const Snappy& session) {
+    std::vector<std::string> names;
+    names.reserve(std::size_t(session.JobListCount()));
+    for (std::int32_t index = 0; index < session.JobListCount(); ++index)
+        names.push_back(session.JobList(index));
+    return names;
 }
 
 std::vector<SelectedItem> jobsOf(const Snappy& session) {
     std::vector<SelectedItem> items;
-    items.reserve(std::size_t(session.JobListCount()));
-    for (std::int32_t index = 0; index < session.JobListCount(); ++index)
-        items.push_back({session.JobList(index), false});
+    for (std::string& name : jobNames(session))
+        items.push_back({std::move(name), false});
     return items;
 }
 
+/// The list's entries but for blank lines.
 std::vector<std::string> variablesOf(const Snappy& session) {
     std::vector<std::string> entries;
     for (std::int32_t index = 0; index < session.VarListCount(); ++index)
-        entries.push_back(session.VarList(index));
+        if (std::string entry = session.VarList(index); !trimmed(entry).empty())
+            entries.push_back(std::move(entry));
     return entries;
 }
 
@@ -70,47 +71,59 @@ std::string inParentheses(std::int32_t number) {
 } // namespace
 
 void ListTransferCommands::saveJobs() {
-    run(list_file_mode::saveJobs, message::saveJobsTitle, Direction::Receive,
+    run(list_file_mode::saveJobs, message::saveJobsTitle, CommandKind::SaveJobs,
         &ListTransferCommands::transferJobs);
 }
 
 void ListTransferCommands::loadJobs() {
-    run(list_file_mode::loadJobs, message::loadJobsTitle, Direction::Send,
+    run(list_file_mode::loadJobs, message::loadJobsTitle, CommandKind::LoadJobs,
         &ListTransferCommands::transferJobs);
 }
 
 void ListTransferCommands::saveVariables() {
-    run(list_file_mode::saveVariables, message::saveVariablesTitle, Direction::Receive,
+    run(list_file_mode::saveVariables, message::saveVariablesTitle, CommandKind::SaveVariables,
         &ListTransferCommands::receiveVariables);
 }
 
 void ListTransferCommands::loadVariables() {
-    run(list_file_mode::loadVariables, message::loadVariablesTitle, Direction::Send,
+    run(list_file_mode::loadVariables, message::loadVariablesTitle, CommandKind::LoadVariables,
         &ListTransferCommands::sendVariables);
 }
 
 /// A list in a locked window cannot take the focus, so that comes after the lock.
-void ListTransferCommands::run(std::string_view mode, std::int32_t title, Direction direction,
+void ListTransferCommands::run(std::string_view mode, std::int32_t title, CommandKind kind,
                                Transfer transfer) {
     if (!dialog_.readList(mode) || !holdsSomething(mode))
         return;
     {
         const PaneRefresh refresh(with_);
         const WindowLock lock(with_.window);
-        refresh.refreshTouched(perform(title, direction, transfer));
+        const bool isForJobs = kind == CommandKind::SaveJobs || kind == CommandKind::LoadJobs;
+        with_.results.begin(kind, placeOf(kind, with_.state), with_.state.PCPath,
+                            isForJobs ? jobNames(with_.session) : variablesOf(with_.session));
+        const CommandOutcome outcome = perform(title, kind, transfer);
+        refresh.refreshTouched(outcome);
+        showResult(outcome.cancelled);
     }
     with_.window.list(with_.state.Active).focus();
 }
 
-CommandOutcome ListTransferCommands::perform(std::int32_t title, Direction direction,
+void ListTransferCommands::showResult(bool cancelled) const {
+    with_.results.end(cancelled);
+    with_.window.setResult(resultLine(with_.messages, *with_.results.last()));
+}
+
+CommandOutcome ListTransferCommands::perform(std::int32_t title, CommandKind kind,
                                              Transfer transfer) {
-    ListTransfer list(with_, with_.messages.getMessage(title), direction);
+    const bool comes = sourceOf(kind) == ActiveSide::Controller;
+    ListTransfer list(with_, with_.messages.getMessage(title),
+                      comes ? Direction::Receive : Direction::Send);
     return (this->*transfer)(list);
 }
 
 bool ListTransferCommands::holdsSomething(std::string_view mode) const {
     const bool isForJobs = mode == list_file_mode::saveJobs || mode == list_file_mode::loadJobs;
-    if (isForJobs ? with_.session.JobListCount() > 0 : holdsVariables(with_.session))
+    if (isForJobs ? with_.session.JobListCount() > 0 : !variablesOf(with_.session).empty())
         return true;
     const auto& file = isForJobs ? with_.state.JobListFile : with_.state.VarListFile;
     with_.talk.tell(with_.messages.getMessage(message::listFileEmpty) + bracketed(file),
@@ -130,18 +143,34 @@ CommandOutcome ListTransferCommands::transferJobs(ListTransfer& list) {
     return list.outcome(succeeded);
 }
 
+/// Unless all have come and are in the file, none has.
 CommandOutcome ListTransferCommands::receiveVariables(ListTransfer&) {
     const std::string& file = with_.state.VarListFile;
     const auto before = variablesOf(with_.session);
-    if (!with_.session.VarListUpLoad())
+    if (!with_.session.VarListUpLoad()) {
         reportEntry(with_.session.VarList(with_.session.ErrorIndex()));
-    else if (losesValues(before, variablesOf(with_.session)) && !mayReplaceValues())
+        return {.pcTouched = true, .cancelled = with_.session.wasCancelled()};
+    }
+    if (losesValues(before, variablesOf(with_.session)) && !mayReplaceValues()) {
+        noteAll(before, ItemEnd::Skipped, with_.messages.getMessage(message::resultKept));
         return {};
-    else if (!with_.session.WriteVarListFile(file))
-        reportFailure("\n" + with_.messages.getMessage(message::listFileNotWritten) +
-                      bracketed(file) + " " +
-                      reasonInLanguage(with_.messages, with_.session.systemReason()));
+    }
+    if (with_.session.WriteVarListFile(file)) {
+        noteAll(before, ItemEnd::Done);
+        return {.pcTouched = true};
+    }
+    const std::string reason = with_.messages.getMessage(message::listFileNotWritten) +
+                               bracketed(file) + " " +
+                               reasonInLanguage(with_.messages, with_.session.systemReason());
+    noteAll(before, ItemEnd::Failed, reason);
+    reportFailure({}, "\n" + reason);
     return {.pcTouched = true};
+}
+
+void ListTransferCommands::noteAll(const std::vector<std::string>& entries, ItemEnd end,
+                                   const std::string& reason) const {
+    for (const std::string& entry : entries)
+        with_.results.note(entry, end, reason);
 }
 
 /// The values in a list file may be the only copy of those that a robot had before.
@@ -152,21 +181,39 @@ bool ListTransferCommands::mayReplaceValues() const {
 }
 
 CommandOutcome ListTransferCommands::sendVariables(ListTransfer&) {
-    if (!with_.session.VarListDownLoad())
+    const bool succeeded = with_.session.VarListDownLoad();
+    noteSent(succeeded);
+    if (!succeeded)
         reportEntry(with_.session.VarList(with_.session.ErrorIndex()));
-    return {};
+    return {.cancelled = !succeeded && with_.session.wasCancelled()};
+}
+
+/// A list ends at its first failure, or after the variable during which Cancel was pressed.
+void ListTransferCommands::noteSent(bool succeeded) const {
+    const Snappy& session = with_.session;
+    std::int32_t sent = session.VarListCount();
+    if (!succeeded)
+        sent =
+            session.operatorIsTold() ? 0 : session.failedIndex() + (session.wasCancelled() ? 1 : 0);
+    for (std::int32_t index = 0; index < sent; ++index)
+        with_.results.note(session.VarList(index), ItemEnd::Done);
 }
 
 void ListTransferCommands::reportEntry(const std::string& entry) const {
     const bool namesIt = !entry.empty() && with_.session.triedAnEntry();
-    reportFailure(namesIt ? "\n" + bracketed(entry) : std::string());
+    reportFailure(entry, namesIt ? "\n" + bracketed(entry) : std::string());
 }
 
 /// An operator who pressed Cancel knows; an address that is not set has been told by the session.
-void ListTransferCommands::reportFailure(const std::string& details) const {
+void ListTransferCommands::reportFailure(const std::string& entry,
+                                         const std::string& details) const {
     const auto& session = with_.session;
     if (operatorKnows(session))
         return TransferReports(with_).unreplacedJobs();
+    if (session.triedAnEntry())
+        with_.results.note(entry, ItemEnd::Failed, functionAndReason(session));
+    else
+        with_.results.noteUntried(functionAndReason(session));
     const std::string place =
         with_.messages.getMessage(message::listIndex) + inParentheses(session.failedIndex());
     with_.talk.tell(with_.messages.getMessage(message::transferFailed) + session.ErrorFunction() +

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "files/CommandResult.h"
 #include "files/ListTransfer.h"
 #include "files/TransferServices.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vantrel {
 
@@ -43,17 +45,23 @@ class ListTransferCommands {
   private:
     using Transfer = CommandOutcome (ListTransferCommands::*)(ListTransfer&);
 
-    void run(std::string_view mode, std::int32_t title, Direction direction, Transfer transfer);
+    void run(std::string_view mode, std::int32_t title, CommandKind kind, Transfer transfer);
     /// Tells the operator of a list without entries.
     bool holdsSomething(std::string_view mode) const;
     /// The progress is gone when this returns.
-    CommandOutcome perform(std::int32_t title, Direction direction, Transfer transfer);
+    CommandOutcome perform(std::int32_t title, CommandKind kind, Transfer transfer);
     CommandOutcome transferJobs(ListTransfer& list);
     CommandOutcome receiveVariables(ListTransfer& list);
     CommandOutcome sendVariables(ListTransfer& list);
     bool mayReplaceValues() const;
+    /// Which variables of the list have been sent.
+    void noteSent(bool succeeded) const;
+    void noteAll(const std::vector<std::string>& entries, ItemEnd end,
+                 const std::string& reason = {}) const;
+    void showResult(bool cancelled) const;
     void reportEntry(const std::string& entry) const;
-    void reportFailure(const std::string& details) const;
+    /// The session's last failure, of an entry if it came to one.
+    void reportFailure(const std::string& entry, const std::string& details) const;
 
     TransferServices with_;
     ListFileWindow& dialog_;

@@ -5,9 +5,11 @@
 #include "app/folders/FolderTreeCommands.h"
 #include "app/folders/PCFolder.h"
 #include "app/lists/ListTransferCommands.h"
+#include "app/results/ResultCommands.h"
 #include "app/robots/RobotSelection.h"
 #include "app/settings/SettingCommands.h"
 #include "app/start/Shutdown.h"
+#include "files/CommandResult.h"
 #include "files/Panes.h"
 #include "files/TransferCommands.h"
 #include "files/TransferServices.h"
@@ -56,6 +58,7 @@ class MainProgram {
     Panes panes;
 
   private:
+    ResultLog results_;
     TransferServices transferServices_;
     TransferCommands transfers_;
     PCFolder folder_;
@@ -67,6 +70,7 @@ class MainProgram {
     RobotSelection robots;
     SettingCommands settings;
     ListTransferCommands lists;
+    ResultCommands results;
     HelpCommands help;
     Shutdown shutdown;
 };

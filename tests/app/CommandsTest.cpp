@@ -304,6 +304,7 @@ TEST(CommandsTest, EachMenuHasItsEntriesInOrder) {
     EXPECT_THAT(contents(mnuOptMain), ElementsAre("mnuOpt(0)", "-", "mnuOpt(2)", "mnuOpt(3)",
                                                   "mnuOpt(4)", "mnuOpt(5)", "-", "mnuOpt(7)"));
     EXPECT_THAT(contents(mnuHelpMain), ElementsAre("mnuHelp(0)", "mnuVer"));
+    EXPECT_THAT(contents(mnuToolsMain), ElementsAre("mnuTools(0)"));
     EXPECT_THAT(contents(mnuRightClick),
                 ElementsAre("mnuRightFile(0)", "mnuRightFile(1)", "mnuRightFile(2)",
                             "mnuRightFile(3)", "-", "mnuRightRefresh"));

@@ -70,7 +70,8 @@ class ListTransferCommandsTest : public CommandFixture {
     }
 
     ScriptedListFile listFile{state, session, boxes, messages};
-    TransferServices services{state, session, panes, window, table, messages, progress, talk};
+    TransferServices services{state,    session,  panes, window, table,
+                              messages, progress, talk,  results};
 };
 
 using Entry = void (ListTransferCommands::*)();

@@ -117,6 +117,7 @@ class RecordingWindows : public CommandWindows, public ListFileWindow {
     void openSettings() override { opened.emplace_back("settings"); }
     void changeLanguage() override { opened.emplace_back("language"); }
     void openVersionWindow() override { opened.emplace_back("version"); }
+    void openResult() override { opened.emplace_back("result"); }
     bool readList(std::string_view mode) override {
         opened.push_back("list " + std::string(mode));
         return false;
@@ -151,13 +152,14 @@ class MainCommandsTest : public CommandFixture {
                               return editorAnswer;
                           },
                           viewer,
-                          printer};
+                          printer,
+                          results};
     std::vector<std::string> edited;
     Outcome editorAnswer = Done{};
     MainCommands main{services};
     RecordingWindows windows;
-    ListTransferCommands lists{{state, session, panes, window, table, messages, progress, talk},
-                               windows};
+    ListTransferCommands lists{
+        {state, session, panes, window, table, messages, progress, talk, results}, windows};
     std::vector<std::string> documents;
     HelpCommands help{state, "/opt/vantrel", [this](const std::string& path) {
                           documents.push_back(path);

@@ -88,6 +88,17 @@ class CommandFixture : public testing::Test {
             text(547, "mark unusable"),
             text(372, " mark unusable: "),
             text(394, "replace values? "),
+            text(400, "sent"),
+            text(401, "received"),
+            text(402, "moved"),
+            text(403, "deleted"),
+            text(404, "skipped"),
+            text(405, "failed"),
+            text(406, "not tried"),
+            text(407, "cancelled"),
+            text(408, "% %"),
+            text(409, ", "),
+            text(410, "kept"),
             text(502, "already exists. Overwrite it?"),
             text(503, "cancelled"),
             text(504, "Transferring "),
@@ -182,7 +193,9 @@ class CommandFixture : public testing::Test {
     Snappy session{{library, state.TransMode, messages, languages, progress, talk, program.path(),
                     [] { return nullptr; }}};
     Panes panes{state, session, table, messages, window};
-    TransferCommands commands{{state, session, panes, window, table, messages, progress, talk}};
+    ResultLog results;
+    TransferCommands commands{
+        {state, session, panes, window, table, messages, progress, talk, results}};
 };
 
 /// A single command, which leaves everything in order.

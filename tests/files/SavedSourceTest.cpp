@@ -17,7 +17,7 @@ struct SavedSourceTest : tests::CommandFixture {
     std::function<void()> save;
     int savesAtLook = 2; ///< the first is at the file under its own name
     int looks = 0;
-    SentSources sources{{state, session, panes, window, table, messages, progress, talk},
+    SentSources sources{{state, session, panes, window, table, messages, progress, talk, results},
                         [this](const std::string& path, const std::string& spare,
                                const std::function<bool(const std::string&)>& mayGo) {
                             return removeFileIf(path, spare, [&](const std::string& content) {
@@ -85,7 +85,7 @@ TEST_F(SavedSourceTest, OfTwoNewerVersionsNoneIsLost) {
 
 TEST_F(SavedSourceTest, AnotherReasonForStayingIsTold) {
     pcJob("A");
-    SentSources refused({state, session, panes, window, table, messages, progress, talk},
+    SentSources refused({state, session, panes, window, table, messages, progress, talk, results},
                         [](const auto&, const auto&, const auto&) { return Failure{"no"}; });
     robot();
     ASSERT_TRUE(session.JobDownLoad("A.JBI"));

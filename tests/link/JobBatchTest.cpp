@@ -284,7 +284,8 @@ TEST_F(JobBatchTest, TenThousandEntriesAgainstTenThousandJobsAreLinear) {
                   world.talk},
                  deletion, interrupted);
     const LocalJobList local;
-    JobBatch batch({*world.session, link, progress, error, local, world.messages, world.talk},
+    std::vector<EntryEnd> ends;
+    JobBatch batch({*world.session, link, progress, error, local, world.messages, world.talk, ends},
                    [&send](const std::string& entry, std::int32_t index, bool overwriteAll) {
                        return send.send(entry, index, {.toAll = overwriteAll});
                    });

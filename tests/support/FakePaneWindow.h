@@ -82,6 +82,7 @@ class FakePaneWindow : public PaneWindow {
     void setStatus(ActiveSide side, const std::string& text) override {
         (side == ActiveSide::PC ? pcStatus : controllerStatus) = text;
     }
+    void setResult(const std::string& text) override { result = text; }
     void setBusyPointer(bool busy) override {
         busyDepth += busy ? 1 : -1;
         deepestBusy = std::max(deepestBusy, busyDepth);
@@ -107,6 +108,7 @@ class FakePaneWindow : public PaneWindow {
     std::vector<std::string> controllerChoices;
     std::string pcStatus;
     std::string controllerStatus;
+    std::string result;
     int busyDepth = 0;
     int deepestBusy = 0;
     int lockDepth = 0;
