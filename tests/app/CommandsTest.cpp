@@ -341,7 +341,7 @@ TEST(CommandsTest, CaptionsFollowTheMenuBarInItsOrder) {
     }
     EXPECT_THAT(bar, ElementsAre(101, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113,
                                  130, 131, 132, 114, 115, 116, 117, 119, 120, 121, 122, 123, 124,
-                                 125, 126, 128, 129));
+                                 125, 126, 128, 129, 411, 412));
     EXPECT_THAT(captions(menuBar), ElementsAre(118));
 }
 
@@ -384,7 +384,8 @@ TEST(CommandsTest, EachRowIsWhole) {
         EXPECT_EQ(command.indicator != CommandIndicator::None, command.isInForce != nullptr);
         for (const CommandOffer& offer : command.offers) {
             const bool isButton = isToolBar(offer.place);
-            EXPECT_FALSE((isButton ? command.icon : offer.name).empty()) << command.caption;
+            const auto name = isButton ? command.icon : offer.name;
+            EXPECT_NE(name.empty(), offer.place != stsFileInf) << command.caption;
             EXPECT_NE(isButton ? command.tip : command.caption, 0) << offer.name << command.icon;
         }
     }
@@ -393,9 +394,10 @@ TEST(CommandsTest, EachRowIsWhole) {
 TEST(CommandsTest, EachEntryHasOneName) {
     std::set<std::string> names;
     for (const CommandRow& command : commandTable())
-        for (const CommandOffer& offer : command.offers)
-            if (!offer.name.empty())
-                EXPECT_TRUE(names.emplace(offer.name).second) << offer.name;
+        for (const CommandOffer& offer : command.offers) {
+            const bool isNew = offer.name.empty() || names.emplace(offer.name).second;
+            EXPECT_TRUE(isNew) << offer.name;
+        }
 }
 
 } // namespace

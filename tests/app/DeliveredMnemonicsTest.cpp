@@ -42,6 +42,7 @@ std::map<std::string, std::vector<std::int32_t>> groups() {
     std::map<std::string, std::vector<std::int32_t>> all = {
         {"question dialog", {530, 531, 532, 533}},
         {"settings dialog", {320, 321, 322}},
+        {"result sheet", {417, 418, 419}},
         {"menu bar", captionsAt(menuBar)},
         {"pop-up menu", captionsAt(mnuRightClick)}};
     for (const MenuHead& head : menuBarHeads()) {

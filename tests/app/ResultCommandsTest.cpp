@@ -21,6 +21,7 @@ class ResultCommandsTest : public MainCommandsTest {
         window.pc.click({"A.JBI", "B.JBI", "C.JBI"});
         library.disturb({.function = "BscDownLoad", .call = 2, .code = 2000});
         run("mnuFile(0)");
+        library.disturb({.function = "none"});
         boxes.shown.clear();
         library.forgetCalls();
     }

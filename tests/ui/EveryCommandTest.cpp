@@ -149,6 +149,8 @@ void EveryCommandTest::prepare(const CommandRow& command) {
         menu("mnuModeHiSpeed");
     if (is("mnuModeHiSpeed"))
         menu("mnuModeBsc");
+    if (is("mnuTools(0)"))
+        menu("mnuFile(0)");
     if (is("mnuRefresh"))
         pcJob("NEW" + std::to_string(++newFiles_));
 }
