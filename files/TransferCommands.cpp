@@ -3,6 +3,7 @@
 #include "files/CommandScopes.h"
 #include "files/CopyCommand.h"
 #include "files/DeleteCommand.h"
+#include "files/FolderOwner.h"
 #include "files/MoveCommand.h"
 #include "files/PaneRefresh.h"
 #include "files/PaneWindow.h"
@@ -74,6 +75,9 @@ bool TransferCommands::run(CommandKind kind, const Work& work,
     const Items items = selectedItems(with_.panes, with_.window, source);
     if (items.empty())
         return true;
+    const bool isSend = kind == CommandKind::SendCopy || kind == CommandKind::SendMove;
+    if (isSend && !mayLeaveFolder(with_))
+        return false;
     CommandOutcome outcome;
     {
         const PaneRefresh refresh(with_);

@@ -118,6 +118,7 @@ inline constexpr std::int32_t resultCancelled = 407;
 inline constexpr std::int32_t resultCount = 408; ///< with the number and one of these
 inline constexpr std::int32_t resultJoint = 409; ///< between two of them
 inline constexpr std::int32_t resultKept = 410;  ///< why a file is skipped: the answer was No
+inline constexpr std::int32_t askOtherOwner = 423; ///< with the folder's robot and the other one
 inline constexpr std::int32_t menuTools = 411;
 inline constexpr std::int32_t menuResult = 412;
 inline constexpr std::int32_t resultTitle = 413;

@@ -3,6 +3,7 @@
 #include "base/ApplicationState.h"
 #include "base/Text.h"
 #include "files/CommandScopes.h"
+#include "files/FolderOwner.h"
 #include "files/PaneRefresh.h"
 #include "files/PaneWindow.h"
 #include "files/TransferReports.h"
@@ -94,6 +95,8 @@ void ListTransferCommands::loadVariables() {
 void ListTransferCommands::run(std::string_view mode, std::int32_t title, CommandKind kind,
                                Transfer transfer) {
     if (!dialog_.readList(mode) || !holdsSomething(mode))
+        return;
+    if (kind == CommandKind::LoadJobs && !mayLeaveFolder(with_))
         return;
     {
         const PaneRefresh refresh(with_);

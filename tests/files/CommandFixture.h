@@ -99,6 +99,7 @@ class CommandFixture : public testing::Test {
             text(408, "% %"),
             text(409, ", "),
             text(410, "kept"),
+            text(423, "%'s folder, to %?"),
             text(502, "already exists. Overwrite it?"),
             text(503, "cancelled"),
             text(504, "Transferring "),

@@ -1,0 +1,56 @@
+#include "files/FolderOwner.h"
+
+#include "base/ApplicationState.h"
+#include "base/TextCase.h"
+#include "files/ControllerPlace.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/OperatorTalk.h"
+#include "link/ShownText.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace vantrel {
+namespace {
+
+/// The same for all ways to write one folder.
+std::string comparedFolder(const std::string& folder, const PathRules& rules) {
+    std::string compared = rules.withoutTrailingSeparator(folder);
+    if (rules.style() == PathStyle::Posix)
+        return compared;
+    std::ranges::replace(compared, '/', '\\');
+    return lowerCase(compared);
+}
+
+} // namespace
+
+std::string otherOwnerOfPCFolder(const ApplicationState& state, const PathRules& rules) {
+    if (state.TransMode == TransferMode::Bsc)
+        return {};
+    const std::string shown = comparedFolder(state.PCPath, rules);
+    std::vector<std::size_t> owners;
+    for (std::size_t index = 0; index < state.RobotList.size(); ++index) {
+        const RobotRecord& robot = state.RobotList[index];
+        if (robot.Name == endOfRobots)
+            break;
+        if (comparedFolder(robot.Path, rules) == shown)
+            owners.push_back(index);
+    }
+    const bool isOther =
+        owners.size() == 1 && owners.front() != static_cast<std::size_t>(state.CurrentRobotIndex);
+    return isOther ? state.RobotList[owners.front()].Name : std::string();
+}
+
+bool mayLeaveFolder(const TransferServices& services) {
+    const std::string owner = otherOwnerOfPCFolder(services.state);
+    if (owner.empty())
+        return true;
+    return services.talk.askYesNo(
+        services.messages.getMessageWithInsertion(message::askOtherOwner, shownText(owner),
+                                                  controllerName(services.state)) +
+            "\n" + towardController(services.state),
+        BoxIcon::Exclamation);
+}
+
+} // namespace vantrel
