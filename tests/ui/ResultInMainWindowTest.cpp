@@ -2,7 +2,9 @@
 #include "ProgramWorld.h"
 
 #include <gmock/gmock.h>
+#include <wx/button.h>
 #include <wx/listctrl.h>
+#include <wx/menu.h>
 #include <wx/statusbr.h>
 
 namespace vantrel::tests {
