@@ -42,15 +42,17 @@ CommandOutcome DeleteCommand::onPC(const std::vector<SelectedItem>& items) {
 
 void DeleteCommand::each(const std::vector<SelectedItem>& items, std::int32_t question,
                          const Deletion& deletion) {
-    for (std::size_t item = 0; item < items.size() && !cancelled_; ++item) {
+    bool goesOn = true;
+    for (std::size_t item = 0; item < items.size() && goesOn && !outcome_.cancelled; ++item) {
         const std::string& name = items[item].name;
         if (items[item].isFolder)
             TransferReports(with_).aboutFile(name, message::folderPassedOver);
-        else if (isWanted(name, question))
-            cancelled_ = !progress_.next(name, item, items.size()) || !deletion(name);
+        else if (isWanted(name, question)) {
+            outcome_.cancelled = !progress_.next(name, item, items.size());
+            goesOn = !outcome_.cancelled && deletion(name);
+        }
     }
-    outcome_.succeeded = outcome_.succeeded && !cancelled_;
-    outcome_.cancelled = cancelled_ && !with_.session.operatorIsTold();
+    outcome_.succeeded = outcome_.succeeded && goesOn && !outcome_.cancelled;
 }
 
 bool DeleteCommand::isWanted(const std::string& name, std::int32_t question) {
@@ -58,7 +60,7 @@ bool DeleteCommand::isWanted(const std::string& name, std::int32_t question) {
         return true;
     const Answer answer = with_.talk.ask(title_, questionText(name, question));
     deleteAll_ = answer == Answer::All;
-    cancelled_ = answer == Answer::Cancel;
+    outcome_.cancelled = answer == Answer::Cancel;
     if (answer == Answer::No)
         with_.results.note(name, ItemEnd::Skipped, with_.messages.getMessage(message::resultKept));
     return answer == Answer::Yes || answer == Answer::All;

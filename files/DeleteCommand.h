@@ -38,7 +38,6 @@ class DeleteCommand {
     CommandProgress progress_;
     CommandOutcome outcome_;
     bool deleteAll_ = false;
-    bool cancelled_ = false;
 };
 
 } // namespace vantrel

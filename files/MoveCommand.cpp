@@ -47,8 +47,7 @@ CommandOutcome MoveCommand::run(const std::vector<SelectedItem>& items) {
     for (std::size_t item = 0; item < names.size(); ++item)
         if (!progress_.next(names[item], item, names.size()) || !move(names[item])) {
             outcome_.succeeded = false;
-            // An address that is not set ends it as well.
-            outcome_.cancelled = !with_.session.operatorIsTold();
+            outcome_.cancelled = outcome_.cancelled || progress_.isCancelled();
             break;
         }
     tellUnreplaced();
@@ -126,6 +125,7 @@ MoveCommand::Arrival MoveCommand::askFor(const std::string& file,
                                with_.messages.getMessage(message::resultKept));
             return Arrival::NotArrived;
         case Answer::Cancel:
+            outcome_.cancelled = true;
             return Arrival::EndOfCommand;
         case Answer::All:
             overwriteAll_ = true;

@@ -139,6 +139,34 @@ TEST_F(TransferResultTest, OfADeletion) {
     EXPECT_EQ(window.result, "1 deleted, 1 skipped, 0 failed, 1 not tried, cancelled");
 }
 
+// What an earlier command has said of an address has nothing to do with it.
+TEST_F(TransferResultTest, OfADeletionAndAMoveThatAreCancelledAfterAnUnsetAddress) {
+    pcJob("A");
+    state.TransMode = TransferMode::HispeedLink;
+    session.IPaddress = "0.0.0.0";
+    EXPECT_FALSE(commands.refresh(ActiveSide::Controller));
+    ASSERT_TRUE(session.operatorIsTold());
+    ASSERT_TRUE(panes.scanPC(pc.path()));
+    window.pcFilter = allFiles;
+    panes.fill(ActiveSide::PC);
+    window.pc.click({"A.JBI"});
+    question.answers = {Answer::Cancel};
+    EXPECT_FALSE(commands.deleteOnPC());
+    EXPECT_EQ(window.result, "0 deleted, 0 skipped, 0 failed, 1 not tried, cancelled");
+    pressCancelAtYield(1);
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_EQ(window.result, "0 moved, 0 skipped, 0 failed, 1 not tried, cancelled");
+}
+
+TEST_F(TransferResultTest, OfAnUnsetAddressNothingWasCancelled) {
+    pcJob("A");
+    selectOnPC({"A.JBI"});
+    state.TransMode = TransferMode::HispeedLink;
+    session.IPaddress = "0.0.0.0";
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_EQ(window.result, "0 moved, 0 skipped, 0 failed, 1 not tried");
+}
+
 TEST_F(TransferResultTest, OfADeletionOnThePC) {
     pcJob("A");
     pc.makeFolder("SUB");
