@@ -237,11 +237,12 @@ void frmZuroVant::setStatus(ActiveSide side, const std::string& text) {
 }
 
 void frmZuroVant::showNotice(const std::string& text) {
-    // Shares of the width: a notice says that nothing here is real, and must not be cut off.
-    constexpr int withNotice[MainWindowControls::statusPanels] = {-3, -3, -5, -4};
-    constexpr int without[MainWindowControls::statusPanels] = {-3, -3, -1, -8};
-    controls_.stsFileInf->SetStatusWidths(MainWindowControls::statusPanels,
-                                          text.empty() ? without : withNotice);
+    // Shares of the width, but what says that nothing here is real must not be cut off.
+    constexpr int spare = 16; // device-independent pixels
+    wxStatusBar& bar = *controls_.stsFileInf;
+    const int notice = text.empty() ? -1 : bar.GetTextExtent(toWx(text)).x + FromDIP(spare);
+    const int widths[MainWindowControls::statusPanels] = {-3, -3, notice, -5};
+    bar.SetStatusWidths(MainWindowControls::statusPanels, widths);
     SetStatusText(toWx(text), panelNotice);
 }
 

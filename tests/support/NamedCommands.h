@@ -48,7 +48,7 @@ inline std::vector<std::pair<std::string, std::int32_t>> menuEntries() {
     std::vector<std::pair<std::string, std::int32_t>> entries;
     for (const CommandRow& command : commandTable())
         for (const CommandOffer& offer : command.offers)
-            if (!isToolBar(offer.place))
+            if (!isToolBar(offer.place) && offer.place != CommandPlace::stsFileInf)
                 entries.emplace_back(offer.name, command.caption);
     return entries;
 }

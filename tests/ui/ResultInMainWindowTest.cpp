@@ -67,7 +67,9 @@ TEST_P(ResultInMainWindowTest, TheStatusBarSaysItAndAClickOpensTheSheet) {
         {},
         {{"A", "A", ItemEnd::Done}, {"B", "B", ItemEnd::Failed}, {"C", "C", ItemEnd::NotTried}}};
     EXPECT_EQ(shownResult(), resultLine(messages, expected));
+    bool isOpened = false;
     modal.act([&](wxDialog& dialog) {
+        isOpened = true;
         ASSERT_EQ(dialog.GetName(), "frmResult");
         EXPECT_EQ(labelOf(dialog, "lblResult"), shownResult());
         EXPECT_EQ(control<wxListView>(dialog, "lsvResult").GetItemCount(), 3);
@@ -82,6 +84,7 @@ TEST_P(ResultInMainWindowTest, TheStatusBarSaysItAndAClickOpensTheSheet) {
         EXPECT_TRUE(swallows(dialog, WXK_ESCAPE));
     });
     clickResult();
+    EXPECT_TRUE(waitFor([&] { return isOpened; }));
     EXPECT_EQ(namesIn(pcList()), (std::vector<std::string>{"A.JBI"})) << "Esc does nothing else";
     saveScreenshot(window(), std::string("status-result-") + GetParam());
 }
