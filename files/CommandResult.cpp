@@ -108,11 +108,11 @@ std::string placeOf(CommandKind kind, const ApplicationState& state) {
 }
 
 void ResultLog::begin(CommandKind kind, std::string place, std::string folder,
-                      const std::vector<std::string>& rows) {
-    running_ = {.kind = kind, .place = std::move(place), .folder = std::move(folder)};
+                      const std::vector<std::string>& rows, bool JBR) {
+    running_ = {.kind = kind, .place = std::move(place), .folder = std::move(folder), .JBR = JBR};
     places_.clear();
     for (const std::string& row : rows) {
-        places_.emplace(row, running_->items.size());
+        places_[row].push_back(running_->items.size());
         running_->items.push_back({row, row});
     }
 }
@@ -120,18 +120,35 @@ void ResultLog::begin(CommandKind kind, std::string place, std::string folder,
 void ResultLog::rename(std::size_t item, const std::string& name) {
     if (!running_ || item >= running_->items.size())
         return;
+    std::erase(places_[running_->items[item].name], item);
     running_->items[item].name = name;
-    places_.emplace(name, item);
+    places_[name].push_back(item);
 }
 
 void ResultLog::note(const std::string& name, ItemEnd end, const std::string& reason) {
-    const auto place = places_.find(name);
-    if (!running_ || place == places_.end())
+    ItemResult* const item = itemFor(name, end);
+    if (!item)
         return;
-    ItemResult& item = running_->items[place->second];
-    item.reason = trimmed(reason);
-    if (item.end != ItemEnd::Done || end != ItemEnd::Skipped)
-        item.end = end;
+    item->reason = trimmed(reason);
+    if (item->end != ItemEnd::Done || end != ItemEnd::Skipped)
+        item->end = end;
+}
+
+/// One that failed and waits for its reason, else the first that nothing is known of, else the last
+/// one, whose end turns out to be another.
+ItemResult* ResultLog::itemFor(const std::string& name, ItemEnd end) {
+    const auto found = places_.find(name);
+    if (!running_ || found == places_.end() || found->second.empty())
+        return nullptr;
+    ItemResult* untried = nullptr;
+    for (const std::size_t place : found->second) {
+        ItemResult& item = running_->items[place];
+        if (end == ItemEnd::Failed && item.end == ItemEnd::Failed && item.reason.empty())
+            return &item;
+        if (!untried && item.end == ItemEnd::NotTried)
+            untried = &item;
+    }
+    return untried ? untried : &running_->items[found->second.back()];
 }
 
 void ResultLog::noteUntried(const std::string& reason) {

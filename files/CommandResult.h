@@ -41,6 +41,7 @@ struct CommandResult {
     CommandKind kind = CommandKind::SendCopy;
     std::string place{};  ///< the line that says where it went, empty for the PC
     std::string folder{}; ///< on the PC
+    bool JBR = false;     ///< the setting under which it ran
     std::vector<ItemResult> items{};
     bool cancelled = false;
 
@@ -64,11 +65,12 @@ std::string placeOf(CommandKind kind, const ApplicationState& state);
 class ResultLog {
   public:
     void begin(CommandKind kind, std::string place, std::string folder,
-               const std::vector<std::string>& rows);
+               const std::vector<std::string>& rows, bool JBR = false);
     /// Another name is transferred for a row.
     void rename(std::size_t item, const std::string& name);
-    /// Of a file that is done, "skipped" only adds the reason why something of it stayed. A name
-    /// that is none of the command's is passed over.
+    /// Of several files of one name, which a list may have, they are told in its order. Of a file
+    /// that is done, "skipped" only adds the reason why something of it stayed. A name that is none
+    /// of the command's is passed over.
     void note(const std::string& name, ItemEnd end, const std::string& reason = {});
     /// Why nothing could be tried any more.
     void noteUntried(const std::string& reason);
@@ -78,8 +80,11 @@ class ResultLog {
     const std::optional<CommandResult>& last() const { return last_; }
 
   private:
+    ItemResult* itemFor(const std::string& name, ItemEnd end);
+
     std::optional<CommandResult> running_;
-    std::unordered_map<std::string, std::size_t> places_; ///< in its items, by name
+    /// In its items, by name.
+    std::unordered_map<std::string, std::vector<std::size_t>> places_;
     std::optional<CommandResult> last_;
 };
 

@@ -54,9 +54,13 @@ bool ListTransfer::run() {
 
 void ListTransfer::noteEnds() const {
     const auto& ends = with_.session.entryEnds();
-    for (std::size_t index = 0; index < ends.size(); ++index)
-        with_.results.note(with_.session.JobList(static_cast<std::int32_t>(index)),
-                           itemEnd(ends[index]), reasonOf(ends[index]));
+    for (std::size_t index = 0; index < ends.size(); ++index) {
+        // An address that is not set is no failure of one file.
+        const bool isTried = ends[index] != EntryEnd::Failed || !with_.session.operatorIsTold();
+        const EntryEnd end = isTried ? ends[index] : EntryEnd::NotTried;
+        with_.results.note(with_.session.JobList(static_cast<std::int32_t>(index)), itemEnd(end),
+                           reasonOf(end));
+    }
 }
 
 /// Why it failed is noted where it is told.

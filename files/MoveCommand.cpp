@@ -89,7 +89,8 @@ MoveCommand::Arrival MoveCommand::transfer(const std::string& name) {
     if (!callSession(name, overwrite))
         arrival = overwrite || !existsAlready() ? failed(name) : askAndTransfer(name);
     if (arrival == Arrival::Arrived) {
-        with_.results.note(name, ItemEnd::Done);
+        if (direction_ == Direction::Send)
+            with_.results.note(name, ItemEnd::Done);
         arrived_.insert(direction_ == Direction::Send ? with_.session.lastSent().arrivesAs : name);
     }
     return arrival;
@@ -240,15 +241,21 @@ MoveCommand::Arrival MoveCommand::failed(const std::string& name) {
 
 /// A press of Cancel keeps the original: it stops before the next call, and this is one.
 bool MoveCommand::removeFromController(const std::string& name) {
-    if (progress_.isCancelled())
+    const auto noteKept = [&] {
+        with_.results.note(name, ItemEnd::Failed,
+                           with_.messages.getMessage(message::originalNotDeleted));
         return false;
+    };
+    if (progress_.isCancelled())
+        return noteKept();
     if (with_.session.JobDelete(name)) {
         outcome_.goneFromController.push_back(name);
+        with_.results.note(name, ItemEnd::Done);
         return true;
     }
     outcome_.succeeded = false;
     if (with_.session.operatorIsTold())
-        return false;
+        return noteKept();
     TransferReports(with_).originalNotDeleted(name);
     return true;
 }

@@ -63,12 +63,15 @@ void SentSources::remove(const Source& source) {
         return;
     allWent_ = false;
     const TransferReports reports(with_);
-    if (removed)
+    if (removed) {
         reports.aboutFile(source.name, message::sourceChanged);
-    else if (anythingExists(rules.join(folder, spare)))
-        reports.tell(bracketed(source.name) + with_.messages.getMessage(message::oldFileKept) +
-                     bracketed(spare));
-    else
+        with_.results.note(source.name, ItemEnd::Failed,
+                           with_.messages.getMessage(message::sourceChanged));
+    } else if (anythingExists(rules.join(folder, spare))) {
+        const std::string text = with_.messages.getMessage(message::oldFileKept) + bracketed(spare);
+        with_.results.note(source.name, ItemEnd::Failed, text);
+        reports.tell(bracketed(source.name) + text);
+    } else
         reports.aboutFile(source.name, message::originalNotDeleted, removed.reason());
 }
 

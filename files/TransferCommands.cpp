@@ -96,7 +96,8 @@ void TransferCommands::beginResult(CommandKind kind, const Items& items) {
     names.reserve(items.size());
     for (const SelectedItem& item : items)
         names.push_back(item.name);
-    with_.results.begin(kind, placeOf(kind, with_.state), with_.state.PCPath, names);
+    with_.results.begin(kind, placeOf(kind, with_.state), with_.state.PCPath, names,
+                        with_.state.JBR);
 }
 
 void TransferCommands::showResult(bool cancelled) {

@@ -16,6 +16,8 @@
 #include "ui/dialogs/frmSetting.h"
 #include "ui/frmZuroVant.h"
 
+#include <utility>
+
 namespace vantrel {
 
 bool ListFileDialogs::readList(std::string_view mode) {
@@ -61,11 +63,15 @@ void CommandDialogs::openVersionWindow() {
 }
 
 void CommandDialogs::openResult() {
+    // A second click may have waited behind the first one.
+    if (std::exchange(resultOpen_, true))
+        return;
     bool again = false;
     {
         frmResult dialog(&window_, program_.results, engine_.messages, engine_.state);
         again = dialog.ShowModal() == wxID_RETRY;
     }
+    resultOpen_ = false;
     if (again)
         program_.results.tryAgain();
 }

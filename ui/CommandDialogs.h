@@ -60,6 +60,7 @@ class CommandDialogs : public CommandWindows {
     frmZuroVant& window_;
     const WindowHolder<frmMsgStat>& progress_; ///< the window goes when the session quits
     VersionWindow& version_;
+    bool resultOpen_ = false;
 };
 
 } // namespace vantrel

@@ -141,6 +141,8 @@ void MainCommands::recaption() {
     showMode();
     with_.panes.showCount(ActiveSide::PC);
     with_.panes.showCount(ActiveSide::Controller);
+    if (with_.results.last())
+        with_.window.setResult(resultLine(with_.messages, *with_.results.last()));
     updateStates();
 }
 

@@ -96,7 +96,7 @@ void ListTransferCommands::run(std::string_view mode, std::int32_t title, Comman
                                Transfer transfer) {
     if (!dialog_.readList(mode) || !holdsSomething(mode))
         return;
-    if (kind == CommandKind::LoadJobs && !mayLeaveFolder(with_))
+    if (sourceOf(kind) == ActiveSide::PC && !mayLeaveFolder(with_))
         return;
     {
         const PaneRefresh refresh(with_);
@@ -137,7 +137,7 @@ bool ListTransferCommands::holdsSomething(std::string_view mode) const {
 /// The session is left alone when nothing is to be transferred.
 CommandOutcome ListTransferCommands::transferJobs(ListTransfer& list) {
     if (!list.take(jobsOf(with_.session)))
-        return {};
+        return {.succeeded = !list.isCancelled(), .cancelled = list.isCancelled()};
     const bool succeeded = list.run();
     if (!succeeded)
         reportEntry(with_.session.JobList(with_.session.ErrorIndex()));

@@ -5,6 +5,7 @@
 #include "app/viewer/ViewerCommands.h"
 #include "base/ApplicationState.h"
 #include "files/Panes.h"
+#include "files/TransferCommands.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "lang/SystemReasons.h"
@@ -13,45 +14,35 @@
 #include "platform/Files.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace vantrel {
 namespace {
 
-bool isOfPanes(CommandKind kind) {
+using Repeat = bool (TransferCommands::*)();
+
+/// Null where the files are those of a list file.
+Repeat repeatOf(CommandKind kind) {
     switch (kind) {
     case CommandKind::SendCopy:
+        return &TransferCommands::sendCopy;
     case CommandKind::SendMove:
+        return &TransferCommands::sendMove;
     case CommandKind::ReceiveCopy:
+        return &TransferCommands::receiveCopy;
     case CommandKind::ReceiveMove:
+        return &TransferCommands::receiveMove;
     case CommandKind::DeleteOnController:
+        return &TransferCommands::deleteOnController;
     case CommandKind::DeleteOnPC:
-        return true;
+        return &TransferCommands::deleteOnPC;
     case CommandKind::LoadJobs:
     case CommandKind::SaveJobs:
     case CommandKind::LoadVariables:
     case CommandKind::SaveVariables:
         break;
     }
-    return false;
-}
-
-void run(CommandKind kind, MainCommands& commands) {
-    switch (kind) {
-    case CommandKind::SendCopy:
-    case CommandKind::ReceiveCopy:
-        return commands.copy();
-    case CommandKind::SendMove:
-    case CommandKind::ReceiveMove:
-        return commands.move();
-    case CommandKind::DeleteOnController:
-    case CommandKind::DeleteOnPC:
-        return commands.remove();
-    case CommandKind::LoadJobs:
-    case CommandKind::SaveJobs:
-    case CommandKind::LoadVariables:
-    case CommandKind::SaveVariables:
-        return;
-    }
+    return nullptr;
 }
 
 } // namespace
@@ -90,27 +81,40 @@ void ResultCommands::print() const {
 }
 
 bool ResultCommands::canTryAgain() const {
-    return last() && isOfPanes(last()->kind) && last()->folder == with_.state.PCPath &&
-           last()->place == placeOf(last()->kind, with_.state) && !last()->openRows().empty();
+    if (!last() || !repeatOf(last()->kind) || last()->openRows().empty())
+        return false;
+    const ApplicationState& state = with_.state;
+    // The controller pane cannot be worked in below the viewer.
+    const bool isCovered = sourceOf(last()->kind) == ActiveSide::Controller && state.ViewerShown;
+    return !isCovered && last()->folder == state.PCPath && last()->JBR == state.JBR &&
+           last()->place == placeOf(last()->kind, state);
 }
 
 void ResultCommands::tryAgain() {
     if (!canTryAgain())
         return;
     const CommandKind kind = last()->kind;
+    const ActiveSide source = sourceOf(kind);
     const std::vector<std::string> rows = last()->openRows();
-    commands_.workIn(sourceOf(kind));
-    with_.panes.selectNames(sourceOf(kind), rows);
-    const auto selected = with_.panes.selectedNames(sourceOf(kind));
-    const auto isSelected = [&](const std::string& row) {
-        return std::ranges::find(selected, row) != selected.end();
-    };
-    const auto gone = std::ranges::find_if_not(rows, isSelected);
-    if (gone != rows.end())
-        with_.talk.tell(bracketed(*gone) + with_.messages.getMessage(message::resultRowGone),
-                        BoxIcon::Exclamation);
-    else
-        run(kind, commands_);
+    if (const auto missing = firstMissing(source, rows))
+        return with_.talk.tell(bracketed(*missing) +
+                                   with_.messages.getMessage(message::resultRowGone),
+                               BoxIcon::Exclamation);
+    commands_.workIn(source);
+    with_.panes.selectNames(source, rows);
+    (with_.transfers.*repeatOf(kind))();
+    commands_.updateStates();
+}
+
+std::optional<std::string>
+ResultCommands::firstMissing(ActiveSide side, const std::vector<std::string>& names) const {
+    const PaneRows& rows = with_.panes.rows(side);
+    std::unordered_set<std::string> shown;
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        shown.insert(rows.name(row));
+    const auto missing = std::ranges::find_if_not(
+        names, [&](const std::string& name) { return shown.contains(name); });
+    return missing == names.end() ? std::nullopt : std::optional(*missing);
 }
 
 } // namespace vantrel

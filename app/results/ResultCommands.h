@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace vantrel {
 
@@ -26,14 +27,17 @@ class ResultCommands {
     /// Prints it; a failure is told.
     void print() const;
 
-    /// Whether something is left to be tried again, between the same folder and the same robot: a
-    /// command of another machine is never repeated here.
+    /// Whether something is left to be tried again, under the same settings between the same folder
+    /// and the same robot: a command of another machine is never repeated here.
     bool canTryAgain() const;
-    /// Selects what failed and what was not reached, as far as it is still there, and runs the same
-    /// command with it. What is there no more is named.
+    /// Selects what failed and what was not reached and runs the same command with it. A row that
+    /// its list does not show is named, and nothing is done.
     void tryAgain();
 
   private:
+    std::optional<std::string> firstMissing(ActiveSide side,
+                                            const std::vector<std::string>& names) const;
+
     const MainServices& with_;
     const ResultLog& results_;
     MainCommands& commands_;

@@ -73,6 +73,41 @@ TEST_F(ResultCommandsTest, NothingIsTriedAgainForAnotherMachineOrFolder) {
     EXPECT_EQ(library.callCount("BscConnect"), 0);
 }
 
+TEST_F(ResultCommandsTest, NothingIsTriedAgainUnderAnotherSetting) {
+    sendInPart();
+    state.JBR = true;
+    EXPECT_FALSE(result.canTryAgain());
+    state.JBR = false;
+    EXPECT_TRUE(result.canTryAgain());
+}
+
+// Below it the controller pane cannot become the active one, and commands would act on the PC's.
+TEST_F(ResultCommandsTest, NothingOfTheControllerIsTriedAgainBelowTheViewer) {
+    for (const char* name : {"A", "B"})
+        robotJob(name);
+    pcJob("P");
+    showPanes();
+    state.Active = ActiveSide::Controller;
+    window.controller.click({"A.JBI", "B.JBI"});
+    library.disturb({.function = "BscUpLoad", .code = 2000});
+    run("mnuFile(0)");
+    library.disturb({.function = "none"});
+    ASSERT_TRUE(result.canTryAgain());
+    window.pc.click({"P.JBI"});
+    run("mnuFile(5)");
+    ASSERT_TRUE(state.ViewerShown);
+    EXPECT_FALSE(result.canTryAgain());
+    result.tryAgain();
+    EXPECT_FALSE(robot().has("P.JBI"));
+}
+
+TEST_F(ResultCommandsTest, ItFollowsTheLanguage) {
+    sendInPart();
+    window.result = "in another language";
+    main.recaption();
+    EXPECT_EQ(window.result, "1 sent, 0 skipped, 1 failed, 1 not tried");
+}
+
 TEST_F(ResultCommandsTest, AFileThatIsNotThereAnyMoreIsNamedAndNothingRuns) {
     sendInPart();
     std::filesystem::remove(pc.path("C.JBI"));
@@ -81,6 +116,7 @@ TEST_F(ResultCommandsTest, AFileThatIsNotThereAnyMoreIsNamedAndNothingRuns) {
     window.pc.click({"D.JBI"});
     result.tryAgain();
     EXPECT_THAT(boxes.texts(), ElementsAre(HasSubstr("[C.JBI]")));
+    EXPECT_EQ(window.pc.selectedNames(), (std::vector<std::string>{"D.JBI"}));
     EXPECT_EQ(library.callCount("BscConnect"), 0);
 }
 

@@ -89,6 +89,29 @@ TEST_F(CommandResultTest, ARowCanStandForAnotherName) {
     EXPECT_EQ(log_.last()->items[1].end, ItemEnd::Failed);
 }
 
+TEST_F(CommandResultTest, FilesOfOneNameAreToldInTheirOrder) {
+    log_.begin(CommandKind::LoadJobs, "", "/jobs", {"A", "B", "A", "A"});
+    log_.note("A", ItemEnd::Done);
+    log_.note("B", ItemEnd::Done);
+    log_.note("A", ItemEnd::Failed);
+    log_.note("A", ItemEnd::Failed, "broken");
+    log_.end(false);
+    const auto& items = log_.last()->items;
+    EXPECT_EQ(items[0].end, ItemEnd::Done);
+    EXPECT_EQ(items[2].end, ItemEnd::Failed);
+    EXPECT_EQ(items[2].reason, "broken");
+    EXPECT_EQ(items[3].end, ItemEnd::NotTried);
+}
+
+TEST_F(CommandResultTest, ARowThatTakesTheNameOfAnotherKeepsItsOwnPlace) {
+    log_.begin(CommandKind::ReceiveCopy, "", "/jobs", {"A.JBI", "A.JBR"});
+    log_.rename(0, "A.JBR");
+    log_.note("A.JBR", ItemEnd::Done);
+    log_.note("A.JBR", ItemEnd::Done);
+    log_.end(false);
+    EXPECT_EQ(log_.last()->count(ItemEnd::Done), 2u);
+}
+
 TEST_F(CommandResultTest, ANameOfNoCommandIsPassedOver) {
     log_.note("A", ItemEnd::Done);
     begin();

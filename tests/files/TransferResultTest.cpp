@@ -130,6 +130,40 @@ TEST_F(TransferResultTest, OfAMoveWhoseJobStaysOnTheController) {
     EXPECT_EQ(window.result, "0 moved, 0 skipped, 1 failed");
 }
 
+TEST_F(TransferResultTest, OfAReceivingMoveThatIsCancelledBeforeTheDeletion) {
+    robotJob("A");
+    selectOnController({"A.JBI"});
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscUpLoad")
+            progress.pressCancel();
+    };
+    EXPECT_FALSE(commands.receiveMove());
+    EXPECT_TRUE(robot().has("A.JBI"));
+    EXPECT_EQ(window.result, "0 moved, 0 skipped, 1 failed, cancelled");
+    EXPECT_THAT(ends(), ElementsAre("A.JBI failed: original not deleted"));
+}
+
+TEST_F(TransferResultTest, OfAMoveWhoseFileWasSavedMeanwhileItStays) {
+    pcJob("A");
+    selectOnPC({"A.JBI"});
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscDownLoad")
+            pcJob("A", "2");
+    };
+    EXPECT_FALSE(commands.sendMove());
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_EQ(window.result, "0 moved, 0 skipped, 1 failed");
+}
+
+TEST_F(TransferResultTest, OfAReceiveFromAnUnsetAddressNothingFailed) {
+    robotJob("A");
+    selectOnController({"A.JBI"});
+    state.TransMode = TransferMode::HispeedLink;
+    session.IPaddress = "0.0.0.0";
+    EXPECT_FALSE(commands.receiveCopy());
+    EXPECT_EQ(window.result, "0 received, 0 skipped, 0 failed, 1 not tried");
+}
+
 TEST_F(TransferResultTest, OfADeletion) {
     for (const char* name : {"A", "B", "C"})
         robotJob(name);

@@ -61,7 +61,7 @@ frmResult::frmResult(wxWindow* parent, const ResultCommands& results, const Mess
                      const ApplicationState& state)
     : wxDialog(parent, wxID_ANY, toWx(messages.getMessage(message::resultTitle)), wxDefaultPosition,
                wxDefaultSize, wxCAPTION | wxCLOSE_BOX | wxRESIZE_BORDER, "frmResult"),
-      results_(results), messages_(messages) {
+      results_(results), result_(*results.last()), messages_(messages) {
     SetIcons(programIcons());
     buildList();
     const int gap = FromDIP(12);
@@ -90,15 +90,14 @@ wxSizer* frmResult::buildHead() {
         label->SetToolTip(toWx(text));
         rows->Add(label, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(4)));
     };
-    const CommandResult& result = *results_.last();
-    add(resultLine(messages_, result), "lblResult");
-    add(result.place, "lblPlace");
-    add(result.folder, "lblFolder");
+    add(resultLine(messages_, result_), "lblResult");
+    add(result_.place, "lblPlace");
+    add(result_.folder, "lblFolder");
     return rows;
 }
 
 void frmResult::buildList() {
-    lsvResult_ = new ResultList(this, *results_.last(), messages_);
+    lsvResult_ = new ResultList(this, result_, messages_);
     const std::int32_t captions[] = {message::resultColumnName, message::resultColumnEnd,
                                      message::resultColumnReason};
     for (const std::int32_t caption : captions)
@@ -142,7 +141,7 @@ wxSizer* frmResult::buildButtons() {
 }
 
 void frmResult::save() {
-    wxFileDialog dialog(this, GetTitle(), toWx(results_.last()->folder), "result.txt", "*.txt",
+    wxFileDialog dialog(this, GetTitle(), toWx(result_.folder), "result.txt", "*.txt",
                         wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
     if (dialog.ShowModal() == wxID_OK)
         results_.save(fromWx(dialog.GetPath()));

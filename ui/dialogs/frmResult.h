@@ -1,5 +1,7 @@
 #pragma once
 
+#include "files/CommandResult.h"
+
 #include <wx/dialog.h>
 
 class wxButton;
@@ -15,7 +17,7 @@ struct ApplicationState;
 /// try again what is left.
 class frmResult : public wxDialog {
   public:
-    /// The last command has ended; the result does not change while this is open.
+    /// The last command has ended; its result is the one that is shown as long as this is open.
     frmResult(wxWindow* parent, const ResultCommands& results, const MessageTable& messages,
               const ApplicationState& state);
 
@@ -27,6 +29,7 @@ class frmResult : public wxDialog {
     void save();
 
     const ResultCommands& results_;
+    const CommandResult result_;
     const MessageTable& messages_;
     wxListView* lsvResult_ = nullptr;
 };
