@@ -241,7 +241,7 @@ void frmZuroVant::showNotice(const std::string& text) {
     constexpr int spare = 16; // device-independent pixels
     wxStatusBar& bar = *controls_.stsFileInf;
     const int notice = text.empty() ? -1 : bar.GetTextExtent(toWx(text)).x + FromDIP(spare);
-    const int widths[MainWindowControls::statusPanels] = {-3, -3, notice, -5};
+    const int widths[MainWindowControls::statusPanels] = {-3, -4, notice, -4};
     bar.SetStatusWidths(MainWindowControls::statusPanels, widths);
     SetStatusText(toWx(text), panelNotice);
 }

@@ -99,6 +99,8 @@ constexpr std::pair<int, int> captionNumbers[] = {
     {message::languageTitle, message::chooseFont},
     {message::executionMessage, message::tipFolderTree},
     {ofResource(message::resource::transferring), ofResource(message::resource::deleting)},
+    {message::resultSent, message::resultJoint}, // words of the status bar and of the result sheet
+    {message::menuTools, message::resultClose},
     {ofResource(message::resource::yes), ofResource(message::resource::cancel)}};
 
 bool isCaption(int number) {
