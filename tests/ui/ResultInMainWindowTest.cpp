@@ -61,11 +61,10 @@ TEST_P(ResultInMainWindowTest, BeforeACommandThereIsNone) {
 
 TEST_P(ResultInMainWindowTest, TheStatusBarSaysItAndAClickOpensTheSheet) {
     fetchInPart();
-    const CommandResult expected{
-        CommandKind::ReceiveCopy,
-        {},
-        {},
-        {{"A", "A", ItemEnd::Done}, {"B", "B", ItemEnd::Failed}, {"C", "C", ItemEnd::NotTried}}};
+    const CommandResult expected{.kind = CommandKind::ReceiveCopy,
+                                 .items = {{"A", "A", ItemEnd::Done},
+                                           {"B", "B", ItemEnd::Failed},
+                                           {"C", "C", ItemEnd::NotTried}}};
     EXPECT_EQ(shownResult(), resultLine(messages, expected));
     bool isOpened = false;
     modal.act([&](wxDialog& dialog) {
