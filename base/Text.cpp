@@ -187,14 +187,17 @@ std::string onOneLine(std::string_view utf8) {
     return vantrel::utf8(characters);
 }
 
+char32_t takeCharacter(std::string_view& rest) {
+    const Decoded decoded = decodeFirst(rest);
+    rest.remove_prefix(decoded.length);
+    return decoded.codePoint;
+}
+
 std::u32string codePoints(std::string_view utf8) {
     std::u32string result;
     result.reserve(utf8.size());
-    while (!utf8.empty()) {
-        const Decoded decoded = decodeFirst(utf8);
-        result += decoded.codePoint;
-        utf8.remove_prefix(decoded.length);
-    }
+    while (!utf8.empty())
+        result += takeCharacter(utf8);
     return result;
 }
 

@@ -46,6 +46,8 @@ bool isUnshowable(char32_t codePoint);
 /// become U+FFFD.
 std::string onOneLine(std::string_view utf8);
 
+/// Takes the next character off a text that is not empty; an invalid byte is U+FFFD.
+char32_t takeCharacter(std::string_view& rest);
 /// The characters of strict UTF-8 as code points; an invalid byte becomes U+FFFD.
 std::u32string codePoints(std::string_view utf8);
 /// The characters as UTF-8; a code point that is none becomes U+FFFD.

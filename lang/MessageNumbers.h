@@ -196,6 +196,11 @@ inline constexpr std::int32_t tipPCPane = 214;
 inline constexpr std::int32_t tipControllerPane = 215;
 inline constexpr std::int32_t labelRobot = 230;
 
+// What stands in a pane without rows.
+inline constexpr std::int32_t paneNotRead = 436;
+inline constexpr std::int32_t paneEmpty = 437;
+inline constexpr std::int32_t paneFiltered = 438;
+
 // The settings dialog.
 inline constexpr std::int32_t settingsTitle = 300;
 inline constexpr std::int32_t settingsRobotPage = 301;
@@ -245,6 +250,14 @@ inline constexpr std::int32_t languageFileNotRead = 344; ///< then [file name] a
 inline constexpr std::int32_t executionMessage = 350; ///< the start message's title
 inline constexpr std::int32_t page = 361; ///< then the page, `progressOf`, the number of pages
 inline constexpr std::int32_t tipFolderTree = 370;
+
+// The search line of the viewer.
+inline constexpr std::int32_t searchText = 430; ///< what a screen reader calls the field
+inline constexpr std::int32_t tipSearchNext = 431;
+inline constexpr std::int32_t tipSearchPrevious = 432;
+inline constexpr std::int32_t searchedInVain = 433;
+inline constexpr std::int32_t searchWentToEnd = 434;   ///< on from the start of the text
+inline constexpr std::int32_t searchWentToStart = 435; ///< on from its end
 
 // What a question about an existing file tells below its text.
 inline constexpr std::int32_t factsOfPCFile = 390; ///< with its size in bytes and its date

@@ -8,6 +8,7 @@
 #include "ui/FolderTreeDropDown.h"
 #include "ui/MainWindowControls.h"
 #include "ui/PathDisplay.h"
+#include "ui/ViewerSearch.h"
 
 #include <algorithm>
 #include <cmath>
@@ -70,12 +71,26 @@ class Placer {
         control->SetSize(row.x, neighbour.GetPosition().y, row.width, neighbour.GetSize().y);
     }
 
+    /// Along the lower edge of a control that is placed already, which becomes smaller by it.
+    void atFoot(wxWindow* line, wxWindow& of) const {
+        if (!line->IsShown())
+            return;
+        wxRect rest = of.GetRect();
+        const int height = line->GetBestSize().y;
+        rest.height -= height + pixelsFromTwips(lineGap, dpi_);
+        of.SetSize(rest);
+        line->SetSize(rest.x, rest.GetBottom() + 1 + pixelsFromTwips(lineGap, dpi_), rest.width,
+                      height);
+        line->Layout();
+    }
+
     void frame(const PaneFrame& frame, const Rectangle& place) const {
         exactly(frame.panel, place);
         frame.box->SetSize(frame.panel->GetClientSize());
     }
 
   private:
+    static constexpr double lineGap = 45;
     int dpi_;
 };
 
@@ -133,6 +148,7 @@ void placeControls(const MainWindowControls& controls, const WindowLayout& layou
 
     place.frame(controls.fraFile, layout.fraFile);
     place.exactly(controls.rtxFileDisp, layout.rtxFileDisp);
+    place.atFoot(controls.viewerSearch, *controls.rtxFileDisp);
     place.inRow(controls.lblFile, layout.lblDisp[viewerFileLabel]);
     place.inRow(controls.lblFileName, layout.lblFileName);
 

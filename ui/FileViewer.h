@@ -1,7 +1,10 @@
 #pragma once
 
+#include "app/viewer/TextSearch.h"
 #include "app/viewer/TextSlices.h"
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include <wx/textctrl.h>
@@ -21,14 +24,21 @@ class FileViewer : public wxTextCtrl {
     void clear();
     /// Whether everything has been appended.
     bool isWhole() const { return rest_.isDone(); }
+    /// Seeks a text, UTF-8, from the selection on and selects it where it stands, as soon as that
+    /// has been appended. Nothing changes when it stands nowhere.
+    std::optional<FoundText> find(const std::string& wanted, SearchDirection direction);
     /// A fixed-pitch font of this size in points.
     void setFontSize(int points);
 
   private:
     void appendNext(wxIdleEvent& event);
     void keyPressed(wxKeyEvent& event);
+    ShownRange selection() const;
+    void selectAwaited();
 
+    std::string_view text_;
     TextSlices rest_;
+    std::optional<ShownRange> awaited_; ///< to be selected as soon as it is shown
 };
 
 } // namespace vantrel

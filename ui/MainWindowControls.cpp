@@ -6,6 +6,7 @@
 #include "ui/FileViewer.h"
 #include "ui/FolderTreeDropDown.h"
 #include "ui/PathDisplay.h"
+#include "ui/ViewerSearch.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
 
@@ -111,6 +112,7 @@ void MainWindowControls::makeViewerPane() {
     fraFile = makeFrame(surface, "fraFile");
     auto* pane = fraFile.panel;
     rtxFileDisp = new FileViewer(pane, "rtxFileDisp");
+    viewerSearch = new ViewerSearch(pane, *rtxFileDisp, "viewerSearch");
     lblFile = makeLabel(pane, "lblDispFile");
     lblFileName = makeLabel(pane, "lblFileName");
     pane->Hide();

@@ -21,6 +21,7 @@ class FileListControl;
 class FileViewer;
 class FolderTreeDropDown;
 class PathDisplay;
+class ViewerSearch;
 struct CommandRow;
 
 /// A frame of the main window: a panel with a titled box behind its controls. The controls are the
@@ -69,6 +70,7 @@ struct MainWindowControls {
 
     PaneFrame fraFile; ///< the viewer, in the place of `fraCtrl`
     FileViewer* rtxFileDisp = nullptr;
+    ViewerSearch* viewerSearch = nullptr;
     wxStaticText* lblFile = nullptr; ///< its heading, element 0 of `lblDisp`
     wxStaticText* lblFileName = nullptr;
 

@@ -8,6 +8,7 @@
 #include "ui/FileListControl.h"
 #include "ui/FolderTreeDropDown.h"
 #include "ui/MainWindowControls.h"
+#include "ui/ViewerSearch.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/WxText.h"
 
@@ -70,6 +71,7 @@ void captionControls(const MainWindowControls& controls, const MessageTable& mes
     captionToolBars(controls, messages);
     captionLabels(controls, messages);
     captionColumns(controls, messages);
+    controls.viewerSearch->applyCaptions(messages);
 }
 
 void showCommandStates(const MainWindowControls& controls, const CommandInput& input) {

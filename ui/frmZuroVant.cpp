@@ -18,6 +18,7 @@
 #include "ui/NativeControls.h"
 #include "ui/OperationGuard.h"
 #include "ui/PathDisplay.h"
+#include "ui/ViewerSearch.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
 #include "ui/look/WindowFont.h"
@@ -74,7 +75,10 @@ void frmZuroVant::connect(MainCommands& commands, const CommandRunner& runner) {
     for (CommandToolBar* bar : controls_.toolBars())
         bar->onPressed = run;
     // The window gets a key before the control that has the focus.
-    Bind(wxEVT_CHAR_HOOK, [this, &runner](wxKeyEvent& event) { functionKey(event, runner); });
+    Bind(wxEVT_CHAR_HOOK, [this, &commands, &runner](wxKeyEvent& event) {
+        if (!isViewerKey(event, commands))
+            functionKey(event, runner);
+    });
     controls_.stsFileInf->Bind(wxEVT_LEFT_UP, [this, &runner](wxMouseEvent& event) {
         event.Skip();
         statusClicked(event.GetPosition(), runner);
@@ -129,6 +133,7 @@ void frmZuroVant::bindEvents() {
         controls_.rtxFileDisp->SetFocus();
         event.Skip();
     });
+    controls_.viewerSearch->onShownOrHidden = [this] { lay(); };
     controls_.cmbRbtName->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
         controls_.cmbRbtName->SetToolTip(event.GetString());
         if (onRobotChosen)
@@ -180,6 +185,32 @@ void frmZuroVant::keepFocusInActivePane() {
     const auto other = state_.Active == ActiveSide::PC ? ActiveSide::Controller : ActiveSide::PC;
     if (!state_.Busy && pane(other).IsDescendant(FindFocus()))
         pane(state_.Active).focus();
+}
+
+/// Acts on the keys of the viewer that the window takes before its controls; false for another key.
+/// Esc belongs to the viewer's frame and to the list, which has the focus when the viewer appears;
+/// in other controls it has a meaning of theirs.
+bool frmZuroVant::isViewerKey(const wxKeyEvent& event, MainCommands& commands) {
+    if (!state_.ViewerShown || state_.Busy)
+        return false;
+    auto& search = *controls_.viewerSearch;
+    wxWindow* const focused = FindFocus();
+    const bool isInFrame = controls_.fraFile.panel->IsDescendant(focused);
+    const int key = event.GetKeyCode();
+    if (key == 'F' && event.GetModifiers() == wxMOD_CONTROL) {
+        search.open();
+    } else if (key == WXK_F3 && isInFrame && (event.GetModifiers() & ~wxMOD_SHIFT) == 0) {
+        search.search(event.ShiftDown() ? SearchDirection::Previous : SearchDirection::Next);
+    } else if (key == WXK_ESCAPE && !event.HasAnyModifiers() &&
+               (isInFrame || pane(ActiveSide::PC).IsDescendant(focused))) {
+        if (search.IsShown())
+            search.close();
+        else
+            commands.displayFile();
+    } else {
+        return false;
+    }
+    return true;
 }
 
 /// The keys that act wherever the focus is; the one for help whatever is held down with it.
@@ -365,6 +396,7 @@ void frmZuroVant::showFile(const std::string& name, std::string_view text) {
 
 void frmZuroVant::hideFile() {
     exchangePanes(false);
+    controls_.viewerSearch->close();
     controls_.rtxFileDisp->clear();
 }
 

@@ -95,6 +95,7 @@ class frmZuroVant : public wxFrame,
     void close(wxCloseEvent& event);
     void bindPane(ActiveSide side, MainCommands& commands, const CommandRunner& runner);
     void exchangePanes(bool viewer);
+    bool isViewerKey(const wxKeyEvent& event, MainCommands& commands);
     void functionKey(wxKeyEvent& event, const CommandRunner& runner);
     void statusClicked(const wxPoint& place, const CommandRunner& runner);
     void keepFocusInActivePane();

@@ -17,23 +17,21 @@ std::size_t cut(std::string_view line) {
 
 std::string TextSlices::next(std::size_t size) {
     std::string slice;
-    while (!rest_.empty() && slice.size() < size)
-        takePiece(slice);
+    while (!rest_.empty() && slice.size() < size) {
+        slice.append(nextPiece().text);
+        slice += '\n';
+    }
     return slice;
 }
 
-void TextSlices::takePiece(std::string& slice) {
+TextSlices::Piece TextSlices::nextPiece() {
     // Only as far as a piece can reach: a line of megabytes is not searched anew for each piece.
     const auto reach = rest_.substr(0, longestLine + 1);
-    if (const auto end = reach.find_first_of("\r\n");
-        end == reach.npos && reach.size() > longestLine) {
-        const auto length = cut(reach);
-        slice.append(reach.substr(0, length));
-        rest_.remove_prefix(length);
-    } else {
-        slice.append(takeLine(rest_));
-    }
-    slice += '\n';
+    if (reach.size() <= longestLine || reach.find_first_of("\r\n") != reach.npos)
+        return {takeLine(rest_)};
+    const auto length = cut(reach);
+    rest_.remove_prefix(length);
+    return {reach.substr(0, length), false};
 }
 
 } // namespace vantrel

@@ -17,13 +17,19 @@ class TextSlices {
     TextSlices() = default;
     explicit TextSlices(std::string_view text) : rest_(text) {}
 
+    /// What is shown on one line.
+    struct Piece {
+        std::string_view text;
+        bool endsLine = true; ///< false when the line was cut here
+    };
+
     bool isDone() const { return rest_.empty(); }
+    /// The next piece of a text that is not done, without its line feed.
+    Piece nextPiece();
     /// The next slice, of about `size` bytes: it ends with the line that reaches that size.
     std::string next(std::size_t size);
 
   private:
-    void takePiece(std::string& slice);
-
     std::string_view rest_;
 };
 

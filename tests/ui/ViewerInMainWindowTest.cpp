@@ -1,6 +1,7 @@
 #include "ProgramWorld.h"
 #include "ui/CommandToolBar.h"
 #include "ui/FileViewer.h"
+#include "ui/ViewerSearch.h"
 
 #include <wx/menu.h>
 #include <wx/statbox.h>
@@ -172,6 +173,207 @@ TEST_F(ViewerInMainWindowTest, AGrownWindowGrowsIt) {
     EXPECT_EQ(controls().rtxFileDisp->GetSize().x, before.x + 50);
 }
 
+/// The viewer with two jobs' worth of lines, its keys pressed for real.
+class ViewerKeysTest : public ViewerInMainWindowTest {
+  protected:
+    void openViewer(const std::string& lines = "NOP\r\nMOVL C1\r\nmovj C2\r\nEND\r\n") {
+        startWithFiles();
+        folder.write("jobs/A.JBI", lines);
+        press();
+        ASSERT_TRUE(isViewerShown());
+        controls().lsvPC->focus();
+        ASSERT_TRUE(waitFor([this] { return pcList().HasFocus() && window().IsActive(); }));
+    }
+    void openSearch() {
+        pressKey('F', wxMOD_CONTROL);
+        ASSERT_TRUE(waitFor([this] { return field().HasFocus(); }));
+    }
+    void openSearchFor(const std::string& text) {
+        openSearch();
+        field().SetValue(text);
+    }
+    wxTextCtrl& field() { return control<wxTextCtrl>(window(), "viewerSearchText"); }
+    FileViewer& viewer() { return *controls().rtxFileDisp; }
+    bool isSearchShown() { return control<wxWindow>(window(), "viewerSearch").IsShown(); }
+    std::string note() { return labelOf(window(), "viewerSearchNote"); }
+    bool isSelected(long begin, long end) {
+        return waitFor([=, this] {
+            long from = -1, to = -1;
+            viewer().GetSelection(&from, &to);
+            return from == begin && to == end;
+        });
+    }
+};
+
+TEST_F(ViewerKeysTest, EscClosesItAndTheListHasTheKeyboard) {
+    openViewer();
+    for (wxWindow* const from :
+         {static_cast<wxWindow*>(&viewer()), static_cast<wxWindow*>(&pcList())}) {
+        focus(*from);
+        pressKey(WXK_ESCAPE);
+        EXPECT_TRUE(waitFor([this] { return !isViewerShown() && pcList().HasFocus(); }));
+        EXPECT_FALSE(controls().tlbMain->isPressed("FileDisp"));
+        press();
+    }
+}
+
+TEST_F(ViewerKeysTest, EscInAControlThatHasAUseForItLeavesItOpen) {
+    openViewer();
+    focus(*controls().cmbPCFileType);
+    pressKey(WXK_ESCAPE);
+    pressKey(WXK_TAB); // what was pressed before it has arrived too
+    ASSERT_TRUE(waitFor([this] { return !controls().cmbPCFileType->HasFocus(); }));
+    EXPECT_TRUE(isViewerShown());
+    ASSERT_NO_FATAL_FAILURE(dropFolderTree());
+    focus(*controls().trvFolderList);
+    pressKey(WXK_ESCAPE);
+    EXPECT_TRUE(waitFor([this] { return !controls().trvFolderList->IsShown(); }));
+    EXPECT_TRUE(isViewerShown());
+}
+
+TEST_F(ViewerKeysTest, EscWithoutAViewerDoesNothing) {
+    openViewer();
+    press();
+    focus(pcList());
+    pressKey(WXK_ESCAPE);
+    pressKey('F', wxMOD_CONTROL);
+    pressKey(WXK_DOWN);
+    EXPECT_TRUE(waitFor([this] { return controls().lsvPC->selectedRow() == dataRow; }));
+    EXPECT_FALSE(isViewerShown());
+    EXPECT_FALSE(isSearchShown());
+}
+
+TEST_F(ViewerKeysTest, TheSearchLineTakesItsRoomFromTheTextWhileItIsShown) {
+    openViewer();
+    EXPECT_FALSE(isSearchShown());
+    const auto whole = viewer().GetRect();
+    openSearch();
+    EXPECT_LT(viewer().GetRect().GetBottom(), controls().viewerSearch->GetRect().y);
+    EXPECT_EQ(controls().viewerSearch->GetRect().GetBottom(), whole.GetBottom());
+    EXPECT_EQ(controls().viewerSearch->GetSize().x, whole.width);
+    EXPECT_EQ(viewer().GetPosition(), whole.GetPosition());
+    pressKey(WXK_ESCAPE);
+    EXPECT_TRUE(waitFor([this] { return !isSearchShown() && viewer().HasFocus(); }));
+    EXPECT_TRUE(isViewerShown());
+    EXPECT_EQ(viewer().GetRect(), whole);
+    pressKey(WXK_ESCAPE);
+    EXPECT_TRUE(waitFor([this] { return !isViewerShown() && pcList().HasFocus(); }));
+}
+
+TEST_F(ViewerKeysTest, EnterGoesOnAndShiftEnterBack) {
+    openViewer();
+    openSearchFor("mov");
+    pressKey(WXK_RETURN);
+    EXPECT_TRUE(isSelected(4, 7));
+    pressKey(WXK_RETURN);
+    EXPECT_TRUE(isSelected(12, 15));
+    EXPECT_EQ(note(), "");
+    pressKey(WXK_RETURN);
+    EXPECT_TRUE(isSelected(4, 7));
+    EXPECT_EQ(note(), "On from the start");
+    pressKey(WXK_RETURN, wxMOD_SHIFT);
+    EXPECT_TRUE(isSelected(12, 15));
+    EXPECT_EQ(note(), "On from the end");
+    EXPECT_TRUE(field().HasFocus());
+}
+
+TEST_F(ViewerKeysTest, TheButtonsSearchToo) {
+    openViewer();
+    openSearchFor("C");
+    const auto pressButton = [this](const std::string& name) {
+        auto& button = control<wxButton>(window(), name);
+        wxCommandEvent event(wxEVT_BUTTON, button.GetId());
+        event.SetEventObject(&button);
+        button.HandleWindowEvent(event);
+    };
+    pressButton("searchNext");
+    EXPECT_TRUE(isSelected(9, 10));
+    pressButton("searchNext");
+    EXPECT_TRUE(isSelected(17, 18));
+    pressButton("searchPrevious");
+    EXPECT_TRUE(isSelected(9, 10));
+}
+
+TEST_F(ViewerKeysTest, WhatStandsNowhereIsSaidInPlaceAndTheSelectionStays) {
+    openViewer();
+    viewer().SetSelection(1, 3);
+    openSearchFor("WAIT");
+    pressKey(WXK_RETURN);
+    EXPECT_TRUE(waitFor([this] { return note() == "Not found"; }));
+    EXPECT_TRUE(isSelected(1, 3));
+    field().SetValue("NOP");
+    EXPECT_EQ(note(), "");
+}
+
+TEST_F(ViewerKeysTest, F3InTheTextSearchesOn) {
+    openViewer();
+    openSearchFor("c");
+    pressKey(WXK_ESCAPE);
+    ASSERT_TRUE(waitFor([this] { return viewer().HasFocus(); }));
+    pressKey(WXK_F3);
+    EXPECT_TRUE(isSelected(9, 10));
+    EXPECT_TRUE(isSearchShown());
+    EXPECT_TRUE(viewer().HasFocus());
+    pressKey(WXK_F3);
+    EXPECT_TRUE(isSelected(17, 18));
+    pressKey(WXK_F3, wxMOD_SHIFT);
+    EXPECT_TRUE(isSelected(9, 10));
+}
+
+TEST_F(ViewerKeysTest, F3BeforeAnySearchAsksForTheText) {
+    openViewer();
+    focus(viewer());
+    pressKey(WXK_F3);
+    EXPECT_TRUE(waitFor([this] { return field().HasFocus(); }));
+}
+
+TEST_F(ViewerKeysTest, WhatHasNotBeenAppendedYetIsFoundAndShownAsSoonAsItHas) {
+    std::string lines;
+    for (int line = 0; line < 20000; ++line)
+        lines += "MOVL C" + std::to_string(100000 + line) + "\r\n";
+    openViewer();
+    press();
+    folder.write("jobs/A.JBI", lines);
+    controls().tlbMain->press("FileDisp");
+    ASSERT_FALSE(viewer().isWhole());
+    control<wxTextCtrl>(window(), "viewerSearchText").SetValue("c119990");
+    controls().viewerSearch->search(SearchDirection::Next);
+    EXPECT_TRUE(isSelected(19990 * 13 + 5, 19990 * 13 + 12));
+    EXPECT_EQ(viewer().GetStringSelection(), "C119990");
+    // It is scrolled to.
+    EXPECT_TRUE(waitFor([this] {
+        wxTextCoord column = 0, line = 0;
+        viewer().HitTest(wxPoint(5, viewer().GetClientSize().y - 5), &column, &line);
+        return line >= 19980;
+    }));
+}
+
+TEST_F(ViewerKeysTest, AnotherFileIsOpenedWithoutTheSearchLine) {
+    openViewer();
+    openSearchFor("mov");
+    press();
+    choose(*controls().lsvPC, {dataRow});
+    press();
+    ASSERT_TRUE(isViewerShown());
+    EXPECT_FALSE(isSearchShown());
+    EXPECT_TRUE(isSelected(0, 0));
+}
+
+TEST_F(ViewerKeysTest, NoKeyClosesItWhileAnOperationRuns) {
+    openViewer();
+    focus(viewer());
+    window().setLocked(true);
+    for (const int key : {int(WXK_ESCAPE), int(WXK_F3)}) {
+        wxKeyEvent event(wxEVT_CHAR_HOOK);
+        event.m_keyCode = key;
+        event.SetEventObject(&window());
+        window().HandleWindowEvent(event);
+    }
+    EXPECT_TRUE(isViewerShown());
+    EXPECT_FALSE(isSearchShown());
+    window().setLocked(false);
+}
+
 class ViewerLooksTest : public ViewerInMainWindowTest,
                         public testing::WithParamInterface<const char*> {};
 INSTANTIATE_TEST_SUITE_P(Languages, ViewerLooksTest, testing::Values("English", "Japanese"),
@@ -195,6 +397,13 @@ TEST_P(ViewerLooksTest, Finished) {
     for (auto* bar : {controls().tlbMain, controls().tlbPC})
         EXPECT_LE(bar->GetBestSize().x, bar->GetSize().x) << bar->GetName();
     saveScreenshot(window(), std::string("viewer-") + GetParam());
+    auto& search = *controls().viewerSearch;
+    control<wxTextCtrl>(search, "viewerSearchText").SetValue("?");
+    search.search(SearchDirection::Next);
+    const auto& note = control<wxStaticText>(search, "viewerSearchNote");
+    EXPECT_LE(note.GetTextExtent(note.GetLabelText()).x, note.GetSize().x);
+    EXPECT_GE(control<wxTextCtrl>(search, "viewerSearchText").GetSize().x, window().FromDIP(60));
+    saveScreenshot(window(), std::string("viewer-search-") + GetParam());
 }
 
 } // namespace
