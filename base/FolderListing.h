@@ -23,12 +23,14 @@ struct FolderListing {
     std::vector<std::int32_t>
         Sizes;                   ///< bytes (at most 2^31 - 1 is shown), `folderSize` for a folder
     std::vector<DateText> Dates; ///< local time of the last change; empty when unknown
+    bool isRead = false;         ///< false when nobody has looked yet what there is
     std::int16_t SortType = 0;   ///< one of `sort_column`; any other value sorts by name
     std::int16_t SortDir = 0;    ///< 1 descending, anything else ascending
 
     static constexpr std::int32_t folderSize = -1;
 
     void clear() {
+        isRead = false;
         Count = 0;
         Names.clear();
         Sizes.clear();

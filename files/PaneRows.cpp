@@ -34,6 +34,14 @@ std::int16_t PaneRows::sortColumn() const {
     return isKnown ? listing_.SortType : sort_column::name;
 }
 
+std::optional<EmptyPane> PaneRows::emptiness() const {
+    if (size() > 0)
+        return std::nullopt;
+    if (!listing_.isRead)
+        return EmptyPane::NotRead;
+    return listing_.Count == 0 ? EmptyPane::NoFiles : EmptyPane::AllFiltered;
+}
+
 const std::string& PaneRows::name(std::size_t row) const {
     static const std::string nothing;
     return isThere(row) ? listing_.Names[order_[row]] : nothing;

@@ -6,11 +6,15 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace vantrel {
+
+/// Why a pane shows no rows.
+enum class EmptyPane { NotRead, NoFiles, AllFiltered };
 
 /// The rows that a pane shows of its listing: filtered and in order. Holds positions only; the
 /// listing is borrowed. A list control may paint at any yield, with rows that it was shown before
@@ -32,6 +36,8 @@ class PaneRows {
     bool isDescending() const { return listing_.SortDir == 1; }
 
     std::size_t size() const { return order_.size(); }
+    /// Nothing when there are rows.
+    std::optional<EmptyPane> emptiness() const;
     const std::string& name(std::size_t row) const;
     FileKind kind(std::size_t row) const;
     std::string sizeText(std::size_t row) const; ///< plain digits, empty for a folder

@@ -17,6 +17,7 @@ namespace {
 
 /// The entries of `from`; the sort state of `to` stays, since it belongs to the pane.
 void takeEntries(FolderListing& to, FolderListing&& from) {
+    to.isRead = true;
     to.Path = std::move(from.Path);
     to.Count = from.Count;
     to.Names = std::move(from.Names);

@@ -5,15 +5,16 @@
 #include "ui/look/WxText.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace vantrel {
 
 namespace {
 
-const wxSize iconSize{16, 16};
+constexpr int usualIconSide = 16;
 
-wxBitmapBundle iconOf(const CommandRow& command) {
-    return icon(command.icon, iconSize);
+wxBitmapBundle iconOf(const CommandRow& command, int side) {
+    return icon(command.icon, wxSize(side, side));
 }
 
 } // namespace
@@ -22,9 +23,9 @@ CommandToolBar::CommandToolBar(wxWindow* parent, const wxString& name,
                                std::span<const CommandRow> table, CommandPlace place)
     : wxToolBar(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                 wxTB_FLAT | wxTB_NODIVIDER | wxTB_HORIZONTAL, name),
-      place_(place) {
+      place_(place), iconSide_(usualIconSide) {
     const auto commands = commandsAt(table, place);
-    SetToolBitmapSize(iconOf(*commands.front()).GetDefaultSize());
+    SetToolBitmapSize(iconOf(*commands.front(), iconSide_).GetDefaultSize());
     for (const CommandRow* command : commands) {
         if (!command) {
             AddSeparator();
@@ -32,12 +33,23 @@ CommandToolBar::CommandToolBar(wxWindow* parent, const wxString& name,
         }
         const int id = wxWindow::NewControlId();
         const bool isCheck = command->indicator != CommandIndicator::None;
-        AddTool(id, wxString(), iconOf(*command), wxString(),
+        AddTool(id, wxString(), iconOf(*command, iconSide_), wxString(),
                 isCheck ? wxITEM_CHECK : wxITEM_NORMAL);
         buttons_.push_back({command, id});
     }
     Realize();
     Bind(wxEVT_TOOL, &CommandToolBar::pressed, this);
+}
+
+void CommandToolBar::enlarge(double factor) {
+    const int side = int(std::lround(usualIconSide * factor));
+    if (side == iconSide_)
+        return;
+    iconSide_ = side;
+    SetToolBitmapSize(iconOf(*buttons_.front().command, side).GetDefaultSize());
+    for (const Button& button : buttons_)
+        SetToolNormalBitmap(button.id, iconOf(*button.command, side));
+    Realize();
 }
 
 void CommandToolBar::applyTips(const MessageTable& messages) {

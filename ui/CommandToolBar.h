@@ -22,6 +22,8 @@ class CommandToolBar : public wxToolBar {
     CommandToolBar(wxWindow* parent, const wxString& name, std::span<const CommandRow> table,
                    CommandPlace place);
 
+    /// Draws the icons this much larger than the usual 16 pixels beside texts of the usual size.
+    void enlarge(double factor);
     void applyTips(const MessageTable& messages);
     void applyStates(const CommandInput& input);
 
@@ -48,6 +50,7 @@ class CommandToolBar : public wxToolBar {
     void pressed(wxCommandEvent& event);
 
     CommandPlace place_;
+    int iconSide_; ///< device-independent pixels
     std::vector<Button> buttons_;
 };
 

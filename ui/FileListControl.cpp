@@ -1,10 +1,13 @@
 #include "ui/FileListControl.h"
 
-#include "files/PaneRows.h"
 #include "ui/look/IconSet.h"
+#include "ui/look/SystemLook.h"
+#include "ui/look/WrappedText.h"
+#include "ui/look/WxText.h"
 
 #include <wx/dcclient.h>
 #include <wx/renderer.h>
+#include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/wupdlock.h>
 
@@ -14,7 +17,8 @@ namespace {
 
 constexpr int largeIconSize = 32;
 constexpr int smallIconSize = 16;
-constexpr int edgeWidth = 2; ///< around a sunken list, device-independent pixels
+constexpr int hintMargin = 12; ///< device-independent pixels
+constexpr int edgeWidth = 2;   ///< around a sunken list, device-independent pixels
 // In pixels at 96 dpi; what the settings' default column widths come to.
 constexpr std::array<int, FileListControl::columnCount> builtInWidths{93, 47, 100};
 
@@ -109,6 +113,8 @@ void FileListControl::createList() {
     list_->SetSmallImages(kindIcons(smallIconSize));
     addColumns();
     bindEvents();
+    bindHint();
+    describeForReaders();
     GetSizer()->Add(list_, 1, wxEXPAND | wxALL, isFlat ? 0 : FromDIP(edgeWidth));
     Layout();
 }
@@ -147,6 +153,73 @@ void FileListControl::setView(ListView view, Appearance appearance) {
         list_->SetFocus();
 }
 
+void FileListControl::setCaption(const wxString& caption) {
+    caption_ = caption;
+    describeForReaders();
+}
+
+void FileListControl::setHints(const std::array<wxString, 3>& hints) {
+    hints_ = hints;
+    surface().Refresh();
+    describeForReaders();
+}
+
+wxString FileListControl::hint() const {
+    return emptiness_ ? hints_.at(std::size_t(*emptiness_)) : wxString();
+}
+
+/// The window that shows the rows and has the keyboard: a part of the list in the port that draws
+/// its lists itself.
+wxWindow& FileListControl::surface() const {
+    for (wxWindow* const part : list_->GetChildren())
+        if (part->GetName() != "wxlistctrlcolumntitles")
+            return *part;
+    return *list_;
+}
+
+void FileListControl::bindHint() {
+    surface().Bind(wxEVT_PAINT, &FileListControl::paintHint, this);
+    surface().Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        if (!hint().empty())
+            surface().Refresh(); // it stands in the middle
+        event.Skip();
+    });
+}
+
+/// A list without items has nothing else to paint on its surface.
+void FileListControl::paintHint(wxPaintEvent& event) {
+    const wxString text = hint();
+    if (text.empty() || list_->GetItemCount() > 0)
+        return event.Skip();
+    wxPaintDC dc(&surface());
+    dc.SetBackground(wxBrush(list_->GetBackgroundColour()));
+    dc.Clear();
+    dc.SetFont(list_->GetFont());
+    dc.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
+    const wxRect inside = wxRect(surface().GetClientSize()).Deflate(FromDIP(hintMargin));
+    const auto lines = wrappedText(fromWx(text), inside.width, [&dc](std::string_view piece) {
+        return dc.GetTextExtent(toWx(std::string(piece))).x;
+    });
+    dc.DrawLabel(toWx(lines), inside, wxALIGN_CENTRE);
+}
+
+void FileListControl::describeForReaders() {
+    setAccessibleName(surface(), caption_);
+    describeFocusedRow(surface(), list_->GetItemCount() > 0 ? focusedRowText() : hint());
+}
+
+wxString FileListControl::focusedRowText() const {
+    const long row = list_->GetFocusedItem();
+    if (!rows_ || row < 0 || std::size_t(row) >= rows_->size())
+        return {};
+    wxString words = text(rows_->name(std::size_t(row)));
+    for (const auto& more :
+         {text(rows_->sizeText(std::size_t(row))), text(rows_->dateText(std::size_t(row)))})
+        if (!more.empty())
+            words += ", " + more;
+    return words;
+}
+
 void FileListControl::setColumnTitles(const std::array<wxString, columnCount>& titles) {
     titles_ = titles;
     if (view_ != ListView::Details)
@@ -180,8 +253,10 @@ std::array<int, FileListControl::columnCount> FileListControl::columnWidths() co
 
 void FileListControl::show(const PaneRows& rows) {
     rows_ = &rows;
+    emptiness_ = rows.emptiness();
     const wxWindowUpdateLocker frozen(list_);
     fillItems();
+    surface().Refresh();
     select(rows.size() > 0 ? std::vector<std::size_t>{0} : std::vector<std::size_t>{});
 }
 
@@ -290,6 +365,7 @@ void FileListControl::changed() {
     changePending_ = true;
     CallAfter([this] {
         changePending_ = false;
+        describeForReaders();
         if (onSelectionChanged)
             onSelectionChanged();
     });

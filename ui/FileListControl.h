@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/PaneRows.h"
 #include "files/PaneWindow.h"
 
 #include <array>
@@ -36,6 +37,12 @@ class FileListControl : public wxPanel, public PaneList {
     void setView(ListView view, Appearance appearance);
     ListView view() const { return view_; }
     Appearance appearance() const { return appearance_; }
+    /// What a screen reader calls the list.
+    void setCaption(const wxString& caption);
+    /// What stands in the list while it is empty, by `EmptyPane`. It is no item.
+    void setHints(const std::array<wxString, 3>& hints);
+    /// What stands there now; empty while there are rows.
+    wxString hint() const;
     void setColumnTitles(const std::array<wxString, columnCount>& titles);
     /// Pixels; a width of 0 keeps the built-in one.
     void setColumnWidths(const std::array<int, columnCount>& widths);
@@ -73,6 +80,11 @@ class FileListControl : public wxPanel, public PaneList {
     void paintEdge(wxPaintEvent& event);
     void bindEvents();
     void bindPresses(wxWindow& window);
+    wxWindow& surface() const;
+    void bindHint();
+    void paintHint(wxPaintEvent& event);
+    void describeForReaders();
+    wxString focusedRowText() const;
     void addColumns();
     void fillItems();
     bool showsRowsAlready() const;
@@ -83,7 +95,9 @@ class FileListControl : public wxPanel, public PaneList {
 
     const PaneRows* rows_ = nullptr;
     wxListView* list_ = nullptr;
-    wxString listName_;
+    wxString listName_, caption_;
+    std::array<wxString, 3> hints_;
+    std::optional<EmptyPane> emptiness_; ///< of the rows when they were shown
     ListView view_ = ListView::List;
     Appearance appearance_ = Appearance::ThreeDimensional;
     std::array<wxString, columnCount> titles_;

@@ -57,6 +57,15 @@ void captionColumns(const MainWindowControls& controls, const MessageTable& mess
     controls.lsvCtrl->setColumnTitles(titles);
 }
 
+void captionLists(const MainWindowControls& controls, const MessageTable& messages) {
+    controls.lsvPC->setCaption(toWx(messages.getMessage(message::framePC)));
+    controls.lsvCtrl->setCaption(toWx(messages.getMessage(message::frameController)));
+    for (auto* const list : {controls.lsvPC, controls.lsvCtrl})
+        list->setHints({toWx(messages.getMessage(message::paneNotRead)),
+                        toWx(messages.getMessage(message::paneEmpty)),
+                        toWx(messages.getMessage(message::paneFiltered))});
+}
+
 const wxSize arrowIcon{32, 32};
 
 wxColour colour(std::uint32_t redGreenBlue) {
@@ -71,6 +80,7 @@ void captionControls(const MainWindowControls& controls, const MessageTable& mes
     captionToolBars(controls, messages);
     captionLabels(controls, messages);
     captionColumns(controls, messages);
+    captionLists(controls, messages);
     controls.viewerSearch->applyCaptions(messages);
 }
 

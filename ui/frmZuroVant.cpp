@@ -51,7 +51,7 @@ frmZuroVant::frmZuroVant(ApplicationState& state, const MessageTable& messages,
               wxDEFAULT_FRAME_STYLE, "frmZuroVant"),
       state_(state), messages_(messages), table_(table), guard_(guard), controls_(*this, table),
       menus_(*this, table), drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard),
-      place_(*this, *controls_.surface) {
+      place_(*this, *controls_.surface), statusLine_(controls_.stsFileInf->GetCharHeight()) {
     SetIcons(programIcons());
     // No help for menu entries in the panel that shows the PC's count.
     SetStatusBarPane(-1);
@@ -112,11 +112,24 @@ void frmZuroVant::makeRoomForCaptions() {
     const bool isResized = room != captionRoom_ && placed_;
     const WindowPlacement now = isResized ? placement() : WindowPlacement{};
     captionRoom_ = room;
+    for (CommandToolBar* bar : controls_.toolBars())
+        bar->enlarge(room);
     if (isResized) {
         place_.resize(now, dpi());
         setColumnWidths(now.columnWidths);
     }
     lay();
+}
+
+/// The systems' own bars keep the height of the font with which they were made.
+void frmZuroVant::fitStatusBar() {
+    const int line = controls_.stsFileInf->GetCharHeight();
+    if (line == statusLine_)
+        return;
+    statusLine_ = line;
+    constexpr double withMargins = 1.1; // what the bar has at first
+    controls_.stsFileInf->SetMinHeight(int(std::lround(line * withMargins)) + 1);
+    PositionStatusBar();
 }
 
 void frmZuroVant::bindEvents() {
@@ -310,6 +323,7 @@ void frmZuroVant::yield() {
 
 void frmZuroVant::applyFont() {
     applyCaptionFont(*this, state_);
+    fitStatusBar();
     controls_.rtxFileDisp->setFontSize(captionFont(state_).GetPointSize());
     makeRoomForCaptions();
 }

@@ -90,6 +90,7 @@ class frmZuroVant : public wxFrame,
     int designDpi() const;
     /// Larger captions get a larger window, as far as the screen goes.
     void makeRoomForCaptions();
+    void fitStatusBar();
     void setColumnWidths(const std::array<double, 3>& twips);
     void bindEvents();
     void close(wxCloseEvent& event);
@@ -110,6 +111,7 @@ class frmZuroVant : public wxFrame,
     PaneDrag drag_;
     WindowPlace place_;
     std::function<void()> updateStates_ = [] {};
+    int statusLine_; ///< the height of a line that the status bar has been made for
     bool placed_ = false;
     double captionRoom_ = 1; ///< what the design's lengths are multiplied by
     bool closesWhenUnlocked_ = false;

@@ -198,6 +198,33 @@ TEST_F(PanesTest, AnEmptiedControllerShowsNothing) {
     EXPECT_EQ(window.controllerStatus, "Controller: 0 items");
 }
 
+TEST_F(PanesTest, AnEmptyPaneIsToldFromOneThatWasNotRead) {
+    const auto why = [this] {
+        panes.fill(ActiveSide::Controller);
+        return panes.rows(ActiveSide::Controller).emptiness();
+    };
+    EXPECT_EQ(why(), EmptyPane::NotRead);
+    robotJob("A");
+    showController();
+    EXPECT_EQ(why(), std::nullopt);
+    panes.dropFromController(state.CtrlListing.Names);
+    EXPECT_EQ(why(), EmptyPane::NoFiles);
+    panes.emptyController();
+    EXPECT_EQ(why(), EmptyPane::NotRead);
+}
+
+TEST_F(PanesTest, AFolderWithoutFilesWasRead) {
+    EXPECT_EQ(panes.rows(ActiveSide::PC).emptiness(), EmptyPane::NotRead);
+    showPC();
+    EXPECT_EQ(panes.rows(ActiveSide::PC).emptiness(), EmptyPane::NoFiles);
+    EXPECT_FALSE(panes.scanPC(pc.path("missing")));
+    EXPECT_EQ(panes.rows(ActiveSide::PC).emptiness(), EmptyPane::NoFiles);
+    pc.write("A.DAT", "");
+    window.pcFilter = 0;
+    showPC();
+    EXPECT_EQ(panes.rows(ActiveSide::PC).emptiness(), EmptyPane::AllFiltered);
+}
+
 TEST_F(PanesTest, AFillSelectsTheFirstRowAndWritesTheNumberOfRowsShown) {
     pc.write("B.JBI", "");
     pc.write("A.JBI", "");

@@ -93,6 +93,7 @@ constexpr std::pair<int, int> captionNumbers[] = {
     {message::saveJobsTitle, message::versionHeading},
     {message::simulationNotice, message::simulationNotice},
     {message::listFileHint, message::listFileHint},
+    {message::searchText, message::tipSearchPrevious},
     {message::waitingForController, message::progressOf},
     {message::menuFile, message::applySettings},
     {message::ok, message::cancel},

@@ -1,9 +1,12 @@
 #include "MainWindowTest.h"
 #include "app/settings/SettingsFile.h"
+#include "ui/CommandToolBar.h"
 #include "ui/ControlPlaces.h"
 
 #include <wx/display.h>
+#include <wx/panel.h>
 #include <wx/stattext.h>
+#include <wx/statusbr.h>
 
 namespace vantrel::tests {
 namespace {
@@ -54,6 +57,31 @@ TEST_P(CaptionRoomTest, TheWindowGrowsWithItsCaptionsAndShrinksAgain) {
     chooseFont(size, bold);
     EXPECT_TRUE(waitFor(
         [&] { return std::abs(changeOfSize().x) <= 2 && std::abs(changeOfSize().y) <= 2; }));
+}
+
+TEST_P(CaptionRoomTest, ToolIconsAndTheStatusBarGrowWithTheCaptionsAndShrinkAgain) {
+    const auto& bar = *controls.tlbMain;
+    const auto statusHeight = [this] { return controls.stsFileInf->GetSize().y; };
+    const int icons = bar.GetToolBitmapSize().y, tools = bar.GetSize().y, status = statusHeight();
+    const auto size = state.FontSize;
+    const auto bold = state.FontBold;
+    chooseFont(18, true);
+    EXPECT_GT(bar.GetToolBitmapSize().y, icons);
+    EXPECT_TRUE(waitFor([&] { return bar.GetSize().y > tools; }));
+    EXPECT_TRUE(
+        waitFor([&] { return statusHeight() >= controls.stsFileInf->GetCharHeight() + 4; }));
+    EXPECT_GT(statusHeight(), status);
+    for (auto* const each : controls.toolBars())
+        EXPECT_LE(each->GetBestSize().x, each->GetSize().x) << each->GetName();
+    EXPECT_TRUE(waitFor([&] {
+        return controls.stsFileInf->GetRect().GetBottom() <
+                   window.GetClientSize().y + statusHeight() &&
+               controls.pcHighlight->GetRect().GetBottom() < controls.surface->GetSize().y;
+    }));
+    saveScreenshot(window, "captions-" + language() + "-18");
+    chooseFont(size, bold);
+    EXPECT_EQ(bar.GetToolBitmapSize().y, icons);
+    EXPECT_TRUE(waitFor([&] { return bar.GetSize().y == tools; }));
 }
 
 TEST_P(CaptionRoomTest, WhatIsStoredStaysTheSame) {

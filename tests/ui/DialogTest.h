@@ -5,8 +5,10 @@
 #include "lang/MessageTable.h"
 #include "support/ProjectFiles.h"
 #include "support/Windows.h"
+#include "ui/look/SystemLook.h"
 
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -42,6 +44,21 @@ class DialogInLanguage : public DialogTest, public testing::WithParamInterface<c
   public:
     DialogInLanguage() : DialogTest(GetParam()) {}
 };
+
+/// The buttons stand in one row in the order of the system's own boxes, and Tab follows it; they
+/// are given with the one that goes on first.
+inline void expectButtonOrder(wxWindow& dialog, const std::vector<std::string>& names) {
+    const auto& siblings = dialog.GetChildren();
+    for (std::size_t index = 1; index < names.size(); ++index) {
+        auto* left = &control<wxButton>(dialog, names[index - 1]);
+        auto* right = &control<wxButton>(dialog, names[index]);
+        if (goesOnAtTheRight())
+            std::swap(left, right);
+        EXPECT_GT(right->GetPosition().x, left->GetRect().GetRight()) << names[index];
+        EXPECT_EQ(right->GetPosition().y, left->GetPosition().y) << names[index];
+        EXPECT_GT(siblings.IndexOf(right), siblings.IndexOf(left)) << names[index];
+    }
+}
 
 inline constexpr auto languageName = [](const auto& info) { return std::string(info.param); };
 inline const auto bothLanguages = testing::Values("English", "Japanese");

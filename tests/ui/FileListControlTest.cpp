@@ -58,6 +58,33 @@ class FileListControlTest : public testing::TestWithParam<ListView> {
     int changes = 0;
 };
 
+TEST_P(FileListControlTest, AnEmptyListSaysWhyInPlaceOfItems) {
+    list.setHints({"Not read", "Nothing here", "All are filtered, all of them, by a long filter"});
+    EXPECT_EQ(list.hint(), "");
+    const auto expectEmpty = [this](const wxString& hint) {
+        list.show(world.rows);
+        runEvents();
+        EXPECT_EQ(list.hint(), hint);
+        EXPECT_EQ(list.itemCount(), 0u);
+        EXPECT_TRUE(list.selectedRows().empty());
+    };
+    world.fill({});
+    expectEmpty("Not read");
+    world.listing.isRead = true;
+    expectEmpty("Nothing here");
+    list.setView(ListView::LargeIcons, Appearance::Flat);
+    EXPECT_EQ(list.hint(), "Nothing here");
+    list.setHints({"1", "2", "3"});
+    EXPECT_EQ(list.hint(), "2");
+    world.fill({"A.JBI"});
+    list.show(world.rows);
+    EXPECT_EQ(list.hint(), "");
+    EXPECT_EQ(list.itemCount(), 1u);
+    world.rows.fill([](std::string_view) { return false; });
+    world.listing.isRead = true;
+    expectEmpty("3");
+}
+
 TEST_P(FileListControlTest, ShowsTheRowsInTheirOrder) {
     ASSERT_EQ(list.itemCount(), 4u);
     EXPECT_EQ(list.native().GetItemText(0), "FOLDER");

@@ -27,5 +27,48 @@ TEST(ScreenReader, IsToldANameOfEveryButtonThatHasAnIconOnly) {
     EXPECT_EQ(nameless, std::vector<std::string>());
 }
 
+/// The program with two jobs on the PC and one on the controller.
+class ListForScreenReaders : public testing::Test, public ProgramWorld {
+  protected:
+    ListForScreenReaders() {
+        settings("TransMode=16\r\n");
+        pcJob("A");
+        pcJob("B");
+        robotJob("X");
+        start(true);
+        controls().lsvPC->focus();
+        EXPECT_TRUE(waitFor([this] { return pcList().HasFocus() && window().IsActive(); }));
+    }
+    /// Of the control that has the keyboard.
+    AtkObject* told() {
+        return gtk_widget_get_accessible(gtk_window_get_focus(GTK_WINDOW(window().GetHandle())));
+    }
+    static std::string text(const char* told) { return told ? told : ""; }
+    bool isTold(const std::string& name, const std::string& beginning) {
+        return waitFor([&] {
+            return text(atk_object_get_name(told())) == name &&
+                   text(atk_object_get_description(told())).starts_with(beginning);
+        });
+    }
+};
+
+TEST_F(ListForScreenReaders, IsToldWithTheRowThatHasTheFocus) {
+    EXPECT_TRUE(isTold("PC", "A.JBI, 26, 20"));
+    pressKey(WXK_DOWN);
+    EXPECT_TRUE(isTold("PC", "B.JBI, 26, 20"));
+    menu("mnuDisp(0)"); // the native list is another one now
+    controls().lsvPC->focus();
+    EXPECT_TRUE(isTold("PC", "B.JBI"));
+    controls().lsvCtrl->focus();
+    EXPECT_TRUE(isTold("Controller", "X.JBI"));
+}
+
+TEST_F(ListForScreenReaders, IsToldWithTheReasonWhyItIsEmpty) {
+    start(false);
+    controls().lsvCtrl->focus();
+    EXPECT_TRUE(isTold("Controller", "Not read yet. Press F5."));
+    EXPECT_EQ(controllerList().GetItemCount(), 0);
+}
+
 } // namespace
 } // namespace vantrel::tests

@@ -36,6 +36,10 @@ TEST_P(frmListFileTest, ShowsFolderFieldAndHint) {
     });
 }
 
+TEST_P(frmListFileTest, TheButtonsStandAsInTheSystemsBoxes) {
+    expectButtonOrder(dialog, {"cmdOK", "cmdCancel"});
+}
+
 TEST_P(frmListFileTest, OKIsOnOnlyForAName) {
     auto& ok = control<wxButton>(dialog, "cmdOK");
     EXPECT_FALSE(ok.IsEnabled());

@@ -33,6 +33,10 @@ TEST_P(frmMsgYesNoTest, ShowsTheQuestionAndFourAnswers) {
 }
 
 /// Wherever the main window is: the operator looks for it in one place.
+TEST_P(frmMsgYesNoTest, TheButtonsStandAsInTheSystemsBoxes) {
+    expectButtonOrder(dialog, {"cmdYesNo0", "cmdYesNo1", "cmdYesNo2", "cmdYesNo3"});
+}
+
 TEST_P(frmMsgYesNoTest, StandsInTheMiddleOfTheScreen) {
     wxFrame corner(nullptr, wxID_ANY, "Snappy", wxPoint(0, 0), wxSize(320, 200));
     corner.Show();

@@ -141,7 +141,8 @@ class frmSettingFontTest : public frmSettingTest {
   protected:
     bool showsWhole(const char* name, const char* text) {
         const auto& field = box(name);
-        return field.GetSizeFromTextSize(field.GetTextExtent(text)).x <= field.GetSize().x;
+        return field.GetSizeFromTextSize(field.GetTextExtent(text)).x <= field.GetSize().x &&
+               field.GetCharHeight() < field.GetClientSize().y;
     }
 };
 
@@ -163,6 +164,10 @@ TEST_P(frmSettingFontTest, LargerCaptionsCutNothingOff) {
 }
 
 INSTANTIATE_TEST_SUITE_P(In, frmSettingFontTest, bothLanguages, languageName);
+
+TEST_P(frmSettingTest, TheButtonsStandAsInTheSystemsBoxes) {
+    expectButtonOrder(dialog(), {"cmdOK", "cmdCancel", "cmdRefresh"});
+}
 
 TEST_P(frmSettingTest, OpensWithTheCurrentRobotAndNothingEdited) {
     EXPECT_THAT(robotNames(), ElementsAre("LINE1 WELD", "LINE2"));

@@ -1,8 +1,13 @@
 #include "ui/dialogs/DialogBasics.h"
 
 #include "app/window/ScreenGeometry.h"
+#include "ui/look/SystemLook.h"
+
+#include <algorithm>
+#include <vector>
 
 #include <wx/app.h>
+#include <wx/button.h>
 #include <wx/dialog.h>
 #include <wx/display.h>
 #include <wx/event.h>
@@ -60,9 +65,28 @@ void fitToContents(wxTopLevelWindow& window) {
     window.GetSizer()->SetSizeHints(&window);
 }
 
+wxSizer* buttonRow(std::span<wxButton* const> buttons) {
+    constexpr int gap = 8; // device-independent pixels
+    std::vector<wxButton*> ordered(buttons.begin(), buttons.end());
+    if (goesOnAtTheRight())
+        std::ranges::reverse(ordered);
+    auto* const row = new wxBoxSizer(wxHORIZONTAL);
+    for (std::size_t index = 0; index < ordered.size(); ++index) {
+        wxButton* const button = ordered[index];
+        row->Add(button, wxSizerFlags().Border(wxLEFT, index == 0 ? 0 : button->FromDIP(gap)));
+        if (index > 0)
+            button->MoveAfterInTabOrder(ordered[index - 1]);
+    }
+    return row;
+}
+
 void makeRoomFor(wxTextCtrl& field, const char* longestText) {
     const int text = field.GetTextExtent(longestText).x + field.GetCharWidth();
-    field.SetMinSize(wxSize(field.GetSizeFromTextSize(text).x, -1));
+    // A field that is not shown yet may still ask for the height of its last font.
+    constexpr int marginsOfLine = 8; // device-independent pixels
+    const int line = field.GetCharHeight() + field.FromDIP(marginsOfLine);
+    field.SetMinSize(
+        wxSize(field.GetSizeFromTextSize(text).x, std::max(field.GetBestSize().y, line)));
 }
 
 void swallowF1(wxWindow& window) {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <span>
 
+class wxButton;
 class wxChoice;
+class wxSizer;
 class wxTextCtrl;
 class wxTopLevelWindow;
 class wxWindow;
@@ -21,7 +24,11 @@ void centreOverMainWindow(wxTopLevelWindow& window);
 /// Makes a window as large as its contents ask for, and no smaller from then on.
 void fitToContents(wxTopLevelWindow& window);
 
-/// Makes a field as wide as its longest text asks for in its font.
+/// A row of buttons, given with the one that goes on first, in the order of the system's own boxes;
+/// `Tab` follows it.
+wxSizer* buttonRow(std::span<wxButton* const> buttons);
+
+/// Makes a field as large as its longest text asks for in its font.
 void makeRoomFor(wxTextCtrl& field, const char* longestText);
 
 /// Swallows F1 in a window, so that no help opens from it.

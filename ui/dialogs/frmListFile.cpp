@@ -7,6 +7,8 @@
 #include "ui/look/WindowFont.h"
 #include "ui/look/WxText.h"
 
+#include <array>
+
 #include <wx/button.h>
 #include <wx/iconbndl.h>
 #include <wx/sizer.h>
@@ -73,10 +75,7 @@ wxSizer* frmListFile::buildButtons() {
     auto* const cmdCancel = newCaptionButton(this, draft_.cancelCaption(), "cmdCancel");
     cmdOK_->SetDefault();
     SetEscapeId(cmdCancel->GetId());
-    auto* const row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(cmdOK_);
-    row->Add(cmdCancel, wxSizerFlags().Border(wxLEFT, FromDIP(8)));
-    return row;
+    return buttonRow(std::array{cmdOK_, cmdCancel});
 }
 
 void frmListFile::bindEvents() {

@@ -75,19 +75,17 @@ wxStaticText* frmMsgYesNo::newText(const std::string& text, const ApplicationSta
 }
 
 wxSizer* frmMsgYesNo::buildButtons(const MessageTable& messages) {
-    auto* const row = new wxBoxSizer(wxHORIZONTAL);
     for (std::size_t index = 0; index < cmdYesNo_.size(); ++index) {
         auto* const button = newCaptionButton(this, answerCaption(messages, Answer(index)),
                                               "cmdYesNo" + std::to_string(index));
         button->Bind(wxEVT_BUTTON, [this, index](wxCommandEvent&) { press(index); });
-        row->Add(button, wxSizerFlags().Border(wxLEFT, index == 0 ? 0 : FromDIP(8)));
         cmdYesNo_[index] = button;
     }
     // Esc and the close box press this one too.
     SetEscapeId(cmdYesNo_[cancelIndex]->GetId());
     cmdYesNo_[cancelIndex]->SetDefault();
     cmdYesNo_[cancelIndex]->SetFocus();
-    return row;
+    return buttonRow(cmdYesNo_);
 }
 
 void frmMsgYesNo::press(std::size_t index) {

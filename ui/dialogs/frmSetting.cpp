@@ -15,6 +15,7 @@
 #include "ui/look/WindowFont.h"
 #include "ui/look/WxText.h"
 
+#include <array>
 #include <utility>
 
 #include <wx/button.h>
@@ -77,10 +78,7 @@ wxSizer* frmSetting::buildButtons() {
         newCaptionButton(this, formCaption(messages, message::applySettings), "cmdRefresh");
     cmdOK->SetDefault();
     SetEscapeId(cmdCancel->GetId());
-    auto* const row = new wxBoxSizer(wxHORIZONTAL);
-    for (auto* const button : {cmdOK, cmdCancel, cmdRefresh_})
-        row->Add(button, wxSizerFlags().Border(wxLEFT, FromDIP(8)));
-    return row;
+    return buttonRow(std::array{cmdOK, cmdCancel, cmdRefresh_});
 }
 
 void frmSetting::bindEvents() {

@@ -24,6 +24,10 @@ wxBitmapBundle questionPicture();
 /// 1 for not at all.
 double textScale();
 
+/// Whether this system's own boxes have the button that goes on at the right end of their row, in
+/// place of the left.
+bool goesOnAtTheRight();
+
 /// Lets a button be as small as its image, where the system would give it a margin.
 void allowNarrow(wxWindow& button);
 
@@ -46,6 +50,10 @@ bool isOnScreen(const wxWindow& window);
 
 /// What a screen reader calls a control that shows no text of its own.
 void setAccessibleName(wxWindow& control, const wxString& name);
+
+/// Tells a screen reader which row of a list has the focus, in a port that draws its lists itself:
+/// their rows are nothing that a reader could find. `surface` is the window that draws them.
+void describeFocusedRow(wxWindow& surface, const wxString& row);
 
 /// From now on the top-level window `window` stays before `owner`, whichever was there first.
 void setOwner(wxWindow& window, wxWindow& owner);

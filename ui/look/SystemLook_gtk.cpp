@@ -53,6 +53,10 @@ wxBitmapBundle questionPicture() {
     return wxArtProvider::GetBitmapBundle(wxART_QUESTION, wxART_MESSAGE_BOX);
 }
 
+bool goesOnAtTheRight() {
+    return true;
+}
+
 void allowNarrow(wxWindow& button) {
     gtk_style_context_add_class(gtk_widget_get_style_context(button.GetHandle()), "narrow");
 }
@@ -96,6 +100,16 @@ bool isOnScreen(const wxWindow& window) {
 void setAccessibleName(wxWindow& control, const wxString& name) {
     if (auto* accessible = gtk_widget_get_accessible(control.GetHandle()))
         atk_object_set_name(accessible, name.utf8_str());
+}
+
+void describeFocusedRow(wxWindow& surface, const wxString& row) {
+    auto* const accessible = gtk_widget_get_accessible(surface.GetHandle());
+    if (!accessible)
+        return;
+    atk_object_set_role(accessible, ATK_ROLE_LIST);
+    const auto* const told = atk_object_get_description(accessible);
+    if (!told || row != wxString::FromUTF8(told))
+        atk_object_set_description(accessible, row.utf8_str());
 }
 
 void setOwner(wxWindow& window, wxWindow& owner) {

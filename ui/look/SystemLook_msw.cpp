@@ -38,6 +38,10 @@ wxBitmapBundle questionPicture() {
     return wxBitmapBundle::FromIconBundle(wxIconBundle(icon));
 }
 
+bool goesOnAtTheRight() {
+    return false;
+}
+
 void allowNarrow(wxWindow& /*button*/) {}
 
 void hideScrollBars(wxTreeCtrl& tree) {
@@ -80,6 +84,9 @@ void setAccessibleName(wxWindow& control, const wxString& name) {
                              PROPID_ACC_NAME, name.wc_str());
     services->Release();
 }
+
+// The system's own list shows its rows to readers.
+void describeFocusedRow(wxWindow& /*surface*/, const wxString& /*row*/) {}
 
 void setOwner(wxWindow& window, wxWindow& owner) {
     // What is shown already may stay where it is. Not by the toolkit's own calls, with which a
