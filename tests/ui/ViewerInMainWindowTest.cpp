@@ -340,12 +340,10 @@ TEST_F(ViewerKeysTest, WhatHasNotBeenAppendedYetIsFoundAndShownAsSoonAsItHas) {
     controls().viewerSearch->search(SearchDirection::Next);
     EXPECT_TRUE(isSelected(19990 * 13 + 5, 19990 * 13 + 12));
     EXPECT_EQ(viewer().GetStringSelection(), "C119990");
-    // It is scrolled to.
     EXPECT_TRUE(waitFor([this] {
-        wxTextCoord column = 0, line = 0;
-        viewer().HitTest(wxPoint(5, viewer().GetClientSize().y - 5), &column, &line);
-        return line >= 19980;
-    }));
+        const wxPoint place = viewer().PositionToCoords(19990 * 13 + 5);
+        return place != wxDefaultPosition && wxRect(viewer().GetClientSize()).Contains(place);
+    })) << "it is scrolled to";
 }
 
 TEST_F(ViewerKeysTest, AnotherFileIsOpenedWithoutTheSearchLine) {
