@@ -14,6 +14,7 @@
 #include "platform/Files.h"
 
 #include <algorithm>
+#include <string_view>
 #include <unordered_set>
 
 namespace vantrel {
@@ -45,6 +46,14 @@ Repeat repeatOf(CommandKind kind) {
     return nullptr;
 }
 
+/// With the mark of UTF-8 and line ends that Windows' older editors know too.
+std::string forAnyEditor(std::string_view text) {
+    std::string marked = "\xEF\xBB\xBF";
+    for (const char character : text)
+        marked += character == '\n' ? std::string("\r\n") : std::string(1, character);
+    return marked;
+}
+
 } // namespace
 
 ResultCommands::ResultCommands(const MainServices& services, const ResultLog& results,
@@ -65,7 +74,7 @@ std::string ResultCommands::text() const {
 }
 
 void ResultCommands::save(const std::string& path) const {
-    if (const Outcome saved = replaceFile(path, text()); !saved)
+    if (const Outcome saved = replaceFile(path, forAnyEditor(text())); !saved)
         with_.talk.tell(with_.messages.getMessage(message::resultNotSaved) + bracketed(path) + " " +
                             reasonInLanguage(with_.messages, saved.reason()),
                         BoxIcon::Exclamation);

@@ -22,7 +22,7 @@ class ResultCommands {
     const std::optional<CommandResult>& last() const { return results_.last(); }
     /// The whole result as a text: what it came to, where, and a line for each file.
     std::string text() const;
-    /// Writes that text into a file; a failure is told.
+    /// Writes that text into a file that every editor shows as it is; a failure is told.
     void save(const std::string& path) const;
     /// Prints it; a failure is told.
     void print() const;

@@ -120,10 +120,17 @@ TEST_F(ResultCommandsTest, AFileThatIsNotThereAnyMoreIsNamedAndNothingRuns) {
     EXPECT_EQ(library.callCount("BscConnect"), 0);
 }
 
-TEST_F(ResultCommandsTest, ItIsSavedAsItIsShown) {
+TEST_F(ResultCommandsTest, ItIsSavedForEveryEditor) {
     sendInPart();
     result.save(pc.path("result.txt"));
-    EXPECT_EQ(pc.read("result.txt"), result.text());
+    const std::string saved = pc.read("result.txt");
+    EXPECT_TRUE(saved.starts_with("\xEF\xBB\xBF"
+                                  "1 sent"))
+        << saved;
+    EXPECT_THAT(saved, HasSubstr("\r\nA.JBI\tsent\r\n"));
+    std::string shown = saved.substr(3);
+    std::erase(shown, '\r');
+    EXPECT_EQ(shown, result.text());
     EXPECT_THAT(boxes.texts(), IsEmpty());
     result.save(pc.path("no/folder/result.txt"));
     EXPECT_THAT(boxes.texts(), ElementsAre(HasSubstr("result.txt")));
