@@ -37,10 +37,13 @@ std::string robotText(const ApplicationState& state, const Snappy& session) {
 } // namespace
 
 std::string functionAndReason(const Snappy& session) {
-    const std::string number = std::to_string(session.ErrorCode());
-    const std::string text = session.errorText();
-    return session.ErrorFunction() +
-           inParentheses(text == number ? text : text + " (" + number + ")");
+    return functionAndReason(session.ErrorFunction(), session.ErrorCode(), session.errorText());
+}
+
+std::string functionAndReason(const std::string& function, std::int16_t code,
+                              const std::string& text) {
+    const std::string number = std::to_string(code);
+    return function + inParentheses(text == number ? text : text + " (" + number + ")");
 }
 
 std::string directoryFailure(const ApplicationState& state, const Snappy& session) {

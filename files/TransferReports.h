@@ -14,6 +14,9 @@ std::string directoryFailure(const ApplicationState& state, const Snappy& sessio
 
 /// The function that failed and why, with the number by which a service man asks for it.
 std::string functionAndReason(const Snappy& session);
+/// The same of a failure that the session does not record; `text` is that of the code.
+std::string functionAndReason(const std::string& function, std::int16_t code,
+                              const std::string& text);
 
 /// Whether the operator needs no word of the session's last failure: he pressed Cancel, or the
 /// session has told him of an address that is not set.

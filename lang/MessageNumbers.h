@@ -132,6 +132,18 @@ inline constexpr std::int32_t resultClose = 420;
 inline constexpr std::int32_t resultNotSaved = 421; ///< then [file] and the reason
 inline constexpr std::int32_t resultRowGone = 422;  ///< after [name]
 
+// The test of a robot's connection.
+inline constexpr std::int32_t menuTestConnection = 491;
+inline constexpr std::int32_t testColumnStep = 492;
+inline constexpr std::int32_t testLibrary = 493;
+inline constexpr std::int32_t testPlace = 494;
+inline constexpr std::int32_t testLink = 495;
+inline constexpr std::int32_t testAnswer = 496;
+inline constexpr std::int32_t testEnd = 497;
+inline constexpr std::int32_t testAddressRefused = 498;
+inline constexpr std::int32_t testCopy = 499;
+inline constexpr std::int32_t testPortRefused = 508;
+
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;
 inline constexpr std::int32_t menuCopy = 102;

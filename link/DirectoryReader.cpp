@@ -36,6 +36,15 @@ bool DirectoryReader::read(std::vector<std::string>& list) {
     return false;
 }
 
+bool DirectoryReader::answers(std::int16_t handle) {
+    buffer_.fill('\0');
+    const std::int16_t found = link_.library().BscFindFirst(handle, buffer_.data(), bufferLength);
+    if (found == entryFound || found == endOfDirectory)
+        return true;
+    error_.setReturned(found, "BscFind", 0);
+    return false;
+}
+
 DirectoryReader::End DirectoryReader::readEntries(std::int16_t handle,
                                                   std::vector<std::string>& list) {
     Zurolink& library = link_.library();

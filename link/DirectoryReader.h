@@ -30,6 +30,9 @@ class DirectoryReader {
     /// and what the library would take for another name has U+FFFD in it). A press of Cancel ends
     /// the reading, which fails then with the code `cancelled`.
     bool read(std::vector<std::string>& list);
+    /// Asks for the first entry only, on a link that is open: whether the controller gives one, or
+    /// says that it has none.
+    bool answers(std::int16_t handle);
 
   private:
     /// What the library returned last, or the session's own code when the session ended the

@@ -11,6 +11,7 @@
 #include "link/JobNameSet.h"
 #include "link/JobSend.h"
 #include "link/LinkConnection.h"
+#include "link/LinkTest.h"
 #include "link/OverwriteQuestion.h"
 #include "link/ProgressPanel.h"
 #include "link/SentFile.h"
@@ -81,6 +82,7 @@ struct Snappy::Parts {
     VariableTransfer variable;
     VariableList variables;
     bool quit = false;
+    bool testing = false; ///< a link is tried
     // Of the operation that runs or ran last:
     bool operatorTold = false;
     bool entryTried = false;
@@ -164,9 +166,7 @@ void Snappy::noteOperatorTold() {
 std::string Snappy::errorText() const {
     const MessageTable& messages = parts_->services.messages;
     // What the operator was told of in words is no answer of a function.
-    return parts_->error.isReturned && !parts_->operatorTold
-               ? messages.returnedCodeText(ErrorCode())
-               : messages.errorText(ErrorCode());
+    return recordedText(messages, parts_->error, parts_->error.isReturned && !parts_->operatorTold);
 }
 
 std::int32_t Snappy::failedIndex() const {
@@ -222,7 +222,7 @@ bool Snappy::settleInterruptedFetches(const std::string& folder,
 
 template <typename Work>
 bool Snappy::Parts::operate(const Work& work, FolderUse use) {
-    if (link.hasBegun()) {
+    if (link.hasBegun() || testing) {
         error.set(session_code::operationRunning, "");
         return false;
     }
@@ -444,6 +444,15 @@ bool Snappy::WriteVarListFile(const std::string& file) {
 }
 
 // The session itself.
+
+void Snappy::testLink(const LinkTarget& target,
+                      const std::function<void(const LinkTestStep&)>& ended) {
+    if (parts_->link.hasBegun() || parts_->testing)
+        return ended(LinkTest::refused(parts_->services.messages));
+    parts_->testing = true;
+    LinkTest(parts_->services, *this, target, parts_->progress).run(ended);
+    parts_->testing = false;
+}
 
 void Snappy::SetLangageMode(std::int16_t selector) {
     static constexpr const char* names[] = {"japanese", "English"};

@@ -5,6 +5,7 @@
 #include "link/TransferTools.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,6 +14,8 @@ namespace vantrel {
 
 class LocalJobList;
 struct DirectoryReading;
+struct LinkTarget;
+struct LinkTestStep;
 struct SentFile;
 
 /// The one controller session: every operation on a controller passes through it. Each operation
@@ -122,6 +125,12 @@ class Snappy : public SessionProperties {
     /// send begins with a reading of its own, which is the last one when it returns.
     const SentFile& lastSent() const;
     const DirectoryReading& lastReading() const;
+
+    /// Tries a link to a controller, which need not be the one that operations reach now, and tells
+    /// of each step as it ends. It leaves everything as it was: parameters, mode, error record and
+    /// what is known of the last operation. While one runs nothing is tried, and the first step
+    /// fails with the code `operationRunning`; an operation that is begun meanwhile is refused.
+    void testLink(const LinkTarget& target, const std::function<void(const LinkTestStep&)>& ended);
 
   private:
     struct Parts;

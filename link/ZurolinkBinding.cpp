@@ -120,6 +120,11 @@ std::optional<std::string> ZurolinkBinding::simulation() {
     return fromCodePage(name ? name : "");
 }
 
+const std::optional<LibraryProblem>& ZurolinkBinding::problem() {
+    load();
+    return problem_;
+}
+
 template <typename Function, typename... Arguments>
 std::int16_t ZurolinkBinding::call(Function Functions::*function, Arguments... arguments) {
     const Functions* const bound = functions();

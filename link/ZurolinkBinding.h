@@ -34,6 +34,8 @@ class ZurolinkBinding final : public Zurolink {
     /// What the library says of itself when it is a simulation, else nothing. Loads the library,
     /// but reports no problem with it: that is left to the first operation.
     std::optional<std::string> simulation();
+    /// Why the library cannot be used, if it cannot. Loads it, and reports nothing.
+    const std::optional<LibraryProblem>& problem();
 
     std::int16_t BscOpen(const char* path, std::int16_t type) override;
     std::int16_t BscSetCom(std::int16_t handle, std::int16_t port, std::int32_t baudrate,

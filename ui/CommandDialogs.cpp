@@ -1,6 +1,7 @@
 #include "ui/CommandDialogs.h"
 
 #include "app/lists/ListFileDraft.h"
+#include "app/robots/ConnectionTest.h"
 #include "app/settings/LanguageDraft.h"
 #include "app/settings/SettingDraft.h"
 #include "app/start/Engine.h"
@@ -10,6 +11,7 @@
 #include "platform/Drives.h"
 #include "platform/Environment.h"
 #include "ui/VersionWindow.h"
+#include "ui/dialogs/frmConnectionTest.h"
 #include "ui/dialogs/frmLanguage.h"
 #include "ui/dialogs/frmListFile.h"
 #include "ui/dialogs/frmResult.h"
@@ -36,6 +38,12 @@ void openLanguageDialog(wxWindow* parent, Engine& engine) {
 
 void CommandDialogs::openSettings() {
     SettingDraft draft(engine_.state, engine_.messages, engine_.programFolder);
+    const auto testSelected = [&](wxWindow& parent) {
+        const auto selected = draft.robots().selected();
+        if (selected)
+            test(parent, controllerOf(draft.robots().entries().at(*selected), draft.serial().line(),
+                                      engine_.state.TransMode));
+    };
     const auto onNetwork = [](const std::string& folder) { return isOnNetwork(folder); };
     {
         frmSetting dialog(&window_, draft,
@@ -43,7 +51,8 @@ void CommandDialogs::openSettings() {
                            .state = engine_.state,
                            .boxes = engine_.boxes,
                            .folders = {listDrives, subfolders, folderFiles, onNetwork},
-                           .apply = [&] { program_.settings.apply(draft); }});
+                           .apply = [&] { program_.settings.apply(draft); },
+                           .testConnection = testSelected});
         dialog.ShowModal();
     }
     program_.settings.showSettings();
@@ -74,6 +83,24 @@ void CommandDialogs::openResult() {
     resultOpen_ = false;
     if (again)
         program_.results.tryAgain();
+}
+
+void CommandDialogs::testConnection() {
+    test(window_, controllerInForce(engine_.state));
+}
+
+void CommandDialogs::test(wxWindow& parent, const TestedController& controller) {
+    // The settings dialog stays open while what it applied is read from the controller.
+    if (engine_.state.Busy || std::exchange(testOpen_, true))
+        return;
+    ConnectionTest test({.state = engine_.state,
+                         .messages = engine_.messages,
+                         .session = engine_.session,
+                         .window = window_,
+                         .libraryProblem = [this] { return engine_.libraryProblem(); }},
+                        controller);
+    frmConnectionTest(&parent, test, engine_.messages, engine_.state).ShowModal();
+    testOpen_ = false;
 }
 
 void CommandDialogs::showSimulationNotice() {

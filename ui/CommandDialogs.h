@@ -17,6 +17,7 @@ class Snappy;
 class VersionWindow;
 class frmZuroVant;
 struct ApplicationState;
+struct TestedController;
 
 /// Opens `frmListFile` over a window, anew for each list; everything is borrowed.
 class ListFileDialogs : public ListFileWindow {
@@ -51,16 +52,20 @@ class CommandDialogs : public CommandWindows {
     void changeLanguage() override;
     void openVersionWindow() override;
     void openResult() override;
+    void testConnection() override;
     /// Says in the main window that no robot moves, where that is so.
     void showSimulationNotice();
 
   private:
+    void test(wxWindow& parent, const TestedController& controller);
+
     Engine& engine_;
     MainProgram& program_;
     frmZuroVant& window_;
     const WindowHolder<frmMsgStat>& progress_; ///< the window goes when the session quits
     VersionWindow& version_;
     bool resultOpen_ = false;
+    bool testOpen_ = false;
 };
 
 } // namespace vantrel

@@ -70,6 +70,8 @@ void MainMenus::buildPopUp() {
         append(*menu, head.place);
         popUpHeads_.push_back(popUp_->AppendSubMenu(menu, noCaptionYet));
     }
+    robotPopUp_ = std::make_unique<wxMenu>();
+    append(*robotPopUp_, CommandPlace::mnuRobot);
 }
 
 /// After the window has its bar, to which these are added.
@@ -143,8 +145,9 @@ void MainMenus::applyStates(const CommandInput& input) {
         bar_->EnableTop(index, !input.locked);
 }
 
-void MainMenus::popUp(wxWindow& owner, const wxPoint& screenPosition) {
-    owner.PopupMenu(popUp_.get(), owner.ScreenToClient(screenPosition));
+void MainMenus::popUp(CommandPlace place, wxWindow& owner, const wxPoint& screenPosition) {
+    const auto& menu = place == CommandPlace::mnuRobot ? robotPopUp_ : popUp_;
+    owner.PopupMenu(menu.get(), owner.ScreenToClient(screenPosition));
 }
 
 } // namespace vantrel

@@ -20,7 +20,7 @@ namespace vantrel {
 class MenuBarEntry;
 class MessageTable;
 
-/// The menu bar and the panes' pop-up menu, made from the table of commands.
+/// The menu bar and the pop-up menus, made from the table of commands.
 class MainMenus {
   public:
     /// The table outlives the menus.
@@ -29,8 +29,8 @@ class MainMenus {
 
     void applyCaptions(const MessageTable& messages);
     void applyStates(const CommandInput& input);
-    /// Shows `mnuRightClick`; returns when it was closed.
-    void popUp(wxWindow& owner, const wxPoint& screenPosition);
+    /// Shows `mnuRightClick` or `mnuRobot`; returns when it was closed.
+    void popUp(CommandPlace place, wxWindow& owner, const wxPoint& screenPosition);
 
     /// Called with the command whose entry was chosen, and the menu.
     std::function<void(const CommandRow&, CommandPlace)> onChosen;
@@ -57,6 +57,7 @@ class MainMenus {
     std::span<const CommandRow> table_;
     wxMenuBar* bar_;
     std::unique_ptr<wxMenu> popUp_;
+    std::unique_ptr<wxMenu> robotPopUp_;
     std::vector<wxMenuItem*> popUpHeads_; ///< in their order
     std::vector<Entry> entries_;
     std::vector<std::unique_ptr<MenuBarEntry>> barEntries_; ///< of the entries without an item

@@ -44,6 +44,10 @@ void appendQuietly(wxTextCtrl& control, const std::string& text);
 /// entry is no choice, only a press on it or Enter in the open list is.
 void chooseInOpenListOnly(wxChoice& choice);
 
+/// Has a choice ask for its menu when the right mouse button is pressed on it, of which the toolkit
+/// hears nothing in a port that builds a choice of several windows.
+void tellRightPresses(wxChoice& choice);
+
 /// Shows the list of a choice.
 void openList(wxChoice& choice);
 

@@ -22,6 +22,24 @@ wxString withSystemsMnemonic(wxString caption) {
     return caption;
 }
 
+gboolean rightPressed(GtkWidget*, GdkEventButton* press, gpointer pressed) {
+    if (press->type != GDK_BUTTON_PRESS || press->button != GDK_BUTTON_SECONDARY)
+        return FALSE;
+    auto& choice = *static_cast<wxChoice*>(pressed);
+    wxContextMenuEvent event(wxEVT_CONTEXT_MENU, choice.GetId(),
+                             wxPoint(int(press->x_root), int(press->y_root)));
+    event.SetEventObject(&choice);
+    choice.HandleWindowEvent(event);
+    return TRUE;
+}
+
+void tellOfButton(GtkWidget* part, gpointer choice) {
+    if (GTK_IS_BUTTON(part))
+        g_signal_connect(part, "button-press-event", G_CALLBACK(rightPressed), choice);
+    else if (GTK_IS_CONTAINER(part))
+        gtk_container_forall(GTK_CONTAINER(part), tellOfButton, choice);
+}
+
 } // namespace
 
 MenuBarEntry::MenuBarEntry(wxFrame& window, int place, std::function<void()> onChosen)
@@ -59,6 +77,11 @@ void appendQuietly(wxTextCtrl& control, const std::string& text) {
     GtkTextIter end;
     gtk_text_buffer_get_end_iter(buffer, &end);
     gtk_text_buffer_insert(buffer, &end, valid.data(), int(valid.size()));
+}
+
+// The button, which lies above the toolkit's own part, lives as long as the choice.
+void tellRightPresses(wxChoice& choice) {
+    tellOfButton(choice.GetHandle(), &choice);
 }
 
 void openList(wxChoice& choice) {

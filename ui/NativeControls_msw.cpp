@@ -104,6 +104,9 @@ void appendQuietly(wxTextCtrl& control, const std::string& text) {
     ::SendMessageW(window, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(lines.wc_str()));
 }
 
+// The toolkit hears of them.
+void tellRightPresses(wxChoice& /*choice*/) {}
+
 void openList(wxChoice& choice) {
     if (choice.IsEnabled())
         ::SendMessageW(GetHwndOf(&choice), CB_SHOWDROPDOWN, TRUE, 0);

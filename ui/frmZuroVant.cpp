@@ -153,6 +153,15 @@ void frmZuroVant::bindEvents() {
             onRobotChosen(event.GetSelection());
     });
     chooseInOpenListOnly(*controls_.cmbRbtName);
+    tellRightPresses(*controls_.cmbRbtName);
+    controls_.cmbRbtName->Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) {
+        wxWindow& box = *controls_.cmbRbtName;
+        // Below the box, where the menu key's menu belongs.
+        const wxPoint below = box.ClientToScreen(wxPoint(0, box.GetSize().y));
+        const wxPoint place = event.GetPosition();
+        updateStates_();
+        menus_.popUp(CommandPlace::mnuRobot, box, place == wxDefaultPosition ? below : place);
+    });
 }
 
 void frmZuroVant::close(wxCloseEvent& event) {
@@ -181,7 +190,7 @@ void frmZuroVant::bindPane(ActiveSide side, MainCommands& commands, const Comman
     list.onMenuRequested = [this, side](wxPoint place) {
         // The press may have selected another item a moment ago.
         updateStates_();
-        menus_.popUp(pane(side), place);
+        menus_.popUp(CommandPlace::mnuRightClick, pane(side), place);
     };
     filter(side).Bind(wxEVT_CHOICE,
                       [&commands, side](wxCommandEvent&) { commands.chooseFilter(side); });

@@ -20,6 +20,8 @@ class CommandWindows {
     virtual void openVersionWindow() = 0;
     /// What the last command came to.
     virtual void openResult() = 0;
+    /// Of the controller that operations reach now.
+    virtual void testConnection() = 0;
 };
 
 /// Who does the work of the commands in the table; everything is borrowed.

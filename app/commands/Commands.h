@@ -41,6 +41,7 @@ enum class CommandPlace {
     mnuHelpMain,
     mnuToolsMain,  ///< what goes beyond the other menus, behind them
     stsFileInf,    ///< a click on the result in the status bar
+    mnuRobot,      ///< the pop-up menu of the robot box
     mnuRightClick, ///< the panes' pop-up menu, and the menus in it:
     mnuFileDispMain,
     mnuSortIconMain,

@@ -134,6 +134,11 @@ bool isAddressPart(std::string_view text) {
     return number.size() <= 3 && leadingInteger16(number) <= highestPart;
 }
 
+bool isAddress(const RobotRecord& robot) {
+    return std::ranges::all_of(addressParts,
+                               [&robot](auto part) { return isAddressPart(robot.*part); });
+}
+
 void tidyAddress(RobotRecord& robot) {
     for (const auto part : addressParts)
         robot.*part = withoutLeadingZeros(robot.*part);

@@ -34,6 +34,9 @@ bool hasEmptyAddress(const RobotRecord& robot);
 /// The parts joined with points; none at all when all four are empty.
 std::string joinedAddress(const RobotRecord& robot);
 
+/// Whether all four parts are numbers of an address.
+bool isAddress(const RobotRecord& robot);
+
 /// "0" to "255" in decimal digits; zeros before the number do not count.
 bool isAddressPart(std::string_view text);
 /// An address as it is kept: without leading zeros, an empty one as 0.0.0.0.

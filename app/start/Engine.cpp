@@ -18,6 +18,7 @@ Engine::Engine(EngineGround ground)
       registry(state, messages, boxes, programFolder), talk(progress, ground.questions, boxes),
       library_(programFolder,
                [this](const LibraryProblem& problem) { tellLibraryProblem(problem); }),
+      isLibraryGiven_(ground.library != nullptr),
       gate_(ground.library ? *ground.library : library_, std::move(ground.beforeLibraryCall)),
       session({.library = gate_,
                .TransMode = state.TransMode,
@@ -32,7 +33,13 @@ Engine::Engine(EngineGround ground)
     progress.setUsualPlace([this] { return fromController(state); });
 }
 
-void Engine::tellLibraryProblem(const LibraryProblem& problem) {
+std::string Engine::libraryProblem() {
+    if (isLibraryGiven_ || !library_.problem())
+        return {};
+    return textOf(*library_.problem());
+}
+
+std::string Engine::textOf(const LibraryProblem& problem) const {
     std::string text = messages.getMessage(message::libraryUnusable) + problem.path;
     if (!problem.reason.empty())
         text += "\n" + reasonInLanguage(messages, problem.reason);
@@ -40,7 +47,11 @@ void Engine::tellLibraryProblem(const LibraryProblem& problem) {
         text += "\n" + messages.getMessage(message::libraryFunctionsMissing);
     for (const auto& name : problem.missing)
         text += "\n" + name;
-    talk.tell(text, BoxIcon::Exclamation);
+    return text;
+}
+
+void Engine::tellLibraryProblem(const LibraryProblem& problem) {
+    talk.tell(textOf(problem), BoxIcon::Exclamation);
     session.noteOperatorTold();
 }
 

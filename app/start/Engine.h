@@ -48,6 +48,8 @@ class Engine {
 
     /// Whether the library is the stand-in of this program, so that no robot moves.
     bool isSimulation() { return library_.simulation().has_value(); }
+    /// Why the library cannot be used, in the operator's language; empty when it can.
+    std::string libraryProblem();
 
     const std::string executable;
     const std::string programFolder;
@@ -63,9 +65,11 @@ class Engine {
     OperatorTalk talk;
 
   private:
+    std::string textOf(const LibraryProblem& problem) const;
     void tellLibraryProblem(const LibraryProblem& problem);
 
     ZurolinkBinding library_;
+    const bool isLibraryGiven_; ///< in place of that of the program's folder
     ZurolinkGate gate_;
 
   public:

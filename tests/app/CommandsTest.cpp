@@ -304,7 +304,8 @@ TEST(CommandsTest, EachMenuHasItsEntriesInOrder) {
     EXPECT_THAT(contents(mnuOptMain), ElementsAre("mnuOpt(0)", "-", "mnuOpt(2)", "mnuOpt(3)",
                                                   "mnuOpt(4)", "mnuOpt(5)", "-", "mnuOpt(7)"));
     EXPECT_THAT(contents(mnuHelpMain), ElementsAre("mnuHelp(0)", "mnuVer"));
-    EXPECT_THAT(contents(mnuToolsMain), ElementsAre("mnuTools(0)"));
+    EXPECT_THAT(contents(mnuToolsMain), ElementsAre("mnuTools(0)", "-", "mnuTools(1)"));
+    EXPECT_THAT(contents(mnuRobot), ElementsAre("mnuRobot(0)"));
     EXPECT_THAT(contents(mnuRightClick),
                 ElementsAre("mnuRightFile(0)", "mnuRightFile(1)", "mnuRightFile(2)",
                             "mnuRightFile(3)", "-", "mnuRightRefresh"));
@@ -341,7 +342,7 @@ TEST(CommandsTest, CaptionsFollowTheMenuBarInItsOrder) {
     }
     EXPECT_THAT(bar, ElementsAre(101, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113,
                                  130, 131, 132, 114, 115, 116, 117, 119, 120, 121, 122, 123, 124,
-                                 125, 126, 128, 129, 411, 412));
+                                 125, 126, 128, 129, 411, 412, 491));
     EXPECT_THAT(captions(menuBar), ElementsAre(118));
 }
 

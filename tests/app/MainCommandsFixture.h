@@ -118,6 +118,7 @@ class RecordingWindows : public CommandWindows, public ListFileWindow {
     void changeLanguage() override { opened.emplace_back("language"); }
     void openVersionWindow() override { opened.emplace_back("version"); }
     void openResult() override { opened.emplace_back("result"); }
+    void testConnection() override { opened.emplace_back("test"); }
     bool readList(std::string_view mode) override {
         opened.push_back("list " + std::string(mode));
         return false;

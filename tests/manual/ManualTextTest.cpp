@@ -102,6 +102,8 @@ constexpr std::pair<int, int> captionNumbers[] = {
     {ofResource(message::resource::transferring), ofResource(message::resource::deleting)},
     {message::resultSent, message::resultJoint}, // words of the status bar and of the result sheet
     {message::menuTools, message::resultClose},
+    {message::menuTestConnection, message::testEnd},
+    {message::testCopy, message::testCopy},
     {ofResource(message::resource::yes), ofResource(message::resource::cancel)}};
 
 bool isCaption(int number) {

@@ -10,7 +10,6 @@
 namespace vantrel::tests {
 namespace {
 
-
 /// The result of the last command, through the whole program in each language.
 class ResultInMainWindowTest : public testing::TestWithParam<const char*>, public ProgramWorld {
   protected:

@@ -5,6 +5,7 @@
 #include <array>
 
 #include <gmock/gmock.h>
+#include <wx/menu.h>
 #include <wx/uiaction.h>
 
 namespace vantrel::tests {
@@ -52,6 +53,34 @@ TEST_P(SettingRobotPageTest, RobotsAreInsertedOnBothSidesAndDeleted) {
         click(dialog(), "cmdDel");
         EXPECT_THAT(robotNames(), ElementsAre("LINE1 WELD", "MIDDLE", "LINE2"));
         EXPECT_EQ(robots().GetSelection(), 0);
+        click(dialog(), "cmdCancel");
+    });
+}
+
+TEST_P(SettingRobotPageTest, TheRightButtonSelectsTheRobotUnderItForItsMenu) {
+    wxMenu* opened = nullptr;
+    robots().Bind(wxEVT_MENU_OPEN, [&](wxMenuEvent& event) {
+        opened = event.GetMenu();
+        EXPECT_EQ(robots().GetSelection(), 1);
+        EXPECT_EQ(opened->FindItemByPosition(0)->GetItemLabel().utf8_string(),
+                  messages.getMessage(491));
+        robots().CallAfter([menu = opened] { closeOpenMenu(*menu); });
+        event.Skip();
+    });
+    whileModal(dialog(), [&] {
+        wxPoint second(20, 1);
+        while (robots().HitTest(second) != 1 && second.y < 200)
+            ++second.y;
+        second.y += 3;
+        wxUIActionSimulator mouse;
+        mouse.MouseMove(robots().ClientToScreen(second));
+        awaitDisplay();
+        mouse.MouseClick(wxMOUSE_BTN_RIGHT);
+        EXPECT_TRUE(waitFor([&] { return opened; }));
+        outwaitToolkit();
+        waitFor([] { return !wxGetMouseState().RightIsDown(); });
+        EXPECT_EQ(textOf("txtRbtName"), "LINE2");
+        EXPECT_FALSE(canApply()) << "it is no edit";
         click(dialog(), "cmdCancel");
     });
 }

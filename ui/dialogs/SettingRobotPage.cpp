@@ -16,6 +16,7 @@
 
 #include <wx/button.h>
 #include <wx/listbox.h>
+#include <wx/menu.h>
 #include <wx/sizer.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
@@ -49,7 +50,7 @@ wxTextCtrl* newBox(wxWindow* parent, const char* name) {
 
 SettingRobotPage::SettingRobotPage(wxWindow* parent, RobotListDraft& robots,
                                    const MessageTable& messages, FolderChoiceSource sources)
-    : wxPanel(parent, wxID_ANY), robots_(robots) {
+    : wxPanel(parent, wxID_ANY), robots_(robots), messages_(messages) {
     const int margin = FromDIP(gap);
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     row->Add(buildList(messages), wxSizerFlags(1).Expand().Border(wxALL, margin));
@@ -57,6 +58,7 @@ SettingRobotPage::SettingRobotPage(wxWindow* parent, RobotListDraft& robots,
              wxSizerFlags(2).Expand().Border(wxTOP | wxRIGHT | wxBOTTOM, margin));
     SetSizer(row);
     bindList();
+    bindListMenu();
     bindFields();
     refresh();
 }
@@ -157,6 +159,45 @@ void SettingRobotPage::bindList() {
         refresh();
         edited();
     });
+}
+
+void SettingRobotPage::bindListMenu() {
+    lstRgstRbt_->Bind(wxEVT_CONTEXT_MENU, [this](wxContextMenuEvent& event) {
+        const wxPoint place = event.GetPosition();
+        // The menu key's menu belongs to the selected robot, wherever the pointer is.
+        if (place != wxDefaultPosition)
+            selectUnder(lstRgstRbt_->ScreenToClient(place));
+        showListMenu(place == wxDefaultPosition ? wxPoint(FromDIP(gap), FromDIP(gap))
+                                                : lstRgstRbt_->ScreenToClient(place));
+    });
+}
+
+void SettingRobotPage::selectUnder(const wxPoint& place) {
+    const int row = lstRgstRbt_->HitTest(place);
+    if (row == wxNOT_FOUND || robots_.selected() == std::size_t(row))
+        return;
+    lstRgstRbt_->SetSelection(row);
+    robots_.select(std::size_t(row));
+    refreshFields();
+}
+
+void SettingRobotPage::showListMenu(const wxPoint& place) {
+    if (!robots_.selected())
+        return;
+    wxMenu menu;
+    const auto add = [&](std::int32_t caption, const std::function<void()>& action) {
+        auto* const item = menu.Append(wxID_ANY, toWx(messages_.getMessage(caption)));
+        menu.Bind(
+            wxEVT_MENU,
+            [this, &action](wxCommandEvent&) {
+                // After the menu has gone, which is nobody's owner.
+                if (action)
+                    CallAfter(action);
+            },
+            item->GetId());
+    };
+    add(message::menuTestConnection, onTestConnection);
+    lstRgstRbt_->PopupMenu(&menu, place);
 }
 
 // Enter is taken as the boxes' own event, after an input method has had its say: it also ends the

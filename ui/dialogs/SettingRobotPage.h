@@ -26,6 +26,8 @@ class SettingRobotPage : public wxPanel {
 
     /// Called after every edit of the operator.
     std::function<void()> onEdited;
+    /// Called when the connection of the selected robot is to be tested.
+    std::function<void()> onTestConnection;
 
     /// Gives the list and the address boxes the widths that their texts ask for in their font.
     void fitFields();
@@ -39,6 +41,9 @@ class SettingRobotPage : public wxPanel {
     wxSizer* buildRobot(const MessageTable& messages, FolderChoiceSource sources);
     wxSizer* buildFields(wxWindow* box, const MessageTable& messages);
     void bindList();
+    void bindListMenu();
+    void selectUnder(const wxPoint& place);
+    void showListMenu(const wxPoint& place);
     void showInserted();
     void bindFields();
     void bindAddress(std::size_t part);
@@ -48,6 +53,7 @@ class SettingRobotPage : public wxPanel {
     void refreshFields();
 
     RobotListDraft& robots_;
+    const MessageTable& messages_;
     wxListBox* lstRgstRbt_ = nullptr;
     std::array<wxButton*, 2> cmdAdd_{};
     wxButton* cmdDel_ = nullptr;

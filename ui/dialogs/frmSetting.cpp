@@ -64,6 +64,7 @@ void frmSetting::buildPages() {
     robotPage_ = addPage(
         new SettingRobotPage(SSTab1_, draft_.robots(), messages, std::move(services_.folders)),
         message::settingsRobotPage);
+    robotPage_->onTestConnection = [this] { services_.testConnection(*this); };
     portPage_ = addPage(new SettingPortPage(SSTab1_, draft_.serial(), messages),
                         message::settingsCommunicationPage);
     addPage(new SettingOptionPage(SSTab1_, draft_, messages), message::settingsOptionsPage);

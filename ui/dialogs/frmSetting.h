@@ -26,6 +26,8 @@ struct SettingWindowServices {
     MessageBoxes& boxes;
     FolderChoiceSource folders;
     std::function<void()> apply; ///< takes the draft's values; called on a draft without a fault
+    /// Tests the connection of the draft's selected robot, in a window over the one given.
+    std::function<void(wxWindow&)> testConnection = [](wxWindow&) {};
 };
 
 /// The settings dialog; what its fields mean is in the draft.
