@@ -54,6 +54,8 @@ struct ApplicationState : SerialLine {
     std::string VarListFile;
     std::string IniFileName; ///< the executable's base name and ".ini", without folder
 
+    /// Files deleted on the PC go to the system's waste bin; for this run.
+    bool DeletesToWasteBin = false;
     bool ViewerShown = false; ///< the file viewer stands in place of the controller pane
     bool NoSave = false;
     bool Busy = false;

@@ -25,6 +25,8 @@ std::int32_t doneText(CommandKind kind) {
     case CommandKind::SendMove:
     case CommandKind::ReceiveMove:
         return message::resultMoved;
+    case CommandKind::CopyIntoFolder:
+        return message::resultCopied;
     case CommandKind::DeleteOnController:
     case CommandKind::DeleteOnPC:
         break;
@@ -94,13 +96,14 @@ ActiveSide sourceOf(CommandKind kind) {
     case CommandKind::LoadJobs:
     case CommandKind::LoadVariables:
     case CommandKind::DeleteOnPC:
+    case CommandKind::CopyIntoFolder:
         break;
     }
     return ActiveSide::PC;
 }
 
 std::string placeOf(CommandKind kind, const ApplicationState& state) {
-    if (kind == CommandKind::DeleteOnPC)
+    if (kind == CommandKind::DeleteOnPC || kind == CommandKind::CopyIntoFolder)
         return {};
     const bool comes =
         sourceOf(kind) == ActiveSide::Controller && kind != CommandKind::DeleteOnController;

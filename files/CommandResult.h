@@ -24,6 +24,7 @@ enum class CommandKind {
     SaveJobs,
     LoadVariables,
     SaveVariables,
+    CopyIntoFolder, ///< from elsewhere on the PC
 };
 
 /// How a command ended for one of its files.

@@ -58,7 +58,13 @@ void DeleteCommand::each(const std::vector<SelectedItem>& items, std::int32_t qu
 bool DeleteCommand::isWanted(const std::string& name, std::int32_t question) {
     if (deleteAll_)
         return true;
-    const Answer answer = with_.talk.ask(title_, questionText(name, question));
+    CheckedChoice wasteBin{with_.messages.getMessage(message::toWasteBin),
+                           with_.state.DeletesToWasteBin};
+    const bool isOffered = side_ == ActiveSide::PC && with_.moveToWasteBin;
+    const Answer answer =
+        with_.talk.ask(title_, questionText(name, question), {}, isOffered ? &wasteBin : nullptr);
+    if (isOffered && answer != Answer::Cancel)
+        with_.state.DeletesToWasteBin = wasteBin.isChecked;
     deleteAll_ = answer == Answer::All;
     outcome_.cancelled = answer == Answer::Cancel;
     if (answer == Answer::No)
@@ -93,7 +99,9 @@ bool DeleteCommand::deleteOnController(const std::string& name) {
 
 void DeleteCommand::deleteOnPC(const std::string& name) {
     outcome_.pcTouched = true;
-    const Outcome removed = removeFile(PathRules().join(with_.state.PCPath, name));
+    const std::string path = PathRules().join(with_.state.PCPath, name);
+    const bool isKept = with_.state.DeletesToWasteBin && with_.moveToWasteBin;
+    const Outcome removed = isKept ? with_.moveToWasteBin(path) : removeFile(path);
     if (removed)
         return with_.results.note(name, ItemEnd::Done);
     outcome_.succeeded = false;

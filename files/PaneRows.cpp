@@ -7,14 +7,19 @@
 
 namespace vantrel {
 
-bool PaneRows::fill(const std::function<bool(std::string_view upperName)>& accepts) {
+bool PaneRows::fill(const std::function<bool(std::string_view upperName)>& accepts,
+                    std::string_view wanted) {
     order_.clear();
+    isSearched_ = !wanted.empty();
     if (!isWhole())
         return false;
+    const std::string part = asciiUpper(wanted);
     const auto count = static_cast<std::uint32_t>(listing_.Count);
-    for (std::uint32_t entry = 0; entry < count; ++entry)
-        if (listing_.Sizes[entry] < 0 || accepts(asciiUpper(listing_.Names[entry])))
+    for (std::uint32_t entry = 0; entry < count; ++entry) {
+        const std::string name = asciiUpper(listing_.Names[entry]);
+        if (name.find(part) != std::string::npos && (listing_.Sizes[entry] < 0 || accepts(name)))
             order_.push_back(entry);
+    }
     return true;
 }
 
@@ -39,7 +44,9 @@ std::optional<EmptyPane> PaneRows::emptiness() const {
         return std::nullopt;
     if (!listing_.isRead)
         return EmptyPane::NotRead;
-    return listing_.Count == 0 ? EmptyPane::NoFiles : EmptyPane::AllFiltered;
+    if (listing_.Count == 0)
+        return EmptyPane::NoFiles;
+    return isSearched_ ? EmptyPane::NothingFound : EmptyPane::AllFiltered;
 }
 
 const std::string& PaneRows::name(std::size_t row) const {
@@ -56,6 +63,13 @@ FileKind PaneRows::kind(std::size_t row) const {
 
 std::string PaneRows::sizeText(std::size_t row) const {
     return isThere(row) ? vantrel::sizeText(listing_.Sizes[order_[row]]) : std::string();
+}
+
+std::uint64_t PaneRows::bytes(std::size_t row) const {
+    if (!isThere(row))
+        return 0;
+    const std::int32_t size = listing_.Sizes[order_[row]];
+    return size < 0 ? 0 : static_cast<std::uint64_t>(size);
 }
 
 std::string_view PaneRows::dateText(std::size_t row) const {

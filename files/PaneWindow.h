@@ -18,8 +18,14 @@ class PaneList {
     /// Shows these rows in place of the old ones and selects the first. The rows are borrowed until
     /// the next call.
     virtual void show(const PaneRows& rows) = 0;
+    /// Shows these rows, which somebody else has changed, with this selection, and leaves what the
+    /// operator sees at its place as far as it is still there.
+    virtual void update(const PaneRows& rows, const std::vector<std::size_t>& selected,
+                        std::optional<std::size_t> focused) = 0;
     /// Positions of the selected rows, in list order.
     virtual std::vector<std::size_t> selectedRows() const = 0;
+    /// The same number at a lower price.
+    virtual std::size_t selectedCount() const { return selectedRows().size(); }
     /// The row that is meant where only one can be: the one with the keyboard focus as long as it
     /// is selected, else the first selected one.
     virtual std::optional<std::size_t> selectedRow() const = 0;

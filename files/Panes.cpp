@@ -7,7 +7,9 @@
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/Snappy.h"
+#include "platform/Files.h"
 
+#include <optional>
 #include <unordered_set>
 #include <utility>
 
@@ -25,6 +27,10 @@ void takeEntries(FolderListing& to, FolderListing&& from) {
     to.Dates = std::move(from.Dates);
 }
 
+bool hasSameEntries(const FolderListing& one, const FolderListing& other) {
+    return one.Names == other.Names && one.Sizes == other.Sizes && one.Dates == other.Dates;
+}
+
 const ControllerModel& modelOf(ActiveSide side, const ApplicationState& state) {
     return side == ActiveSide::PC ? pcModel() : controllerModel(state.Controler);
 }
@@ -37,6 +43,8 @@ Panes::Panes(ApplicationState& state, Snappy& session, const TransferTable& tabl
       pcRows_(state.PCListing), controllerRows_(state.CtrlListing) {}
 
 bool Panes::scanPC(const std::string& folder) {
+    // Asked for before the names are: what comes meanwhile is seen as a change.
+    const std::int64_t changedAt = namesChangedAt(folder);
     Result<FolderListing> scanned = lookAt(folder);
     if (scanned && session_.settleInterruptedFetches(folder, scanned->Names))
         scanned = lookAt(folder);
@@ -46,6 +54,33 @@ bool Panes::scanPC(const std::string& folder) {
     pcRows_.clear();
     state_.PCPath = folder;
     session_.path = folder;
+    pcNamesChangedAt_ = changedAt;
+    return true;
+}
+
+bool Panes::hasPCChanged() const {
+    return namesChangedAt(state_.PCPath) != pcNamesChangedAt_;
+}
+
+bool Panes::rescanPC() {
+    const std::int64_t changedAt = namesChangedAt(state_.PCPath);
+    Result<FolderListing> scanned = scanFolder(state_.PCPath);
+    if (!scanned)
+        return false;
+    pcNamesChangedAt_ = changedAt;
+    if (hasSameEntries(*scanned, state_.PCListing))
+        return false;
+    const std::vector<std::string> selected = selectedNames(ActiveSide::PC);
+    const auto focused = window_.list(ActiveSide::PC).selectedRow();
+    const std::string focusedName = focused ? rows(ActiveSide::PC).name(*focused) : std::string();
+    takeEntries(state_.PCListing, std::move(*scanned));
+    fillRows(ActiveSide::PC);
+    pcRows_.sort();
+    const auto focusedNow = rowsOf(ActiveSide::PC, {focusedName});
+    window_.list(ActiveSide::PC)
+        .update(pcRows_, rowsOf(ActiveSide::PC, selected),
+                focusedNow.empty() ? std::nullopt : std::optional(focusedNow.front()));
+    showCount(ActiveSide::PC);
     return true;
 }
 
@@ -94,14 +129,23 @@ void Panes::showEmptyController() {
 
 bool Panes::fill(ActiveSide side) {
     const BusyPointer busy(window_);
-    const ControllerModel& model = modelOf(side, state_);
-    const bool isWhole = changeableRows(side).fill(
-        [&model, index = window_.filterIndex(side)](std::string_view upperName) {
-            return matchesFilter(upperName, index, model);
-        });
+    const bool isWhole = fillRows(side);
     sort(side);
     showCount(side);
     return isWhole;
+}
+
+bool Panes::fillRows(ActiveSide side) {
+    const ControllerModel& model = modelOf(side, state_);
+    return changeableRows(side).fill(
+        [&model, index = window_.filterIndex(side)](std::string_view upperName) {
+            return matchesFilter(upperName, index, model);
+        },
+        nameFilter_[std::size_t(side)]);
+}
+
+void Panes::setNameFilter(ActiveSide side, std::string text) {
+    nameFilter_[std::size_t(side)] = std::move(text);
 }
 
 /// Events that the yield lets in may fill the pane anew: what is shown after it are the rows as
@@ -115,8 +159,27 @@ void Panes::sort(ActiveSide side) {
 
 void Panes::showCount(ActiveSide side) {
     const auto start = side == ActiveSide::PC ? message::countPC : message::countController;
+    const std::string selection = side == ActiveSide::PC ? selectionText() : std::string();
     window_.setStatus(side, messages_.getMessage(start) + std::to_string(rows(side).size()) +
-                                messages_.getMessage(message::countEnd));
+                                messages_.getMessage(message::countEnd) + selection);
+    isSelectionShown_ = !selection.empty();
+}
+
+void Panes::showSelection() {
+    if (isSelectionShown_ || window_.list(ActiveSide::PC).selectedCount() > 1)
+        showCount(ActiveSide::PC);
+}
+
+std::string Panes::selectionText() const {
+    const PaneList& list = window_.list(ActiveSide::PC);
+    const std::size_t count = list.selectedCount();
+    if (count < 2)
+        return {};
+    std::uint64_t bytes = 0;
+    for (const std::size_t row : list.selectedRows())
+        bytes += rows(ActiveSide::PC).bytes(row);
+    return messages_.getMessageWithInsertion(message::selectedItems, std::to_string(count),
+                                             std::to_string(bytes));
 }
 
 void Panes::fillFilterChoices() {
@@ -145,13 +208,19 @@ std::vector<std::string> Panes::selectedNames(ActiveSide side) const {
 }
 
 void Panes::selectNames(ActiveSide side, const std::vector<std::string>& names) {
+    const auto found = rowsOf(side, names);
+    if (!found.empty())
+        window_.list(side).select(found);
+}
+
+std::vector<std::size_t> Panes::rowsOf(ActiveSide side,
+                                       const std::vector<std::string>& names) const {
     const std::unordered_set<std::string_view> wanted(names.begin(), names.end());
     std::vector<std::size_t> found;
     for (std::size_t row = 0; row < rows(side).size(); ++row)
         if (wanted.contains(rows(side).name(row)))
             found.push_back(row);
-    if (!found.empty())
-        window_.list(side).select(found);
+    return found;
 }
 
 } // namespace vantrel

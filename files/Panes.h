@@ -4,6 +4,8 @@
 #include "base/Result.h"
 #include "files/PaneRows.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -24,6 +26,13 @@ class Panes {
     /// with the listing and the folder as they were, when it cannot be opened. What an interrupted
     /// fetch left there is settled before, with a message.
     bool scanPC(const std::string& folder);
+    /// Whether names have come to the PC folder or gone since it was scanned, by the folder's own
+    /// date.
+    bool hasPCChanged() const;
+    /// Lists the PC folder again after somebody else has worked in it, and shows what is new there.
+    /// What was selected and is gone leaves nothing else selected in its place. False when there is
+    /// nothing new; a folder that cannot be opened any more stays as it is shown.
+    bool rescanPC();
     /// Reads the controller's directory and adds the table's fixed names; false, with the listing
     /// as it was, when the session could not read it.
     bool readController();
@@ -37,9 +46,14 @@ class Panes {
     /// Rebuilds a list control from its listing, with the pane's filter and order, and its count in
     /// the status bar. False, with an empty list, when the listing is not whole.
     bool fill(ActiveSide side);
+    /// From the next fill on the pane shows only names that hold this text; an empty one shows all.
+    void setNameFilter(ActiveSide side, std::string text);
     /// Puts the rows in the order of the listing's sort state and shows them.
     void sort(ActiveSide side);
     void showCount(ActiveSide side);
+    /// Shows beside the PC's count how many of its items are selected and their size, where there
+    /// are several.
+    void showSelection();
     /// Fills both filter boxes for the current controller model, entry 0 chosen.
     void fillFilterChoices();
 
@@ -52,6 +66,9 @@ class Panes {
 
   private:
     Result<FolderListing> lookAt(const std::string& folder);
+    bool fillRows(ActiveSide side);
+    std::vector<std::size_t> rowsOf(ActiveSide side, const std::vector<std::string>& names) const;
+    std::string selectionText() const;
     PaneRows& changeableRows(ActiveSide side);
 
     ApplicationState& state_;
@@ -61,6 +78,9 @@ class Panes {
     PaneWindow& window_;
     PaneRows pcRows_;
     PaneRows controllerRows_;
+    std::string nameFilter_[2]; ///< by `ActiveSide`
+    std::int64_t pcNamesChangedAt_ = 0;
+    bool isSelectionShown_ = false;
 };
 
 } // namespace vantrel

@@ -1,7 +1,10 @@
 #include "files/TransferCommands.h"
 
+#include "base/PathRules.h"
 #include "files/CommandScopes.h"
+#include "files/ControllerPeek.h"
 #include "files/CopyCommand.h"
+#include "files/CopyIntoFolder.h"
 #include "files/DeleteCommand.h"
 #include "files/FolderOwner.h"
 #include "files/MoveCommand.h"
@@ -22,6 +25,14 @@ std::vector<SelectedItem> selectedItems(const Panes& panes, PaneWindow& window, 
         if (row < rows.size())
             items.push_back({rows.name(row), rows.kind(row) == FileKind::Folder});
     return items;
+}
+
+std::vector<std::string> namesOf(const CommandResult& result, ItemEnd end) {
+    std::vector<std::string> names;
+    for (const ItemResult& item : result.items)
+        if (item.end == end)
+            names.push_back(item.name);
+    return names;
 }
 
 } // namespace
@@ -60,6 +71,29 @@ bool TransferCommands::deleteOnPC() {
     return run(CommandKind::DeleteOnPC, [this](const Items& items) {
         return DeleteCommand(with_, ActiveSide::PC).run(items);
     });
+}
+
+bool TransferCommands::copyIntoFolder(const std::vector<std::string>& paths) {
+    Items items;
+    for (const std::string& path : paths)
+        items.push_back({PathRules().lastName(path)});
+    CommandOutcome outcome;
+    {
+        const PaneRefresh refresh(with_);
+        const WindowLock lock(with_.window);
+        beginResult(CommandKind::CopyIntoFolder, items);
+        outcome = CopyIntoFolder(with_).run(paths);
+        refresh.refreshTouched(outcome);
+        showResult(outcome.cancelled);
+        with_.panes.selectNames(ActiveSide::PC, namesOf(*with_.results.last(), ItemEnd::Done));
+    }
+    with_.window.list(ActiveSide::PC).focus();
+    return outcome.succeeded;
+}
+
+std::optional<std::string> TransferCommands::peek(const std::string& name) {
+    const WindowLock lock(with_.window);
+    return peekAtController(with_, name);
 }
 
 bool TransferCommands::refresh(ActiveSide side) {

@@ -5,6 +5,8 @@
 #include "files/TransferServices.h"
 
 #include <functional>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace vantrel {
@@ -32,6 +34,11 @@ class TransferCommands {
     bool deleteOnController();
     /// Files only; a folder is never deleted.
     bool deleteOnPC();
+    /// Files from elsewhere on the PC, by absolute paths, into the PC folder. Those that came are
+    /// selected afterwards.
+    bool copyIntoFolder(const std::vector<std::string>& paths);
+    /// What the viewer shows of a controller's file; see `peekAtController`.
+    std::optional<std::string> peek(const std::string& name);
 
     /// Reads one pane's content anew and shows it.
     bool refresh(ActiveSide side);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "base/Result.h"
+
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -26,6 +29,8 @@ struct TransferServices {
     ProgressPanel& progress;
     OperatorTalk& talk;
     ResultLog& results;
+    /// Where deleted files can be got back from; without it there is no such place.
+    std::function<Outcome(const std::string& path)> moveToWasteBin = {};
 };
 
 /// What a transfer command comes to. A side is touched when something there may have changed; only

@@ -213,6 +213,33 @@ inline constexpr std::int32_t paneNotRead = 436;
 inline constexpr std::int32_t paneEmpty = 437;
 inline constexpr std::int32_t paneFiltered = 438;
 
+inline constexpr std::int32_t paneNothingFound = 458; ///< no name holds the text of the filter
+inline constexpr std::int32_t selectedItems = 456;    ///< with their number and their bytes
+
+// Working in the PC folder, and what goes beyond the other menus.
+inline constexpr std::int32_t menuNewFolder = 440;
+inline constexpr std::int32_t menuRename = 441;
+inline constexpr std::int32_t menuGoToFolder = 442;
+inline constexpr std::int32_t menuBack = 443;
+inline constexpr std::int32_t menuForward = 444;
+inline constexpr std::int32_t menuQuickFilter = 445;
+inline constexpr std::int32_t menuOtherPane = 446;
+inline constexpr std::int32_t menuViewOnController = 447;
+inline constexpr std::int32_t newFolderName = 448;
+inline constexpr std::int32_t newNameOf = 449; ///< with the old one
+inline constexpr std::int32_t folderToOpen = 450;
+inline constexpr std::int32_t nameUnusable = 451;
+inline constexpr std::int32_t nameTaken = 452;
+inline constexpr std::int32_t folderNotMade = 453; ///< after [name], then the reason
+inline constexpr std::int32_t notRenamed = 454;    ///< after [name], then the reason
+inline constexpr std::int32_t toWasteBin = 455;    ///< a choice in the question before a deletion
+inline constexpr std::int32_t quickFilterLabel = 457;
+inline constexpr std::int32_t resultCopied = 459;
+inline constexpr std::int32_t notCopied = 460; ///< after [name], then (reason)
+inline constexpr std::int32_t notViewed = 461; ///< after [name], then (reason)
+inline constexpr std::int32_t closeQuickFilter = 463;
+inline constexpr std::int32_t noSuchFolder = 464;
+
 // The settings dialog.
 inline constexpr std::int32_t settingsTitle = 300;
 inline constexpr std::int32_t settingsRobotPage = 301;

@@ -27,12 +27,12 @@ class ProgressAside {
 } // namespace
 
 Answer OperatorTalk::ask(const std::string& title, const std::string& question,
-                         const std::string& facts) {
+                         const std::string& facts, CheckedChoice* choice) {
     const ProgressAside aside(progress_);
     std::string note = progress_.place();
     if (!note.empty() && !facts.empty())
         note += '\n';
-    return question_.ask(title, question, note + facts);
+    return question_.ask(title, question, note + facts, choice);
 }
 
 void OperatorTalk::tell(const std::string& text, BoxIcon icon) {

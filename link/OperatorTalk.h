@@ -11,15 +11,21 @@ class ProgressPanel;
 /// The buttons of the question dialog, by their number.
 enum class Answer { Yes = 0, No = 1, All = 2, Cancel = 3 };
 
+/// A box to be checked below a question.
+struct CheckedChoice {
+    std::string caption;
+    bool isChecked = false;
+};
+
 /// The Yes / No / All / Cancel dialog `frmMsgYesNo`. Closing it otherwise than by a button is
 /// Cancel.
 class QuestionWindow {
   public:
     virtual ~QuestionWindow() = default;
     /// `note` stands below the question: which controller is meant, and facts to decide by; it may
-    /// be empty.
+    /// be empty. A `choice` comes back as the operator left it.
     virtual Answer ask(const std::string& title, const std::string& question,
-                       const std::string& note) = 0;
+                       const std::string& note, CheckedChoice* choice) = 0;
 };
 
 /// Speaks with the operator while an operation may be showing its progress: since the progress
@@ -31,8 +37,8 @@ class OperatorTalk {
         : progress_(progress), question_(question), boxes_(boxes) {}
 
     /// `facts` stand below the controller that is meant.
-    Answer ask(const std::string& title, const std::string& question,
-               const std::string& facts = {});
+    Answer ask(const std::string& title, const std::string& question, const std::string& facts = {},
+               CheckedChoice* choice = nullptr);
     void tell(const std::string& text, BoxIcon icon);
     bool askOkCancel(const std::string& text, BoxIcon icon);
     bool askYesNo(const std::string& text, BoxIcon icon);

@@ -32,6 +32,9 @@ Outcome replaceFile(const std::string& path, std::string_view content);
 
 /// An existing `to` is replaced.
 Outcome renameFile(const std::string& from, const std::string& to);
+/// Fails when anything at all has the new name; another spelling of its own name in letter case is
+/// free.
+Outcome renameToFree(const std::string& from, const std::string& to);
 Outcome removeFile(const std::string& path);
 /// Removes the file when `mayGo` says so of its content; false when it stays. No file that somebody
 /// saves under the name meanwhile is removed. `spare` is the path of a free name beside it, which
@@ -80,6 +83,16 @@ Outcome visitNames(const std::string& path, const std::function<void(std::string
 /// that one on which a dead medium is mounted cannot hang the caller.
 Outcome visitSubfolders(const std::string& path,
                         const std::function<void(std::string_view)>& visit);
+
+/// Fails when anything has the name already.
+Outcome createFolder(const std::string& path);
+/// A new empty folder of its own among the system's temporary files, for this user alone.
+Result<std::string> createTemporaryFolder();
+/// Only an empty one.
+Outcome removeFolder(const std::string& path);
+/// When the folder's list of names last changed, in the system's finest unit: to be compared only.
+/// 0 when it cannot be told.
+std::int64_t namesChangedAt(const std::string& folder);
 
 std::string currentFolder();
 Outcome changeCurrentFolder(const std::string& path);

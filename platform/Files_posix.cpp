@@ -49,14 +49,8 @@ Result<std::string> readOpenFile(const Descriptor& file) {
     return content;
 }
 
-/// One entry of that very name: what leads out of the folder or to itself is none.
-bool isEntryName(std::string_view name) {
-    return !name.empty() && name != "." && name != ".." && !hasNul(name) &&
-           name.find('/') == std::string_view::npos;
-}
-
-/// Never over a file; 0 or the error number.
-int renameToFree(const std::string& from, const std::string& to) {
+/// 0 or the error number.
+int renameUnlessTaken(const std::string& from, const std::string& to) {
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
         return 0;
     if (errno != EINVAL && errno != ENOSYS)
@@ -67,6 +61,12 @@ int renameToFree(const std::string& from, const std::string& to) {
     if (errno == EEXIST || anythingExists(to))
         return EEXIST;
     return ::rename(from.c_str(), to.c_str()) == 0 ? 0 : errno;
+}
+
+/// One entry of that very name: what leads out of the folder or to itself is none.
+bool isEntryName(std::string_view name) {
+    return !name.empty() && name != "." && name != ".." && !hasNul(name) &&
+           name.find('/') == std::string_view::npos;
 }
 
 } // namespace
@@ -102,6 +102,13 @@ Outcome renameFile(const std::string& from, const std::string& to) {
     if (::rename(from.c_str(), to.c_str()) != 0)
         return systemFailure(errno);
     return Done{};
+}
+
+Outcome renameToFree(const std::string& from, const std::string& to) {
+    if (hasNul(from) || hasNul(to))
+        return systemFailure(EINVAL);
+    const int error = renameUnlessTaken(from, to);
+    return error == 0 ? Outcome(Done{}) : Outcome(systemFailure(error));
 }
 
 Outcome removeFile(const std::string& path) {
@@ -141,7 +148,7 @@ Result<bool> removeFileIf(const std::string& path, const std::string& spare,
     if (goes && ::unlink(spare.c_str()) == 0)
         return true;
     const int error = goes ? errno : 0;
-    if (const int kept = renameToFree(spare, path); kept != 0)
+    if (const int kept = renameUnlessTaken(spare, path); kept != 0)
         return systemFailure(kept);
     if (!content)
         return Failure{content.reason()};
@@ -205,6 +212,40 @@ std::string findIgnoringCase(const std::string& folder, std::string_view name) {
 
 std::string comparedName(std::string_view name) {
     return std::string(name);
+}
+
+Outcome createFolder(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(EINVAL);
+    constexpr mode_t asTheUserWants = 0777;
+    if (::mkdir(path.c_str(), asTheUserWants) != 0)
+        return systemFailure(errno);
+    return Done{};
+}
+
+Result<std::string> createTemporaryFolder() {
+    const char* const place = std::getenv("TMPDIR");
+    std::string path = place && *place == '/' ? place : "/tmp";
+    path += "/vantrel-XXXXXX";
+    if (!::mkdtemp(path.data()))
+        return systemFailure(errno);
+    return path;
+}
+
+Outcome removeFolder(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(EINVAL);
+    if (::rmdir(path.c_str()) != 0)
+        return systemFailure(errno);
+    return Done{};
+}
+
+std::int64_t namesChangedAt(const std::string& folder) {
+    struct stat details {};
+    if (!readDetails(folder, details))
+        return 0;
+    constexpr std::int64_t nanoseconds = 1'000'000'000;
+    return details.st_mtim.tv_sec * nanoseconds + details.st_mtim.tv_nsec;
 }
 
 std::string currentFolder() {

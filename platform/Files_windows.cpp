@@ -100,6 +100,13 @@ Outcome renameFile(const std::string& from, const std::string& to) {
                               MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
 }
 
+Outcome renameToFree(const std::string& from, const std::string& to) {
+    if (hasNul(from) || hasNul(to))
+        return systemFailure(ERROR_INVALID_NAME);
+    return done(
+        ::MoveFileExW(systemPath(from).c_str(), systemPath(to).c_str(), MOVEFILE_WRITE_THROUGH));
+}
+
 Outcome removeFile(const std::string& path) {
     if (hasNul(path))
         return systemFailure(ERROR_INVALID_NAME);
@@ -189,6 +196,46 @@ std::string findIgnoringCase(const std::string& folder, std::string_view name) {
 
 std::string comparedName(std::string_view name) {
     return upperCase(name);
+}
+
+Outcome createFolder(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(ERROR_INVALID_NAME);
+    return done(::CreateDirectoryW(systemPath(path).c_str(), nullptr));
+}
+
+Result<std::string> createTemporaryFolder() {
+    std::wstring place(MAX_PATH + 1, L'\0');
+    const DWORD length = ::GetTempPathW(static_cast<DWORD>(place.size()), place.data());
+    if (length == 0 || length > place.size())
+        return lastFailure();
+    place.resize(length);
+    constexpr int attempts = 100;
+    const std::string start = narrow(place) + "vantrel-" + std::to_string(::GetCurrentProcessId()) +
+                              "-" + std::to_string(::GetTickCount64()) + "-";
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        const std::string path = start + std::to_string(attempt);
+        if (::CreateDirectoryW(systemPath(path).c_str(), nullptr))
+            return path;
+        if (::GetLastError() != ERROR_ALREADY_EXISTS)
+            break;
+    }
+    return lastFailure();
+}
+
+Outcome removeFolder(const std::string& path) {
+    if (hasNul(path))
+        return systemFailure(ERROR_INVALID_NAME);
+    return done(::RemoveDirectoryW(systemPath(path).c_str()));
+}
+
+std::int64_t namesChangedAt(const std::string& folder) {
+    WIN32_FILE_ATTRIBUTE_DATA details{};
+    if (hasNul(folder) ||
+        !::GetFileAttributesExW(systemPath(folder).c_str(), GetFileExInfoStandard, &details))
+        return 0;
+    const FILETIME& changed = details.ftLastWriteTime;
+    return std::int64_t{changed.dwHighDateTime} << 32u | std::int64_t{changed.dwLowDateTime};
 }
 
 std::string currentFolder() {

@@ -4,6 +4,7 @@
 #include "platform/Drives.h"
 #include "platform/Environment.h"
 #include "ui/FolderTreeDropDown.h"
+#include "ui/WasteBin.h"
 #include "ui/frmZuroVant.h"
 
 #include <utility>
@@ -58,6 +59,7 @@ EngineGround Composition::ground(std::string executable, Zurolink* library) {
 
 Composition::Opened::Opened(Composition& owner, frmZuroVant& window)
     : listFiles(window, owner.state_, owner.engine_.session, owner.boxes_, owner.messages_),
+      prompts(window, owner.messages_, owner.state_),
       program(owner.engine_, {.panes = window,
                               .view = window,
                               .robots = window,
@@ -68,9 +70,11 @@ Composition::Opened::Opened(Composition& owner, frmZuroVant& window)
                               .shutdown = owner,
                               .folders = {listDrives, subfolders},
                               .editTextFile = editTextFile,
-                              .openDocument = openDocument}),
+                              .openDocument = openDocument,
+                              .moveToWasteBin = moveToWasteBin,
+                              .prompts = prompts}),
       dialogs(owner.engine_, program, window, owner.progressWindow_, owner.versionWindow_),
-      runner(commandTable(), {program.main, program.lists, program.help, dialogs}) {}
+      runner(commandTable(), {program.main, program.files, program.lists, program.help, dialogs}) {}
 
 StartResult Composition::start() {
     const auto result = StartRoutine({.state = state_,
@@ -128,7 +132,7 @@ StartedWindow Composition::buildMainWindow() {
 
 void Composition::connectMainWindow() {
     MainProgram& program = opened_->program;
-    window_->connect(program.main, opened_->runner);
+    window_->connect(program.main, program.files, opened_->runner);
     window_->controls().trvFolderList->connect(program.folderTree);
     window_->onClose = [&program] { return program.shutdown.close(); };
     window_->onForcedClose = [&program] { return program.shutdown.closeUnasked(); };
@@ -147,6 +151,7 @@ void Composition::mainWindowStarted() {
     window_->CallAfter([this] {
         opened_->dialogs.showSimulationNotice();
         versionWindow_.bringBefore(*window_);
+        window_->watchPCFolder();
     });
 }
 

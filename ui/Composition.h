@@ -16,6 +16,7 @@
 #include "ui/dialogs/frmDumy.h"
 #include "ui/dialogs/frmMsgStat.h"
 #include "ui/dialogs/frmMsgYesNo.h"
+#include "ui/dialogs/frmPrompt.h"
 #include "ui/look/WindowHolder.h"
 
 #include <memory>
@@ -49,6 +50,7 @@ class Composition : private StartWindows, private ShutdownWindows {
     /// What exists only once the main window does.
     struct Opened {
         ListFileDialogs listFiles;
+        PromptDialogs prompts;
         MainProgram program;
         CommandDialogs dialogs;
         CommandRunner runner;

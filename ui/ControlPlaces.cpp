@@ -8,6 +8,7 @@
 #include "ui/FolderTreeDropDown.h"
 #include "ui/MainWindowControls.h"
 #include "ui/PathDisplay.h"
+#include "ui/QuickFilter.h"
 #include "ui/ViewerSearch.h"
 
 #include <algorithm>
@@ -133,6 +134,7 @@ void placeControls(const MainWindowControls& controls, const WindowLayout& layou
     place.beside(controls.Command1, layout.Command1, *controls.trvFolderName);
     place.inRow(controls.tlbPC, layout.tlbPC);
     place.exactly(controls.lsvPC, layout.lsvPC);
+    place.atFoot(controls.pcQuickFilter, *controls.lsvPC);
     place.exactly(controls.trvFolderList, layout.trvFolderList);
     place.inRow(controls.lblPCFileType, layout.lblDisp[pcTypeLabel]);
     place.inRow(controls.cmbPCFileType, layout.cmbPCFileType);
@@ -143,6 +145,7 @@ void placeControls(const MainWindowControls& controls, const WindowLayout& layou
     place.inRow(controls.tlbCtrlButton, layout.tlbCtrlButton);
     place.inRow(controls.tlbFile, layout.tlbFile);
     place.exactly(controls.lsvCtrl, layout.lsvCtrl);
+    place.atFoot(controls.ctrlQuickFilter, *controls.lsvCtrl);
     place.inRow(controls.lblCtrlFileType, layout.lblDisp[controllerTypeLabel]);
     place.inRow(controls.cmbCtrlFileType, layout.cmbCtrlFileType);
 

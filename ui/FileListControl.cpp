@@ -158,7 +158,7 @@ void FileListControl::setCaption(const wxString& caption) {
     describeForReaders();
 }
 
-void FileListControl::setHints(const std::array<wxString, 3>& hints) {
+void FileListControl::setHints(const std::array<wxString, 4>& hints) {
     hints_ = hints;
     surface().Refresh();
     describeForReaders();
@@ -260,6 +260,31 @@ void FileListControl::show(const PaneRows& rows) {
     select(rows.size() > 0 ? std::vector<std::size_t>{0} : std::vector<std::size_t>{});
 }
 
+void FileListControl::update(const PaneRows& rows, const std::vector<std::size_t>& selected,
+                             std::optional<std::size_t> focused) {
+    rows_ = &rows;
+    emptiness_ = rows.emptiness();
+    const wxWindowUpdateLocker frozen(list_);
+    const long top = list_->GetTopItem();
+    fillItems();
+    filling_ = true;
+    for (const auto old : selectedRows())
+        list_->SetItemState(long(old), 0, wxLIST_STATE_SELECTED);
+    for (const auto row : selected)
+        list_->SetItemState(long(row), wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
+    if (focused)
+        list_->SetItemState(long(*focused), wxLIST_STATE_FOCUSED, wxLIST_STATE_FOCUSED);
+    filling_ = false;
+    // Items that were made anew stand at the start; the last row comes into view first, so that
+    // the old one ends at the top again.
+    if (top > 0 && top < list_->GetItemCount() && list_->GetTopItem() != top) {
+        list_->EnsureVisible(list_->GetItemCount() - 1);
+        list_->EnsureVisible(top);
+    }
+    surface().Refresh();
+    changed();
+}
+
 void FileListControl::fillItems() {
     filling_ = true;
     const long count = rows_ ? long(rows_->size()) : 0;
@@ -299,6 +324,10 @@ std::vector<std::size_t> FileListControl::selectedRows() const {
     for (long item = list_->GetFirstSelected(); item != -1; item = list_->GetNextSelected(item))
         rows.push_back(std::size_t(item));
     return rows;
+}
+
+std::size_t FileListControl::selectedCount() const {
+    return std::size_t(list_->GetSelectedItemCount());
 }
 
 void FileListControl::select(const std::vector<std::size_t>& rows) {

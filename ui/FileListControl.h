@@ -40,7 +40,7 @@ class FileListControl : public wxPanel, public PaneList {
     /// What a screen reader calls the list.
     void setCaption(const wxString& caption);
     /// What stands in the list while it is empty, by `EmptyPane`. It is no item.
-    void setHints(const std::array<wxString, 3>& hints);
+    void setHints(const std::array<wxString, 4>& hints);
     /// What stands there now; empty while there are rows.
     wxString hint() const;
     void setColumnTitles(const std::array<wxString, columnCount>& titles);
@@ -49,7 +49,10 @@ class FileListControl : public wxPanel, public PaneList {
     std::array<int, columnCount> columnWidths() const;
 
     void show(const PaneRows& rows) override;
+    void update(const PaneRows& rows, const std::vector<std::size_t>& selected,
+                std::optional<std::size_t> focused) override;
     std::vector<std::size_t> selectedRows() const override;
+    std::size_t selectedCount() const override;
     std::optional<std::size_t> selectedRow() const override;
     void select(const std::vector<std::size_t>& rows) override;
     void focus() override;
@@ -96,7 +99,7 @@ class FileListControl : public wxPanel, public PaneList {
     const PaneRows* rows_ = nullptr;
     wxListView* list_ = nullptr;
     wxString listName_, caption_;
-    std::array<wxString, 3> hints_;
+    std::array<wxString, 4> hints_;
     std::optional<EmptyPane> emptiness_; ///< of the rows when they were shown
     ListView view_ = ListView::List;
     Appearance appearance_ = Appearance::ThreeDimensional;

@@ -6,6 +6,7 @@
 #include "ui/FileViewer.h"
 #include "ui/FolderTreeDropDown.h"
 #include "ui/PathDisplay.h"
+#include "ui/QuickFilter.h"
 #include "ui/ViewerSearch.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
@@ -94,6 +95,7 @@ void MainWindowControls::makePCPane(std::span<const CommandRow> table) {
     lsvPC = new FileListControl(pane, "lsvPC");
     // After the list, so that it lies above it.
     trvFolderList = new FolderTreeDropDown(pane, "trvFolderList", *Command1);
+    pcQuickFilter = new QuickFilter(pane, "pcQuickFilter");
     lblPCFileType = makeLabel(pane, "lblDisp0");
     cmbPCFileType = makeChoice(pane, "cmbPCFileType");
 }
@@ -104,6 +106,7 @@ void MainWindowControls::makeControllerPane(std::span<const CommandRow> table) {
     tlbCtrlButton = new CommandToolBar(pane, "tlbCtrlButton", table, CommandPlace::tlbCtrlButton);
     tlbFile = new CommandToolBar(pane, "tlbFile", table, CommandPlace::tlbFile);
     lsvCtrl = new FileListControl(pane, "lsvCtrl");
+    ctrlQuickFilter = new QuickFilter(pane, "ctrlQuickFilter");
     lblCtrlFileType = makeLabel(pane, "lblDisp1");
     cmbCtrlFileType = makeChoice(pane, "cmbCtrlFileType");
 }

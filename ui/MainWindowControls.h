@@ -21,6 +21,7 @@ class FileListControl;
 class FileViewer;
 class FolderTreeDropDown;
 class PathDisplay;
+class QuickFilter;
 class ViewerSearch;
 struct CommandRow;
 
@@ -56,6 +57,7 @@ struct MainWindowControls {
     CommandToolBar* tlbPC = nullptr;
     FolderTreeDropDown* trvFolderList = nullptr;
     FileListControl* lsvPC = nullptr;
+    QuickFilter* pcQuickFilter = nullptr;
     wxStaticText* lblPCFileType = nullptr; ///< element 1 of `lblDisp`
     wxChoice* cmbPCFileType = nullptr;
 
@@ -65,6 +67,7 @@ struct MainWindowControls {
     CommandToolBar* tlbCtrlButton = nullptr;
     CommandToolBar* tlbFile = nullptr;
     FileListControl* lsvCtrl = nullptr;
+    QuickFilter* ctrlQuickFilter = nullptr;
     wxStaticText* lblCtrlFileType = nullptr; ///< element 2 of `lblDisp`
     wxChoice* cmbCtrlFileType = nullptr;
 

@@ -8,6 +8,7 @@
 #include "ui/FileListControl.h"
 #include "ui/FolderTreeDropDown.h"
 #include "ui/MainWindowControls.h"
+#include "ui/QuickFilter.h"
 #include "ui/ViewerSearch.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/WxText.h"
@@ -63,7 +64,10 @@ void captionLists(const MainWindowControls& controls, const MessageTable& messag
     for (auto* const list : {controls.lsvPC, controls.lsvCtrl})
         list->setHints({toWx(messages.getMessage(message::paneNotRead)),
                         toWx(messages.getMessage(message::paneEmpty)),
-                        toWx(messages.getMessage(message::paneFiltered))});
+                        toWx(messages.getMessage(message::paneFiltered)),
+                        toWx(messages.getMessage(message::paneNothingFound))});
+    for (auto* const line : {controls.pcQuickFilter, controls.ctrlQuickFilter})
+        line->applyCaptions(messages);
 }
 
 const wxSize arrowIcon{32, 32};

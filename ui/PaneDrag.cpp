@@ -1,6 +1,7 @@
 #include "ui/PaneDrag.h"
 
 #include "ui/OperationGuard.h"
+#include "ui/look/WxText.h"
 
 #include <utility>
 
@@ -24,21 +25,37 @@ class Payload : public wxCustomDataObject {
 class PaneDropTarget : public wxDropTarget {
   public:
     PaneDropTarget(PaneDrag& drag, ActiveSide side)
-        : wxDropTarget(new Payload), drag_(drag), side_(side) {}
+        : drag_(drag), side_(side), files_(new wxFileDataObject) {
+        auto* const data = new wxDataObjectComposite;
+        data->Add(new Payload, true);
+        data->Add(files_);
+        SetDataObject(data);
+    }
 
     wxDragResult OnDragOver(wxCoord, wxCoord, wxDragResult) override {
-        return drag_.accepts(side_) ? wxDragCopy : wxDragNone;
+        return drag_.accepts(side_) || drag_.acceptsFiles(side_) ? wxDragCopy : wxDragNone;
     }
     wxDragResult OnEnter(wxCoord x, wxCoord y, wxDragResult wished) override {
         return OnDragOver(x, y, wished);
     }
     wxDragResult OnData(wxCoord, wxCoord, wxDragResult) override {
-        return drag_.drop(side_) ? wxDragCopy : wxDragNone;
+        const bool isTaken = drag_.accepts(side_) ? drag_.drop(side_) : dropFiles();
+        return isTaken ? wxDragCopy : wxDragNone;
     }
 
   private:
+    bool dropFiles() {
+        if (!drag_.acceptsFiles(side_) || !GetData())
+            return false;
+        std::vector<std::string> paths;
+        for (const wxString& path : files_->GetFilenames())
+            paths.push_back(fromWx(path));
+        return drag_.dropFiles(side_, paths);
+    }
+
     PaneDrag& drag_;
     ActiveSide side_;
+    wxFileDataObject* files_; ///< owned by the composite
 };
 
 } // namespace
@@ -55,8 +72,15 @@ wxWindow& PaneDrag::pane(ActiveSide side) const {
 
 void PaneDrag::begin(ActiveSide source) {
     whileDragging(source, [&] {
-        Payload payload;
-        wxDropSource dragged(payload, &pane(source));
+        wxDataObjectComposite data;
+        data.Add(new Payload, true);
+        if (source == ActiveSide::PC && selectedPaths) {
+            auto* const files = new wxFileDataObject;
+            for (const std::string& path : selectedPaths())
+                files->AddFile(toWx(path));
+            data.Add(files);
+        }
+        wxDropSource dragged(data, &pane(source));
         dragged.DoDragDrop(wxDrag_CopyOnly);
     });
 }
@@ -71,6 +95,20 @@ void PaneDrag::whileDragging(ActiveSide source, const std::function<void()>& dra
 
 bool PaneDrag::accepts(ActiveSide target) const {
     return source_ && *source_ != target && !guard_.isLocked() && canDrop && canDrop(*source_);
+}
+
+bool PaneDrag::acceptsFiles(ActiveSide target) const {
+    return !source_ && target == ActiveSide::PC && !guard_.isLocked();
+}
+
+bool PaneDrag::dropFiles(ActiveSide target, const std::vector<std::string>& paths) {
+    if (!acceptsFiles(target) || paths.empty())
+        return false;
+    pane(target).CallAfter([this, paths] {
+        if (onFilesDropped && !guard_.isLocked())
+            onFilesDropped(paths);
+    });
+    return true;
 }
 
 bool PaneDrag::drop(ActiveSide target) {

@@ -3,6 +3,7 @@
 #include "app/commands/CommandRunner.h"
 #include "app/commands/MainCommands.h"
 #include "app/commands/ModeCommands.h"
+#include "app/folders/PCFileCommands.h"
 #include "app/settings/SettingsFile.h"
 #include "app/window/ScreenGeometry.h"
 #include "app/window/WindowLayout.h"
@@ -18,13 +19,16 @@
 #include "ui/NativeControls.h"
 #include "ui/OperationGuard.h"
 #include "ui/PathDisplay.h"
+#include "ui/QuickFilter.h"
 #include "ui/ViewerSearch.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
 #include "ui/look/WindowFont.h"
 #include "ui/look/WxText.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 #include <wx/choice.h>
@@ -64,8 +68,14 @@ frmZuroVant::~frmZuroVant() {
     guard_.guard(nullptr);
 }
 
-void frmZuroVant::connect(MainCommands& commands, const CommandRunner& runner) {
+void frmZuroVant::connect(MainCommands& commands, PCFileCommands& files,
+                          const CommandRunner& runner) {
     updateStates_ = [&commands] { commands.updateStates(); };
+    lookForChanges_ = [&files](bool closely) { files.lookForChanges(closely); };
+    drag_.selectedPaths = [&files] { return files.selectedPaths(); };
+    drag_.onFilesDropped = [&files](const std::vector<std::string>& paths) {
+        files.takeDropped(paths);
+    };
     bindPane(ActiveSide::PC, commands, runner);
     bindPane(ActiveSide::Controller, commands, runner);
     const auto run = [&runner](const CommandRow& command, CommandPlace place) {
@@ -76,7 +86,7 @@ void frmZuroVant::connect(MainCommands& commands, const CommandRunner& runner) {
         bar->onPressed = run;
     // The window gets a key before the control that has the focus.
     Bind(wxEVT_CHAR_HOOK, [this, &commands, &runner](wxKeyEvent& event) {
-        if (!isViewerKey(event, commands))
+        if (!isViewerKey(event, commands) && !isPaneKey(event, commands))
             functionKey(event, runner);
     });
     controls_.stsFileInf->Bind(wxEVT_LEFT_UP, [this, &runner](wxMouseEvent& event) {
@@ -90,6 +100,10 @@ void frmZuroVant::connect(MainCommands& commands, const CommandRunner& runner) {
 
 FileListControl& frmZuroVant::pane(ActiveSide side) const {
     return *(side == ActiveSide::PC ? controls_.lsvPC : controls_.lsvCtrl);
+}
+
+QuickFilter& frmZuroVant::quickFilter(ActiveSide side) const {
+    return *(side == ActiveSide::PC ? controls_.pcQuickFilter : controls_.ctrlQuickFilter);
 }
 
 wxChoice& frmZuroVant::filter(ActiveSide side) const {
@@ -192,6 +206,11 @@ void frmZuroVant::bindPane(ActiveSide side, MainCommands& commands, const Comman
         updateStates_();
         menus_.popUp(CommandPlace::mnuRightClick, pane(side), place);
     };
+    quickFilter(side).onShownOrHidden = [this] { lay(); };
+    quickFilter(side).onChanged = [&commands, side](const std::string& text) {
+        commands.filterNames(side, text);
+    };
+    quickFilter(side).onLeft = [&commands, side] { commands.workIn(side); };
     filter(side).Bind(wxEVT_CHOICE,
                       [&commands, side](wxCommandEvent&) { commands.chooseFilter(side); });
     auto* frame = side == ActiveSide::PC ? controls_.fraPC.panel : controls_.fraCtrl.panel;
@@ -199,6 +218,35 @@ void frmZuroVant::bindPane(ActiveSide side, MainCommands& commands, const Comman
         commands.workIn(side);
         event.Skip();
     });
+}
+
+void frmZuroVant::watchPCFolder() {
+    constexpr int interval = 2000; // milliseconds; a look costs one question to the system
+    Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
+        if (IsShownOnScreen() && !IsIconized())
+            lookForChanges_(false);
+    });
+    // Editors change a file in place, which the folder's own date does not tell; whoever has worked
+    // in one comes back to this window.
+    Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
+        event.Skip();
+        if (event.GetActive())
+            CallAfter([this] { lookForChanges_(true); });
+    });
+    watch_.Start(interval);
+}
+
+/// Tab goes from list to list, as in other programs with two panes; with Shift or Ctrl it goes on
+/// through the window.
+bool frmZuroVant::isPaneKey(const wxKeyEvent& event, MainCommands& commands) {
+    if (event.GetKeyCode() != WXK_TAB || event.HasAnyModifiers() || state_.ViewerShown ||
+        state_.Busy)
+        return false;
+    wxWindow* const focused = FindFocus();
+    if (!controls_.lsvPC->IsDescendant(focused) && !controls_.lsvCtrl->IsDescendant(focused))
+        return false;
+    commands.otherPane();
+    return true;
 }
 
 /// A list that is locked may hand the keyboard on to the other one, which is not the active one for
@@ -287,16 +335,36 @@ void frmZuroVant::setFilterChoices(ActiveSide side, const std::vector<std::strin
 
 void frmZuroVant::setStatus(ActiveSide side, const std::string& text) {
     SetStatusText(toWx(text), side == ActiveSide::PC ? panelPC : panelController);
+    if (side == ActiveSide::PC)
+        sharePanels();
 }
 
 void frmZuroVant::showNotice(const std::string& text) {
-    // Shares of the width, but what says that nothing here is real must not be cut off.
-    constexpr int spare = 16; // device-independent pixels
-    wxStatusBar& bar = *controls_.stsFileInf;
-    const int notice = text.empty() ? -1 : bar.GetTextExtent(toWx(text)).x + FromDIP(spare);
-    const int widths[MainWindowControls::statusPanels] = {-3, -4, notice, -4};
-    bar.SetStatusWidths(MainWindowControls::statusPanels, widths);
     SetStatusText(toWx(text), panelNotice);
+    sharePanels();
+}
+
+/// Shares of the width, but what says that nothing here is real must not be cut off, nor what is
+/// selected on the PC.
+void frmZuroVant::sharePanels() {
+    constexpr int spare = 16; // device-independent pixels
+    constexpr int shares[] = {3, 4, 1, 4};
+    wxStatusBar& bar = *controls_.stsFileInf;
+    const auto needed = [&](int panel) {
+        return bar.GetTextExtent(bar.GetStatusText(panel)).x + FromDIP(spare);
+    };
+    const bool hasNotice = !bar.GetStatusText(panelNotice).empty();
+    const int notice = hasNotice ? needed(panelNotice) : -shares[panelNotice];
+    const int sum = hasNotice ? 11 : 12;
+    const int rest = bar.GetSize().x - std::max(notice, 0);
+    const int pc = needed(panelPC);
+    const int widths[MainWindowControls::statusPanels] = {
+        pc > rest * shares[panelPC] / sum ? pc : -shares[panelPC], -shares[panelController], notice,
+        -shares[panelResult]};
+    if (std::equal(std::begin(widths), std::end(widths), panelWidths_.begin()))
+        return;
+    std::copy(std::begin(widths), std::end(widths), panelWidths_.begin());
+    bar.SetStatusWidths(MainWindowControls::statusPanels, widths);
 }
 
 void frmZuroVant::setResult(const std::string& text) {
@@ -408,6 +476,14 @@ void frmZuroVant::showView(ActiveSide side, std::int16_t displayType) {
 
 void frmZuroVant::selectAll(ActiveSide side) {
     pane(side).selectAll();
+}
+
+void frmZuroVant::openQuickFilter(ActiveSide side) {
+    quickFilter(side).open();
+}
+
+void frmZuroVant::closeQuickFilter(ActiveSide side) {
+    quickFilter(side).close();
 }
 
 void frmZuroVant::showFile(const std::string& name, std::string_view text) {

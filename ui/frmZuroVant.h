@@ -10,11 +10,13 @@
 #include "ui/PaneDrag.h"
 #include "ui/WindowPlace.h"
 
+#include <array>
 #include <functional>
 #include <span>
 #include <string>
 
 #include <wx/frame.h>
+#include <wx/timer.h>
 
 namespace vantrel {
 
@@ -22,6 +24,7 @@ class CommandRunner;
 class MainCommands;
 class MessageTable;
 class OperationGuard;
+class PCFileCommands;
 struct WindowPlacement;
 
 /// The main window. It shows what it is told, and hands every event to one command.
@@ -37,7 +40,9 @@ class frmZuroVant : public wxFrame,
     ~frmZuroVant() override;
 
     /// Hands events to the commands from now on; until then they do nothing. Called once.
-    void connect(MainCommands& commands, const CommandRunner& runner);
+    void connect(MainCommands& commands, PCFileCommands& files, const CommandRunner& runner);
+    /// From now on what others change in the PC folder is shown while the window can be seen.
+    void watchPCFolder();
     /// Called with the robot that the operator chose, by its place in the box.
     std::function<void(int index)> onRobotChosen;
     /// Asks whether the window may close; it closes when the answer is true.
@@ -73,6 +78,8 @@ class frmZuroVant : public wxFrame,
     void showFolder(const std::string& path) override;
     void showView(ActiveSide side, std::int16_t displayType) override;
     void selectAll(ActiveSide side) override;
+    void openQuickFilter(ActiveSide side) override;
+    void closeQuickFilter(ActiveSide side) override;
     void closeWindow() override;
 
     void showFile(const std::string& name, std::string_view text) override;
@@ -84,6 +91,8 @@ class frmZuroVant : public wxFrame,
 
   private:
     FileListControl& pane(ActiveSide side) const;
+    QuickFilter& quickFilter(ActiveSide side) const;
+    bool isPaneKey(const wxKeyEvent& event, MainCommands& commands);
     wxChoice& filter(ActiveSide side) const;
     /// Pixels per inch that the window is laid out with.
     int dpi() const;
@@ -91,6 +100,7 @@ class frmZuroVant : public wxFrame,
     /// Larger captions get a larger window, as far as the screen goes.
     void makeRoomForCaptions();
     void fitStatusBar();
+    void sharePanels();
     void setColumnWidths(const std::array<double, 3>& twips);
     void bindEvents();
     void close(wxCloseEvent& event);
@@ -111,6 +121,9 @@ class frmZuroVant : public wxFrame,
     PaneDrag drag_;
     WindowPlace place_;
     std::function<void()> updateStates_ = [] {};
+    std::function<void(bool closely)> lookForChanges_ = [](bool) {};
+    wxTimer watch_{this};
+    std::array<int, MainWindowControls::statusPanels> panelWidths_{}; ///< as the toolkit takes them
     int statusLine_; ///< the height of a line that the status bar has been made for
     bool placed_ = false;
     double captionRoom_ = 1; ///< what the design's lengths are multiplied by

@@ -2,8 +2,6 @@
 
 #include "app/commands/MainCommands.h"
 
-#include <algorithm>
-
 namespace vantrel {
 
 void CommandRunner::run(const CommandRow& command, CommandPlace place) const {
@@ -26,12 +24,24 @@ bool CommandRunner::listKey(ActiveSide side, int code, bool withControl) const {
 }
 
 const CommandRow* CommandRunner::commandOf(std::string_view key) const {
-    const auto command = std::ranges::find(table_, key, &CommandRow::key);
-    return command == table_.end() ? nullptr : &*command;
+    const CommandRow* found = nullptr;
+    for (const CommandRow& command : table_) {
+        if (command.key != key)
+            continue;
+        if (isOffered(command))
+            return &command;
+        if (!found)
+            found = &command;
+    }
+    return found;
+}
+
+bool CommandRunner::isOffered(const CommandRow& command) const {
+    return commandState(command, command.offers.front().place, to_.main.input()).enabled;
 }
 
 bool CommandRunner::runIfOffered(const CommandRow& command) const {
-    if (!commandState(command, command.offers.front().place, to_.main.input()).enabled)
+    if (!isOffered(command))
         return false;
     command.run(to_);
     return true;

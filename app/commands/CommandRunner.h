@@ -10,6 +10,7 @@ namespace vantrel {
 class HelpCommands;
 class ListTransferCommands;
 class MainCommands;
+class PCFileCommands;
 
 /// The windows that commands open.
 class CommandWindows {
@@ -27,6 +28,7 @@ class CommandWindows {
 /// Who does the work of the commands in the table; everything is borrowed.
 struct CommandTargets {
     MainCommands& main;
+    PCFileCommands& files;
     ListTransferCommands& lists;
     const HelpCommands& help;
     CommandWindows& windows;
@@ -45,12 +47,14 @@ class CommandRunner {
     /// A key pressed in a pane's list, which becomes the active one, by its character code; false
     /// when the list itself handles it.
     bool listKey(ActiveSide side, int code, bool withControl) const;
-    /// The command of a key as "F5", or null.
+    /// The command of a key as "F5", of several the one that is offered now, or null.
     const CommandRow* commandOf(std::string_view key) const;
     /// Runs a command if it is offered now; false when it is not.
     bool runIfOffered(const CommandRow& command) const;
 
   private:
+    bool isOffered(const CommandRow& command) const;
+
     std::span<const CommandRow> table_;
     CommandTargets to_;
 };

@@ -3,6 +3,7 @@
 #include "app/commands/CommandRunner.h"
 #include "app/commands/HelpCommands.h"
 #include "app/commands/MainCommands.h"
+#include "app/folders/PCFileCommands.h"
 #include "app/lists/ListTransferCommands.h"
 #include "lang/MessageNumbers.h"
 
@@ -64,6 +65,22 @@ bool isControllerPaneShown(Input input, CommandPlace) {
 
 bool hasHispeed(Input input, CommandPlace) {
     return input.hispeedAvailable;
+}
+
+bool hasNamedItem(Input input, CommandPlace) {
+    return isPC(input) && input.selectedKind.has_value();
+}
+
+bool canViewOnController(Input input, CommandPlace) {
+    return !isPC(input) && input.controllerKind == FileKind::JobFile;
+}
+
+bool hasBack(Input input, CommandPlace) {
+    return input.hasBack;
+}
+
+bool hasForward(Input input, CommandPlace) {
+    return input.hasForward;
 }
 
 bool hasResult(Input input, CommandPlace) {
@@ -157,6 +174,7 @@ const std::vector<CommandRow>& table() {
         {.caption = message::menuDisplayFile,
          .tip = message::tipDisplayFile,
          .icon = "FileDisp",
+         .key = "F3",
          .offers = {{mnuFileMain, 1, "mnuFile(5)"}, {tlbMain, 3}},
          .isAvailable = isOnPC,
          .indicator = button,
@@ -284,6 +302,45 @@ const std::vector<CommandRow>& table() {
         {.caption = message::menuTestConnection,
          .offers = {{mnuToolsMain, 1, "mnuTools(1)"}, {mnuRobot, 0, "mnuRobot(0)"}},
          .run = [](Targets to) { to.windows.testConnection(); }},
+        {.caption = message::menuNewFolder,
+         .key = "F7",
+         .offers = {{mnuToolsMain, 2, "mnuNewFolder"}, {mnuRightTools, 1, "mnuRightNewFolder"}},
+         .isAvailable = isOnPC,
+         .run = [](Targets to) { to.files.newFolder(); }},
+        {.caption = message::menuRename,
+         .key = "F2",
+         .offers = {{mnuToolsMain, 2, "mnuRename"}, {mnuRightTools, 1, "mnuRightRename"}},
+         .isAvailable = hasNamedItem,
+         .run = [](Targets to) { to.files.rename(); }},
+        {.caption = message::menuViewOnController,
+         .key = "F3",
+         .offers = {{mnuToolsMain, 2, "mnuViewOnController"},
+                    {mnuRightTools, 1, "mnuRightViewOnController"}},
+         .isAvailable = canViewOnController,
+         .run = [](Targets to) { to.main.viewOnController(); }},
+        {.caption = message::menuGoToFolder,
+         .key = "Ctrl+L",
+         .offers = {{mnuToolsMain, 3, "mnuGoToFolder"}},
+         .run = [](Targets to) { to.files.goToFolder(); }},
+        {.caption = message::menuBack,
+         .key = "Alt+Left",
+         .offers = {{mnuToolsMain, 3, "mnuBack"}},
+         .isAvailable = hasBack,
+         .run = [](Targets to) { to.files.step(-1); }},
+        {.caption = message::menuForward,
+         .key = "Alt+Right",
+         .offers = {{mnuToolsMain, 3, "mnuForward"}},
+         .isAvailable = hasForward,
+         .run = [](Targets to) { to.files.step(1); }},
+        {.caption = message::menuQuickFilter,
+         .key = "Ctrl+S",
+         .offers = {{mnuToolsMain, 4, "mnuQuickFilter"}, {mnuRightTools, 3, "mnuRightQuickFilter"}},
+         .run = [](Targets to) { to.main.quickFilter(); }},
+        {.caption = message::menuOtherPane,
+         .key = "F6",
+         .offers = {{mnuToolsMain, 4, "mnuOtherPane"}},
+         .isAvailable = isControllerPaneShown,
+         .run = [](Targets to) { to.main.otherPane(); }},
         {.tip = message::tipPCPane,
          .icon = "PCButton",
          .offers = {{tlbPCButton}},
@@ -307,7 +364,8 @@ constexpr MenuHead barHeads[] = {
     {mnuOptMain, message::menuOptions},        {mnuHelpMain, message::menuHelp},
     {mnuToolsMain, message::menuTools}};
 constexpr MenuHead subHeads[] = {{mnuFileDispMain, message::menuView},
-                                 {mnuSortIconMain, message::menuSort}};
+                                 {mnuSortIconMain, message::menuSort},
+                                 {mnuRightTools, message::menuTools}};
 
 } // namespace
 

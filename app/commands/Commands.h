@@ -25,9 +25,11 @@ struct CommandInput {
     bool viewerShown = false; ///< the viewer stands in place of the controller pane
     /// Of the selected item of `lsvPC`; nothing when there is none or its name is empty.
     std::optional<FileKind> selectedKind = {};
-    int controllerFilter = 0; ///< the chosen entry of `cmbCtrlFileType`
+    std::optional<FileKind> controllerKind = {}; ///< the same of `lsvCtrl`
+    int controllerFilter = 0;                    ///< the chosen entry of `cmbCtrlFileType`
     bool JBR = false;
-    bool hasResult = false; ///< a command has ended
+    bool hasResult = false;                   ///< a command has ended
+    bool hasBack = false, hasForward = false; ///< in the history of the PC folder
 };
 
 /// The menus and tool bars, by their names.
@@ -45,6 +47,7 @@ enum class CommandPlace {
     mnuRightClick, ///< the panes' pop-up menu, and the menus in it:
     mnuFileDispMain,
     mnuSortIconMain,
+    mnuRightTools,
     tlbMain,
     tlbPC,
     tlbFile,

@@ -6,6 +6,7 @@
 #include "app/robots/Machine.h"
 #include "base/PathRules.h"
 #include "files/CommandResult.h"
+#include "files/ControllerPlace.h"
 #include "files/PaneRefresh.h"
 #include "files/PaneWindow.h"
 #include "files/Panes.h"
@@ -191,6 +192,35 @@ void MainCommands::upFolder() {
     updateStates();
 }
 
+void MainCommands::otherPane() {
+    const bool isPC = with_.state.Active == ActiveSide::PC;
+    workIn(isPC ? ActiveSide::Controller : ActiveSide::PC);
+}
+
+void MainCommands::quickFilter() {
+    with_.view.openQuickFilter(with_.state.Active);
+}
+
+void MainCommands::filterNames(ActiveSide side, const std::string& text) {
+    const auto selected = with_.panes.selectedNames(side);
+    with_.panes.setNameFilter(side, text);
+    with_.panes.fill(side);
+    with_.panes.selectNames(side, selected);
+    updateStates();
+}
+
+void MainCommands::viewOnController() {
+    const auto row = with_.window.list(ActiveSide::Controller).selectedRow();
+    if (!row || with_.state.ViewerShown)
+        return;
+    const std::string name = with_.panes.rows(ActiveSide::Controller).name(*row);
+    if (auto text = with_.transfers.peek(name)) {
+        viewer_.showText(name, controllerPlace(with_.state), std::move(*text));
+        activate(ActiveSide::PC);
+    }
+    updateStates();
+}
+
 /// Folders and files of no transferable kind may be among what is dropped: the command names them.
 bool MainCommands::canDrop(ActiveSide source) const {
     const auto& rows = with_.panes.rows(source);
@@ -234,12 +264,13 @@ void MainCommands::chooseFilter(ActiveSide side) {
 }
 
 void MainCommands::updateStates() {
+    with_.panes.showSelection();
     with_.view.showStates(input());
 }
 
-std::optional<FileKind> MainCommands::selectedKind() const {
-    const auto row = with_.window.list(ActiveSide::PC).selectedRow();
-    const auto& rows = with_.panes.rows(ActiveSide::PC);
+std::optional<FileKind> MainCommands::selectedKind(ActiveSide side) const {
+    const auto row = with_.window.list(side).selectedRow();
+    const auto& rows = with_.panes.rows(side);
     if (!row || rows.name(*row).empty())
         return std::nullopt;
     return rows.kind(*row);
@@ -257,10 +288,13 @@ CommandInput MainCommands::input() const {
         .hispeedAvailable = hispeedAvailable(state),
         .locked = state.Busy,
         .viewerShown = state.ViewerShown,
-        .selectedKind = selectedKind(),
+        .selectedKind = selectedKind(ActiveSide::PC),
+        .controllerKind = selectedKind(ActiveSide::Controller),
         .controllerFilter = with_.window.filterIndex(ActiveSide::Controller),
         .JBR = state.JBR,
         .hasResult = with_.results.last().has_value(),
+        .hasBack = with_.folder.history().hasBack(),
+        .hasForward = with_.folder.history().hasForward(),
     };
 }
 

@@ -47,6 +47,15 @@ class MainCommands {
     void openItem(ActiveSide side, std::size_t row);
     /// One folder up in the PC pane; a root stays.
     void upFolder();
+    /// The pane that is not the active one becomes it; the keyboard goes with it.
+    void otherPane();
+    /// Lets the operator type what the names of the active pane shall hold.
+    void quickFilter();
+    /// Shows only names of a pane that hold this text; an empty one shows all. What was selected
+    /// and is still shown stays selected.
+    void filterNames(ActiveSide side, const std::string& text);
+    /// Shows a job of the controller in the viewer, fetched to a temporary place for it.
+    void viewOnController();
     /// Whether something in the selection of `source` could be copied to the other pane.
     bool canDrop(ActiveSide source) const;
     /// The selection of `source` was dropped onto the other pane: what can be copied is copied.
@@ -81,7 +90,7 @@ class MainCommands {
 
   private:
     void edit(const std::string& path);
-    std::optional<FileKind> selectedKind() const;
+    std::optional<FileKind> selectedKind(ActiveSide side) const;
     void sortAnew(ActiveSide side);
     void switchTo(TransferMode mode);
     void showMode();

@@ -46,6 +46,11 @@ class MainWindowView {
     virtual void showView(ActiveSide side, std::int16_t displayType) = 0;
 
     virtual void selectAll(ActiveSide side) = 0;
+    /// Lets the operator type what the names of a pane shall hold; what stands there tells it to
+    /// `MainCommands::filterNames`.
+    virtual void openQuickFilter(ActiveSide side) = 0;
+    /// Hides that line with what stands in it, and tells nobody.
+    virtual void closeQuickFilter(ActiveSide side) = 0;
     virtual void closeWindow() = 0;
 };
 

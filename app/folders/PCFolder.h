@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/folders/FolderHistory.h"
 #include "files/FolderTree.h"
 
 #include <string>
@@ -24,6 +25,11 @@ class PCFolder {
     /// is hidden. False, untold and with everything as it was, when the folder cannot be opened.
     bool enter(const std::string& folder, FolderTree tree);
 
+    const FolderHistory& history() const { return history_; }
+    /// One folder back (-1) or forward (1) in the history, which has it. False as above; a folder
+    /// that cannot be opened is no part of the history any more.
+    bool step(int steps);
+
     /// What the folder tree shows now.
     FolderTree& tree() { return tree_; }
     /// Shows another tree for the same folder.
@@ -36,6 +42,7 @@ class PCFolder {
     MainWindowView& window_;
     FolderTreeView& treeView_;
     FolderTree tree_;
+    FolderHistory history_;
 };
 
 } // namespace vantrel

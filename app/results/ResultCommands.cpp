@@ -41,6 +41,7 @@ Repeat repeatOf(CommandKind kind) {
     case CommandKind::SaveJobs:
     case CommandKind::LoadVariables:
     case CommandKind::SaveVariables:
+    case CommandKind::CopyIntoFolder:
         break;
     }
     return nullptr;

@@ -7,14 +7,16 @@ namespace vantrel {
 
 MainProgram::MainProgram(Engine& engine, const MainWindowParts& parts)
     : panes(engine.state, engine.session, engine.table, engine.messages, parts.panes),
-      transferServices_{engine.state,    engine.session,  panes,       parts.panes, engine.table,
-                        engine.messages, engine.progress, engine.talk, results_},
+      transferServices_{engine.state, engine.session,      panes,           parts.panes,
+                        engine.table, engine.messages,     engine.progress, engine.talk,
+                        results_,     parts.moveToWasteBin},
       transfers_(transferServices_),
       folder_(engine.state, panes, engine.talk, parts.view, parts.tree),
       services_{engine.state, engine.session, panes,      transfers_, engine.messages,
                 engine.talk,  parts.panes,    parts.view, folder_,    parts.editTextFile,
                 parts.viewer, parts.printer,  results_},
       main(services_), folderTree(services_, main, parts.tree, parts.folders),
+      files(services_, main, parts.prompts, parts.folders),
       robots(services_, main, parts.robots, engine.boxes),
       settings(
           {engine.state, engine.session, panes, engine.registry, parts.robots, parts.view, main}),

@@ -3,6 +3,7 @@
 #include "app/commands/HelpCommands.h"
 #include "app/commands/MainCommands.h"
 #include "app/folders/FolderTreeCommands.h"
+#include "app/folders/PCFileCommands.h"
 #include "app/folders/PCFolder.h"
 #include "app/lists/ListTransferCommands.h"
 #include "app/results/ResultCommands.h"
@@ -25,6 +26,7 @@ class FolderTreeView;
 class ListFileWindow;
 class MainWindowView;
 class PaneWindow;
+class PromptWindow;
 class RobotBox;
 class ViewerPane;
 
@@ -41,6 +43,8 @@ struct MainWindowParts {
     FolderTreeSource folders;
     std::function<Outcome(const std::string& path)> editTextFile; ///< the system's text editor
     HelpCommands::Opener openDocument;
+    std::function<Outcome(const std::string& path)> moveToWasteBin = {};
+    PromptWindow& prompts;
 };
 
 /// Everything that works in the main window and knows no control: the panes and what the commands
@@ -67,6 +71,7 @@ class MainProgram {
   public:
     MainCommands main;
     FolderTreeCommands folderTree;
+    PCFileCommands files;
     RobotSelection robots;
     SettingCommands settings;
     ListTransferCommands lists;

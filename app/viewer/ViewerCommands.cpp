@@ -42,6 +42,14 @@ void ViewerCommands::show(const std::string& name) {
         tell(message::viewerFailed, name, text.reason());
 }
 
+void ViewerCommands::showText(const std::string& name, const std::string& folder,
+                              std::string text) {
+    file_ = {name, folder, {}};
+    text_ = std::move(text);
+    with_.viewerPane.showFile(name, text_);
+    with_.state.ViewerShown = true;
+}
+
 void ViewerCommands::hide() {
     with_.viewerPane.hideFile();
     with_.state.ViewerShown = false;

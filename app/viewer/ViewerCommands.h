@@ -50,6 +50,8 @@ class ViewerCommands {
     /// the viewer when it is shown. Without such a file nothing changes; a file that cannot be read
     /// is told. What is shown stays as it was read, whatever becomes of the settings or the file.
     void showOrHide();
+    /// Shows a text that was read already; `folder` says in print where its file is.
+    void showText(const std::string& name, const std::string& folder, std::string text);
     /// Asks, then prints the text that is displayed; says so when there is none.
     void print();
 

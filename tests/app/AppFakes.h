@@ -79,7 +79,8 @@ class LoggingPaneWindow final : public FakePaneWindow {
 
 class UnansweredQuestion final : public QuestionWindow {
   public:
-    Answer ask(const std::string&, const std::string&, const std::string&) override {
+    Answer ask(const std::string&, const std::string&, const std::string&,
+               CheckedChoice*) override {
         return Answer::Cancel;
     }
 };

@@ -20,7 +20,7 @@ class InventedCommandTest : public MainCommandsTest {
         table.push_back({.caption = 102,
                          .tip = 140,
                          .icon = "FileDisp",
-                         .key = "F7",
+                         .key = "F9",
                          .listKey = {'N', true, true},
                          .offers = {{mnuFileMain, 1, "mnuInvented"}, {tlbPC}},
                          .isAvailable = [](const CommandInput& input,
@@ -31,7 +31,7 @@ class InventedCommandTest : public MainCommandsTest {
     const CommandRow& invented() const { return table.back(); }
 
     const std::vector<CommandRow> table = tableWithOneMore();
-    CommandRunner runner{table, {main, lists, help, windows}};
+    CommandRunner runner{table, {main, files, lists, help, windows}};
 };
 
 TEST_F(InventedCommandTest, StandsWhereItsRowPutsIt) {

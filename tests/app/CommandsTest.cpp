@@ -304,8 +304,14 @@ TEST(CommandsTest, EachMenuHasItsEntriesInOrder) {
     EXPECT_THAT(contents(mnuOptMain), ElementsAre("mnuOpt(0)", "-", "mnuOpt(2)", "mnuOpt(3)",
                                                   "mnuOpt(4)", "mnuOpt(5)", "-", "mnuOpt(7)"));
     EXPECT_THAT(contents(mnuHelpMain), ElementsAre("mnuHelp(0)", "mnuVer"));
-    EXPECT_THAT(contents(mnuToolsMain), ElementsAre("mnuTools(0)", "-", "mnuTools(1)"));
     EXPECT_THAT(contents(mnuRobot), ElementsAre("mnuRobot(0)"));
+    EXPECT_THAT(contents(mnuToolsMain),
+                ElementsAre("mnuTools(0)", "-", "mnuTools(1)", "-", "mnuNewFolder", "mnuRename",
+                            "mnuViewOnController", "-", "mnuGoToFolder", "mnuBack", "mnuForward",
+                            "-", "mnuQuickFilter", "mnuOtherPane"));
+    EXPECT_THAT(contents(mnuRightTools),
+                ElementsAre("mnuRightNewFolder", "mnuRightRename", "mnuRightViewOnController", "-",
+                            "mnuRightQuickFilter"));
     EXPECT_THAT(contents(mnuRightClick),
                 ElementsAre("mnuRightFile(0)", "mnuRightFile(1)", "mnuRightFile(2)",
                             "mnuRightFile(3)", "-", "mnuRightRefresh"));
@@ -340,9 +346,10 @@ TEST(CommandsTest, CaptionsFollowTheMenuBarInItsOrder) {
         for (const auto number : captions(head.place))
             bar.push_back(number);
     }
-    EXPECT_THAT(bar, ElementsAre(101, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113,
-                                 130, 131, 132, 114, 115, 116, 117, 119, 120, 121, 122, 123, 124,
-                                 125, 126, 128, 129, 411, 412, 491));
+    EXPECT_THAT(bar,
+                ElementsAre(101, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113, 130,
+                            131, 132, 114, 115, 116, 117, 119, 120, 121, 122, 123, 124, 125, 126,
+                            128, 129, 411, 412, 491, 440, 441, 447, 442, 443, 444, 445, 446));
     EXPECT_THAT(captions(menuBar), ElementsAre(118));
 }
 
@@ -350,9 +357,10 @@ TEST(CommandsTest, ThePopUpMenuRepeatsTheMenuBarsTexts) {
     EXPECT_THAT(captions(mnuRightClick), ElementsAre(102, 103, 104, 105, 118));
     EXPECT_EQ(captions(mnuFileDispMain), captions(mnuDispMain));
     EXPECT_EQ(captions(mnuSortIconMain), captions(mnuSortMain));
-    ASSERT_EQ(popUpHeads().size(), 2U);
+    ASSERT_EQ(popUpHeads().size(), 3U);
     EXPECT_EQ(popUpHeads()[0].caption, 109);
     EXPECT_EQ(popUpHeads()[1].caption, 114);
+    EXPECT_EQ(popUpHeads()[2].caption, 411) << "what goes beyond the others is the last";
 }
 
 TEST(CommandsTest, EachButtonHasItsTip) {

@@ -10,8 +10,8 @@
 namespace vantrel {
 namespace {
 
-using testing::ElementsAre;
 using testing::Each;
+using testing::ElementsAre;
 
 constexpr const char* failed = "m405: ";
 constexpr const char* untried = "m406";
@@ -101,9 +101,8 @@ class RefusedAddressTest : public ConnectionTestTest,
 
 TEST_P(RefusedAddressTest, IsToldBeforeALinkIsOpened) {
     desk.state.CurrentRobot = robotAt(GetParam().address);
-    EXPECT_THAT(outcomesInForce(),
-                ElementsAre(done, failed + std::string(GetParam().reason), untried, untried,
-                            untried));
+    EXPECT_THAT(outcomesInForce(), ElementsAre(done, failed + std::string(GetParam().reason),
+                                               untried, untried, untried));
     EXPECT_EQ(desk.library.callCount(), 0);
     EXPECT_TRUE(desk.boxes.shown.empty());
 }
@@ -134,8 +133,9 @@ INSTANTIATE_TEST_SUITE_P(
     At, FaultyStepTest,
     testing::Values(
         FaultRow{{"Open"}, "BscOpen", {done, done, "m405: BscOpen ( -2040 )", untried, untried}},
-        FaultRow{
-            {"Connect"}, "BscConnect", {done, done, "m405: BscConnect ( -2040 )", untried, untried}},
+        FaultRow{{"Connect"},
+                 "BscConnect",
+                 {done, done, "m405: BscConnect ( -2040 )", untried, untried}},
         FaultRow{{"Answer"}, "BscFindFirst", {done, done, done, "m405: BscFind ( -2040 )", done}},
         FaultRow{{"Close"}, "BscClose", {done, done, done, done, "m405: BscClose ( -2040 )"}}),
     tests::rowName);

@@ -40,7 +40,7 @@ std::vector<std::int32_t> captionsAt(CommandPlace place) {
 /// Captions that are on the screen together, so that each key may occur only once.
 std::map<std::string, std::vector<std::int32_t>> groups() {
     std::map<std::string, std::vector<std::int32_t>> all = {
-        {"question dialog", {530, 531, 532, 533}},
+        {"question dialog", {455, 530, 531, 532, 533}},
         {"settings dialog", {320, 321, 322}},
         {"result sheet", {417, 418, 419}},
         {"connection test", {499}},

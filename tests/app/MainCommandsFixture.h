@@ -6,14 +6,18 @@
 #include "app/commands/MainServices.h"
 #include "app/commands/ModeCommands.h"
 #include "app/folders/FolderTreeCommands.h"
+#include "app/folders/PCFileCommands.h"
 #include "app/folders/PCFolder.h"
 #include "app/lists/ListTransferCommands.h"
 #include "app/viewer/ViewerCommands.h"
 #include "files/CommandFixture.h"
+#include "files/FolderScan.h"
 #include "support/NamedCommands.h"
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vantrel::tests {
@@ -41,6 +45,8 @@ class RecordingView : public MainWindowView {
         (side == ActiveSide::PC ? pcView : controllerView) = type;
     }
     void selectAll(ActiveSide side) override { selectedAll.push_back(side); }
+    void openQuickFilter(ActiveSide side) override { quickFilters.push_back(side); }
+    void closeQuickFilter(ActiveSide side) override { closedQuickFilters.push_back(side); }
     void closeWindow() override { ++closes; }
 
     std::vector<std::string> log;
@@ -52,6 +58,7 @@ class RecordingView : public MainWindowView {
     int pcView = -1;
     int controllerView = -1;
     std::vector<ActiveSide> selectedAll;
+    std::vector<ActiveSide> quickFilters, closedQuickFilters;
     int closes = 0;
 };
 
@@ -127,6 +134,25 @@ class RecordingWindows : public CommandWindows, public ListFileWindow {
     std::vector<std::string> opened;
 };
 
+/// An operator who types what the script has; as in the real window a text with something wrong is
+/// not taken, and unscripted prompts are left.
+class ScriptedPrompts : public PromptWindow {
+  public:
+    std::optional<std::string> ask(const TextPrompt& prompt) override {
+        asked.push_back(prompt);
+        if (whileOpen)
+            whileOpen();
+        const auto typed = std::exchange(answer, std::nullopt);
+        problems.push_back(typed ? prompt.problem(*typed) : std::string());
+        return problems.back().empty() ? typed : std::nullopt;
+    }
+
+    std::optional<std::string> answer;
+    std::vector<TextPrompt> asked;
+    std::vector<std::string> problems;
+    std::function<void()> whileOpen;
+};
+
 class MainCommandsTest : public CommandFixture {
   protected:
     MainCommandsTest() {
@@ -159,6 +185,9 @@ class MainCommandsTest : public CommandFixture {
     Outcome editorAnswer = Done{};
     MainCommands main{services};
     RecordingWindows windows;
+    ScriptedPrompts prompts;
+    PCFileCommands files{
+        services, main, prompts, {[] { return std::vector<Drive>(); }, subfolders}};
     ListTransferCommands lists{
         {state, session, panes, window, table, messages, progress, talk, results}, windows};
     std::vector<std::string> documents;
@@ -166,7 +195,7 @@ class MainCommandsTest : public CommandFixture {
                           documents.push_back(path);
                           return Outcome(Done{});
                       }};
-    CommandRunner runner{commandTable(), {main, lists, help, windows}};
+    CommandRunner runner{commandTable(), {main, files, lists, help, windows}};
 
     /// A command by its entry's or its button's name.
     void run(std::string_view name) const {

@@ -58,5 +58,15 @@ TEST_F(PCFolderTest, ADoubleClickShowsTheFolderAlone) {
     EXPECT_THAT(tree.nodes, ElementsAre(pc.path("inner") + " open"));
 }
 
+TEST_F(PCFolderTest, AnotherFolderIsShownWithoutTheQuickFilterOfTheLastOne) {
+    const std::string inner = pc.makeFolder("inner");
+    pc.write("inner/A.JBI", job("A"));
+    showPanes();
+    main.filterNames(ActiveSide::PC, "x");
+    EXPECT_TRUE(folder.enter(inner, FolderTree::folderOnly(inner)));
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+    EXPECT_THAT(view.closedQuickFilters, ElementsAre(ActiveSide::PC));
+}
+
 } // namespace
 } // namespace vantrel::tests

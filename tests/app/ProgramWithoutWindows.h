@@ -41,8 +41,10 @@ class ProgramWithoutWindows : private ShutdownWindows {
                            .shutdown = *this,
                            .folders = {},
                            .editTextFile = [](const std::string&) { return Done{}; },
-                           .openDocument = [](const std::string&) { return Done{}; }}),
-          runner(commandTable(), {program.main, program.lists, program.help, windows}) {}
+                           .openDocument = [](const std::string&) { return Done{}; },
+                           .prompts = prompts}),
+          runner(commandTable(),
+                 {program.main, program.files, program.lists, program.help, windows}) {}
 
     ApplicationState state;
     MessageTable messages;
@@ -55,6 +57,7 @@ class ProgramWithoutWindows : private ShutdownWindows {
     RecordingTreeView tree;
     RecordingPrinter printer;
     RecordingWindows windows;
+    ScriptedPrompts prompts;
     int libraryCalls = 0;
     Engine engine;
     MainProgram program;

@@ -250,5 +250,67 @@ TEST_F(DeleteCommandTest, ADeletedJobLeavesTheListThoughItCannotBeReadAgain) {
     EXPECT_EQ(boxes.shown.size(), 1u) << "the failed reading is told all the same";
 }
 
+class DeleteToWasteBinTest : public DeleteCommandTest {
+  protected:
+    bool remove() {
+        return TransferCommands({state, session, panes, window, table, messages, progress, talk,
+                                 results,
+                                 [this](const std::string& path) {
+                                     inBin.push_back(path);
+                                     return binAnswer;
+                                 }})
+            .deleteOnPC();
+    }
+
+    std::vector<std::string> inBin;
+    Outcome binAnswer = Done{};
+};
+
+TEST_F(DeleteToWasteBinTest, IsOfferedUnchosenAndDeletesAsEver) {
+    pcJobs();
+    question.answers = {Answer::All};
+    EXPECT_TRUE(remove());
+    ASSERT_TRUE(question.choices.front());
+    EXPECT_EQ(question.choices.front()->caption, "waste bin");
+    EXPECT_FALSE(question.choices.front()->isChecked);
+    EXPECT_THAT(inBin, IsEmpty());
+    EXPECT_FALSE(pc.has("A.JBI"));
+}
+
+TEST_F(DeleteToWasteBinTest, AChosenBinGetsTheFilesAndTheChoiceStays) {
+    pcJobs();
+    question.answers = {Answer::Yes, Answer::All};
+    question.checked = true;
+    EXPECT_TRUE(remove());
+    EXPECT_THAT(inBin, ElementsAre(pc.path("A.JBI"), pc.path("B.JBI"), pc.path("C.JBI")));
+    EXPECT_TRUE(pc.has("A.JBI")) << "the bin's to take";
+    EXPECT_TRUE(question.choices.back()->isChecked);
+}
+
+TEST_F(DeleteToWasteBinTest, AFileThatTheBinDoesNotTakeStaysAndIsTold) {
+    pcJobs();
+    window.pc.click({"A.JBI"});
+    question.answers = {Answer::Yes};
+    question.checked = true;
+    binAnswer = Failure{"no bin here"};
+    EXPECT_FALSE(remove());
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("[A.JBI] not deleted ( no bin here )"));
+}
+
+TEST_F(DeleteToWasteBinTest, ACancelledQuestionChoosesNothing) {
+    pcJobs();
+    question.checked = true;
+    EXPECT_FALSE(remove());
+    EXPECT_FALSE(state.DeletesToWasteBin);
+}
+
+TEST_F(DeleteToWasteBinTest, IsNotOfferedForTheController) {
+    robotJobs();
+    question.answers = {Answer::All};
+    EXPECT_TRUE(commands.deleteOnController());
+    EXPECT_FALSE(question.choices.front());
+}
+
 } // namespace
 } // namespace vantrel

@@ -10,6 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 using testing::UnorderedElementsAre;
 
 class PanesTest : public tests::CommandFixture {
@@ -383,6 +384,69 @@ TEST_F(PanesTest, WhenNoneIsLeftTheFillsOwnSelectionStays) {
     showPC();
     panes.selectNames(ActiveSide::PC, {"GONE.JBI"});
     EXPECT_THAT(panes.selectedNames(ActiveSide::PC), ElementsAre("A.JBI"));
+}
+
+TEST_F(PanesTest, AQuickFilterLeavesOutFoldersAndFilesByTheirNames) {
+    robot();
+    pc.makeFolder("welding");
+    pc.makeFolder("spare");
+    for (const char* name : {"WELD1", "DOOR", "aweld"})
+        pcJob(name);
+    showPanes();
+    panes.setNameFilter(ActiveSide::PC, "wELD");
+    EXPECT_TRUE(panes.fill(ActiveSide::PC));
+    EXPECT_THAT(window.pc.names, ElementsAre("welding", "aweld.JBI", "WELD1.JBI"));
+    EXPECT_EQ(window.pcStatus, "PC: 3 items");
+    panes.setNameFilter(ActiveSide::PC, "nowhere");
+    panes.fill(ActiveSide::PC);
+    EXPECT_EQ(panes.rows(ActiveSide::PC).emptiness(), EmptyPane::NothingFound);
+    panes.setNameFilter(ActiveSide::PC, "");
+    panes.fill(ActiveSide::PC);
+    EXPECT_THAT(window.pc.names, SizeIs(5));
+}
+
+TEST_F(PanesTest, TheQuickFilterOfOnePaneIsNotThatOfTheOther) {
+    robotJob("WELD");
+    robotJob("DOOR");
+    showPanes();
+    panes.setNameFilter(ActiveSide::Controller, "weld");
+    panes.fill(ActiveSide::Controller);
+    panes.fill(ActiveSide::PC);
+    EXPECT_THAT(window.controller.names, ElementsAre("WELD.JBI"));
+    pcJob("DOOR");
+    showPanes();
+    EXPECT_THAT(window.pc.names, ElementsAre("DOOR.JBI"));
+}
+
+TEST_F(PanesTest, SeveralSelectedItemsAreCountedWithTheirBytes) {
+    robot();
+    pc.write("A.JBI", std::string(1000, 'a'));
+    pc.write("B.JBI", std::string(34, 'b'));
+    pc.makeFolder("inner");
+    showPanes();
+    EXPECT_EQ(window.pcStatus, "PC: 3 items");
+    window.pc.click({"A.JBI", "B.JBI", "inner"});
+    panes.showSelection();
+    EXPECT_EQ(window.pcStatus, "PC: 3 items, 3 selected (1034)");
+    window.pc.click({"A.JBI"});
+    panes.showSelection();
+    EXPECT_EQ(window.pcStatus, "PC: 3 items");
+}
+
+TEST_F(PanesTest, NamesThatComeAndGoAreNoticedByTheFoldersDate) {
+    robot();
+    pcJob("A");
+    showPanes();
+    EXPECT_FALSE(panes.hasPCChanged());
+    std::filesystem::last_write_time(pc.path(), std::filesystem::file_time_type::clock::now() -
+                                                    std::chrono::hours(1));
+    EXPECT_TRUE(panes.hasPCChanged());
+    EXPECT_FALSE(panes.rescanPC()) << "nothing to show";
+    EXPECT_FALSE(panes.hasPCChanged());
+    pcJob("B");
+    EXPECT_TRUE(panes.hasPCChanged());
+    EXPECT_TRUE(panes.rescanPC());
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI", "B.JBI"));
 }
 
 } // namespace

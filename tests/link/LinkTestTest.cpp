@@ -34,9 +34,9 @@ TEST_F(LinkTestTest, OpensAsksAndClosesAnAddressThatIsNotInForce) {
     EXPECT_THAT(testAddress(), ElementsAre(LinkTestStep{Kind::Open}, LinkTestStep{Kind::Answer},
                                            LinkTestStep{Kind::Close}));
     EXPECT_THAT(world.library.trace(),
-                ElementsAre("BscOpen(" + world.pc.path() + ", 16)", "BscSetEther(1, 10.0.0.7, 0, 77)",
-                            "BscConnect(1)", "BscFindFirst(1, 255)", "BscDisConnect(1)",
-                            "BscClose(1)"));
+                ElementsAre("BscOpen(" + world.pc.path() + ", 16)",
+                            "BscSetEther(1, 10.0.0.7, 0, 77)", "BscConnect(1)",
+                            "BscFindFirst(1, 255)", "BscDisConnect(1)", "BscClose(1)"));
     EXPECT_EQ(world.mode, TransferMode::Bsc);
     EXPECT_EQ(world.session->IPaddress, "10.0.0.1");
 }
@@ -77,27 +77,26 @@ LinkTestStep failed(Kind kind, const char* function) {
 
 INSTANTIATE_TEST_SUITE_P(
     At, FaultyLinkTest,
-    testing::Values(
-        FaultRow{{"SetUp"}, "BscSetEther", {failed(Kind::Open, "BscSetEther")}, 0},
-        FaultRow{{"Connect"}, "BscConnect", {failed(Kind::Open, "BscConnect")}, 0},
-        FaultRow{{"Answer"},
-                 "BscFindFirst",
-                 {{Kind::Open}, failed(Kind::Answer, "BscFind"), {Kind::Close}},
-                 0},
-        FaultRow{{"Disconnect"},
-                 "BscDisConnect",
-                 {{Kind::Open}, {Kind::Answer}, failed(Kind::Close, "BscDisConnect")},
-                 1},
-        FaultRow{{"Close"},
-                 "BscClose",
-                 {{Kind::Open}, {Kind::Answer}, failed(Kind::Close, "BscClose")},
-                 1}),
+    testing::Values(FaultRow{{"SetUp"}, "BscSetEther", {failed(Kind::Open, "BscSetEther")}, 0},
+                    FaultRow{{"Connect"}, "BscConnect", {failed(Kind::Open, "BscConnect")}, 0},
+                    FaultRow{{"Answer"},
+                             "BscFindFirst",
+                             {{Kind::Open}, failed(Kind::Answer, "BscFind"), {Kind::Close}},
+                             0},
+                    FaultRow{{"Disconnect"},
+                             "BscDisConnect",
+                             {{Kind::Open}, {Kind::Answer}, failed(Kind::Close, "BscDisConnect")},
+                             1},
+                    FaultRow{{"Close"},
+                             "BscClose",
+                             {{Kind::Open}, {Kind::Answer}, failed(Kind::Close, "BscClose")},
+                             1}),
     tests::rowName);
 
 TEST_F(LinkTestTest, AnOpeningThatFailsEndsIt) {
     world.library.disturb({.function = "BscOpen", .code = -3});
-    EXPECT_THAT(testAddress(), ElementsAre(LinkTestStep{
-                                   Kind::Open, LinkFault{"BscOpen", -3, "-3"}}));
+    EXPECT_THAT(testAddress(),
+                ElementsAre(LinkTestStep{Kind::Open, LinkFault{"BscOpen", -3, "-3"}}));
     EXPECT_EQ(world.library.callCount(), 1);
 }
 

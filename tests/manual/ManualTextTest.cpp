@@ -104,6 +104,10 @@ constexpr std::pair<int, int> captionNumbers[] = {
     {message::menuTools, message::resultClose},
     {message::menuTestConnection, message::testEnd},
     {message::testCopy, message::testCopy},
+    {message::menuNewFolder, message::folderToOpen},
+    {message::toWasteBin, message::quickFilterLabel},
+    {message::resultCopied, message::resultCopied},
+    {message::closeQuickFilter, message::closeQuickFilter},
     {ofResource(message::resource::yes), ofResource(message::resource::cancel)}};
 
 bool isCaption(int number) {

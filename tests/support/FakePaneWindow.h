@@ -21,6 +21,14 @@ class FakePaneList : public PaneList {
         selected = names.empty() ? std::vector<std::size_t>{} : std::vector<std::size_t>{0};
         ++shows;
     }
+    void update(const PaneRows& rows, const std::vector<std::size_t>& wanted,
+                std::optional<std::size_t> focus) override {
+        show(rows);
+        --shows;
+        ++updates;
+        selected = wanted;
+        focused = focus;
+    }
     std::vector<std::size_t> selectedRows() const override { return selected; }
     std::optional<std::size_t> selectedRow() const override {
         if (selected.empty())
@@ -53,6 +61,7 @@ class FakePaneList : public PaneList {
     std::vector<std::size_t> selected;
     std::optional<std::size_t> focused; ///< the row with the keyboard focus
     int shows = 0;
+    int updates = 0;
     int focuses = 0;
     bool focusedWhileLocked = false;
     std::function<bool()> isLocked;

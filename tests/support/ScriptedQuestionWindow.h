@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -14,8 +15,11 @@ namespace vantrel::tests {
 /// dialog closed by its close box is.
 class ScriptedQuestionWindow : public QuestionWindow {
   public:
-    Answer ask(const std::string& title, const std::string& question,
-               const std::string& note) override {
+    Answer ask(const std::string& title, const std::string& question, const std::string& note,
+               CheckedChoice* choice) override {
+        choices.push_back(choice ? std::optional(*choice) : std::nullopt);
+        if (choice && checked)
+            choice->isChecked = *checked;
         titles.push_back(title);
         notes.push_back(note);
         questions.push_back(question);
@@ -27,7 +31,9 @@ class ScriptedQuestionWindow : public QuestionWindow {
     std::deque<Answer> answers;
     std::vector<std::string> titles;
     std::vector<std::string> questions;
-    std::vector<std::string> notes;  ///< what stood below them
+    std::vector<std::string> notes;                    ///< what stood below them
+    std::vector<std::optional<CheckedChoice>> choices; ///< as they were when it opened
+    std::optional<bool> checked;     ///< what the operator makes of a choice, if anything
     std::function<void()> whileOpen; ///< what happens while the dialog is on the screen
 
   private:

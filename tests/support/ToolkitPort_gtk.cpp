@@ -1,4 +1,5 @@
 #include "support/ToolkitPort.h"
+#include "support/TemporaryFolder.h"
 #include "support/Windows.h"
 #include "ui/Painting.h"
 
@@ -65,7 +66,11 @@ DisplayLock::~DisplayLock() {
         close(static_cast<int>(handle_));
 }
 
-void prepareToolkit() {}
+// The user's waste bin, above all, is not the tests' to fill.
+void prepareToolkit() {
+    static const TemporaryFolder userData;
+    g_setenv("XDG_DATA_HOME", userData.path().c_str(), TRUE);
+}
 
 void awaitDisplay() {
     gdk_display_sync(gdk_display_get_default());

@@ -2,6 +2,7 @@
 #include "HelpWorld.h"
 #include "ui/CommandToolBar.h"
 #include "ui/PathDisplay.h"
+#include "ui/QuickFilter.h"
 
 #include <algorithm>
 
@@ -121,6 +122,7 @@ std::string EveryCommandTest::picture() {
                       shown(*controls().lsvPC) + shown(*controls().lsvCtrl) +
                       controls().trvFolderName->GetToolTipText().utf8_string();
     for (const wxWindow* part : {static_cast<wxWindow*>(controls().fraFile.panel),
+                                 static_cast<wxWindow*>(controls().pcQuickFilter),
                                  static_cast<wxWindow*>(controls().pcHighlight)})
         all += part->IsShown() ? '+' : '-';
     for (int index = 0; index < 3; ++index)
@@ -131,6 +133,7 @@ std::string EveryCommandTest::picture() {
 
 void EveryCommandTest::prepare(const CommandRow& command) {
     hideViewer();
+    controls().pcQuickFilter->close();
     pcJob("A");
     std::filesystem::remove(folder.path("robot/A.JBI"));
     choose(*controls().lsvPC, {});
@@ -151,6 +154,16 @@ void EveryCommandTest::prepare(const CommandRow& command) {
         menu("mnuModeBsc");
     if (is("mnuTools(0)"))
         menu("mnuFile(0)");
+    if (is("mnuBack")) { // the way forward is there afterwards
+        controls().tlbPC->press("UpFolder");
+        returnToJobs();
+    }
+    if (is("mnuViewOnController")) {
+        robotJob("X");
+        choose(*controls().lsvCtrl, {});
+        menu("mnuRefresh");
+        choose(*controls().lsvCtrl, {0});
+    }
     if (is("mnuRefresh"))
         pcJob("NEW" + std::to_string(++newFiles_));
 }

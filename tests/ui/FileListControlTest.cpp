@@ -59,7 +59,8 @@ class FileListControlTest : public testing::TestWithParam<ListView> {
 };
 
 TEST_P(FileListControlTest, AnEmptyListSaysWhyInPlaceOfItems) {
-    list.setHints({"Not read", "Nothing here", "All are filtered, all of them, by a long filter"});
+    list.setHints({"Not read", "Nothing here", "All are filtered, all of them, by a long filter",
+                   "None found"});
     EXPECT_EQ(list.hint(), "");
     const auto expectEmpty = [this](const wxString& hint) {
         list.show(world.rows);
@@ -74,7 +75,7 @@ TEST_P(FileListControlTest, AnEmptyListSaysWhyInPlaceOfItems) {
     expectEmpty("Nothing here");
     list.setView(ListView::LargeIcons, Appearance::Flat);
     EXPECT_EQ(list.hint(), "Nothing here");
-    list.setHints({"1", "2", "3"});
+    list.setHints({"1", "2", "3", "4"});
     EXPECT_EQ(list.hint(), "2");
     world.fill({"A.JBI"});
     list.show(world.rows);

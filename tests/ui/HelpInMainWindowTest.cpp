@@ -96,7 +96,7 @@ TEST_F(HelpInMainWindowTest, F1IsConsumed) {
     start(false);
     EXPECT_TRUE(swallows(window(), WXK_F1));
     EXPECT_TRUE(waitFor([this] { return opened() == openings(manual); })) << opened();
-    EXPECT_FALSE(swallows(window(), WXK_F6));
+    EXPECT_FALSE(swallows(window(), WXK_F9));
 }
 
 TEST_F(HelpInMainWindowTest, F1IsRefusedWhileAnOperationRuns) {

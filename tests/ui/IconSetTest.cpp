@@ -12,11 +12,11 @@ namespace vantrel::tests {
 namespace {
 
 constexpr const char* requiredKeys[] = {
-    "FileCopy",  "FileMove",   "FileDelete",    "AllSelect",  "Refresh",    "modeHiSpeed",
-    "modeBsc",   "DispBig",    "DispSmall",     "DispList",   "DispDetail", "FileDisp",
-    "UpFolder",  "Print",      "PCButton",      "CTRLButton", "folder",     "file",
-    "filejob",   "drive",      "dropDown",      "open",       "vantrel",    "arrowToController",
-    "arrowToPC", "searchNext", "searchPrevious"};
+    "FileCopy",  "FileMove", "FileDelete", "AllSelect",     "Refresh",    "modeHiSpeed",
+    "modeBsc",   "DispBig",  "DispSmall",  "DispList",      "DispDetail", "FileDisp",
+    "UpFolder",  "Print",    "PCButton",   "CTRLButton",    "folder",     "file",
+    "filejob",   "drive",    "dropDown",   "open",          "vantrel",    "arrowToController",
+    "arrowToPC", "close",    "searchNext", "searchPrevious"};
 
 /// How many pixels of an icon differ clearly from a tool bar of this grey.
 int visiblePixels(const wxBitmap& bitmap, unsigned char grey) {

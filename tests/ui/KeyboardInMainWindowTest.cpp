@@ -30,15 +30,54 @@ class KeyboardInMainWindowTest : public testing::Test, public ProgramWorld {
     }
 };
 
-TEST_F(KeyboardInMainWindowTest, TabGoesFromPaneToPaneAndComesBack) {
+TEST_F(KeyboardInMainWindowTest, ShiftAndTabGoThroughTheWholeWindow) {
     std::vector<std::string> way{focused()};
     do {
-        pressKey(WXK_TAB);
+        pressKey(WXK_TAB, wxMOD_SHIFT);
         ASSERT_TRUE(waitFor([&] { return focused() != way.back(); })) << way.back();
         way.push_back(focused());
     } while (way.back() != way.front() && way.size() < 20);
-    EXPECT_EQ(way, (std::vector<std::string>{"lsvPC", "cmbPCFileType", "lsvCtrl", "cmbCtrlFileType",
-                                             "cmbRbtName", "trvFolderName", "Command1", "lsvPC"}));
+    EXPECT_EQ(way,
+              (std::vector<std::string>{"lsvPC", "Command1", "trvFolderName", "cmbRbtName",
+                                        "cmbCtrlFileType", "lsvCtrl", "cmbPCFileType", "lsvPC"}));
+}
+
+TEST_F(KeyboardInMainWindowTest, TabAndF6GoFromListToListWithTheActivePane) {
+    const auto expectIn = [this](const char* list, ActiveSide side) {
+        EXPECT_TRUE(waitFor([&] { return focused() == list; })) << focused();
+        EXPECT_EQ(controls().pcHighlight->IsShown(), side == ActiveSide::PC);
+    };
+    for (const int key : {int(WXK_TAB), int(WXK_F6)}) {
+        pressKey(key);
+        expectIn("lsvCtrl", ActiveSide::Controller);
+        pressKey(key);
+        expectIn("lsvPC", ActiveSide::PC);
+    }
+}
+
+/// Outside the lists it goes on through the window, as everywhere.
+TEST_F(KeyboardInMainWindowTest, TabLeavesTheOtherControlsInTheirOrder) {
+    focus(*controls().Command1);
+    pressKey(WXK_TAB);
+    EXPECT_TRUE(waitFor([this] { return focused() == "lsvPC"; }));
+    menu("mnuFile(5)"); // the viewer covers the other pane
+    focus(pcList());
+    pressKey(WXK_TAB);
+    EXPECT_TRUE(waitFor([this] { return focused() == "cmbPCFileType"; }));
+}
+
+TEST_F(KeyboardInMainWindowTest, F3ShowsTheJobOfThePaneThatIsActive) {
+    pressKey(WXK_F3);
+    EXPECT_TRUE(waitFor([this] { return controls().rtxFileDisp->IsShownOnScreen(); }));
+    EXPECT_EQ(controls().lblFileName->GetLabelText(), "A.JBI");
+    pressKey(WXK_F3);
+    EXPECT_TRUE(waitFor([this] { return !controls().rtxFileDisp->IsShownOnScreen(); }));
+    choose(*controls().lsvCtrl, {0});
+    pressKey(WXK_F3);
+    EXPECT_TRUE(waitFor([this] { return controls().rtxFileDisp->IsShownOnScreen(); }));
+    EXPECT_EQ(controls().lblFileName->GetLabelText(), "X.JBI");
+    EXPECT_TRUE(controls().pcHighlight->IsShown());
+    EXPECT_FALSE(folder.has("jobs/X.JBI")) << "no file of the PC comes of it";
 }
 
 TEST_F(KeyboardInMainWindowTest, F5ReadsTheActivePaneAnewFromEverywhere) {

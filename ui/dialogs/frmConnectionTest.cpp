@@ -73,7 +73,8 @@ void frmConnectionTest::buildList() {
 }
 
 wxSizer* frmConnectionTest::buildButtons() {
-    auto* const cmdCopy = newCaptionButton(this, messages_.getMessage(message::testCopy), "cmdCopy");
+    auto* const cmdCopy =
+        newCaptionButton(this, messages_.getMessage(message::testCopy), "cmdCopy");
     auto* const cmdOK = newCaptionButton(this, formCaption(messages_, message::ok), "cmdOK");
     cmdCopy->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { copy(); });
     cmdOK->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { EndModal(wxID_OK); });

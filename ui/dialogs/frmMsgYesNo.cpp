@@ -12,6 +12,7 @@
 
 #include <wx/bmpbndl.h>
 #include <wx/button.h>
+#include <wx/checkbox.h>
 #include <wx/iconbndl.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
@@ -28,13 +29,13 @@ constexpr std::size_t cancelIndex = std::size_t(Answer::Cancel);
 } // namespace
 
 frmMsgYesNo::frmMsgYesNo(wxWindow* parent, const std::string& title, const std::string& question,
-                         const std::string& note, const MessageTable& messages,
-                         const ApplicationState& state)
+                         const std::string& note, const CheckedChoice* choice,
+                         const MessageTable& messages, const ApplicationState& state)
     : wxDialog(parent, wxID_ANY, toWx(title), wxDefaultPosition, wxDefaultSize,
                wxCAPTION | wxCLOSE_BOX, "frmMsgYesNo") {
     SetIcons(programIcons());
     auto* const column = new wxBoxSizer(wxVERTICAL);
-    column->Add(buildQuestion(question, note, state),
+    column->Add(buildQuestion(question, note, choice, state),
                 wxSizerFlags(1).Expand().Border(wxALL, FromDIP(16)));
     column->Add(buildButtons(messages),
                 wxSizerFlags().CentreHorizontal().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(16)));
@@ -46,7 +47,7 @@ frmMsgYesNo::frmMsgYesNo(wxWindow* parent, const std::string& title, const std::
 }
 
 wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const std::string& note,
-                                    const ApplicationState& state) {
+                                    const CheckedChoice* choice, const ApplicationState& state) {
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     auto* const picture = new wxStaticBitmap(this, wxID_ANY, questionPicture());
     row->Add(picture, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(16)));
@@ -55,6 +56,12 @@ wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const std::stri
     if (!note.empty())
         texts->Add(newText(note, state, "lblPlace"),
                    wxSizerFlags().Expand().Border(wxTOP, FromDIP(8)));
+    if (choice) {
+        chkChoice_ = new wxCheckBox(this, wxID_ANY, toWx(choice->caption), wxDefaultPosition,
+                                    wxDefaultSize, 0, wxDefaultValidator, "chkChoice");
+        chkChoice_->SetValue(choice->isChecked);
+        texts->Add(chkChoice_, wxSizerFlags().Border(wxTOP, FromDIP(10)));
+    }
     row->Add(texts, wxSizerFlags(1).CentreVertical());
     return row;
 }
@@ -88,6 +95,10 @@ wxSizer* frmMsgYesNo::buildButtons(const MessageTable& messages) {
     return buttonRow(cmdYesNo_);
 }
 
+bool frmMsgYesNo::isChoiceChecked() const {
+    return chkChoice_ && chkChoice_->IsChecked();
+}
+
 void frmMsgYesNo::press(std::size_t index) {
     answerText_ = std::to_string(index);
     if (IsModal())
@@ -97,9 +108,11 @@ void frmMsgYesNo::press(std::size_t index) {
 }
 
 Answer QuestionDialogs::ask(const std::string& title, const std::string& question,
-                            const std::string& note) {
-    frmMsgYesNo dialog(dialogParent(), title, question, note, messages_, state_);
+                            const std::string& note, CheckedChoice* choice) {
+    frmMsgYesNo dialog(dialogParent(), title, question, note, choice, messages_, state_);
     dialog.ShowModal();
+    if (choice)
+        choice->isChecked = dialog.isChoiceChecked();
     const int number = dialog.answerText().at(0) - '0';
     return number >= 0 && number <= int(Answer::Cancel) ? Answer(number) : Answer::Cancel;
 }

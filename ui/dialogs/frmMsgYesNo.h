@@ -8,6 +8,7 @@
 #include <wx/dialog.h>
 
 class wxButton;
+class wxCheckBox;
 class wxStaticText;
 
 namespace vantrel {
@@ -18,24 +19,28 @@ class MessageTable;
 /// The question dialog with the answers Yes, No, All and Cancel.
 class frmMsgYesNo : public wxDialog {
   public:
-    /// `note` stands below the question, as in `QuestionWindow`; an empty one leaves no room.
+    /// `note` and `choice` stand below the question, as in `QuestionWindow`; an empty one leaves no
+    /// room.
     frmMsgYesNo(wxWindow* parent, const std::string& title, const std::string& question,
-                const std::string& note, const MessageTable& messages,
+                const std::string& note, const CheckedChoice* choice, const MessageTable& messages,
                 const ApplicationState& state);
 
     /// The number of the button that was pressed, as text. It is Cancel's until a button is
     /// pressed, so that any other end of the dialog is a Cancel.
     const std::string& answerText() const { return answerText_; }
+    /// Whether the choice is checked, if there is one.
+    bool isChoiceChecked() const;
 
   private:
     wxSizer* buildQuestion(const std::string& question, const std::string& note,
-                           const ApplicationState& state);
+                           const CheckedChoice* choice, const ApplicationState& state);
     wxStaticText* newText(const std::string& text, const ApplicationState& state,
                           const std::string& name);
     wxSizer* buildButtons(const MessageTable& messages);
     void press(std::size_t index);
 
     std::array<wxButton*, 4> cmdYesNo_{};
+    wxCheckBox* chkChoice_ = nullptr;
     std::string answerText_ = "3";
 };
 
@@ -45,8 +50,8 @@ class QuestionDialogs : public QuestionWindow {
     QuestionDialogs(const MessageTable& messages, const ApplicationState& state)
         : messages_(messages), state_(state) {}
 
-    Answer ask(const std::string& title, const std::string& question,
-               const std::string& note) override;
+    Answer ask(const std::string& title, const std::string& question, const std::string& note,
+               CheckedChoice* choice) override;
 
   private:
     const MessageTable& messages_;

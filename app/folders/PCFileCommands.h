@@ -1,0 +1,78 @@
+#pragma once
+
+#include "app/commands/MainServices.h"
+#include "app/folders/FolderTreeCommands.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace vantrel {
+
+class MainCommands;
+
+/// A line of text that the operator is asked for.
+struct TextPrompt {
+    std::int32_t title = 0; ///< message of the command's caption
+    std::string label;
+    std::string text{};       ///< what stands there at first
+    std::size_t selected = 0; ///< how much of it, from its start, typing replaces
+    /// What is wrong with a text, or nothing; the window takes no other one.
+    std::function<std::string(const std::string& text)> problem{};
+    /// What a text may be completed to, if that is offered.
+    std::function<std::vector<std::string>(const std::string& text)> completions{};
+};
+
+class PromptWindow {
+  public:
+    virtual ~PromptWindow() = default;
+    /// Nothing when the operator does not want to go on.
+    virtual std::optional<std::string> ask(const TextPrompt& prompt) = 0;
+};
+
+/// Working in the PC folder itself: what a file manager does with folders and names. Every failure
+/// is told with the name and the reason.
+class PCFileCommands {
+  public:
+    PCFileCommands(const MainServices& services, MainCommands& commands, PromptWindow& prompts,
+                   FolderTreeSource source)
+        : with_(services), commands_(commands), prompts_(prompts), source_(std::move(source)) {}
+
+    /// Makes a folder in the PC folder and selects it.
+    void newFolder();
+    /// Gives the selected file or folder another name; nothing is ever replaced by it.
+    void rename();
+    /// Opens a folder that the operator types: absolute, or below the one that is shown.
+    void goToFolder();
+    /// One folder back (-1) or forward (1) among those that were shown.
+    void step(int steps);
+
+    /// What was dropped on the PC pane from another program, by absolute paths: files are copied
+    /// into the PC folder, a single folder is opened.
+    void takeDropped(const std::vector<std::string>& paths);
+    /// The paths of what is selected in the PC pane.
+    std::vector<std::string> selectedPaths() const;
+
+    /// Shows what others have changed in the PC folder, if anything; `closely` looks at every file,
+    /// where there are not too many, else only whether names have come or gone. A folder on a
+    /// network is left alone: looking there may hang.
+    void lookForChanges(bool closely);
+
+  private:
+    std::string problemOfName(const std::string& name, const std::string& old) const;
+    void showNew(const std::string& name);
+    std::string absolute(const std::string& typed) const;
+    std::vector<std::string> completions(const std::string& typed) const;
+    void tellFailure(const std::string& name, std::int32_t messageNumber,
+                     const std::string& reason) const;
+
+    MainServices with_;
+    MainCommands& commands_;
+    PromptWindow& prompts_;
+    FolderTreeSource source_;
+};
+
+} // namespace vantrel

@@ -1,0 +1,64 @@
+#include "files/CopyIntoFolder.h"
+
+#include "base/ApplicationState.h"
+#include "base/PathRules.h"
+#include "files/CommandResult.h"
+#include "files/TransferReports.h"
+#include "lang/MessageNumbers.h"
+#include "lang/MessageTable.h"
+#include "link/OverwriteQuestion.h"
+#include "platform/Files.h"
+
+namespace vantrel {
+
+CopyIntoFolder::CopyIntoFolder(const TransferServices& services)
+    : with_(services), title_(with_.messages.getMessage(message::transferTitle)),
+      progress_(with_, title_, with_.messages.resourceMessage(message::resource::transferring),
+                {}) {}
+
+CommandOutcome CopyIntoFolder::run(const std::vector<std::string>& paths) {
+    for (std::size_t item = 0; item < paths.size() && !outcome_.cancelled; ++item) {
+        outcome_.cancelled = !progress_.next(PathRules().lastName(paths[item]), item, paths.size());
+        if (!outcome_.cancelled)
+            take(paths[item]);
+    }
+    outcome_.succeeded = outcome_.succeeded && !outcome_.cancelled;
+    return outcome_;
+}
+
+void CopyIntoFolder::take(const std::string& path) {
+    const PathRules rules;
+    const std::string name = rules.lastName(path);
+    const TransferReports reports(with_);
+    if (isFolder(path))
+        return reports.aboutFile(name, message::folderPassedOver);
+    if (rules.withSeparator(rules.parent(path)) == rules.withSeparator(with_.state.PCPath))
+        return with_.results.note(name, ItemEnd::Done);
+    if (!mayTakePlace(name))
+        return;
+    const auto content = readSettledFile(path);
+    const Outcome copied = content ? replaceFile(rules.join(with_.state.PCPath, name), *content)
+                                   : Outcome(Failure{content.reason()});
+    if (copied) {
+        outcome_.pcTouched = true;
+        return with_.results.note(name, ItemEnd::Done);
+    }
+    outcome_.succeeded = false;
+    reports.aboutFile(name, message::notCopied, copied.reason());
+}
+
+/// A folder of that name is left to the failure of the copy, which says so.
+bool CopyIntoFolder::mayTakePlace(const std::string& name) {
+    const std::string there = PathRules().join(with_.state.PCPath, name);
+    if (overwriteAll_ || !anythingExists(there) || isFolder(there))
+        return true;
+    const Overwrite overwrite{.name = name, .storedAs = {}, .pcFile = there, .isOnPC = true};
+    const Answer answer = askOverwrite(with_.talk, with_.messages, title_, overwrite);
+    overwriteAll_ = answer == Answer::All;
+    outcome_.cancelled = answer == Answer::Cancel;
+    if (answer == Answer::No)
+        with_.results.note(name, ItemEnd::Skipped, with_.messages.getMessage(message::resultKept));
+    return answer == Answer::Yes || answer == Answer::All;
+}
+
+} // namespace vantrel

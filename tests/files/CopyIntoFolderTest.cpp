@@ -1,0 +1,103 @@
+#include "files/CopyIntoFolder.h"
+
+#include "CommandFixture.h"
+
+#include <gmock/gmock.h>
+
+namespace vantrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+
+class CopyIntoFolderTest : public tests::CommandTest {
+  protected:
+    CopyIntoFolderTest() { robot(); }
+
+    std::string dropped(const std::string& name, const std::string& version = "2") {
+        return elsewhere.write(name + ".JBI", job(name, version));
+    }
+
+    tests::TemporaryFolder elsewhere;
+};
+
+TEST_F(CopyIntoFolderTest, FilesAreCopiedByteForByteAndSelected) {
+    pcJob("A");
+    showPanes();
+    const auto data = elsewhere.write("B.DAT", std::string("a\0\r\n\xFF", 5));
+    EXPECT_TRUE(commands.copyIntoFolder({dropped("C"), data}));
+    EXPECT_EQ(pc.read("B.DAT"), std::string("a\0\r\n\xFF", 5));
+    EXPECT_EQ(pc.read("C.JBI"), job("C", "2"));
+    EXPECT_THAT(window.pc.selectedNames(), ElementsAre("B.DAT", "C.JBI"));
+    EXPECT_EQ(window.result, "2 copied, 0 skipped, 0 failed");
+    EXPECT_TRUE(elsewhere.has("C.JBI")) << "a copy, not a move";
+    EXPECT_EQ(window.pc.focuses, 1);
+    EXPECT_EQ(library.callCount(), 0);
+}
+
+TEST_F(CopyIntoFolderTest, WhatIsThereIsAskedForByName) {
+    for (const char* name : {"A", "B", "C"})
+        pcJob(name);
+    showPanes();
+    question.answers = {Answer::Yes, Answer::No, Answer::Cancel};
+    EXPECT_FALSE(commands.copyIntoFolder({dropped("A"), dropped("B"), dropped("C"), dropped("D")}));
+    EXPECT_THAT(question.questions, SizeIs(3));
+    EXPECT_THAT(question.questions.front(), StartsWith("A.JBI already exists"));
+    EXPECT_EQ(pc.read("A.JBI"), job("A", "2"));
+    EXPECT_EQ(pc.read("B.JBI"), job("B"));
+    EXPECT_EQ(pc.read("C.JBI"), job("C"));
+    EXPECT_FALSE(pc.has("D.JBI"));
+    EXPECT_EQ(window.result, "1 copied, 1 skipped, 0 failed, 2 not tried, cancelled");
+}
+
+TEST_F(CopyIntoFolderTest, AllIsAskedOnce) {
+    for (const char* name : {"A", "B"})
+        pcJob(name);
+    showPanes();
+    question.answers = {Answer::All};
+    EXPECT_TRUE(commands.copyIntoFolder({dropped("A"), dropped("B")}));
+    EXPECT_THAT(question.questions, SizeIs(1));
+    EXPECT_EQ(pc.read("B.JBI"), job("B", "2"));
+}
+
+TEST_F(CopyIntoFolderTest, FoldersArePassedOverByName) {
+    showPanes();
+    EXPECT_TRUE(commands.copyIntoFolder({elsewhere.makeFolder("inner"), dropped("A")}));
+    EXPECT_THAT(boxes.texts(), ElementsAre("[inner] is a folder"));
+    EXPECT_FALSE(pc.has("inner"));
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_EQ(window.result, "1 copied, 1 skipped, 0 failed");
+}
+
+TEST_F(CopyIntoFolderTest, AFileOnItselfStaysWithoutAWord) {
+    pcJob("A");
+    showPanes();
+    EXPECT_TRUE(commands.copyIntoFolder({pc.path("A.JBI")}));
+    EXPECT_EQ(pc.read("A.JBI"), job("A"));
+    EXPECT_THAT(question.questions, IsEmpty());
+    EXPECT_THAT(boxes.texts(), IsEmpty());
+}
+
+TEST_F(CopyIntoFolderTest, AFailureIsToldAndTheOthersGoOn) {
+    pc.makeFolder("A.JBI");
+    showPanes();
+    EXPECT_FALSE(commands.copyIntoFolder({dropped("A"), elsewhere.path("gone.JBI"), dropped("B")}));
+    EXPECT_THAT(boxes.texts(), ElementsAre(StartsWith("[A.JBI] not copied ( "),
+                                           StartsWith("[gone.JBI] not copied ( ")));
+    EXPECT_TRUE(pc.has("B.JBI"));
+    EXPECT_EQ(window.result, "1 copied, 0 skipped, 2 failed");
+}
+
+TEST_F(CopyIntoFolderTest, CancelEndsItBetweenTwoFiles) {
+    showPanes();
+    pressCancelAtYield(3); // the first shows the window
+    EXPECT_FALSE(commands.copyIntoFolder({dropped("A"), dropped("B")}));
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_FALSE(pc.has("B.JBI"));
+    EXPECT_EQ(window.result, "1 copied, 0 skipped, 0 failed, 1 not tried, cancelled");
+}
+
+} // namespace
+} // namespace vantrel
