@@ -1,5 +1,5 @@
-#include "support/ToolkitPort.h"
 #include "support/TemporaryFolder.h"
+#include "support/ToolkitPort.h"
 #include "support/Windows.h"
 #include "ui/Painting.h"
 
