@@ -144,6 +144,22 @@ inline constexpr std::int32_t testAddressRefused = 498;
 inline constexpr std::int32_t testCopy = 499;
 inline constexpr std::int32_t testPortRefused = 508;
 
+// The selection as a job list file.
+inline constexpr std::int32_t menuSaveSelection = 548;
+inline constexpr std::int32_t selectionLeftOut = 556;     ///< then the names
+inline constexpr std::int32_t selectionNotListable = 557; ///< then the names
+
+// How far a transfer is and how long it may take.
+inline constexpr std::int32_t timeBytes = 549; ///< done, and all with the unit
+inline constexpr std::int32_t timeElapsed = 551;
+inline constexpr std::int32_t timeMinutesLeft = 552;
+inline constexpr std::int32_t timeMinuteLeft = 553;
+inline constexpr std::int32_t timeSecondsLeft = 554;
+inline constexpr std::int32_t timeMomentLeft = 555; ///< fewer than ten seconds
+
+// Above the list files that the list-file dialog offers.
+inline constexpr std::int32_t listFilesOffered = 559;
+
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;
 inline constexpr std::int32_t menuCopy = 102;

@@ -17,8 +17,12 @@
 #include "ui/dialogs/frmResult.h"
 #include "ui/dialogs/frmSetting.h"
 #include "ui/frmZuroVant.h"
+#include "ui/look/Captions.h"
+#include "ui/look/WxText.h"
 
 #include <utility>
+
+#include <wx/filedlg.h>
 
 namespace vantrel {
 
@@ -27,6 +31,17 @@ bool ListFileDialogs::readList(std::string_view mode) {
     frmListFile dialog(&parent_, draft, state_);
     dialog.ShowModal();
     return draft.result() == list_file_result::listRead;
+}
+
+/// Whether an existing file may be replaced is asked by the caller: what is typed without an ending
+/// is another file than the one that this dialog would ask about.
+std::optional<std::string> ListFileDialogs::askNewList(const std::string& folder,
+                                                       const std::string& name) {
+    const std::string title = withoutMnemonic(messages_.getMessage(message::menuSaveSelection));
+    wxFileDialog dialog(&parent_, toWx(title), toWx(folder), toWx(name), "*.lst", wxFD_SAVE);
+    if (dialog.ShowModal() != wxID_OK)
+        return std::nullopt;
+    return fromWx(dialog.GetPath());
 }
 
 void openLanguageDialog(wxWindow* parent, Engine& engine) {

@@ -5,6 +5,9 @@
 #include "ui/dialogs/frmMsgStat.h"
 #include "ui/look/WindowHolder.h"
 
+#include <optional>
+#include <string>
+
 class wxWindow;
 
 namespace vantrel {
@@ -19,7 +22,8 @@ class frmZuroVant;
 struct ApplicationState;
 struct TestedController;
 
-/// Opens `frmListFile` over a window, anew for each list; everything is borrowed.
+/// Opens `frmListFile` over a window, anew for each list, and the system's dialog for a new one;
+/// everything is borrowed.
 class ListFileDialogs : public ListFileWindow {
   public:
     ListFileDialogs(wxWindow& parent, ApplicationState& state, Snappy& session, MessageBoxes& boxes,
@@ -27,6 +31,8 @@ class ListFileDialogs : public ListFileWindow {
         : parent_(parent), state_(state), session_(session), boxes_(boxes), messages_(messages) {}
 
     bool readList(std::string_view mode) override;
+    std::optional<std::string> askNewList(const std::string& folder,
+                                          const std::string& name) override;
 
   private:
     wxWindow& parent_;

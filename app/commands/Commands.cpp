@@ -83,6 +83,10 @@ bool hasForward(Input input, CommandPlace) {
     return input.hasForward;
 }
 
+bool hasSelectedJob(Input input, CommandPlace) {
+    return input.jobSelected;
+}
+
 bool hasResult(Input input, CommandPlace) {
     return input.hasResult;
 }
@@ -302,6 +306,10 @@ const std::vector<CommandRow>& table() {
         {.caption = message::menuTestConnection,
          .offers = {{mnuToolsMain, 1, "mnuTools(1)"}, {mnuRobot, 0, "mnuRobot(0)"}},
          .run = [](Targets to) { to.windows.testConnection(); }},
+        {.caption = message::menuSaveSelection,
+         .offers = {{mnuToolsMain, 1, "mnuTools(2)"}},
+         .isAvailable = hasSelectedJob,
+         .run = [](Targets to) { to.lists.saveSelection(); }},
         {.caption = message::menuNewFolder,
          .key = "F7",
          .offers = {{mnuToolsMain, 2, "mnuNewFolder"}, {mnuRightTools, 1, "mnuRightNewFolder"}},

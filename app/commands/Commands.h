@@ -26,7 +26,8 @@ struct CommandInput {
     /// Of the selected item of `lsvPC`; nothing when there is none or its name is empty.
     std::optional<FileKind> selectedKind = {};
     std::optional<FileKind> controllerKind = {}; ///< the same of `lsvCtrl`
-    int controllerFilter = 0;                    ///< the chosen entry of `cmbCtrlFileType`
+    bool jobSelected = false; ///< among the items selected in the active pane is a job file
+    int controllerFilter = 0; ///< the chosen entry of `cmbCtrlFileType`
     bool JBR = false;
     bool hasResult = false;                   ///< a command has ended
     bool hasBack = false, hasForward = false; ///< in the history of the PC folder

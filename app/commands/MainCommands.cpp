@@ -3,6 +3,7 @@
 #include "app/commands/MainServices.h"
 #include "app/commands/ModeCommands.h"
 #include "app/folders/PCFolder.h"
+#include "app/lists/SelectionList.h"
 #include "app/robots/Machine.h"
 #include "base/PathRules.h"
 #include "files/CommandResult.h"
@@ -276,6 +277,15 @@ std::optional<FileKind> MainCommands::selectedKind(ActiveSide side) const {
     return rows.kind(*row);
 }
 
+bool MainCommands::isJobSelected() const {
+    const auto& rows = with_.panes.rows(with_.state.Active);
+    const PaneList& list = with_.window.list(with_.state.Active);
+    const auto isJob = [&rows](std::size_t row) { return isJobRow(rows, row); };
+    // Mostly the one that was clicked is one: then the others need not be looked through.
+    const auto meant = list.selectedRow();
+    return meant && (isJob(*meant) || std::ranges::any_of(list.selectedRows(), isJob));
+}
+
 CommandInput MainCommands::input() const {
     const auto& state = with_.state;
     return {
@@ -290,6 +300,7 @@ CommandInput MainCommands::input() const {
         .viewerShown = state.ViewerShown,
         .selectedKind = selectedKind(ActiveSide::PC),
         .controllerKind = selectedKind(ActiveSide::Controller),
+        .jobSelected = isJobSelected(),
         .controllerFilter = with_.window.filterIndex(ActiveSide::Controller),
         .JBR = state.JBR,
         .hasResult = with_.results.last().has_value(),

@@ -91,6 +91,7 @@ class MainCommands {
   private:
     void edit(const std::string& path);
     std::optional<FileKind> selectedKind(ActiveSide side) const;
+    bool isJobSelected() const;
     void sortAnew(ActiveSide side);
     void switchTo(TransferMode mode);
     void showMode();

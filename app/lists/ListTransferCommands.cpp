@@ -1,5 +1,6 @@
 #include "app/lists/ListTransferCommands.h"
 
+#include "app/lists/SelectionList.h"
 #include "base/ApplicationState.h"
 #include "base/Text.h"
 #include "files/CommandScopes.h"
@@ -92,6 +93,10 @@ void ListTransferCommands::loadVariables() {
 }
 
 /// A list in a locked window cannot take the focus, so that comes after the lock.
+void ListTransferCommands::saveSelection() const {
+    SelectionList(with_, dialog_).save();
+}
+
 void ListTransferCommands::run(std::string_view mode, std::int32_t title, CommandKind kind,
                                Transfer transfer) {
     if (!dialog_.readList(mode) || !holdsSomething(mode))

@@ -5,6 +5,7 @@
 #include "files/TransferServices.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,7 +20,7 @@ inline constexpr std::string_view saveVariables = "2"; ///< from the controller 
 inline constexpr std::string_view loadVariables = "3"; ///< from the PC to the controller
 } // namespace list_file_mode
 
-/// The list-file dialog, as the commands that need a list see it.
+/// The list-file dialogs, as the commands that need a list see it.
 class ListFileWindow {
   public:
     virtual ~ListFileWindow() = default;
@@ -27,11 +28,16 @@ class ListFileWindow {
     /// Shows it in one of the modes "0" to "3". True when the session has read the list file
     /// that was chosen; its name is then the state's `JobListFile` or `VarListFile`.
     virtual bool readList(std::string_view mode) = 0;
+
+    /// The system's dialog for a new file, with a folder and a name to begin with: the path that
+    /// the operator chose, an existing file's too, or nothing.
+    virtual std::optional<std::string> askNewList(const std::string& folder,
+                                                  const std::string& name) = 0;
 };
 
-/// The entries of the option menu that transfer whole lists: the operator names a list file, and
-/// the jobs or variables in it go to the controller or come from it. The window is locked while one
-/// runs, and failures are reported here.
+/// The commands on list files. Those of the option menu transfer whole lists: the operator names a
+/// list file, and the jobs or variables in it go to the controller or come from it. The window is
+/// locked while one runs, and failures are reported here.
 class ListTransferCommands {
   public:
     ListTransferCommands(const TransferServices& services, ListFileWindow& dialog)
@@ -41,6 +47,9 @@ class ListTransferCommands {
     void loadJobs();
     void saveVariables();
     void loadVariables();
+
+    /// The jobs selected in the active pane become a job list file.
+    void saveSelection() const;
 
   private:
     using Transfer = CommandOutcome (ListTransferCommands::*)(ListTransfer&);

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,6 +35,10 @@ class ScriptedListFile : public ListFileWindow {
         draft.setName(name);
         draft.confirm();
         return draft.result() == list_file_result::listRead;
+    }
+
+    std::optional<std::string> askNewList(const std::string&, const std::string&) override {
+        return std::nullopt;
     }
 
     std::string name; ///< empty when the operator cancels

@@ -14,6 +14,7 @@
 #include "files/FolderScan.h"
 #include "support/NamedCommands.h"
 
+#include <deque>
 #include <functional>
 #include <optional>
 #include <string>
@@ -130,7 +131,19 @@ class RecordingWindows : public CommandWindows, public ListFileWindow {
         opened.push_back("list " + std::string(mode));
         return false;
     }
+    std::optional<std::string> askNewList(const std::string& inFolder,
+                                          const std::string& name) override {
+        opened.push_back("new list " + name);
+        folder = inFolder;
+        if (newLists.empty())
+            return std::nullopt;
+        const std::string path = newLists.front();
+        newLists.pop_front();
+        return path;
+    }
 
+    std::string folder;               ///< that the dialog for a new list began in
+    std::deque<std::string> newLists; ///< the paths that the operator chooses there
     std::vector<std::string> opened;
 };
 

@@ -198,8 +198,9 @@ TEST_P(DeliveredLanguage, HasTextsThatCanBeShown) {
 }
 
 TEST_P(DeliveredLanguage, HasPlaceholdersWhereSomethingIsInserted) {
-    const std::map<int, int> inserted{{3, 1},   {10, 1},  {11, 2},  {49, 1},  {70, 1}, {390, 2},
-                                      {393, 1}, {408, 2}, {423, 2}, {449, 1}, {456, 2}};
+    const std::map<int, int> inserted{{3, 1},   {10, 1},  {11, 2},  {49, 1},  {70, 1},
+                                      {390, 2}, {393, 1}, {408, 2}, {423, 2}, {549, 2},
+                                      {551, 1}, {552, 1}, {554, 1}, {449, 1}, {456, 2}};
     for (const auto& [number, entry] : textsOf(GetParam())) {
         const auto found = inserted.find(number);
         const auto expected = found == inserted.end() ? 0 : found->second;

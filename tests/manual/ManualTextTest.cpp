@@ -108,6 +108,8 @@ constexpr std::pair<int, int> captionNumbers[] = {
     {message::toWasteBin, message::quickFilterLabel},
     {message::resultCopied, message::resultCopied},
     {message::closeQuickFilter, message::closeQuickFilter},
+    {message::menuSaveSelection, message::timeMomentLeft},
+    {message::listFilesOffered, message::listFilesOffered},
     {ofResource(message::resource::yes), ofResource(message::resource::cancel)}};
 
 bool isCaption(int number) {

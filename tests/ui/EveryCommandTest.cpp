@@ -164,6 +164,11 @@ void EveryCommandTest::prepare(const CommandRow& command) {
         menu("mnuRefresh");
         choose(*controls().lsvCtrl, {0});
     }
+    if (is("mnuTools(2)")) // the system's own window, which knows no Esc here
+        modal.answer([this](wxDialog&) {
+            dialogs_ += "file dialog\n";
+            return wxID_CANCEL;
+        });
     if (is("mnuRefresh"))
         pcJob("NEW" + std::to_string(++newFiles_));
 }

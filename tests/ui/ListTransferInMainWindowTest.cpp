@@ -2,6 +2,7 @@
 #include "ProgramWorld.h"
 #include "support/ProjectFiles.h"
 
+#include <wx/filedlg.h>
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
 
@@ -61,6 +62,30 @@ TEST_F(ListTransferInMainWindowTest, LoadsVariablesIntoTheControllerAndSavesThem
     folder.write("jobs/OTHER.LST", "B001=\r\n");
     run(saveVariables, "OTHER.LST");
     EXPECT_EQ(folder.read("jobs/OTHER.LST"), "B001=5\r\n");
+}
+
+// What it gives back can only be tried by hand: a window that is not shown has no path everywhere.
+TEST_F(ListTransferInMainWindowTest, AsksWithTheSystemsWindowWhereTheSelectionIsSaved) {
+    pcJob("A");
+    pcJob("B");
+    start(false);
+    const auto isOffered = [this] { return window().menus().find("mnuTools(2)")->IsEnabled(); };
+    choose(*controls().lsvPC, {});
+    EXPECT_TRUE(waitFor([&] { return !isOffered(); }));
+    choose(*controls().lsvPC, {0, 1});
+    EXPECT_TRUE(waitFor(isOffered));
+    modal.answer([this](wxDialog& dialog) {
+        EXPECT_EQ(dialog.GetParent(), &window());
+        const auto& system = dynamic_cast<wxFileDialog&>(dialog);
+        EXPECT_EQ(system.GetMessage(), "Save Selection as Job List");
+        EXPECT_TRUE(system.HasFlag(wxFD_SAVE));
+        EXPECT_FALSE(system.HasFlag(wxFD_OVERWRITE_PROMPT)) << "the program itself asks";
+        EXPECT_EQ(system.GetWildcard(), "*.lst");
+        return wxID_CANCEL;
+    });
+    menu("mnuTools(2)");
+    EXPECT_FALSE(folder.has("jobs/A.lst"));
+    EXPECT_TRUE(waitFor([this] { return controls().lsvPC->native().HasFocus(); }));
 }
 
 /// The same in each language, for what the dialogs show.
