@@ -1,9 +1,12 @@
 #pragma once
 
+#include "files/TransferPace.h"
 #include "files/TransferServices.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace vantrel {
 
@@ -36,9 +39,16 @@ class CommandProgress {
     bool next(const std::string& name, std::size_t item, std::size_t count);
     bool isCancelled() const;
 
+    /// From now on the progress says how far these files are, which are handled in this order, and
+    /// how long the rest may take where the PC's listing has their sizes. `wasTransferred` as for
+    /// `TransferPace`.
+    void measure(const std::vector<std::string>& names, bool onPC,
+                 TransferPace::Transferred wasTransferred);
+
   private:
     TransferServices with_;
     std::string label_;
+    std::optional<TransferPace> pace_;
 };
 
 } // namespace vantrel

@@ -39,6 +39,10 @@ ListTransfer::ListTransfer(const TransferServices& services, const std::string& 
 
 bool ListTransfer::take(const std::vector<SelectedItem>& items) {
     const auto names = TransferPermission(with_, direction_).permitted(items);
+    progress_.measure(names, direction_ == Direction::Send, [this](std::size_t item) {
+        const auto& ends = with_.session.entryEnds();
+        return item < ends.size() && ends[item] == EntryEnd::Done;
+    });
     with_.session.JobListClear();
     for (const std::string& name : names)
         with_.session.AddJobList(name);

@@ -44,6 +44,9 @@ MoveCommand::MoveCommand(const TransferServices& services, Direction direction, 
 
 CommandOutcome MoveCommand::run(const std::vector<SelectedItem>& items) {
     const auto names = movable(items);
+    progress_.measure(names, direction_ == Direction::Send, [this](std::size_t item) {
+        return item < transferred_.size() && transferred_[item];
+    });
     for (std::size_t item = 0; item < names.size(); ++item)
         if (!progress_.next(names[item], item, names.size()) || !move(names[item])) {
             outcome_.succeeded = false;
@@ -71,6 +74,7 @@ std::vector<std::string> MoveCommand::movable(const std::vector<SelectedItem>& i
 }
 
 bool MoveCommand::move(const std::string& name) {
+    transferred_.push_back(false);
     if (goesOverOwn(name)) {
         TransferReports(with_).aboutFile(name, message::nameIsAmbiguous);
         return true;
@@ -89,6 +93,7 @@ MoveCommand::Arrival MoveCommand::transfer(const std::string& name) {
     if (!callSession(name, overwrite))
         arrival = overwrite || !existsAlready() ? failed(name) : askAndTransfer(name);
     if (arrival == Arrival::Arrived) {
+        transferred_.back() = true;
         if (direction_ == Direction::Send)
             with_.results.note(name, ItemEnd::Done);
         arrived_.insert(direction_ == Direction::Send ? with_.session.lastSent().arrivesAs : name);

@@ -71,6 +71,7 @@ class MoveCommand {
     CommandOutcome outcome_;
     bool overwriteAll_ = false;
     std::vector<std::string> unreplaced_; ///< jobs deleted for files that were sent
+    std::vector<bool> transferred_;       ///< of the files handled, by their place in the list
     JobNameSet arrived_;                  ///< what this command has brought to the destination
 };
 

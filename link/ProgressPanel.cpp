@@ -25,6 +25,25 @@ std::string ProgressPanel::place() const {
     return usualPlace_ ? usualPlace_() : std::string();
 }
 
+void ProgressPanel::setPace(Pace pace) {
+    pace_ = std::move(pace);
+    paceText_.clear();
+    workedBefore_ = {};
+    if (clock_)
+        visibleSince_ = clock_();
+}
+
+std::chrono::milliseconds ProgressPanel::worked() const {
+    return visible_ && clock_ ? workedBefore_ + (clock_() - visibleSince_) : workedBefore_;
+}
+
+void ProgressPanel::setVisible(bool visible) {
+    workedBefore_ = worked();
+    if (clock_)
+        visibleSince_ = clock_();
+    visible_ = visible;
+}
+
 void ProgressPanel::showCancelButton(bool shown) {
     cancelButtonShown_ = shown;
     refresh();
@@ -38,20 +57,20 @@ void ProgressPanel::showBar(bool shown) {
 void ProgressPanel::show(std::string message) {
     message_ = std::move(message);
     clearCancel();
-    visible_ = true;
+    setVisible(true);
     refresh();
     yield();
 }
 
 void ProgressPanel::showAgain() {
-    visible_ = true;
+    setVisible(true);
     refresh();
 }
 
 void ProgressPanel::hide() {
     if (!visible_)
         return;
-    visible_ = false;
+    setVisible(false);
     if (view_)
         view_->refresh(*this);
 }
@@ -70,13 +89,15 @@ void ProgressPanel::yield() {
 }
 
 void ProgressPanel::unload() {
-    visible_ = false;
+    setVisible(false);
     if (ProgressView* const view = std::exchange(view_, nullptr))
         view->unload();
 }
 
 // Texts that change while nobody sees them are painted when the window comes back.
 void ProgressPanel::refresh() {
+    if (pace_)
+        paceText_ = pace_(item_, count_, worked());
     if (view_ && visible_)
         view_->refresh(*this);
 }

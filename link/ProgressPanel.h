@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -38,6 +39,14 @@ class ProgressPanel {
     void setUsualPlace(std::function<std::string()> usual) { usualPlace_ = std::move(usual); }
     /// The line for the command under way, which may be empty; nothing for the usual one.
     void setPlace(std::optional<std::string> place);
+    /// The time from any beginning; without a clock none passes.
+    using Clock = std::function<std::chrono::milliseconds()>;
+    void setClock(Clock clock) { clock_ = std::move(clock); }
+    /// The line that says how far the work is, of the step that is shown and of the time that the
+    /// window has been visible since this call: what the operator takes for an answer is no work.
+    /// It is asked whenever the window is brought in line, from the next time on.
+    using Pace = std::function<std::string(int item, int count, std::chrono::milliseconds worked)>;
+    void setPace(Pace pace);
     void showCancelButton(bool shown);
     void showBar(bool shown);
 
@@ -69,6 +78,7 @@ class ProgressPanel {
     const std::string& waitingFor() const { return waitingFor_; }
     const std::string& cancelCaption() const { return cancelCaption_; }
     std::string place() const;
+    const std::string& pace() const { return paceText_; }
     bool cancelButtonShown() const { return cancelButtonShown_; }
     bool barShown() const { return barShown_; }
     int item() const { return item_; }
@@ -76,6 +86,8 @@ class ProgressPanel {
 
   private:
     void refresh();
+    void setVisible(bool visible);
+    std::chrono::milliseconds worked() const;
 
     ProgressView* view_ = nullptr;
     std::string title_;
@@ -86,6 +98,11 @@ class ProgressPanel {
     std::string cancelCaption_;
     std::string cancelText_;
     bool pressKept_ = false;
+    Clock clock_;
+    Pace pace_;
+    std::string paceText_;
+    std::chrono::milliseconds workedBefore_{0};
+    std::chrono::milliseconds visibleSince_{0};
     bool visible_ = false;
     bool cancelButtonShown_ = true;
     bool barShown_ = true;

@@ -6,9 +6,18 @@
 #include "lang/SystemReasons.h"
 #include "platform/Environment.h"
 
+#include <chrono>
 #include <utility>
 
 namespace vantrel {
+namespace {
+
+std::chrono::milliseconds steadyTime() {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::steady_clock::now().time_since_epoch());
+}
+
+} // namespace
 
 Engine::Engine(EngineGround ground)
     : executable(std::move(ground.executable)), programFolder(PathRules().parent(executable)),
@@ -31,6 +40,7 @@ Engine::Engine(EngineGround ground)
                .unloadWindows = std::move(ground.unloadWindows),
                .modeChanged = std::move(ground.modeChanged)}) {
     progress.setUsualPlace([this] { return fromController(state); });
+    progress.setClock(ground.clock ? std::move(ground.clock) : steadyTime);
 }
 
 std::string Engine::libraryProblem() {

@@ -35,6 +35,7 @@ struct EngineGround {
     std::function<void()> unloadWindows = {}; ///< the session quits
     std::function<void()> modeChanged = {};   ///< the session was told another mode by name
     Zurolink* library = nullptr;              ///< in place of the one in the program's folder
+    ProgressPanel::Clock clock = {};          ///< in place of the system's steady one
 };
 
 /// The program without its windows: texts, settings, registry, file table, library and session,

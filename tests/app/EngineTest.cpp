@@ -46,5 +46,19 @@ TEST_F(EngineTest, ALibraryThatIsMissingIsToldInTheLanguageInForce) {
                             "\n" + reasonInLanguage(windowless_.messages, tests::noSuchFile())));
 }
 
+TEST_F(EngineTest, TheProgressTellsTheTimeByAClock) {
+    ProgressPanel& progress = windowless_.engine.progress;
+    std::chrono::milliseconds seen{-1};
+    progress.show("working");
+    windowless_.now += std::chrono::seconds(5);
+    progress.setPace([&seen](int, int, std::chrono::milliseconds worked) {
+        seen = worked;
+        return std::string();
+    });
+    windowless_.now += std::chrono::seconds(3);
+    progress.step("still working", 0, 1, "");
+    EXPECT_EQ(seen, std::chrono::seconds(3));
+}
+
 } // namespace
 } // namespace vantrel

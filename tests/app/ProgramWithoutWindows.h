@@ -4,6 +4,7 @@
 #include "app/start/Engine.h"
 #include "app/start/MainProgram.h"
 
+#include <chrono>
 #include <string>
 
 namespace vantrel::tests {
@@ -30,7 +31,8 @@ class ProgramWithoutWindows : private ShutdownWindows {
                   .questions = question,
                   .executable = executable,
                   .beforeLibraryCall = [this] { ++libraryCalls; },
-                  .dummyWindow = [] { return nullptr; }}),
+                  .dummyWindow = [] { return nullptr; },
+                  .clock = [this] { return now; }}),
           program(engine, {.panes = window,
                            .view = view,
                            .robots = box,
@@ -46,6 +48,7 @@ class ProgramWithoutWindows : private ShutdownWindows {
           runner(commandTable(),
                  {program.main, program.files, program.lists, program.help, windows}) {}
 
+    std::chrono::milliseconds now{0}; ///< by the engine's clock
     ApplicationState state;
     MessageTable messages;
     FakeMessageBoxes boxes;

@@ -145,5 +145,54 @@ TEST(ProgressPanelPress, OnlyTheCancelButtonSetsIt) {
     EXPECT_FALSE(panel.isCancelled());
 }
 
+struct ProgressPaceTest : ProgressPanelTest {
+    std::chrono::milliseconds now{1000};
+
+    ProgressPaceTest() {
+        panel.setClock([this] { return now; });
+    }
+    void pace() {
+        panel.setPace([](int item, int count, std::chrono::milliseconds worked) {
+            return std::to_string(item) + "/" + std::to_string(count) + " " +
+                   std::to_string(worked.count());
+        });
+    }
+};
+
+TEST_F(ProgressPaceTest, FollowsTheStepsAndTheTimeSinceItWasSet) {
+    panel.show("working");
+    now += std::chrono::milliseconds(50);
+    pace();
+    now += std::chrono::milliseconds(7);
+    panel.step("next", 1, 3, "");
+    EXPECT_EQ(view.pictures.back().pace, "1/3 7");
+    panel.setPace({});
+    panel.step("last", 2, 3, "");
+    EXPECT_EQ(view.pictures.back().pace, "");
+}
+
+TEST_F(ProgressPaceTest, NoTimePassesWhileTheWindowIsHidden) {
+    pace();
+    now += std::chrono::milliseconds(100);
+    panel.show("working");
+    EXPECT_EQ(view.pictures.back().pace, "0/0 0");
+    now += std::chrono::milliseconds(3);
+    panel.hide();
+    now += std::chrono::milliseconds(500);
+    panel.showAgain();
+    EXPECT_EQ(view.pictures.back().pace, "0/0 3");
+    now += std::chrono::milliseconds(4);
+    panel.show("next");
+    EXPECT_EQ(view.pictures.back().pace, "0/0 7");
+}
+
+TEST_F(ProgressPaceTest, WithoutAClockNoTimePasses) {
+    panel.setClock({});
+    panel.show("working");
+    pace();
+    panel.step("next", 1, 3, "");
+    EXPECT_EQ(panel.pace(), "1/3 0");
+}
+
 } // namespace
 } // namespace vantrel

@@ -20,12 +20,13 @@ class RecordingProgressView : public ProgressView {
         bool bar;
         int item;
         int count;
+        std::string pace;
     };
 
     void refresh(const ProgressPanel& panel) override {
         pictures.push_back({panel.isVisible(), panel.title(), panel.message(), panel.waitingFor(),
                             panel.cancelButtonShown(), panel.barShown(), panel.item(),
-                            panel.count()});
+                            panel.count(), panel.pace()});
     }
     void yield() override {
         ++yields;

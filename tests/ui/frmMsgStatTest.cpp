@@ -47,6 +47,24 @@ TEST_P(frmMsgStatTest, ShowsWhatThePanelHolds) {
     const auto& bar = control<wxGauge>(*window, "pgbInf");
     EXPECT_EQ(bar.GetRange(), 5);
     EXPECT_EQ(bar.GetValue(), 2);
+    EXPECT_EQ(labelOf(*window, "lblPace"), "");
+    panel.setPlace("→ LINE1 WELD (192.168.0.11)");
+    panel.setPace([this](int item, int count, std::chrono::milliseconds) {
+        EXPECT_EQ(item, 2);
+        EXPECT_EQ(count, 5);
+        const std::string joint = messages.getMessage(409);
+        return messages.getMessageWithInsertion(549, "1048576", "2097152 KB") + joint +
+               messages.getMessageWithInsertion(552, "120") + joint +
+               messages.getMessageWithInsertion(551, "2:00:35");
+    });
+    panel.showAgain();
+    EXPECT_FALSE(panel.pace().empty());
+    EXPECT_EQ(labelOf(*window, "lblPace"), panel.pace());
+    EXPECT_GT(control<wxStaticText>(*window, "lblPace").GetPosition().y,
+              control<wxStaticText>(*window, "lblPlace").GetPosition().y);
+    const auto& line = control<wxStaticText>(*window, "lblPace");
+    EXPECT_LE(line.GetTextExtent(line.GetLabelText()).x, line.GetClientSize().x)
+        << "shortened in its middle";
     expectNothingCutOff(*window);
     saveScreenshot(*window, "progress-" + language());
 }

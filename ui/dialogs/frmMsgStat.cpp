@@ -70,6 +70,7 @@ void frmMsgStat::buildControls() {
         new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblWaiting");
     lblPlace_ =
         new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblPlace");
+    lblPace_ = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblPace");
     cmdCancel_ = newCaptionButton(this, "", "cmdCancel");
 
     const int gap = FromDIP(8);
@@ -83,6 +84,8 @@ void frmMsgStat::buildControls() {
     column->Add(lblWaiting_, whole);
     column->AddSpacer(gap);
     column->Add(lblPlace_, whole);
+    column->AddSpacer(gap);
+    column->Add(lblPace_, whole);
     column->AddSpacer(2 * gap);
     column->Add(cmdCancel_, wxSizerFlags().CentreHorizontal().ReserveSpaceEvenIfHidden());
     auto* const margins = new wxBoxSizer(wxVERTICAL);
@@ -137,6 +140,7 @@ void frmMsgStat::showTexts(const ProgressPanel& panel) {
     showText(*lblMsg_, panel.message());
     showText(*lblWaiting_, panel.waitingFor());
     showText(*lblPlace_, panel.place());
+    showText(*lblPace_, panel.pace());
     const auto caption = toWx(panel.cancelCaption());
     if (!caption.empty() && cmdCancel_->GetLabel() != caption)
         cmdCancel_->SetLabel(caption);

@@ -58,6 +58,7 @@ class frmMsgStat : public wxDialog, public ProgressView {
     wxGauge* pgbInf_ = nullptr;
     wxStaticText* lblWaiting_ = nullptr;
     wxStaticText* lblPlace_ = nullptr;
+    wxStaticText* lblPace_ = nullptr;
     wxButton* cmdCancel_ = nullptr;
     bool placed_ = false;
 };
