@@ -12,6 +12,9 @@
 #include "link/ShownText.h"
 #include "link/Snappy.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace vantrel {
 namespace {
 
@@ -22,6 +25,14 @@ bool holdsWildcard(std::string_view name) {
     return name.find_first_of("*?") != std::string_view::npos;
 }
 
+bool isListFile(const std::string& name) {
+    constexpr std::string_view ending = ".lst";
+    return name.size() > ending.size() && PathRules::isPlainName(name) &&
+           equalsIgnoringAsciiCase(std::string_view(name).substr(name.size() - ending.size()),
+                                   ending) &&
+           !equalsIgnoringAsciiCase(name, "LocalJob.lst");
+}
+
 } // namespace
 
 ListFileDraft::ListFileDraft(ApplicationState& state, Snappy& session, MessageBoxes& boxes,
@@ -30,6 +41,16 @@ ListFileDraft::ListFileDraft(ApplicationState& state, Snappy& session, MessageBo
     const auto& last = isForVariables() ? state_.VarListFile : state_.JobListFile;
     if (!holdsWildcard(last))
         name_ = last;
+    findOffered();
+}
+
+void ListFileDraft::findOffered() {
+    const FolderListing& listing = state_.PCListing;
+    for (std::size_t entry = 0; entry < listing.Names.size(); ++entry)
+        if (listing.Sizes[entry] != FolderListing::folderSize && isListFile(listing.Names[entry]))
+            offered_.push_back(listing.Names[entry]);
+    std::ranges::sort(offered_, {},
+                      [](const std::string& name) { return std::pair(asciiUpper(name), name); });
 }
 
 bool ListFileDraft::isForVariables() const {
@@ -69,6 +90,36 @@ std::string ListFileDraft::okCaption() const {
 
 std::string ListFileDraft::cancelCaption() const {
     return formCaption(messages_, message::cancel, answerCaption(messages_, Answer::Cancel));
+}
+
+std::string ListFileDraft::offeredLabel() const {
+    return messages_.getMessage(message::listFilesOffered);
+}
+
+std::optional<std::size_t> ListFileDraft::nearest() const {
+    const auto same = std::ranges::find(offered_, completedName());
+    if (same != offered_.end())
+        return std::size_t(same - offered_.begin());
+    const std::string begun = asciiUpper(trimmed(name_));
+    const auto first = std::ranges::find_if(offered_, [&begun](const std::string& name) {
+        return asciiUpper(name).starts_with(begun);
+    });
+    return first == offered_.end() ? std::nullopt
+                                   : std::optional(std::size_t(first - offered_.begin()));
+}
+
+bool ListFileDraft::isOffered(std::size_t place) const {
+    return place < offered_.size() && offered_[place] == completedName();
+}
+
+std::optional<std::string> ListFileDraft::neighbour(int step) const {
+    const auto place = nearest();
+    if (!place)
+        return std::nullopt;
+    const bool atEnd = step < 0 ? *place == 0 : *place + 1 == offered_.size();
+    if (!isOffered(*place) || atEnd)
+        return offered_[*place];
+    return offered_[step < 0 ? *place - 1 : *place + 1];
 }
 
 bool ListFileDraft::canConfirm() const {

@@ -2,8 +2,11 @@
 
 #include "app/lists/ListTransferCommands.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vantrel {
 
@@ -39,6 +42,18 @@ class ListFileDraft {
     const std::string& name() const { return name_; }
     void setName(std::string name) { name_ = std::move(name); }
 
+    /// The folder's list files as the PC pane knows them, by name. Which of them hold jobs and
+    /// which variables only their content tells, so all are offered; "LocalJob.lst" is none of
+    /// either.
+    const std::vector<std::string>& offered() const { return offered_; }
+    std::string offeredLabel() const;
+    /// The place of the name among them: the file itself, or the first that begins with it.
+    std::optional<std::size_t> nearest() const;
+    bool isOffered(std::size_t place) const;
+    /// The file that an arrow key brings: from one that is offered the next, or with -1 the one
+    /// before it, from the beginning of a name the first that begins with it.
+    std::optional<std::string> neighbour(int step) const;
+
     /// Off while the name is empty or not a plain one: a wildcard, another folder.
     bool canConfirm() const;
     /// The name without outer blanks, with ".lst" at its end when it holds no ".".
@@ -53,6 +68,7 @@ class ListFileDraft {
 
   private:
     bool isForVariables() const;
+    void findOffered();
     bool readList(const std::string& file);
     void tellWhyNotRead(const std::string& file) const;
 
@@ -62,6 +78,7 @@ class ListFileDraft {
     const MessageTable& messages_;
     std::string mode_;
     std::string name_;
+    std::vector<std::string> offered_;
     std::string result_{list_file_result::listNotRead};
 };
 

@@ -20,7 +20,7 @@ class ListFileDraftTest : public testing::Test {
         state.PCPath = world.pc.path();
         world.session->path = "/elsewhere";
         std::vector<MessageEntry> entries;
-        for (const int number : {19, 20, 21, 22, 23, 24, 45, 53, 325, 326})
+        for (const int number : {19, 20, 21, 22, 23, 24, 45, 53, 325, 326, 559})
             entries.push_back({std::int16_t(number), "", "text " + std::to_string(number)});
         messages.replace(entries);
     }
@@ -258,6 +258,71 @@ TEST_F(ListFileDraftTest, AWildcardIsNotConfirmedWhateverAsksForIt) {
     EXPECT_EQ(confirmed(list_mode::saveJobs, "*.lst").result(), "0");
     EXPECT_EQ(world.session->path, "/elsewhere");
     EXPECT_THAT(world.boxes.shown, IsEmpty());
+}
+
+class OfferedListFiles : public ListFileDraftTest {
+  protected:
+    OfferedListFiles() {
+        auto& listing = state.PCListing;
+        for (const char* name : {"weld.lst", "A.JBI", "Door.LST", "LocalJob.lst", "localjob.LST",
+                                 "door2.lst", ".lst", "lst", "vars.lst.txt"})
+            listing.append(name, 7, {});
+        listing.append("folder.lst", FolderListing::folderSize, {});
+    }
+
+    /// What the arrow key brings after this was typed.
+    std::optional<std::string> after(const std::string& typed, int step) {
+        auto typing = draft(list_mode::loadJobs);
+        typing.setName(typed);
+        return typing.neighbour(step);
+    }
+};
+
+TEST_F(OfferedListFiles, AreThoseOfThePaneByName) {
+    for (const auto mode : {list_mode::saveJobs, list_mode::loadVariables})
+        EXPECT_THAT(draft(mode).offered(), ElementsAre("Door.LST", "door2.lst", "weld.lst"));
+    EXPECT_EQ(draft(list_mode::saveJobs).offeredLabel(), "text 559");
+    EXPECT_EQ(draft(list_mode::saveJobs).name(), "") << "offered is not chosen";
+}
+
+TEST_F(OfferedListFiles, AreWalkedThroughByTheArrowKeys) {
+    EXPECT_EQ(after("", 1), "Door.LST");
+    EXPECT_EQ(after("Door.LST", 1), "door2.lst");
+    EXPECT_EQ(after("door2", 1), "weld.lst") << "completed as it is when it is confirmed";
+    EXPECT_EQ(after("weld.lst", 1), "weld.lst");
+    EXPECT_EQ(after("weld.lst", -1), "door2.lst");
+    EXPECT_EQ(after("Door.LST", -1), "Door.LST");
+}
+
+TEST_F(OfferedListFiles, CompleteTheBeginningOfAName) {
+    EXPECT_EQ(after("W", 1), "weld.lst");
+    EXPECT_EQ(after("w", -1), "weld.lst");
+    EXPECT_EQ(after("dOOR", 1), "Door.LST");
+    EXPECT_EQ(after("x", 1), std::nullopt);
+    state.PCListing.clear();
+    EXPECT_EQ(after("", 1), std::nullopt);
+}
+
+TEST_F(OfferedListFiles, TellWhichOneIsNamed) {
+    auto typing = draft(list_mode::loadJobs);
+    typing.setName("we");
+    EXPECT_EQ(typing.nearest(), 2U);
+    EXPECT_FALSE(typing.isOffered(2));
+    typing.setName(" weld ");
+    EXPECT_EQ(typing.nearest(), 2U);
+    EXPECT_TRUE(typing.isOffered(2));
+    EXPECT_FALSE(typing.isOffered(1));
+    typing.setName("elsewhere");
+    EXPECT_EQ(typing.nearest(), std::nullopt);
+}
+
+TEST_F(OfferedListFiles, EachKindKeepsTheNameThatWasReadLast) {
+    world.pc.write("weld.lst", "A.JBI\n");
+    world.pc.write("vars.lst", "B001=1\n");
+    EXPECT_EQ(confirmed(list_mode::saveJobs, "weld").result(), "1");
+    EXPECT_EQ(confirmed(list_mode::loadVariables, "vars").result(), "1");
+    EXPECT_EQ(draft(list_mode::loadJobs).name(), "weld.lst");
+    EXPECT_EQ(draft(list_mode::saveVariables).name(), "vars.lst");
 }
 
 } // namespace

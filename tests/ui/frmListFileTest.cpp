@@ -3,6 +3,9 @@
 #include "DialogTest.h"
 #include "app/lists/ListFileDraft.h"
 #include "link/SessionWorld.h"
+#include "support/Choices.h"
+
+#include <wx/listbox.h>
 
 namespace vantrel::tests {
 namespace {
@@ -146,6 +149,94 @@ TEST_P(frmListFileTest, StartsWithTheLastListFileSelected) {
     EXPECT_TRUE(control<wxButton>(preset, "cmdOK").IsEnabled());
 }
 
+/// In a folder with list files.
+class frmListFileOffering : public frmListFileTest {
+  public:
+    ListFileDraft offering() {
+        for (const char* name : {"weld.lst", "jobs.lst", "door.lst", "A.JBI"})
+            state.PCListing.append(name, 7, {});
+        return {state, *world.session, world.boxes, messages, list_mode::saveJobs};
+    }
+    wxListBox& list() { return control<wxListBox>(window, "lstOffered"); }
+    std::string typed() { return control<wxTextCtrl>(window, "txtFile").GetValue().utf8_string(); }
+    std::string chosen() { return list().GetStringSelection().utf8_string(); }
+
+    ListFileDraft offer = offering();
+    frmListFile window{nullptr, offer, state};
+};
+
+TEST_P(frmListFileTest, WithoutListFilesNoneAreOffered) {
+    EXPECT_FALSE(dialog.FindWindow("lstOffered"));
+    EXPECT_FALSE(dialog.FindWindow("lblOffered"));
+}
+
+TEST_P(frmListFileOffering, ShowsTheFoldersListFilesBelowTheField) {
+    EXPECT_EQ(labelOf(window, "lblOffered"), messages.getMessage(559));
+    const wxArrayString names = list().GetStrings();
+    ASSERT_EQ(names.size(), 3U);
+    EXPECT_EQ(names[0], "door.lst");
+    EXPECT_EQ(names[2], "weld.lst");
+    EXPECT_EQ(chosen(), "");
+    EXPECT_EQ(typed(), "");
+    whileModal(window, [&] {
+        EXPECT_GT(list().GetPosition().y, control<wxTextCtrl>(window, "txtFile").GetPosition().y);
+        expectNothingCutOff(window);
+        type(window, "txtFile", "jobs");
+        EXPECT_EQ(chosen(), "jobs.lst");
+        saveScreenshot(window, "list-file-offering-" + language());
+        type(window, "txtFile", "job");
+        EXPECT_EQ(chosen(), "") << "another name";
+        click(window, "cmdCancel");
+    });
+}
+
+TEST_P(frmListFileOffering, AClickTakesTheNameAndADoubleClickReadsIt) {
+    whileModal(window, [&] {
+        pick(list(), 1);
+        EXPECT_EQ(typed(), "jobs.lst");
+        EXPECT_TRUE(control<wxButton>(window, "cmdOK").IsEnabled());
+        pick(list(), 1, wxEVT_LISTBOX_DCLICK);
+    });
+    EXPECT_EQ(offer.result(), "1");
+    EXPECT_EQ(world.session->JobList(0), "A.JBI");
+}
+
+TEST_P(frmListFileOffering, TheArrowKeysTakeOneAfterTheOther) {
+    whileModal(window, [&] {
+        auto& text = control<wxTextCtrl>(window, "txtFile");
+        ASSERT_TRUE(waitFor([&] { return window.IsActive() && text.HasFocus(); }));
+        pressKey(WXK_DOWN);
+        EXPECT_TRUE(waitFor([&] { return typed() == "door.lst"; }));
+        pressKey(WXK_DOWN);
+        EXPECT_TRUE(waitFor([&] { return typed() == "jobs.lst"; }));
+        EXPECT_EQ(chosen(), "jobs.lst");
+        EXPECT_EQ(text.GetStringSelection(), "jobs.lst") << "the next letter begins anew";
+        EXPECT_TRUE(text.HasFocus());
+        pressKey(WXK_UP);
+        EXPECT_TRUE(waitFor([&] { return typed() == "door.lst"; }));
+        pressKey(WXK_DOWN);
+        EXPECT_TRUE(waitFor([&] { return typed() == "jobs.lst"; }));
+        pressKey(WXK_RETURN);
+        waitFor([&] { return !isOpen(window); });
+    });
+    EXPECT_EQ(offer.result(), "1");
+}
+
+TEST_P(frmListFileOffering, EnterInTheListReadsItOnce) {
+    whileModal(window, [&] {
+        pick(list(), 2);
+        ASSERT_EQ(typed(), "weld.lst");
+        list().SetFocus();
+        ASSERT_TRUE(waitFor([&] { return window.IsActive() && list().HasFocus(); }));
+        pressKey(WXK_RETURN);
+        waitFor([&] { return !isOpen(window); });
+    });
+    outwaitToolkit();
+    EXPECT_EQ(offer.result(), "0");
+    EXPECT_EQ(world.boxes.shown.size(), 1U) << "weld.lst is gone from the disk";
+}
+
+INSTANTIATE_TEST_SUITE_P(In, frmListFileOffering, bothLanguages, languageName);
 INSTANTIATE_TEST_SUITE_P(In, frmListFileTest, bothLanguages, languageName);
 
 } // namespace

@@ -11,6 +11,7 @@
 
 #include <wx/button.h>
 #include <wx/iconbndl.h>
+#include <wx/listbox.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
@@ -22,6 +23,7 @@ namespace {
 /// Device-independent pixels.
 constexpr int contentWidth = 360;
 constexpr int folderIconSize = 16;
+constexpr int offeredHeight = 96;
 
 } // namespace
 
@@ -67,6 +69,16 @@ wxSizer* frmListFile::buildTexts() {
                               wxDefaultValidator, "txtFile");
     column->Add(txtFile_, wxSizerFlags().Expand().Border(wxTOP, FromDIP(4)));
     column->Add(label(draft_.hint(), "lblMsg"), wxSizerFlags().Border(wxTOP, FromDIP(6)));
+    if (draft_.offered().empty())
+        return column;
+    column->Add(label(draft_.offeredLabel(), "lblOffered"),
+                wxSizerFlags().Border(wxTOP, FromDIP(14)));
+    lstOffered_ = new wxListBox(this, wxID_ANY, wxDefaultPosition,
+                                FromDIP(wxSize(contentWidth, offeredHeight)), 0, nullptr,
+                                wxLB_SINGLE | wxLB_NEEDED_SB, wxDefaultValidator, "lstOffered");
+    for (const std::string& name : draft_.offered())
+        lstOffered_->Append(toWx(name));
+    column->Add(lstOffered_, wxSizerFlags(1).Expand().Border(wxTOP, FromDIP(4)));
     return column;
 }
 
@@ -83,6 +95,19 @@ void frmListFile::bindEvents() {
         draft_.setName(fromWx(txtFile_->GetValue()));
         refresh();
     });
+    txtFile_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
+        const int key = event.GetKeyCode();
+        if (event.HasAnyModifiers() || (key != WXK_DOWN && key != WXK_UP))
+            event.Skip();
+        else if (const auto name = draft_.neighbour(key == WXK_DOWN ? 1 : -1))
+            take(*name);
+    });
+    if (lstOffered_) {
+        lstOffered_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent& event) {
+            take(draft_.offered().at(std::size_t(event.GetSelection())));
+        });
+        lstOffered_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { confirm(); });
+    }
     txtFile_->Bind(wxEVT_TEXT_ENTER, [this](wxCommandEvent&) { confirm(); });
     cmdOK_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { confirm(); });
     // The close box and Esc press this one too.
@@ -93,8 +118,17 @@ void frmListFile::bindEvents() {
     swallowF1(*this);
 }
 
+/// Selected, so that the next letter typed begins another name.
+void frmListFile::take(const std::string& name) {
+    txtFile_->ChangeValue(toWx(name));
+    txtFile_->SelectAll();
+    draft_.setName(name);
+    refresh();
+}
+
 void frmListFile::confirm() {
-    if (!draft_.canConfirm())
+    // Some systems tell of Enter in a list as of a double click, and press the button too.
+    if (!draft_.canConfirm() || !IsModal())
         return;
     draft_.confirm();
     EndModal(wxID_OK);
@@ -102,6 +136,14 @@ void frmListFile::confirm() {
 
 void frmListFile::refresh() {
     cmdOK_->Enable(draft_.canConfirm());
+    if (!lstOffered_)
+        return;
+    const auto nearest = draft_.nearest();
+    if (nearest)
+        lstOffered_->EnsureVisible(int(*nearest));
+    const int row = nearest && draft_.isOffered(*nearest) ? int(*nearest) : wxNOT_FOUND;
+    if (lstOffered_->GetSelection() != row)
+        lstOffered_->SetSelection(row);
 }
 
 } // namespace vantrel

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <string>
+
 #include <wx/dialog.h>
 
 class wxButton;
+class wxListBox;
 class wxTextCtrl;
 
 namespace vantrel {
@@ -19,11 +22,13 @@ class frmListFile : public wxDialog {
     wxSizer* buildTexts();
     wxSizer* buildButtons();
     void bindEvents();
+    void take(const std::string& name);
     void confirm();
     void refresh();
 
     ListFileDraft& draft_;
     wxTextCtrl* txtFile_ = nullptr;
+    wxListBox* lstOffered_ = nullptr; ///< null where the folder has no list file
     wxButton* cmdOK_ = nullptr;
 };
 
