@@ -306,9 +306,9 @@ TEST(CommandsTest, EachMenuHasItsEntriesInOrder) {
     EXPECT_THAT(contents(mnuHelpMain), ElementsAre("mnuHelp(0)", "mnuVer"));
     EXPECT_THAT(contents(mnuRobot), ElementsAre("mnuRobot(0)"));
     EXPECT_THAT(contents(mnuToolsMain),
-                ElementsAre("mnuTools(0)", "-", "mnuTools(1)", "mnuTools(2)", "-", "mnuNewFolder", "mnuRename",
-                            "mnuViewOnController", "-", "mnuGoToFolder", "mnuBack", "mnuForward",
-                            "-", "mnuQuickFilter", "mnuOtherPane"));
+                ElementsAre("mnuTools(0)", "-", "mnuTools(1)", "mnuTools(2)", "-", "mnuNewFolder",
+                            "mnuRename", "mnuViewOnController", "-", "mnuGoToFolder", "mnuBack",
+                            "mnuForward", "-", "mnuQuickFilter", "mnuOtherPane"));
     EXPECT_THAT(contents(mnuRightTools),
                 ElementsAre("mnuRightNewFolder", "mnuRightRename", "mnuRightViewOnController", "-",
                             "mnuRightQuickFilter"));
