@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace vantrel {
 
@@ -136,6 +137,28 @@ std::string PathRules::lastName(std::string_view path) const {
         return std::string(lastComponent(withoutTrailingSeparators(path, style_), style_));
     const std::string root = drive(path);
     return root.empty() ? std::string(1, separator()) : root;
+}
+
+std::string PathRules::resolved(std::string_view path) const {
+    const bool isWindows = style_ == PathStyle::Windows;
+    const std::string start = isWindows ? drive(path) : std::string();
+    path.remove_prefix(start.size());
+    std::vector<std::string> names;
+    while (!path.empty()) {
+        const std::size_t end = std::min(path.find_first_of(separators()), path.size());
+        std::string_view name = path.substr(0, end);
+        path.remove_prefix(std::min(end + 1, path.size()));
+        if (name == ".." && !names.empty())
+            names.pop_back();
+        while (isWindows && !name.empty() && (name.back() == '.' || name.back() == ' '))
+            name.remove_suffix(1);
+        if (!name.empty() && name != "." && name != "..")
+            names.emplace_back(name);
+    }
+    std::string resolved = start + separator();
+    for (const std::string& name : names)
+        resolved = join(resolved, name);
+    return resolved;
 }
 
 std::string PathRules::drive(std::string_view path) const {

@@ -6,6 +6,7 @@
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/FetchMark.h"
 #include "link/OverwriteQuestion.h"
 #include "platform/Files.h"
 
@@ -32,8 +33,11 @@ void CopyIntoFolder::take(const std::string& path) {
     const TransferReports reports(with_);
     if (isFolder(path))
         return reports.aboutFile(name, message::folderPassedOver);
-    if (rules.withSeparator(rules.parent(path)) == rules.withSeparator(with_.state.PCPath))
+    if (isInPCFolder(path))
         return with_.results.note(name, ItemEnd::Done);
+    // What stands under its name is half of a file, and would be put in its place again.
+    if (anythingExists(rules.join(with_.state.PCPath, FetchMark::fileNameFor(name))))
+        return reports.aboutFile(name, message::fetchNotFinished);
     if (!mayTakePlace(name))
         return;
     const auto content = readSettledFile(path);
@@ -41,20 +45,30 @@ void CopyIntoFolder::take(const std::string& path) {
                                    : Outcome(Failure{content.reason()});
     if (copied) {
         outcome_.pcTouched = true;
+        brought_.insert(comparedName(name));
         return with_.results.note(name, ItemEnd::Done);
     }
     outcome_.succeeded = false;
     reports.aboutFile(name, message::notCopied, copied.reason());
 }
 
-/// A folder of that name is left to the failure of the copy, which says so.
+bool CopyIntoFolder::isInPCFolder(const std::string& path) const {
+    const auto compared = [](const std::string& folder) {
+        return comparedName(PathRules().resolved(folder));
+    };
+    return compared(PathRules().parent(path)) == compared(with_.state.PCPath);
+}
+
+/// A folder of that name is left to the failure of the copy, which says so. All was not meant for
+/// what the command itself has brought from another folder.
 bool CopyIntoFolder::mayTakePlace(const std::string& name) {
     const std::string there = PathRules().join(with_.state.PCPath, name);
-    if (overwriteAll_ || !anythingExists(there) || isFolder(there))
+    const bool replacesOwn = brought_.contains(comparedName(name));
+    if ((overwriteAll_ && !replacesOwn) || !anythingExists(there) || isFolder(there))
         return true;
     const Overwrite overwrite{.name = name, .storedAs = {}, .pcFile = there, .isOnPC = true};
     const Answer answer = askOverwrite(with_.talk, with_.messages, title_, overwrite);
-    overwriteAll_ = answer == Answer::All;
+    overwriteAll_ = overwriteAll_ || answer == Answer::All;
     outcome_.cancelled = answer == Answer::Cancel;
     if (answer == Answer::No)
         with_.results.note(name, ItemEnd::Skipped, with_.messages.getMessage(message::resultKept));

@@ -4,6 +4,7 @@
 #include "files/TransferServices.h"
 
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace vantrel {
@@ -20,6 +21,7 @@ class CopyIntoFolder {
 
   private:
     void take(const std::string& path);
+    bool isInPCFolder(const std::string& path) const;
     bool mayTakePlace(const std::string& name);
 
     TransferServices with_;
@@ -27,6 +29,7 @@ class CopyIntoFolder {
     CommandProgress progress_;
     CommandOutcome outcome_;
     bool overwriteAll_ = false;
+    std::unordered_set<std::string> brought_; ///< names as the system compares them
 };
 
 } // namespace vantrel

@@ -65,23 +65,40 @@ bool Panes::hasPCChanged() const {
 bool Panes::rescanPC() {
     const std::int64_t changedAt = namesChangedAt(state_.PCPath);
     Result<FolderListing> scanned = scanFolder(state_.PCPath);
+    if (scanned && session_.settleInterruptedFetches(state_.PCPath, scanned->Names))
+        scanned = scanFolder(state_.PCPath);
     if (!scanned)
         return false;
     pcNamesChangedAt_ = changedAt;
     if (hasSameEntries(*scanned, state_.PCListing))
         return false;
-    const std::vector<std::string> selected = selectedNames(ActiveSide::PC);
-    const auto focused = window_.list(ActiveSide::PC).selectedRow();
-    const std::string focusedName = focused ? rows(ActiveSide::PC).name(*focused) : std::string();
+    const Choice kept = choice(ActiveSide::PC);
     takeEntries(state_.PCListing, std::move(*scanned));
-    fillRows(ActiveSide::PC);
-    pcRows_.sort();
-    const auto focusedNow = rowsOf(ActiveSide::PC, {focusedName});
-    window_.list(ActiveSide::PC)
-        .update(pcRows_, rowsOf(ActiveSide::PC, selected),
-                focusedNow.empty() ? std::nullopt : std::optional(focusedNow.front()));
-    showCount(ActiveSide::PC);
+    showChanged(ActiveSide::PC, kept);
     return true;
+}
+
+void Panes::filterNames(ActiveSide side, std::string text) {
+    const Choice kept = choice(side);
+    setNameFilter(side, std::move(text));
+    showChanged(side, kept);
+}
+
+Panes::Choice Panes::choice(ActiveSide side) const {
+    Choice choice{selectedNames(side), {}};
+    if (const auto row = window_.list(side).selectedRow())
+        choice.focused.push_back(rows(side).name(*row));
+    return choice;
+}
+
+/// Without a yield, and so without another order than the one that is shown.
+void Panes::showChanged(ActiveSide side, const Choice& kept) {
+    fillRows(side);
+    changeableRows(side).sort();
+    const auto focused = rowsOf(side, kept.focused);
+    window_.list(side).update(rows(side), rowsOf(side, kept.selected),
+                              focused.empty() ? std::nullopt : std::optional(focused.front()));
+    showCount(side);
 }
 
 Result<FolderListing> Panes::lookAt(const std::string& folder) {
@@ -211,6 +228,10 @@ void Panes::selectNames(ActiveSide side, const std::vector<std::string>& names) 
     const auto found = rowsOf(side, names);
     if (!found.empty())
         window_.list(side).select(found);
+}
+
+void Panes::selectOnly(ActiveSide side, const std::vector<std::string>& names) {
+    window_.list(side).select(rowsOf(side, names));
 }
 
 std::vector<std::size_t> Panes::rowsOf(ActiveSide side,

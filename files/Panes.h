@@ -48,6 +48,9 @@ class Panes {
     bool fill(ActiveSide side);
     /// From the next fill on the pane shows only names that hold this text; an empty one shows all.
     void setNameFilter(ActiveSide side, std::string text);
+    /// The same, shown at once and without letting events in: what is typed meanwhile is typed into
+    /// this very text. What was selected and is still shown stays selected, and nothing else is.
+    void filterNames(ActiveSide side, std::string text);
     /// Puts the rows in the order of the listing's sort state and shows them.
     void sort(ActiveSide side);
     void showCount(ActiveSide side);
@@ -63,10 +66,19 @@ class Panes {
     std::vector<std::string> selectedNames(ActiveSide side) const;
     /// Selects the rows that have one of these names, if any is still there.
     void selectNames(ActiveSide side, const std::vector<std::string>& names);
+    /// Selects the rows that have one of these names and no others, be there none.
+    void selectOnly(ActiveSide side, const std::vector<std::string>& names);
 
   private:
     Result<FolderListing> lookAt(const std::string& folder);
     bool fillRows(ActiveSide side);
+    /// What an operator has chosen in a pane, by names.
+    struct Choice {
+        std::vector<std::string> selected;
+        std::vector<std::string> focused; ///< one or none
+    };
+    Choice choice(ActiveSide side) const;
+    void showChanged(ActiveSide side, const Choice& kept);
     std::vector<std::size_t> rowsOf(ActiveSide side, const std::vector<std::string>& names) const;
     std::string selectionText() const;
     PaneRows& changeableRows(ActiveSide side);

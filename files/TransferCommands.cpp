@@ -85,7 +85,7 @@ bool TransferCommands::copyIntoFolder(const std::vector<std::string>& paths) {
         outcome = CopyIntoFolder(with_).run(paths);
         refresh.refreshTouched(outcome);
         showResult(outcome.cancelled);
-        with_.panes.selectNames(ActiveSide::PC, namesOf(*with_.results.last(), ItemEnd::Done));
+        with_.panes.selectOnly(ActiveSide::PC, namesOf(*with_.results.last(), ItemEnd::Done));
     }
     with_.window.list(ActiveSide::PC).focus();
     return outcome.succeeded;

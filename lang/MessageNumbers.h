@@ -255,6 +255,7 @@ inline constexpr std::int32_t notCopied = 460; ///< after [name], then (reason)
 inline constexpr std::int32_t notViewed = 461; ///< after [name], then (reason)
 inline constexpr std::int32_t closeQuickFilter = 463;
 inline constexpr std::int32_t noSuchFolder = 464;
+inline constexpr std::int32_t fetchNotFinished = 465; ///< after [name]
 
 // The settings dialog.
 inline constexpr std::int32_t settingsTitle = 300;

@@ -3,9 +3,11 @@
 #include "ui/OperationGuard.h"
 #include "ui/look/WxText.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <wx/dataobj.h>
+#include <wx/dialog.h>
 #include <wx/dnd.h>
 #include <wx/window.h>
 
@@ -25,11 +27,11 @@ class Payload : public wxCustomDataObject {
 class PaneDropTarget : public wxDropTarget {
   public:
     PaneDropTarget(PaneDrag& drag, ActiveSide side)
-        : drag_(drag), side_(side), files_(new wxFileDataObject) {
-        auto* const data = new wxDataObjectComposite;
-        data->Add(new Payload, true);
-        data->Add(files_);
-        SetDataObject(data);
+        : drag_(drag), side_(side), data_(new wxDataObjectComposite), files_(new wxFileDataObject) {
+        // The data of a drag that began here are never asked for.
+        data_->Add(files_, true);
+        data_->Add(new Payload);
+        SetDataObject(data_);
     }
 
     wxDragResult OnDragOver(wxCoord, wxCoord, wxDragResult) override {
@@ -45,7 +47,10 @@ class PaneDropTarget : public wxDropTarget {
 
   private:
     bool dropFiles() {
-        if (!drag_.acceptsFiles(side_) || !GetData())
+        // Another instance's controller pane offers no files, and what came last stays in the
+        // object.
+        if (!drag_.acceptsFiles(side_) || !GetData() ||
+            data_->GetReceivedFormat() != wxDataFormat(wxDF_FILENAME))
             return false;
         std::vector<std::string> paths;
         for (const wxString& path : files_->GetFilenames())
@@ -55,7 +60,8 @@ class PaneDropTarget : public wxDropTarget {
 
     PaneDrag& drag_;
     ActiveSide side_;
-    wxFileDataObject* files_; ///< owned by the composite
+    wxDataObjectComposite* data_; ///< owned by the target
+    wxFileDataObject* files_;     ///< owned by the composite
 };
 
 } // namespace
@@ -97,8 +103,14 @@ bool PaneDrag::accepts(ActiveSide target) const {
     return source_ && *source_ != target && !guard_.isLocked() && canDrop && canDrop(*source_);
 }
 
+/// Some systems let a drop through to a window whose dialog waits for an answer, which was asked
+/// about what the window shows.
 bool PaneDrag::acceptsFiles(ActiveSide target) const {
-    return !source_ && target == ActiveSide::PC && !guard_.isLocked();
+    const bool isDialogOpen = std::ranges::any_of(wxTopLevelWindows, [](wxWindow* window) {
+        const auto* const dialog = dynamic_cast<wxDialog*>(window);
+        return dialog && dialog->IsModal();
+    });
+    return !source_ && target == ActiveSide::PC && !guard_.isLocked() && !isDialogOpen;
 }
 
 bool PaneDrag::dropFiles(ActiveSide target, const std::vector<std::string>& paths) {

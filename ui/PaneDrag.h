@@ -36,6 +36,7 @@ class PaneDrag {
     /// What a drag consists of: `drag` runs while the source is remembered.
     void whileDragging(ActiveSide source, const std::function<void()>& drag);
 
+    bool isDragging() const { return source_.has_value(); }
     /// Whether a drop on this pane would be taken.
     bool accepts(ActiveSide target) const;
     /// A drop on this pane; false when it is not taken.

@@ -1,3 +1,4 @@
+#include "base/PathRules.h"
 #include "platform/Files.h"
 #include "ui/WasteBin.h"
 #include "ui/look/WxText.h"
@@ -7,8 +8,21 @@
 
 namespace vantrel {
 
-/// Where a disk has no bin the system asks itself before it deletes for good.
+namespace {
+
+/// Only a disk that stays has a bin; elsewhere the system would delete for good.
+bool hasBin(const std::string& path) {
+    const std::string drive = PathRules().drive(path);
+    return drive.size() == 2 &&
+           ::GetDriveTypeW((toWx(drive) + "\\").wc_str()) == DRIVE_FIXED;
+}
+
+} // namespace
+
+/// Before it deletes something too large for the bin the system asks itself.
 Outcome moveToWasteBin(const std::string& path) {
+    if (!hasBin(path))
+        return Failure{"Operation not permitted"};
     std::wstring names = toWx(path).ToStdWstring();
     names.push_back(L'\0'); // a list of names ends with an empty one
     SHFILEOPSTRUCTW operation{};

@@ -151,6 +151,10 @@ void frmZuroVant::bindEvents() {
         event.Skip();
         lay();
     });
+    controls_.stsFileInf->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        CallAfter(&frmZuroVant::sharePanels);
+    });
     Bind(wxEVT_CLOSE_WINDOW, &frmZuroVant::close, this);
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
         event.Skip();
@@ -223,15 +227,21 @@ void frmZuroVant::bindPane(ActiveSide side, MainCommands& commands, const Comman
 void frmZuroVant::watchPCFolder() {
     constexpr int interval = 2000; // milliseconds; a look costs one question to the system
     Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
-        if (IsShownOnScreen() && !IsIconized())
+        // Rows do not move below a pointer that is about to choose one.
+        const bool isPointing = drag_.isDragging() || wxGetMouseState().LeftIsDown();
+        if (IsShownOnScreen() && !IsIconized() && !isPointing)
             lookForChanges_(false);
     });
     // Editors change a file in place, which the folder's own date does not tell; whoever has worked
     // in one comes back to this window.
     Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
         event.Skip();
-        if (event.GetActive())
-            CallAfter([this] { lookForChanges_(true); });
+        CallAfter([this, isActive = event.GetActive()] {
+            if (isActive && std::exchange(wasLeft_, false))
+                lookForChanges_(true);
+            else if (!isActive && !wxGetActiveWindow())
+                wasLeft_ = true;
+        });
     });
     watch_.Start(interval);
 }
@@ -357,6 +367,8 @@ void frmZuroVant::sharePanels() {
     const int notice = hasNotice ? needed(panelNotice) : -shares[panelNotice];
     const int sum = hasNotice ? 11 : 12;
     const int rest = bar.GetSize().x - std::max(notice, 0);
+    if (rest <= 0)
+        return; // the bar has no size yet
     const int pc = needed(panelPC);
     const int widths[MainWindowControls::statusPanels] = {
         pc > rest * shares[panelPC] / sum ? pc : -shares[panelPC], -shares[panelController], notice,

@@ -123,6 +123,7 @@ class frmZuroVant : public wxFrame,
     std::function<void()> updateStates_ = [] {};
     std::function<void(bool closely)> lookForChanges_ = [](bool) {};
     wxTimer watch_{this};
+    bool wasLeft_ = false; ///< for another program, since it was looked for changes closely
     std::array<int, MainWindowControls::statusPanels> panelWidths_{}; ///< as the toolkit takes them
     int statusLine_; ///< the height of a line that the status bar has been made for
     bool placed_ = false;

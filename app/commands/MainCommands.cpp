@@ -203,10 +203,7 @@ void MainCommands::quickFilter() {
 }
 
 void MainCommands::filterNames(ActiveSide side, const std::string& text) {
-    const auto selected = with_.panes.selectedNames(side);
-    with_.panes.setNameFilter(side, text);
-    with_.panes.fill(side);
-    with_.panes.selectNames(side, selected);
+    with_.panes.filterNames(side, text);
     updateStates();
 }
 

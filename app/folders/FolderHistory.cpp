@@ -23,9 +23,14 @@ void FolderHistory::step(int steps) {
 }
 
 void FolderHistory::forgetNeighbour(int steps) {
-    folders_.erase(folders_.begin() + std::ptrdiff_t(indexOf(steps)));
+    const auto place = folders_.begin() + std::ptrdiff_t(indexOf(steps));
+    folders_.erase(place);
     if (steps < 0)
         --at_;
+    // What stood on its other side may be the folder that is shown.
+    const std::size_t beyond = indexOf(steps);
+    if (beyond < folders_.size() && folders_[beyond] == folders_[at_])
+        forgetNeighbour(steps);
 }
 
 std::size_t FolderHistory::indexOf(int steps) const {

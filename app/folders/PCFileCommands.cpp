@@ -4,16 +4,15 @@
 #include "app/folders/PCFolder.h"
 #include "base/PathRules.h"
 #include "base/TextCase.h"
-#include "files/PaneRefresh.h"
 #include "files/PaneWindow.h"
 #include "files/Panes.h"
 #include "files/TransferCommands.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "lang/SystemReasons.h"
+#include "link/FetchMark.h"
 #include "link/OperatorTalk.h"
 #include "link/ShownText.h"
-#include "platform/Drives.h"
 #include "platform/Files.h"
 
 namespace vantrel {
@@ -28,13 +27,15 @@ std::size_t endOfStem(const std::string& name) {
 } // namespace
 
 void PCFileCommands::newFolder() {
-    const auto name = prompts_.ask(
-        {.title = message::menuNewFolder,
-         .label = with_.messages.getMessage(message::newFolderName),
-         .problem = [this](const std::string& text) { return problemOfName(text, {}); }});
+    const std::string folder = with_.state.PCPath;
+    const auto name = prompts_.ask({.title = message::menuNewFolder,
+                                    .label = with_.messages.getMessage(message::newFolderName),
+                                    .problem = [this, folder](const std::string& text) {
+                                        return problemOfName(folder, text, {});
+                                    }});
     if (!name)
         return;
-    if (const Outcome made = createFolder(PathRules().join(with_.state.PCPath, *name)); !made)
+    if (const Outcome made = createFolder(PathRules().join(folder, *name)); !made)
         return tellFailure(*name, message::folderNotMade, made.reason());
     showNew(*name);
 }
@@ -44,45 +45,64 @@ void PCFileCommands::rename() {
     const PaneRows& rows = std::as_const(with_.panes).rows(ActiveSide::PC);
     if (!row || rows.name(*row).empty())
         return;
+    const std::string folder = with_.state.PCPath;
     const std::string old = rows.name(*row);
     const bool isFolder = rows.kind(*row) == FileKind::Folder;
+    if (isBeingFetched(folder, old))
+        return with_.talk.tell(bracketed(old) +
+                                   with_.messages.getMessage(message::fetchNotFinished),
+                               BoxIcon::Exclamation);
     const auto name = prompts_.ask(
         {.title = message::menuRename,
          .label = with_.messages.getMessageWithInsertion(message::newNameOf, shownText(old)),
          .text = old,
          .selected = isFolder ? old.size() : endOfStem(old),
-         .problem = [this, old](const std::string& text) { return problemOfName(text, old); }});
+         .problem = [this, folder, old](const std::string& text) {
+             return problemOfName(folder, text, old);
+         }});
     if (!name || *name == old)
         return;
     const PathRules rules;
-    if (const Outcome renamed = renameToFree(rules.join(with_.state.PCPath, old),
-                                             rules.join(with_.state.PCPath, *name));
-        !renamed)
+    const Outcome renamed = renameToFree(rules.join(folder, old), rules.join(folder, *name));
+    if (!renamed)
         return tellFailure(old, message::notRenamed, renamed.reason());
     showNew(*name);
 }
 
-/// Whoever makes a name makes one that both systems can hold.
-std::string PCFileCommands::problemOfName(const std::string& name, const std::string& old) const {
+/// A mark finds its file by the name: under another one half a file would look like a whole one.
+bool PCFileCommands::isBeingFetched(const std::string& folder, const std::string& name) const {
+    return FetchMark::isFileName(name) ||
+           anythingExists(PathRules().join(folder, FetchMark::fileNameFor(name)));
+}
+
+/// Whoever makes a name makes one that both systems can hold. Whether it is taken is left to the
+/// system on a network, where it may answer slowly.
+std::string PCFileCommands::problemOfName(const std::string& folder, const std::string& name,
+                                          const std::string& old) const {
     if (name == old)
         return {};
     if (!PathRules::isPlainName(name))
         return with_.messages.getMessage(message::nameUnusable);
     const bool isOwn = comparedName(name) == comparedName(old);
-    if (!isOwn && anythingExists(PathRules().join(with_.state.PCPath, name)))
+    if (!isOwn && !source_.isOnNetwork(folder) && anythingExists(PathRules().join(folder, name)))
         return with_.messages.getMessage(message::nameTaken);
     return {};
 }
 
+/// A quick filter that hides it ends: the operator would look for it in vain.
 void PCFileCommands::showNew(const std::string& name) {
     with_.transfers.refresh(ActiveSide::PC);
-    with_.panes.selectNames(ActiveSide::PC, {name});
+    with_.panes.selectOnly(ActiveSide::PC, {name});
+    if (with_.panes.selectedNames(ActiveSide::PC).empty()) {
+        with_.view.closeQuickFilter(ActiveSide::PC);
+        with_.panes.filterNames(ActiveSide::PC, {});
+        with_.panes.selectOnly(ActiveSide::PC, {name});
+    }
     commands_.workIn(ActiveSide::PC);
     commands_.updateStates();
 }
 
 void PCFileCommands::goToFolder() {
-    const PathRules rules;
     const auto typed = prompts_.ask(
         {.title = message::menuGoToFolder,
          .label = with_.messages.getMessage(message::folderToOpen),
@@ -96,15 +116,16 @@ void PCFileCommands::goToFolder() {
          .completions = [this](const std::string& text) { return completions(text); }});
     if (!typed)
         return;
-    const std::string folder = rules.withoutTrailingSeparator(absolute(*typed));
+    const std::string folder = absolute(*typed);
     commands_.openPCFolder(folder, FolderTree::driveAndFolder(folder));
     commands_.workIn(ActiveSide::PC);
     commands_.updateStates();
 }
 
+/// In one spelling, since folders are told apart by it.
 std::string PCFileCommands::absolute(const std::string& typed) const {
     const PathRules rules;
-    return rules.isAbsolute(typed) ? typed : rules.join(with_.state.PCPath, typed);
+    return rules.resolved(rules.isAbsolute(typed) ? typed : rules.join(with_.state.PCPath, typed));
 }
 
 /// Nothing is read on a network while the operator types.
@@ -116,7 +137,7 @@ std::vector<std::string> PCFileCommands::completions(const std::string& typed) c
     const std::string head = typed.substr(0, start);
     const std::string folder = absolute(head);
     std::vector<std::string> found;
-    if (isOnNetwork(folder))
+    if (source_.isOnNetwork(folder))
         return found;
     const std::string part = upperCase(typed.substr(start));
     for (const std::string& name : source_.subfolders(folder))
@@ -129,8 +150,10 @@ void PCFileCommands::step(int steps) {
     const FolderHistory& history = with_.folder.history();
     if (steps < 0 ? !history.hasBack() : !history.hasForward())
         return;
+    const std::string folder = history.neighbour(steps);
     if (!with_.folder.step(steps))
-        with_.talk.tell(folderNotRead, BoxIcon::Exclamation);
+        with_.talk.tell(with_.messages.getMessage(message::folderNotOpened) + bracketed(folder),
+                        BoxIcon::Exclamation);
     commands_.workIn(ActiveSide::PC);
     commands_.updateStates();
 }
@@ -139,10 +162,12 @@ void PCFileCommands::takeDropped(const std::vector<std::string>& paths) {
     if (paths.empty() || with_.state.Busy)
         return;
     commands_.activate(ActiveSide::PC);
-    if (paths.size() == 1 && isFolder(paths.front()))
-        commands_.openPCFolder(paths.front(), FolderTree::driveAndFolder(paths.front()));
-    else
+    if (paths.size() == 1 && isFolder(paths.front())) {
+        const std::string folder = PathRules().resolved(paths.front());
+        commands_.openPCFolder(folder, FolderTree::driveAndFolder(folder));
+    } else {
         with_.transfers.copyIntoFolder(paths);
+    }
     commands_.updateStates();
 }
 
@@ -154,13 +179,15 @@ std::vector<std::string> PCFileCommands::selectedPaths() const {
 }
 
 void PCFileCommands::lookForChanges(bool closely) {
-    constexpr std::int32_t mostLookedAt = 5000; // some 10 ms
-    if (with_.state.Busy || !with_.state.StartupDone || isOnNetwork(with_.state.PCPath))
+    // What is found may have to be told, and while that stands there the next look comes.
+    if (looks_ || with_.state.Busy || !with_.state.StartupDone ||
+        source_.isOnNetwork(with_.state.PCPath))
         return;
+    looks_ = true;
     const bool looksAtAll = closely && with_.state.PCListing.Count <= mostLookedAt;
-    if (looksAtAll || with_.panes.hasPCChanged())
-        if (with_.panes.rescanPC())
-            commands_.updateStates();
+    if ((looksAtAll || with_.panes.hasPCChanged()) && with_.panes.rescanPC())
+        commands_.updateStates();
+    looks_ = false;
 }
 
 void PCFileCommands::tellFailure(const std::string& name, std::int32_t messageNumber,

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/commands/MainServices.h"
-#include "app/folders/FolderTreeCommands.h"
 
 #include <cstdint>
 #include <functional>
@@ -33,12 +32,19 @@ class PromptWindow {
     virtual std::optional<std::string> ask(const TextPrompt& prompt) = 0;
 };
 
-/// Working in the PC folder itself: what a file manager does with folders and names. Every failure
-/// is told with the name and the reason.
+/// What is asked about folders while the operator types or works elsewhere.
+struct FolderSource {
+    std::function<std::vector<std::string>(const std::string& folder)> subfolders;
+    /// Told without touching the folder.
+    std::function<bool(const std::string& folder)> isOnNetwork;
+};
+
+/// Working in the PC folder itself: what a file manager does with folders and names. A command
+/// holds for the folder that was shown when it was given.
 class PCFileCommands {
   public:
     PCFileCommands(const MainServices& services, MainCommands& commands, PromptWindow& prompts,
-                   FolderTreeSource source)
+                   FolderSource source)
         : with_(services), commands_(commands), prompts_(prompts), source_(std::move(source)) {}
 
     /// Makes a folder in the PC folder and selects it.
@@ -61,8 +67,13 @@ class PCFileCommands {
     /// network is left alone: looking there may hang.
     void lookForChanges(bool closely);
 
+    /// With more files than that a closer look is left to the operator: it is some 10 ms.
+    static constexpr std::int32_t mostLookedAt = 5000;
+
   private:
-    std::string problemOfName(const std::string& name, const std::string& old) const;
+    std::string problemOfName(const std::string& folder, const std::string& name,
+                              const std::string& old) const;
+    bool isBeingFetched(const std::string& folder, const std::string& name) const;
     void showNew(const std::string& name);
     std::string absolute(const std::string& typed) const;
     std::vector<std::string> completions(const std::string& typed) const;
@@ -72,7 +83,8 @@ class PCFileCommands {
     MainServices with_;
     MainCommands& commands_;
     PromptWindow& prompts_;
-    FolderTreeSource source_;
+    FolderSource source_;
+    bool looks_ = false;
 };
 
 } // namespace vantrel

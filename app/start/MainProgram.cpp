@@ -2,6 +2,7 @@
 
 #include "app/start/Engine.h"
 #include "app/start/MainWindowStart.h"
+#include "platform/Drives.h"
 
 namespace vantrel {
 
@@ -16,7 +17,9 @@ MainProgram::MainProgram(Engine& engine, const MainWindowParts& parts)
                 engine.talk,  parts.panes,    parts.view, folder_,    parts.editTextFile,
                 parts.viewer, parts.printer,  results_},
       main(services_), folderTree(services_, main, parts.tree, parts.folders),
-      files(services_, main, parts.prompts, parts.folders),
+      files(services_, main, parts.prompts,
+            {parts.folders.subfolders,
+             [](const std::string& folder) { return isOnNetwork(folder); }}),
       robots(services_, main, parts.robots, engine.boxes),
       settings(
           {engine.state, engine.session, panes, engine.registry, parts.robots, parts.view, main}),

@@ -59,6 +59,13 @@ TEST(FolderHistory, AFolderThatIsNoMoreIsForgottenOnEitherSide) {
     EXPECT_EQ(history.neighbour(-1), "a");
 }
 
+TEST(FolderHistory, NoStepLeadsFromAFolderToItself) {
+    FolderHistory history = historyOf({"a", "b", "a"});
+    history.forgetNeighbour(-1);
+    EXPECT_FALSE(history.hasBack());
+    EXPECT_FALSE(history.hasForward());
+}
+
 TEST(FolderHistory, RemembersTheLastHundred) {
     FolderHistory history;
     for (int folder = 0; folder < 150; ++folder)

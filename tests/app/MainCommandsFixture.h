@@ -199,8 +199,14 @@ class MainCommandsTest : public CommandFixture {
     MainCommands main{services};
     RecordingWindows windows;
     ScriptedPrompts prompts;
-    PCFileCommands files{
-        services, main, prompts, {[] { return std::vector<Drive>(); }, subfolders}};
+    std::string networkFolder = "none"; ///< what lies on another machine
+    FolderSource folderSource{
+        [this](const std::string& path) {
+            EXPECT_FALSE(path.starts_with(networkFolder)) << "read on a network";
+            return subfolders(path);
+        },
+        [this](const std::string& path) { return path.starts_with(networkFolder); }};
+    PCFileCommands files{services, main, prompts, folderSource};
     ListTransferCommands lists{
         {state, session, panes, window, table, messages, progress, talk, results}, windows};
     std::vector<std::string> documents;

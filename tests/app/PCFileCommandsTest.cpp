@@ -2,6 +2,7 @@
 
 #include "MainCommandsFixture.h"
 #include "base/PathRules.h"
+#include "link/FetchMark.h"
 #include "platform/Files.h"
 
 #include <gmock/gmock.h>
@@ -88,7 +89,7 @@ TEST_F(PCFileCommandsTest, ANameIsCheckedWhileItIsTyped) {
 TEST_F(PCFileCommandsTest, AFolderThatCannotBeMadeIsToldWithTheReason) {
     show({"A.JBI"});
     FasterPrompts faster(pc, "new");
-    PCFileCommands(services, main, faster, {}).newFolder();
+    PCFileCommands(services, main, faster, folderSource).newFolder();
     EXPECT_THAT(boxes.texts(), ElementsAre(StartsWith("[new] not made\n")));
     EXPECT_EQ(pc.read("new"), "of somebody else");
 }
@@ -121,7 +122,7 @@ TEST_F(PCFileCommandsTest, AFileThatCameMeanwhileStaysAndTheFailureIsTold) {
     show({"B.JBI"});
     window.pc.click({"B.JBI"});
     FasterPrompts faster(pc, "A.JBI");
-    PCFileCommands(services, main, faster, {}).rename();
+    PCFileCommands(services, main, faster, folderSource).rename();
     EXPECT_THAT(boxes.texts(), ElementsAre(StartsWith("[B.JBI] not renamed\n")));
     EXPECT_EQ(pc.read("A.JBI"), "of somebody else");
     EXPECT_EQ(pc.read("B.JBI"), job("B"));
@@ -222,7 +223,7 @@ TEST_F(PCFileCommandsTest, AFolderThatIsGoneIsToldOnceAndLeftOut) {
     main.openPCFolder(second, FolderTree::folderOnly(second));
     ASSERT_TRUE(removeFolder(inner));
     files.step(-1);
-    EXPECT_THAT(boxes.texts(), ElementsAre("File Get Error!!"));
+    EXPECT_THAT(boxes.texts(), ElementsAre(" is not there: [" + inner + "]"));
     EXPECT_EQ(state.PCPath, second);
     files.step(-1);
     EXPECT_EQ(state.PCPath, pc.path());
@@ -333,6 +334,103 @@ TEST_F(PCFileCommandsTest, TheFilterHoldsForWhatComes) {
     pc.write("C.JBI", job("C"));
     files.lookForChanges(true);
     EXPECT_THAT(window.pc.names, ElementsAre("A.JBI", "AB.JBI"));
+}
+
+/// The question whether one robot's folder is sent to another goes by the folder's spelling.
+TEST_F(PCFileCommandsTest, ATypedPathHasTheSpellingOfEveryOther) {
+    const std::string inner = pc.makeFolder("robot2");
+    pc.makeFolder("robot1");
+    show({});
+    for (const std::string typed : {"robot1/../robot2", "./robot2", "robot1//..//robot2/"}) {
+        state.PCPath = pc.path();
+        prompts.answer = typed;
+        files.goToFolder();
+        EXPECT_EQ(state.PCPath, inner) << typed;
+    }
+}
+
+/// A drop, for instance, may open another folder below an open prompt.
+TEST_F(PCFileCommandsTest, ACommandHoldsForTheFolderInWhichItWasGiven) {
+    const std::string inner = pc.makeFolder("inner");
+    pc.write("inner/A.JBI", job("OTHER"));
+    show({"A.JBI"});
+    window.pc.click({"A.JBI"});
+    prompts.whileOpen = [&] { main.openPCFolder(inner, FolderTree::folderOnly(inner)); };
+    prompts.answer = "B.JBI";
+    files.rename();
+    EXPECT_TRUE(pc.has("B.JBI"));
+    EXPECT_TRUE(pc.has("inner/A.JBI"));
+    state.PCPath = pc.path();
+    prompts.answer = "new";
+    files.newFolder();
+    EXPECT_TRUE(pc.has("new"));
+    EXPECT_FALSE(pc.has("inner/new"));
+}
+
+TEST_F(PCFileCommandsTest, ANewNameThatTheFileTypeHidesLeavesNothingSelected) {
+    show({"A.JBI", "B.JBI"});
+    window.pcFilter = 0; // jobs only
+    panes.fill(ActiveSide::PC);
+    window.pc.click({"B.JBI"});
+    prompts.answer = "B.BAK";
+    files.rename();
+    EXPECT_TRUE(pc.has("B.BAK"));
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+    EXPECT_THAT(window.pc.selected, IsEmpty()) << "nobody chose A";
+}
+
+TEST_F(PCFileCommandsTest, ANewNameThatTheQuickFilterHidesEndsIt) {
+    show({"DOOR.JBI", "ROOF.JBI"});
+    main.filterNames(ActiveSide::PC, "door");
+    prompts.answer = "HOOD.JBI";
+    window.pc.click({"DOOR.JBI"});
+    files.rename();
+    EXPECT_THAT(window.pc.selectedNames(), ElementsAre("HOOD.JBI"));
+    EXPECT_THAT(view.closedQuickFilters, ElementsAre(ActiveSide::PC));
+    EXPECT_THAT(window.pc.names, ElementsAre("HOOD.JBI", "ROOF.JBI"));
+}
+
+/// Its mark finds it by its name.
+TEST_F(PCFileCommandsTest, AFileThatIsBeingFetchedKeepsItsName) {
+    show({"A.JBI"});
+    pc.write(FetchMark::fileNameFor("A.JBI"), "");
+    window.pc.click({"A.JBI"});
+    prompts.answer = "B.JBI";
+    files.rename();
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_FALSE(pc.has("B.JBI"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("[A.JBI] not finished"));
+    EXPECT_THAT(prompts.asked, IsEmpty());
+}
+
+TEST_F(PCFileCommandsTest, NothingIsReadOnANetworkWhileSomebodyTypes) {
+    networkFolder = pc.makeFolder("share");
+    show({"A.JBI"});
+    files.goToFolder();
+    const TextPrompt prompt = prompts.asked.back();
+    EXPECT_THAT(prompt.completions(join(networkFolder, "x")), IsEmpty());
+    EXPECT_EQ(prompt.problem(join(networkFolder, "none")), "") << "found out when it is opened";
+    EXPECT_EQ(prompt.problem(pc.path("none")), "no such folder");
+}
+
+TEST_F(PCFileCommandsTest, AFolderOnANetworkIsLeftAlone) {
+    show({"A.JBI"});
+    networkFolder = pc.path();
+    pc.write("B.JBI", job("B"));
+    files.lookForChanges(true);
+    EXPECT_EQ(window.pc.updates, 0);
+}
+
+TEST_F(PCFileCommandsTest, OfVeryManyFilesOnlyTheNamesAreLookedAt) {
+    show({"A.JBI"});
+    for (std::int32_t more = 0; more < PCFileCommands::mostLookedAt; ++more)
+        state.PCListing.append("X", 0, DateText());
+    pc.write("A.JBI", job("A", "longer than before"));
+    files.lookForChanges(true);
+    EXPECT_EQ(window.pc.updates, 0);
+    state.PCListing.Count = PCFileCommands::mostLookedAt;
+    files.lookForChanges(true);
+    EXPECT_EQ(window.pc.updates, 1);
 }
 
 } // namespace

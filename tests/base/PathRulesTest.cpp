@@ -247,5 +247,19 @@ constexpr auto styleName = [](const auto& style) {
 };
 INSTANTIATE_TEST_SUITE_P(Styles, EveryPath, testing::Values(W, P), styleName);
 
+TEST(ResolvedPath, HasOneSpellingForEachFolder) {
+    const PathRules posix(PathStyle::Posix);
+    EXPECT_EQ(posix.resolved("/jobs/robot1/../robot2"), "/jobs/robot2");
+    EXPECT_EQ(posix.resolved("/jobs//robot2/./"), "/jobs/robot2");
+    EXPECT_EQ(posix.resolved("/jobs/robot2. "), "/jobs/robot2. ") << "a name of its own";
+    EXPECT_EQ(posix.resolved("/../.."), "/");
+    const PathRules windows(PathStyle::Windows);
+    EXPECT_EQ(windows.resolved("D:\\jobs/robot1\\..\\robot2. "), "D:\\jobs\\robot2");
+    EXPECT_EQ(windows.resolved("D:"), "D:\\");
+    EXPECT_EQ(windows.resolved("D:jobs"), "D:\\jobs") << "not from the program's folder";
+    EXPECT_EQ(windows.resolved("D:\\..\\jobs"), "D:\\jobs");
+    EXPECT_EQ(windows.resolved("\\\\server\\share\\a\\..\\b\\"), "\\\\server\\share\\b");
+}
+
 } // namespace
 } // namespace vantrel

@@ -16,8 +16,8 @@ class ControllerPeekTest : public tests::CommandTest {
   protected:
     ControllerPeekTest() { state.Headder = true; }
 
-    /// The folder in which the library was told to work last.
-    static std::string leftOver(const std::string& folder) {
+    /// The names in a folder, one behind the other.
+    static std::string namesIn(const std::string& folder) {
         std::string names;
         (void)visitNames(folder, [&names](std::string_view name) { names += name; });
         return names;
@@ -33,7 +33,7 @@ TEST_F(ControllerPeekTest, GivesTheTextAndTouchesNoFileOfThePC) {
     ASSERT_TRUE(text);
     EXPECT_EQ(*text, "/JOB\r\n//NAME A\r\nVERSION on the robot\r\n");
     EXPECT_EQ(pc.read("A.JBI"), job("A", "on the PC"));
-    EXPECT_EQ(leftOver(pc.path()), "A.JBI");
+    EXPECT_EQ(namesIn(pc.path()), "A.JBI");
     EXPECT_EQ(session.path, before);
     EXPECT_EQ(robot().names(), std::vector<std::string>{"A.JBI"});
     EXPECT_EQ(library.callCount("BscDeleteJob"), 0);

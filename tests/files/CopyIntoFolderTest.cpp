@@ -1,6 +1,7 @@
 #include "files/CopyIntoFolder.h"
 
 #include "CommandFixture.h"
+#include "link/FetchMark.h"
 
 #include <gmock/gmock.h>
 
@@ -97,6 +98,37 @@ TEST_F(CopyIntoFolderTest, CancelEndsItBetweenTwoFiles) {
     EXPECT_TRUE(pc.has("A.JBI"));
     EXPECT_FALSE(pc.has("B.JBI"));
     EXPECT_EQ(window.result, "1 copied, 0 skipped, 0 failed, 1 not tried, cancelled");
+}
+
+/// All was meant for what was there before.
+TEST_F(CopyIntoFolderTest, WhatTheCommandItselfBroughtIsAskedForAfterAll) {
+    pcJob("A");
+    showPanes();
+    const auto second = elsewhere.write("inner/A.JBI", job("A", "3"));
+    question.answers = {Answer::All, Answer::No};
+    EXPECT_TRUE(commands.copyIntoFolder({dropped("A"), second}));
+    EXPECT_THAT(question.questions, SizeIs(2));
+    EXPECT_EQ(pc.read("A.JBI"), job("A", "2"));
+}
+
+/// Its old version would come back over it.
+TEST_F(CopyIntoFolderTest, AFileWhoseTransferIsNotFinishedIsNotReplaced) {
+    showPanes();
+    pc.write(FetchMark::fileNameFor("A.JBI"), "");
+    pcJob("A");
+    EXPECT_TRUE(commands.copyIntoFolder({dropped("A")}));
+    EXPECT_EQ(pc.read("A.JBI"), job("A"));
+    EXPECT_EQ(boxes.texts().front(), "[A.JBI] not finished");
+    EXPECT_EQ(window.result, "0 copied, 1 skipped, 0 failed");
+}
+
+TEST_F(CopyIntoFolderTest, AFileThatTheFilterHidesLeavesNothingSelected) {
+    pcJob("A");
+    showPanes();
+    window.pcFilter = 0;
+    EXPECT_TRUE(commands.copyIntoFolder({elsewhere.write("N.BAK", "x")}));
+    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI"));
+    EXPECT_THAT(window.pc.selected, IsEmpty());
 }
 
 } // namespace

@@ -449,5 +449,21 @@ TEST_F(PanesTest, NamesThatComeAndGoAreNoticedByTheFoldersDate) {
     EXPECT_THAT(window.pc.names, ElementsAre("A.JBI", "B.JBI"));
 }
 
+/// A yield would eat the letters that are typed meanwhile.
+TEST_F(PanesTest, ANameFilterIsShownWithoutLettingEventsIn) {
+    robot();
+    for (const char* name : {"DOOR1", "DOOR2", "ROOF"})
+        pcJob(name);
+    showPanes();
+    window.pc.click({"DOOR2", "DOOR2.JBI", "ROOF.JBI"});
+    window.yields = 0;
+    panes.filterNames(ActiveSide::PC, "door");
+    EXPECT_EQ(window.yields, 0);
+    EXPECT_THAT(window.pc.selectedNames(), ElementsAre("DOOR2.JBI"));
+    EXPECT_EQ(window.pcStatus, "PC: 2 items");
+    panes.filterNames(ActiveSide::PC, "roof");
+    EXPECT_THAT(window.pc.selected, IsEmpty()) << "nobody chose what is the first now";
+}
+
 } // namespace
 } // namespace vantrel

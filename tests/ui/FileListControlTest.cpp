@@ -190,6 +190,27 @@ TEST_P(FileListControlTest, EveryRowHasThePictureOfItsKind) {
     }
 }
 
+TEST_P(FileListControlTest, AnUpdateLeavesWhatIsSeenAtItsPlace) {
+    std::vector<std::string> names;
+    for (int file = 100; file < 200; ++file)
+        names.push_back("F" + std::to_string(file) + ".JBI");
+    world.fill(names);
+    list.show(world.rows);
+    list.native().EnsureVisible(99);
+    runEvents();
+    const long top = list.native().GetTopItem();
+    names.push_back("F200.JBI");
+    world.fill(names);
+    list.update(world.rows, {50, 51}, 51);
+    runEvents();
+    EXPECT_EQ(list.itemCount(), 101u);
+    EXPECT_EQ(list.native().GetTopItem(), top);
+    EXPECT_THAT(list.selectedRows(), ElementsAre(50u, 51u));
+    EXPECT_EQ(list.selectedRow(), 51u);
+    list.update(world.rows, {}, std::nullopt);
+    EXPECT_TRUE(list.selectedRows().empty());
+}
+
 TEST_P(FileListControlTest, ADragOfSeveralTakesThemAll) {
     std::vector<std::size_t> dragged;
     list.onDragBegun = [&] { dragged = list.selectedRows(); };

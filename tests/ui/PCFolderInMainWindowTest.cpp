@@ -115,6 +115,11 @@ TEST_P(PCFolderInMainWindowTest, FilesOfAnotherProgramAreCopiedIntoThePCPaneOnly
     drag.whileDragging(ActiveSide::Controller,
                        [&] { EXPECT_FALSE(drag.dropFiles(ActiveSide::PC, {dropped})); });
     EXPECT_FALSE(drag.dropFiles(ActiveSide::PC, {}));
+    modal.act([&](wxDialog& dialog) {
+        EXPECT_FALSE(drag.acceptsFiles(ActiveSide::PC)) << "a prompt is about what is shown";
+        click(dialog, "cmdCancel");
+    });
+    menu("mnuNewFolder");
     EXPECT_TRUE(drag.dropFiles(ActiveSide::PC, {dropped}));
     EXPECT_FALSE(folder.has("jobs/NEW.JBI")) << "the work waits until the drop is answered";
     EXPECT_TRUE(waitFor([this] { return selected() == std::vector<std::string>{"NEW.JBI"}; }));
