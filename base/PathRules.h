@@ -44,9 +44,9 @@ class PathRules {
     std::string parent(std::string_view path) const;
     /// The last folder's or file's name; for a root "C:" or "/".
     std::string lastName(std::string_view path) const;
-    /// The same folder in one spelling: without "." and "..", doubled separators and, on Windows, the
-    /// points and blanks that the system leaves out at the end of a name. A path "C:" or "C:jobs"
-    /// counts from the drive's root. The path begins with a drive or a separator.
+    /// The same folder in one spelling: without "." and "..", doubled separators and, on Windows,
+    /// the points and blanks that the system leaves out at the end of a name. A path "C:" or
+    /// "C:jobs" counts from the drive's root. The path begins with a drive or a separator.
     std::string resolved(std::string_view path) const;
     /// "C:" of a drive path, "\\server\share" of a network path, "/" on POSIX; else empty.
     std::string drive(std::string_view path) const;

@@ -3,6 +3,7 @@
 #include "base/ApplicationState.h"
 #include "base/TextCase.h"
 #include "files/ControllerPlace.h"
+#include "files/RobotMark.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
 #include "link/OperatorTalk.h"
@@ -42,6 +43,15 @@ std::string otherOwnerOfPCFolder(const ApplicationState& state, const PathRules&
     return isOther ? state.RobotList[owners.front()].Name : std::string();
 }
 
+namespace {
+
+std::string markText(const TransferServices& services) {
+    const PlaceMark mark = markInForce(services.messages, services.state);
+    return mark.text.empty() ? std::string() : " \u2013 " + mark.text;
+}
+
+} // namespace
+
 bool mayLeaveFolder(const TransferServices& services) {
     const std::string owner = otherOwnerOfPCFolder(services.state);
     if (owner.empty())
@@ -49,7 +59,7 @@ bool mayLeaveFolder(const TransferServices& services) {
     return services.talk.askYesNo(
         services.messages.getMessageWithInsertion(message::askOtherOwner, shownText(owner),
                                                   controllerName(services.state)) +
-            "\n" + towardController(services.state),
+            "\n" + towardController(services.state) + markText(services),
         BoxIcon::Exclamation);
 }
 

@@ -160,6 +160,19 @@ inline constexpr std::int32_t timeMomentLeft = 555; ///< fewer than ten seconds
 // Above the list files that the list-file dialog offers.
 inline constexpr std::int32_t listFilesOffered = 559;
 
+// Colour and label of a robot.
+inline constexpr std::int32_t menuRobotMark = 509;
+inline constexpr std::int32_t markColour = 510;
+inline constexpr std::int32_t markLabel = 511;
+inline constexpr std::int32_t colourNone = 512;
+inline constexpr std::int32_t colourRed = 513;
+inline constexpr std::int32_t colourOrange = 514;
+inline constexpr std::int32_t colourYellow = 515;
+inline constexpr std::int32_t colourGreen = 516;
+inline constexpr std::int32_t colourBlue = 517;
+inline constexpr std::int32_t colourPurple = 518;
+inline constexpr std::int32_t colourGrey = 519;
+
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;
 inline constexpr std::int32_t menuCopy = 102;

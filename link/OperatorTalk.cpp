@@ -1,7 +1,5 @@
 #include "link/OperatorTalk.h"
 
-#include "link/ProgressPanel.h"
-
 namespace vantrel {
 namespace {
 
@@ -32,7 +30,7 @@ Answer OperatorTalk::ask(const std::string& title, const std::string& question,
     std::string note = progress_.place();
     if (!note.empty() && !facts.empty())
         note += '\n';
-    return question_.ask(title, question, note + facts, choice);
+    return question_.ask(title, question, {note + facts, progress_.mark()}, choice);
 }
 
 void OperatorTalk::tell(const std::string& text, BoxIcon icon) {

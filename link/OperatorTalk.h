@@ -1,12 +1,11 @@
 #pragma once
 
 #include "lang/MessageBoxes.h"
+#include "link/ProgressPanel.h"
 
 #include <string>
 
 namespace vantrel {
-
-class ProgressPanel;
 
 /// The buttons of the question dialog, by their number.
 enum class Answer { Yes = 0, No = 1, All = 2, Cancel = 3 };
@@ -17,15 +16,21 @@ struct CheckedChoice {
     bool isChecked = false;
 };
 
+/// What stands below a question: which controller is meant, with its mark, and facts to decide by.
+/// It may be empty.
+struct QuestionNote {
+    std::string text = {};
+    PlaceMark mark = {}; ///< its text is in the note's
+};
+
 /// The Yes / No / All / Cancel dialog `frmMsgYesNo`. Closing it otherwise than by a button is
 /// Cancel.
 class QuestionWindow {
   public:
     virtual ~QuestionWindow() = default;
-    /// `note` stands below the question: which controller is meant, and facts to decide by; it may
-    /// be empty. A `choice` comes back as the operator left it.
+    /// A `choice` comes back as the operator left it.
     virtual Answer ask(const std::string& title, const std::string& question,
-                       const std::string& note, CheckedChoice* choice) = 0;
+                       const QuestionNote& note, CheckedChoice* choice) = 0;
 };
 
 /// Speaks with the operator while an operation may be showing its progress: since the progress

@@ -20,6 +20,16 @@ void ProgressPanel::setPlace(std::optional<std::string> place) {
 }
 
 std::string ProgressPanel::place() const {
+    const std::string line = unmarkedPlace();
+    const PlaceMark beside = mark();
+    return beside.text.empty() ? line : line + " \u2013 " + beside.text;
+}
+
+PlaceMark ProgressPanel::mark() const {
+    return markInForce_ && !unmarkedPlace().empty() ? markInForce_() : PlaceMark();
+}
+
+std::string ProgressPanel::unmarkedPlace() const {
     if (place_)
         return *place_;
     return usualPlace_ ? usualPlace_() : std::string();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -9,6 +10,15 @@
 namespace vantrel {
 
 class ProgressPanel;
+
+/// How the operator has marked a controller, so that it is not taken for another one.
+struct PlaceMark {
+    std::string text = {};                    ///< empty without a mark
+    std::optional<std::uint32_t> colour = {}; ///< red, green and blue
+    std::string colourName = {};
+
+    bool operator==(const PlaceMark&) const = default;
+};
 
 /// What shows a ProgressPanel: the window `frmMsgStat`.
 class ProgressView {
@@ -47,6 +57,9 @@ class ProgressPanel {
     /// It is asked whenever the window is brought in line, from the next time on.
     using Pace = std::function<std::string(int item, int count, std::chrono::milliseconds worked)>;
     void setPace(Pace pace);
+    /// The mark of the controller meant, asked anew each time; wherever it is named its mark stands
+    /// beside it.
+    void setMark(std::function<PlaceMark()> mark) { markInForce_ = std::move(mark); }
     void showCancelButton(bool shown);
     void showBar(bool shown);
 
@@ -77,8 +90,11 @@ class ProgressPanel {
     const std::string& message() const { return message_; }
     const std::string& waitingFor() const { return waitingFor_; }
     const std::string& cancelCaption() const { return cancelCaption_; }
+    /// The line that names the controller, its mark's text included; empty where none is meant.
     std::string place() const;
     const std::string& pace() const { return paceText_; }
+    /// The mark in that line.
+    PlaceMark mark() const;
     bool cancelButtonShown() const { return cancelButtonShown_; }
     bool barShown() const { return barShown_; }
     int item() const { return item_; }
@@ -88,12 +104,14 @@ class ProgressPanel {
     void refresh();
     void setVisible(bool visible);
     std::chrono::milliseconds worked() const;
+    std::string unmarkedPlace() const;
 
     ProgressView* view_ = nullptr;
     std::string title_;
     std::string message_;
     std::string waitingFor_;
     std::function<std::string()> usualPlace_;
+    std::function<PlaceMark()> markInForce_;
     std::optional<std::string> place_;
     std::string cancelCaption_;
     std::string cancelText_;

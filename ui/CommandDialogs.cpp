@@ -7,6 +7,7 @@
 #include "app/start/Engine.h"
 #include "app/start/MainProgram.h"
 #include "files/FolderScan.h"
+#include "files/RobotMark.h"
 #include "lang/MessageNumbers.h"
 #include "platform/Drives.h"
 #include "platform/Environment.h"
@@ -15,6 +16,7 @@
 #include "ui/dialogs/frmLanguage.h"
 #include "ui/dialogs/frmListFile.h"
 #include "ui/dialogs/frmResult.h"
+#include "ui/dialogs/frmRobotMark.h"
 #include "ui/dialogs/frmSetting.h"
 #include "ui/frmZuroVant.h"
 #include "ui/look/Captions.h"
@@ -102,6 +104,15 @@ void CommandDialogs::openResult() {
 
 void CommandDialogs::testConnection() {
     test(window_, controllerInForce(engine_.state));
+}
+
+void CommandDialogs::editRobotMark() {
+    RobotMarkDraft mark(engine_.state.CurrentRobot);
+    if (std::exchange(markOpen_, true))
+        return;
+    if (frmRobotMark(&window_, mark, engine_.messages, engine_.state).ShowModal() == wxID_OK)
+        program_.settings.takeMark(mark.robot());
+    markOpen_ = false;
 }
 
 void CommandDialogs::test(wxWindow& parent, const TestedController& controller) {

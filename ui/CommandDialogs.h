@@ -59,6 +59,7 @@ class CommandDialogs : public CommandWindows {
     void openVersionWindow() override;
     void openResult() override;
     void testConnection() override;
+    void editRobotMark() override;
     /// Says in the main window that no robot moves, where that is so.
     void showSimulationNotice();
 
@@ -72,6 +73,7 @@ class CommandDialogs : public CommandWindows {
     VersionWindow& version_;
     bool resultOpen_ = false;
     bool testOpen_ = false;
+    bool markOpen_ = false;
 };
 
 } // namespace vantrel

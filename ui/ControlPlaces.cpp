@@ -10,6 +10,7 @@
 #include "ui/PathDisplay.h"
 #include "ui/QuickFilter.h"
 #include "ui/ViewerSearch.h"
+#include "ui/look/ColourSwatch.h"
 
 #include <algorithm>
 #include <cmath>
@@ -116,6 +117,14 @@ double captionRoom(const MainWindowControls& controls, int dpi) {
     return std::clamp(std::ceil(room * dpi) / dpi, 1.0, std::max(1.0, most));
 }
 
+RobotRoom robotRoom(const MainWindowControls& controls, int dpi) {
+    const wxString mark = controls.lblRobotMark->GetLabelText();
+    return {.box = twipsFromPixels(controls.cmbRbtName->GetBestSize().x, dpi),
+            .mark = mark.empty()
+                        ? 0
+                        : twipsFromPixels(controls.lblRobotMark->GetTextExtent(mark).x, dpi)};
+}
+
 void placeControls(const MainWindowControls& controls, const WindowLayout& layout, int dpi) {
     const Placer place(dpi);
     place.inRow(controls.tlbMain, layout.tlbMain);
@@ -125,6 +134,8 @@ void placeControls(const MainWindowControls& controls, const WindowLayout& layou
     place.inRow(controls.cmbRbtName, layout.cmbRbtName);
     place.inRow(controls.lblIPaddr, layout.lblIPaddr);
     place.inRow(controls.lblIPAddr2, layout.lblIPAddr2);
+    place.exactly(controls.robotColour, layout.robotColour);
+    place.inRow(controls.lblRobotMark, layout.lblRobotMark);
 
     place.frame(controls.fraPC, layout.fraPC);
     place.inRow(controls.tlbPCButton, layout.tlbPCButton);

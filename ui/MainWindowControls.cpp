@@ -8,6 +8,7 @@
 #include "ui/PathDisplay.h"
 #include "ui/QuickFilter.h"
 #include "ui/ViewerSearch.h"
+#include "ui/look/ColourSwatch.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
 
@@ -41,17 +42,6 @@ wxStaticText* makeLabel(wxWindow* parent, const wxString& name, long style = 0) 
                             style | wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END, name);
 }
 
-/// Shows a colour and nothing else; an empty panel would be a stop of the Tab key.
-class ColouredShape final : public wxPanel {
-  public:
-    explicit ColouredShape(wxWindow* parent) : wxPanel(parent, wxID_ANY) {
-        wxPanel::SetCanFocus(false);
-    }
-    bool AcceptsFocus() const override { return false; }
-    bool AcceptsFocusRecursively() const override { return false; }
-    bool AcceptsFocusFromKeyboard() const override { return false; }
-};
-
 wxChoice* makeChoice(wxWindow* parent, const wxString& name) {
     auto* choice = new wxChoice(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
                                 wxDefaultValidator, name);
@@ -79,6 +69,10 @@ void MainWindowControls::makeConnectionBlock() {
     cmbRbtName = makeChoice(surface, "cmbRbtName");
     lblIPaddr = makeLabel(surface, "lblIPaddr");
     lblIPAddr2 = makeLabel(surface, "lblIPAddr2");
+    robotColour = new ColourSwatch(surface, "robotColour", wxBORDER_SIMPLE);
+    lblRobotMark = makeLabel(surface, "lblRobotMark");
+    robotColour->Hide();
+    lblRobotMark->Hide();
 }
 
 void MainWindowControls::makePCPane(std::span<const CommandRow> table) {
@@ -122,8 +116,8 @@ void MainWindowControls::makeViewerPane() {
 }
 
 void MainWindowControls::makeHighlights() {
-    pcHighlight = new ColouredShape(surface);
-    controllerHighlight = new ColouredShape(surface);
+    pcHighlight = new ColourSwatch(surface);
+    controllerHighlight = new ColourSwatch(surface);
 }
 
 } // namespace vantrel

@@ -16,6 +16,7 @@ class wxWindow;
 
 namespace vantrel {
 
+class ColourSwatch;
 class CommandToolBar;
 class FileListControl;
 class FileViewer;
@@ -47,6 +48,10 @@ struct MainWindowControls {
     wxChoice* cmbRbtName = nullptr;
     wxStaticText* lblIPaddr = nullptr;
     wxStaticText* lblIPAddr2 = nullptr;
+    /// The robot's mark, in the place of `lblIPaddr` when there is one: what is below says by
+    /// itself that it is an address.
+    ColourSwatch* robotColour = nullptr;
+    wxStaticText* lblRobotMark = nullptr;
 
     PaneFrame fraPC;
     CommandToolBar* tlbPCButton = nullptr;

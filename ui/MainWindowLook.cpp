@@ -4,12 +4,14 @@
 #include "app/commands/ModeCommands.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/ProgressPanel.h"
 #include "ui/CommandToolBar.h"
 #include "ui/FileListControl.h"
 #include "ui/FolderTreeDropDown.h"
 #include "ui/MainWindowControls.h"
 #include "ui/QuickFilter.h"
 #include "ui/ViewerSearch.h"
+#include "ui/look/ColourSwatch.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/WxText.h"
 
@@ -72,12 +74,6 @@ void captionLists(const MainWindowControls& controls, const MessageTable& messag
 
 const wxSize arrowIcon{32, 32};
 
-wxColour colour(std::uint32_t redGreenBlue) {
-    return {static_cast<unsigned char>(redGreenBlue >> 16),
-            static_cast<unsigned char>(redGreenBlue >> 8),
-            static_cast<unsigned char>(redGreenBlue)};
-}
-
 } // namespace
 
 void captionControls(const MainWindowControls& controls, const MessageTable& messages) {
@@ -99,6 +95,18 @@ void showCommandStates(const MainWindowControls& controls, const CommandInput& i
         part->Enable(!input.locked);
 }
 
+void showMark(const MainWindowControls& controls, const PlaceMark& mark) {
+    const bool showsRobot = controls.cmbRbtName->IsShown();
+    const bool isMarked = !mark.text.empty();
+    controls.lblIPaddr->Show(showsRobot && !isMarked);
+    controls.lblRobotMark->Show(showsRobot && isMarked);
+    controls.robotColour->Show(showsRobot && mark.colour);
+    controls.lblRobotMark->SetLabelText(toWx(mark.text));
+    controls.lblRobotMark->SetToolTip(toWx(mark.text));
+    if (mark.colour)
+        controls.robotColour->showColour(*mark.colour, mark.colourName);
+}
+
 void showTransferMode(const MainWindowControls& controls, const ModeLook& look) {
     controls.lblSerial->Show(look.showsSerialLine);
     controls.lbl232CParam->Show(look.showsSerialLine);
@@ -107,7 +115,7 @@ void showTransferMode(const MainWindowControls& controls, const ModeLook& look) 
           static_cast<wxWindow*>(controls.lblIPaddr), static_cast<wxWindow*>(controls.lblIPAddr2)})
         part->Show(look.showsRobot);
     for (auto* shape : {controls.pcHighlight, controls.controllerHighlight}) {
-        shape->SetBackgroundColour(colour(look.shapeColour));
+        shape->SetBackgroundColour(colourOf(look.shapeColour));
         shape->Refresh();
     }
 }

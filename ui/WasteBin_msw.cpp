@@ -13,8 +13,7 @@ namespace {
 /// Only a disk that stays has a bin; elsewhere the system would delete for good.
 bool hasBin(const std::string& path) {
     const std::string drive = PathRules().drive(path);
-    return drive.size() == 2 &&
-           ::GetDriveTypeW((toWx(drive) + "\\").wc_str()) == DRIVE_FIXED;
+    return drive.size() == 2 && ::GetDriveTypeW((toWx(drive) + "\\").wc_str()) == DRIVE_FIXED;
 }
 
 } // namespace

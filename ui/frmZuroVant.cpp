@@ -321,7 +321,8 @@ void frmZuroVant::lay() {
     const wxSize outer = GetSize();
     placeControls(controls_,
                   windowLayout({twipsFromPixels(outer.GetWidth(), resolution),
-                                twipsFromPixels(outer.GetHeight(), resolution)}),
+                                twipsFromPixels(outer.GetHeight(), resolution)},
+                               robotRoom(controls_, resolution)),
                   resolution);
     controls_.surface->Refresh();
 }
@@ -452,6 +453,7 @@ void frmZuroVant::showStates(const CommandInput& input) {
 void frmZuroVant::showMode(const ModeLook& look) {
     SetTitle(toWx(look.caption));
     showTransferMode(controls_, look);
+    showMark(controls_, mark_);
     lay(); // a control that was placed while hidden may not stand where it was told
 }
 
@@ -469,6 +471,12 @@ void frmZuroVant::showSerialLine(const std::string& port, const std::string& for
 void frmZuroVant::showAddress(const std::string& address) {
     controls_.lblIPAddr2->SetLabelText(toWx(address));
     controls_.lblIPAddr2->SetToolTip(toWx(address));
+}
+
+void frmZuroVant::showRobotMark(const PlaceMark& mark) {
+    mark_ = mark;
+    showMark(controls_, mark_);
+    lay();
 }
 
 void frmZuroVant::showFolder(const std::string& path) {
@@ -540,6 +548,7 @@ void frmZuroVant::add(const std::string& name) {
 
 void frmZuroVant::select(int index) {
     controls_.cmbRbtName->SetSelection(index);
+    lay(); // there may be room for a longer name
     // The closed box may be too narrow for what tells two robots apart.
     controls_.cmbRbtName->SetToolTip(controls_.cmbRbtName->GetStringSelection());
 }

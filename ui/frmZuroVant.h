@@ -5,6 +5,7 @@
 #include "app/robots/RobotRegistry.h"
 #include "app/viewer/ViewerCommands.h"
 #include "files/PaneWindow.h"
+#include "link/ProgressPanel.h"
 #include "ui/MainMenus.h"
 #include "ui/MainWindowControls.h"
 #include "ui/PaneDrag.h"
@@ -75,6 +76,7 @@ class frmZuroVant : public wxFrame,
     void showActiveSide(ActiveSide side) override;
     void showSerialLine(const std::string& port, const std::string& format) override;
     void showAddress(const std::string& address) override;
+    void showRobotMark(const PlaceMark& mark) override;
     void showFolder(const std::string& path) override;
     void showView(ActiveSide side, std::int16_t displayType) override;
     void selectAll(ActiveSide side) override;
@@ -126,6 +128,7 @@ class frmZuroVant : public wxFrame,
     bool wasLeft_ = false; ///< for another program, since it was looked for changes closely
     std::array<int, MainWindowControls::statusPanels> panelWidths_{}; ///< as the toolkit takes them
     int statusLine_; ///< the height of a line that the status bar has been made for
+    PlaceMark mark_; ///< of the robot in force
     bool placed_ = false;
     double captionRoom_ = 1; ///< what the design's lengths are multiplied by
     bool closesWhenUnlocked_ = false;

@@ -23,6 +23,8 @@ class CommandWindows {
     virtual void openResult() = 0;
     /// Of the controller that operations reach now.
     virtual void testConnection() = 0;
+    /// Of the robot in force.
+    virtual void editRobotMark() = 0;
 };
 
 /// Who does the work of the commands in the table; everything is borrowed.

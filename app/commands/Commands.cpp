@@ -91,6 +91,10 @@ bool hasResult(Input input, CommandPlace) {
     return input.hasResult;
 }
 
+bool hasRobot(Input input, CommandPlace) {
+    return input.hasRobot;
+}
+
 std::int16_t view(Input input) {
     return isPC(input) ? input.pcDispType : input.ctrlDispType;
 }
@@ -306,8 +310,12 @@ const std::vector<CommandRow>& table() {
         {.caption = message::menuTestConnection,
          .offers = {{mnuToolsMain, 1, "mnuTools(1)"}, {mnuRobot, 0, "mnuRobot(0)"}},
          .run = [](Targets to) { to.windows.testConnection(); }},
+        {.caption = message::menuRobotMark,
+         .offers = {{mnuToolsMain, 1, "mnuTools(2)"}, {mnuRobot, 0, "mnuRobot(1)"}},
+         .isAvailable = hasRobot,
+         .run = [](Targets to) { to.windows.editRobotMark(); }},
         {.caption = message::menuSaveSelection,
-         .offers = {{mnuToolsMain, 1, "mnuTools(2)"}},
+         .offers = {{mnuToolsMain, 1, "mnuTools(3)"}},
          .isAvailable = hasSelectedJob,
          .run = [](Targets to) { to.lists.saveSelection(); }},
         {.caption = message::menuNewFolder,

@@ -30,6 +30,7 @@ struct CommandInput {
     int controllerFilter = 0; ///< the chosen entry of `cmbCtrlFileType`
     bool JBR = false;
     bool hasResult = false;                   ///< a command has ended
+    bool hasRobot = false;                    ///< the robot in force is a registered one
     bool hasBack = false, hasForward = false; ///< in the history of the PC folder
 };
 

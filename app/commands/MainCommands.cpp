@@ -11,6 +11,7 @@
 #include "files/PaneRefresh.h"
 #include "files/PaneWindow.h"
 #include "files/Panes.h"
+#include "files/RobotMark.h"
 #include "files/TransferCommands.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -139,7 +140,13 @@ void MainCommands::machineMayHaveChanged(const Machine& before) {
         with_.panes.showEmptyController();
 }
 
+void MainCommands::showRobot() {
+    with_.view.showAddress(with_.state.CurrentRobot.IPaddr);
+    with_.view.showRobotMark(robotMark(with_.messages, with_.state.CurrentRobot));
+}
+
 void MainCommands::recaption() {
+    with_.view.showRobotMark(robotMark(with_.messages, with_.state.CurrentRobot));
     showMode();
     with_.panes.showCount(ActiveSide::PC);
     with_.panes.showCount(ActiveSide::Controller);
@@ -301,6 +308,7 @@ CommandInput MainCommands::input() const {
         .controllerFilter = with_.window.filterIndex(ActiveSide::Controller),
         .JBR = state.JBR,
         .hasResult = with_.results.last().has_value(),
+        .hasRobot = currentRobotPlace(state).has_value(),
         .hasBack = with_.folder.history().hasBack(),
         .hasForward = with_.folder.history().hasForward(),
     };

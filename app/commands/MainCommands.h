@@ -81,7 +81,9 @@ class MainCommands {
     /// before: empties the controller pane when it belongs to another machine. No connection is
     /// made.
     void machineMayHaveChanged(const Machine& before);
-    /// After a change of language: title and counts.
+    /// What stands beside the robot box, of the robot in force.
+    void showRobot();
+    /// After a change of language: title, counts and the name of a robot's colour.
     void recaption();
     /// Brings menus and buttons in line with the state.
     void updateStates();

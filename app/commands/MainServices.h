@@ -23,6 +23,7 @@ class ViewerPane;
 struct ApplicationState;
 struct CommandInput;
 struct ModeLook;
+struct PlaceMark;
 
 /// The main window as its commands and its start see it: it shows what it is told and knows no
 /// rule.
@@ -42,6 +43,8 @@ class MainWindowView {
     virtual void showActiveSide(ActiveSide side) = 0;
     virtual void showSerialLine(const std::string& port, const std::string& format) = 0;
     virtual void showAddress(const std::string& address) = 0;
+    /// Beside the robot box, for the modes that show it.
+    virtual void showRobotMark(const PlaceMark& mark) = 0;
     virtual void showFolder(const std::string& path) = 0;
     virtual void showView(ActiveSide side, std::int16_t displayType) = 0;
 

@@ -2,7 +2,9 @@
 
 #include "base/Connection.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace vantrel {
@@ -21,6 +23,10 @@ struct Machine {
 };
 
 Machine machineInForce(const ApplicationState& state);
+
+/// The place of the robot in force among the registered ones. It is none of them after a registry
+/// that could not be read.
+std::optional<std::size_t> currentRobotPlace(const ApplicationState& state);
 
 /// Hands the serial parameters and the current robot's address to the session. It has to follow
 /// every change of one of them, or the next operation goes to the machine before.

@@ -18,11 +18,14 @@ namespace {
 struct LineTokens {
     std::string_view first;
     std::string_view second; ///< empty when there is none: a token is never empty
+    std::string_view rest;   ///< all that follows the first equals sign behind the first token
 };
 
 LineTokens tokens(std::string_view line) {
     const std::string_view first = takeRegistryToken(line);
-    return {first, takeRegistryToken(line)};
+    const std::size_t sign = line.find('=');
+    const std::string_view rest = sign == line.npos ? std::string_view() : line.substr(sign + 1);
+    return {first, takeRegistryToken(line), rest};
 }
 
 std::optional<std::string> blockName(std::string_view token) {
@@ -40,6 +43,11 @@ void takeValue(RobotRecord& record, const LineTokens& line) {
         setAddress(record, line.second);
     else if (line.first == "Path")
         record.Path = line.second;
+    // Of a later version than the others: whole, whatever they hold.
+    else if (line.first == "Colour")
+        record.Colour = line.rest;
+    else if (line.first == "Label")
+        record.Label = line.rest;
 }
 
 int errorNumber(const std::exception& error) {
@@ -81,11 +89,21 @@ void addLine(std::string& text, std::initializer_list<std::string_view> parts) {
     text += "\r\n";
 }
 
+// A key of which a robot may have none is left out then, so that the file is as it always was.
+void addMark(std::string& text, std::string_view key, std::string_view value) {
+    const std::string_view line =
+        value.substr(0, value.find_first_of(std::string_view("\r\n\0", 3)));
+    if (!line.empty())
+        addLine(text, {key, line});
+}
+
 void addRobot(std::string& text, const RobotRecord& robot, const RobotPaths& paths) {
     addLine(text, {"[Robot]"});
     addLine(text, {"Name=", asToken(robot.Name)});
     addLine(text, {"IPaddr=", asToken(robot.IPaddr)});
     addLine(text, {"Path=", writableFolder(robot.Path, paths)});
+    addMark(text, "Colour=", robot.Colour);
+    addMark(text, "Label=", robot.Label);
     addLine(text, {});
 }
 

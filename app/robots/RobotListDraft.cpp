@@ -99,6 +99,15 @@ void RobotListDraft::setFolder(const std::string& path) {
         robot->Path = path;
 }
 
+void RobotListDraft::setMark(const std::string& colour, const std::string& label) {
+    if (selectedRobot().Colour == colour && selectedRobot().Label == label)
+        return;
+    if (auto* const robot = edit()) {
+        robot->Colour = colour;
+        robot->Label = label;
+    }
+}
+
 bool RobotListDraft::isChanged() const {
     return !std::ranges::equal(entries_, stored_, {}, &RobotEntry::robot);
 }

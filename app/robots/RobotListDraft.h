@@ -45,6 +45,7 @@ class RobotListDraft {
     /// The text of an address box (0 to 3) has changed; what the box shows from then on.
     TypedPart setAddressPart(std::size_t part, const std::string& text);
     void setFolder(const std::string& path);
+    void setMark(const std::string& colour, const std::string& label);
 
     /// Whether the operator has edited anything since the start or the last apply.
     bool isEdited() const { return edited_; }

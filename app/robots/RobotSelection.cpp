@@ -33,7 +33,7 @@ void RobotSelection::choose(int index) {
     with_.state.CurrentRobotIndex = static_cast<std::int16_t>(index);
     if (with_.state.SyncroRobotDir == 1)
         followFolder();
-    with_.view.showAddress(with_.state.CurrentRobot.IPaddr);
+    commands_.showRobot();
     commands_.updateStates();
     refreshController();
 }

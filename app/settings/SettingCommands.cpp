@@ -54,7 +54,23 @@ void SettingCommands::takeRobots(SettingValues&& values) {
     state.CurrentRobot = values.CurrentRobot ? state.RobotList[current] : RobotRecord();
     with_.registry.noteEdit();
     with_.registry.fillBox(with_.box);
-    with_.view.showAddress(state.CurrentRobot.IPaddr);
+    with_.main.showRobot();
+}
+
+void SettingCommands::takeMark(const RobotRecord& marked) {
+    auto& state = with_.state;
+    const auto place = currentRobotPlace(state);
+    if (!place)
+        return;
+    RobotRecord& robot = state.RobotList[*place];
+    if (robot.Colour == marked.Colour && robot.Label == marked.Label)
+        return;
+    for (RobotRecord* const record : {&robot, &state.CurrentRobot}) {
+        record->Colour = marked.Colour;
+        record->Label = marked.Label;
+    }
+    with_.registry.noteEdit();
+    with_.main.showRobot();
 }
 
 void SettingCommands::showSettings() {

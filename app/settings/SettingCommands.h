@@ -10,6 +10,7 @@ class RobotRegistry;
 class SettingDraft;
 class Snappy;
 struct ApplicationState;
+struct RobotRecord;
 struct SettingValues;
 
 /// What applied settings reach; everything is borrowed and outlives it.
@@ -31,6 +32,8 @@ class SettingCommands {
 
     /// OK or apply, on a draft without a fault: its values become the program's, then the
     /// session's; a controller pane that now belongs to another machine is emptied.
+    /// Colour and label for the robot in force, to be written with the registry.
+    void takeMark(const RobotRecord& marked);
     void apply(SettingDraft& draft);
     /// After the dialog was closed, whichever way: everything that shows a setting.
     void showSettings();

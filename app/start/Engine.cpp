@@ -2,6 +2,7 @@
 
 #include "base/PathRules.h"
 #include "files/ControllerPlace.h"
+#include "files/RobotMark.h"
 #include "lang/MessageNumbers.h"
 #include "lang/SystemReasons.h"
 #include "platform/Environment.h"
@@ -41,6 +42,7 @@ Engine::Engine(EngineGround ground)
                .modeChanged = std::move(ground.modeChanged)}) {
     progress.setUsualPlace([this] { return fromController(state); });
     progress.setClock(ground.clock ? std::move(ground.clock) : steadyTime);
+    progress.setMark([this] { return markInForce(messages, state); });
 }
 
 std::string Engine::libraryProblem() {

@@ -62,7 +62,7 @@ void startMainWindow(const MainServices& with, MainCommands& commands) {
         commands.mnuModeHiSpeed();
     else
         commands.mnuModeBsc();
-    with.view.showAddress(state.CurrentRobot.IPaddr);
+    commands.showRobot();
     // The view first, so that no row is shown in another one before.
     with.view.showView(ActiveSide::PC, state.PCDispType);
     openStoredFolder(with);

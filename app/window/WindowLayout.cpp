@@ -30,16 +30,35 @@ Rectangle highlightUnder(const Rectangle& pane) {
     return {pane.left, pane.top + pane.height + 15, pane.width, 60};
 }
 
-void layConnection(WindowLayout& layout) {
+/// The address stands at the right end, with the mark or its heading above it; the box has what is
+/// left. `left` is where the controller pane begins, or the tool bar ends.
+void layRobot(WindowLayout& layout, double left, RobotRoom robots) {
+    constexpr double addressWidth = 1500;
+    constexpr double besideBox = 720 + 90; ///< its heading, and the gap to the address
+    constexpr double smallestBox = 1300;
+    constexpr double designLeft = paneLeft + paneWidth + gap;
+    constexpr double swatch = 210;
+    const double right = layout.fraCtrl.right();
+    const double most = std::max(addressWidth, right - left - besideBox - smallestBox);
+    const double address = std::clamp(robots.mark + swatch + 60, addressWidth, most);
+    // In a window that is wider than designed there is room between the tool bar and the pane.
+    const double wanted = right - address - besideBox - robots.box;
+    const double begin = std::clamp(wanted, std::min(left, designLeft), left);
+    layout.lblRbtName = {begin, 180, 690, 225};
+    layout.cmbRbtName = {begin + 720, 105, right - begin - besideBox - address, 315};
+    layout.lblIPaddr = {right - address, 15, address, 270};
+    layout.lblIPAddr2 = {right - address, 285, address, 270};
+    layout.robotColour = {right - address, 45, swatch, swatch};
+    layout.lblRobotMark = {right - address + swatch + 60, 15, address - swatch - 60, 270};
+}
+
+void layConnection(WindowLayout& layout, RobotRoom robots) {
     // Never over the tool bar, however far the controller pane moves to the left.
     const double left = std::max(layout.fraCtrl.left, layout.tlbMain.right() + 30);
     const double right = layout.fraCtrl.right();
     layout.lblDisp[serialLabelIndex] = {left, 180, 900, 225};
     layout.lbl232CParam = {left + 930, 60, right - left - 930, 450};
-    layout.lblRbtName = {left, 180, 690, 225};
-    layout.cmbRbtName = {left + 720, 105, right - left - 2310, 315};
-    layout.lblIPaddr = {right - 1500, 15, 1500, 270};
-    layout.lblIPAddr2 = {right - 1500, 285, 1500, 270};
+    layRobot(layout, left, robots);
 }
 
 void layPCPane(WindowLayout& layout, Growth growth) {
@@ -75,7 +94,7 @@ WindowSize atLeastMinimum(WindowSize size) {
     return {std::max(size.width, minimumSize.width), std::max(size.height, minimumSize.height)};
 }
 
-WindowLayout windowLayout(WindowSize outer) {
+WindowLayout windowLayout(WindowSize outer, RobotRoom robots) {
     const WindowSize size = atLeastMinimum(outer);
     // The panes share what the window is wider; in height both take all of it.
     const Growth growth{(size.width - designSize.width) / 2, size.height - designSize.height};
@@ -84,7 +103,7 @@ WindowLayout windowLayout(WindowSize outer) {
     layPanes(layout, growth);
     layout.shapePC = highlightUnder(layout.fraPC);
     layout.shapeCtrl = highlightUnder(layout.fraCtrl);
-    layConnection(layout);
+    layConnection(layout, robots);
     layPCPane(layout, growth);
     layControllerPane(layout);
     layViewer(layout, growth);

@@ -41,6 +41,7 @@ struct WindowLayout {
     Rectangle shapePC, shapeCtrl; ///< the highlights under the two panes
     Rectangle lbl232CParam;
     Rectangle lblRbtName, cmbRbtName, lblIPaddr, lblIPAddr2;
+    Rectangle robotColour, lblRobotMark; ///< in the place of `lblIPaddr`
 
     // In `fraPC`.
     Rectangle tlbPCButton, Picture1, trvFolderName, Command1, tlbPC;
@@ -59,7 +60,13 @@ struct WindowLayout {
 /// A size that is too small raised to the smallest one.
 WindowSize atLeastMinimum(WindowSize size);
 
+/// What the robots would like to have in the window; they get it as far as there is room.
+struct RobotRoom {
+    double box = 0;  ///< width of a box that shows the longest name
+    double mark = 0; ///< of the text of the mark, none without one
+};
+
 /// The layout for an outer size; one below the minimum is laid out as the minimum.
-WindowLayout windowLayout(WindowSize outer);
+WindowLayout windowLayout(WindowSize outer, RobotRoom robots = {});
 
 } // namespace vantrel

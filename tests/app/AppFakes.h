@@ -79,7 +79,7 @@ class LoggingPaneWindow final : public FakePaneWindow {
 
 class UnansweredQuestion final : public QuestionWindow {
   public:
-    Answer ask(const std::string&, const std::string&, const std::string&,
+    Answer ask(const std::string&, const std::string&, const QuestionNote&,
                CheckedChoice*) override {
         return Answer::Cancel;
     }

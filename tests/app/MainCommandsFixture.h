@@ -41,6 +41,7 @@ class RecordingView : public MainWindowView {
         log.push_back("serial " + port + " " + format);
     }
     void showAddress(const std::string& shown) override { address = shown; }
+    void showRobotMark(const PlaceMark& shown) override { mark = shown; }
     void showFolder(const std::string& path) override { folder = path; }
     void showView(ActiveSide side, std::int16_t type) override {
         (side == ActiveSide::PC ? pcView : controllerView) = type;
@@ -55,6 +56,7 @@ class RecordingView : public MainWindowView {
     ModeLook mode;
     ActiveSide active = ActiveSide::PC;
     std::string address;
+    PlaceMark mark;
     std::string folder;
     int pcView = -1;
     int controllerView = -1;
@@ -127,6 +129,7 @@ class RecordingWindows : public CommandWindows, public ListFileWindow {
     void openVersionWindow() override { opened.emplace_back("version"); }
     void openResult() override { opened.emplace_back("result"); }
     void testConnection() override { opened.emplace_back("test"); }
+    void editRobotMark() override { opened.emplace_back("mark"); }
     bool readList(std::string_view mode) override {
         opened.push_back("list " + std::string(mode));
         return false;

@@ -89,5 +89,35 @@ TEST(RobotFileWriterTest, WhatIsWrittenReadsBack) {
     EXPECT_EQ(RobotFileReader(lines, boxes, "/opt").readList(), robots);
 }
 
+TEST(RobotFileWriterTest, AMarkIsWrittenWhereThereIsOne) {
+    std::vector<RobotRecord> robots = emptyRobotList();
+    robots.insert(robots.begin(), {robot("R1", "", "/a"), robot("R2", "", "/b")});
+    robots[0].Colour = "Red";
+    robots[1].Label = "LIVE, LINE=2";
+    EXPECT_EQ(registryText("R1", robots, RobotPaths("/opt", PathStyle::Posix)),
+              "[Boot]\r\nName=R1\r\n\r\n"
+              "[Robot]\r\nName=R1\r\nIPaddr=\r\nPath=/a\r\nColour=Red\r\n\r\n"
+              "[Robot]\r\nName=R2\r\nIPaddr=\r\nPath=/b\r\nLabel=LIVE, LINE=2\r\n\r\n");
+}
+
+TEST(RobotFileWriterTest, AMarkThatCannotBeShownReadsBackAsItWas) {
+    std::vector<RobotRecord> robots = emptyRobotList();
+    robots.insert(robots.begin(), robot("R1", "", "/a"));
+    robots[0].Colour = " Pink, dark = 7";
+    robots[0].Label = std::string(500, 'x') + "\x01\t=,[Robot] ";
+    const std::string text = registryText("R1", robots, RobotPaths("/opt", PathStyle::Posix));
+    tests::FakeMessageBoxes boxes;
+    TextLines lines(text);
+    EXPECT_EQ(RobotFileReader(lines, boxes, "/opt").readList(), robots);
+}
+
+TEST(RobotFileWriterTest, NoLineIsAddedByAMark) {
+    std::vector<RobotRecord> robots = emptyRobotList();
+    robots.insert(robots.begin(), robot("R1", "", "/a"));
+    robots[0].Label = "A\r\n[Robot]";
+    const std::string text = registryText("R1", robots, RobotPaths("/opt", PathStyle::Posix));
+    EXPECT_TRUE(text.ends_with("Label=A\r\n\r\n")) << text;
+}
+
 } // namespace
 } // namespace vantrel

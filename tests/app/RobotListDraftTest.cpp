@@ -268,5 +268,24 @@ TEST(RobotListDraftTest, NoMoreRobotsThanAPlaceCanCount) {
     EXPECT_FALSE(draft.isEdited());
 }
 
+TEST(RobotListDraftTest, AMarkGoesWithItsRobot) {
+    auto draft = draftOn(1);
+    draft.setMark("", "");
+    EXPECT_FALSE(draft.isEdited()) << "as it was";
+    draft.setMark("Red", "LIVE");
+    EXPECT_TRUE(draft.isEdited());
+    draft.rename("RENAMED");
+    draft.insertBefore();
+    EXPECT_EQ(draft.selectedRobot().Label, "");
+    draft.select(0);
+    draft.remove();
+    const auto records = draft.records();
+    ASSERT_EQ(records.size(), 4U);
+    EXPECT_EQ(records[1].Name, "RENAMED");
+    EXPECT_EQ(records[1].Colour, "Red");
+    EXPECT_EQ(records[1].Label, "LIVE");
+    EXPECT_EQ(records[2].Label, "");
+}
+
 } // namespace
 } // namespace vantrel

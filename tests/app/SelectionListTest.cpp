@@ -30,7 +30,7 @@ class SelectionListTest : public MainCommandsTest {
 
     void saveAs(const std::string& path) {
         windows.newLists.push_back(path);
-        run("mnuTools(2)");
+        run("mnuTools(3)");
     }
     /// Which jobs the commands on lists read in a list file of the PC folder.
     std::vector<std::string> readBack(const std::string& file) {
@@ -43,7 +43,7 @@ class SelectionListTest : public MainCommandsTest {
     }
     bool isOffered() {
         main.updateStates();
-        return shown("mnuTools(2)").enabled;
+        return shown("mnuTools(3)").enabled;
     }
 };
 
@@ -66,7 +66,7 @@ TEST_F(SelectionListTest, TheControllersJobsAreListedToo) {
 
 TEST_F(SelectionListTest, BeginsInThePCFolderWithANameOfTheFirstJob) {
     selectOnPC({"B.JBI", "C.JBI"});
-    run("mnuTools(2)");
+    run("mnuTools(3)");
     EXPECT_THAT(windows.opened, ElementsAre("new list B.lst"));
     EXPECT_EQ(windows.folder, pc.path());
     EXPECT_FALSE(pc.has("B.lst"));

@@ -278,5 +278,37 @@ TEST_F(SettingCommandsTest, AfterwardsLabelCaptionsCountsAndStatesFollow) {
     EXPECT_TRUE(shown("mnuFile(0)").enabled);
 }
 
+TEST_F(SettingCommandsTest, AMarkIsTakenForTheRobotInForceAndWritten) {
+    RobotRecord marked = state.CurrentRobot;
+    settings.takeMark(marked);
+    EXPECT_FALSE(registry.hasUnwrittenEdit()) << "nothing has changed";
+    marked.Colour = "Red";
+    marked.Label = "LIVE";
+    settings.takeMark(marked);
+    EXPECT_EQ(state.RobotList[1], marked);
+    EXPECT_EQ(state.CurrentRobot, marked);
+    EXPECT_EQ(state.RobotList[0].Label, "");
+    EXPECT_EQ(view.mark.text, "LIVE");
+    EXPECT_TRUE(registry.hasUnwrittenEdit());
+}
+
+TEST_F(SettingCommandsTest, WithoutARobotThereIsNothingToMark) {
+    state.RobotList = emptyRobotList();
+    main.updateStates();
+    EXPECT_FALSE(shown("mnuTools(2)").enabled);
+    RobotRecord marked = state.CurrentRobot;
+    marked.Label = "LIVE";
+    settings.takeMark(marked);
+    EXPECT_EQ(state.CurrentRobot.Label, "");
+    EXPECT_EQ(state.RobotList, emptyRobotList());
+}
+
+TEST_F(SettingCommandsTest, AnAppliedMarkIsShown) {
+    apply([](SettingDraft& draft) { draft.robots().setMark("Blue", "TEST"); });
+    EXPECT_EQ(state.CurrentRobot.Label, "TEST");
+    EXPECT_EQ(view.mark.text, "TEST");
+    EXPECT_TRUE(view.mark.colour);
+}
+
 } // namespace
 } // namespace vantrel::tests

@@ -121,6 +121,41 @@ TEST(WindowLayoutTest, ConnectionBlockNeverCoversTheToolBar) {
     EXPECT_LE(layout.cmbRbtName.right(), layout.lblIPaddr.left);
 }
 
+TEST(WindowLayoutTest, ALongNameTakesTheRoomThatAWiderWindowHas) {
+    EXPECT_EQ(windowLayout(designSize, {.box = 9000}).cmbRbtName,
+              windowLayout(designSize).cmbRbtName);
+    const WindowLayout usual = windowLayout({15000, 10000});
+    EXPECT_EQ(usual.lblRbtName.left, usual.fraCtrl.left);
+    EXPECT_EQ(windowLayout({15000, 10000}, {.box = usual.cmbRbtName.width}).cmbRbtName,
+              usual.cmbRbtName);
+    const WindowLayout longer = windowLayout({15000, 10000}, {.box = usual.cmbRbtName.width + 100});
+    EXPECT_EQ(longer.cmbRbtName.width, usual.cmbRbtName.width + 100);
+    EXPECT_EQ(longer.cmbRbtName.right(), usual.cmbRbtName.right());
+    EXPECT_EQ(longer.lblRbtName.right() + 30, longer.cmbRbtName.left);
+    const WindowLayout longest = windowLayout({15000, 10000}, {.box = 90000});
+    EXPECT_EQ(longest.lblRbtName.left, 5172);
+    EXPECT_EQ(longest.lblDisp[serialLabelIndex], usual.lblDisp[serialLabelIndex]);
+}
+
+TEST(WindowLayoutTest, AMarkStandsWhereTheHeadingOfTheAddressDoes) {
+    const WindowLayout layout = windowLayout(designSize, {.mark = 900});
+    EXPECT_EQ(layout.cmbRbtName, windowLayout(designSize).cmbRbtName);
+    EXPECT_EQ(layout.robotColour, (Rectangle{8244, 45, 210, 210}));
+    EXPECT_EQ(layout.lblRobotMark, (Rectangle{8514, 15, 1230, 270}));
+}
+
+TEST(WindowLayoutTest, AWideMarkTakesRoomFromTheBoxButLeavesIt) {
+    const WindowLayout layout = windowLayout(designSize, {.mark = 1830});
+    EXPECT_EQ(layout.lblRobotMark, (Rectangle{7914, 15, 1830, 270}));
+    EXPECT_EQ(layout.lblIPAddr2, (Rectangle{7644, 285, 2100, 270}));
+    EXPECT_EQ(layout.cmbRbtName.width, 1662);
+    for (const WindowSize& size : {designSize, minimumSize}) {
+        const WindowLayout wide = windowLayout(size, {.box = 9000, .mark = 9000});
+        EXPECT_EQ(wide.cmbRbtName.width, 1300);
+        EXPECT_EQ(wide.lblRobotMark.right(), wide.fraCtrl.right());
+    }
+}
+
 TEST(WindowLayoutTest, PCPaneFollowsItsFrame) {
     const WindowLayout layout = windowLayout({15000, 10000});
     EXPECT_EQ(layout.tlbPCButton, (Rectangle{90, 270, 390, 390}));

@@ -113,5 +113,15 @@ TEST_F(OperatorTalkTest, AnswersComeBackAsGiven) {
     EXPECT_EQ(boxes.shown.front().icon, BoxIcon::Exclamation);
 }
 
+TEST_F(OperatorTalkTest, AMarkStandsBesideTheControllerOnly) {
+    panel.setUsualPlace([] { return "usual"; });
+    panel.setMark([] { return PlaceMark{"LIVE", 0xD00000, "red"}; });
+    talk.ask("title", "question", "facts");
+    panel.setPlace("");
+    talk.ask("title", "question", "facts");
+    EXPECT_EQ(question.notes, (std::vector<std::string>{"usual \u2013 LIVE\nfacts", "facts"}));
+    EXPECT_EQ(question.marks, (std::vector<PlaceMark>{{"LIVE", 0xD00000, "red"}, PlaceMark()}));
+}
+
 } // namespace
 } // namespace vantrel

@@ -104,6 +104,7 @@ constexpr std::pair<int, int> captionNumbers[] = {
     {message::menuTools, message::resultClose},
     {message::menuTestConnection, message::testEnd},
     {message::testCopy, message::testCopy},
+    {message::menuRobotMark, message::colourGrey},
     {message::menuNewFolder, message::folderToOpen},
     {message::toWasteBin, message::quickFilterLabel},
     {message::resultCopied, message::resultCopied},

@@ -15,13 +15,14 @@ namespace vantrel::tests {
 /// dialog closed by its close box is.
 class ScriptedQuestionWindow : public QuestionWindow {
   public:
-    Answer ask(const std::string& title, const std::string& question, const std::string& note,
+    Answer ask(const std::string& title, const std::string& question, const QuestionNote& note,
                CheckedChoice* choice) override {
         choices.push_back(choice ? std::optional(*choice) : std::nullopt);
         if (choice && checked)
             choice->isChecked = *checked;
         titles.push_back(title);
-        notes.push_back(note);
+        notes.push_back(note.text);
+        marks.push_back(note.mark);
         questions.push_back(question);
         if (whileOpen)
             whileOpen();
@@ -33,7 +34,8 @@ class ScriptedQuestionWindow : public QuestionWindow {
     std::vector<std::string> questions;
     std::vector<std::string> notes;                    ///< what stood below them
     std::vector<std::optional<CheckedChoice>> choices; ///< as they were when it opened
-    std::optional<bool> checked;     ///< what the operator makes of a choice, if anything
+    std::optional<bool> checked; ///< what the operator makes of a choice, if anything
+    std::vector<PlaceMark> marks;
     std::function<void()> whileOpen; ///< what happens while the dialog is on the screen
 
   private:

@@ -164,7 +164,7 @@ void EveryCommandTest::prepare(const CommandRow& command) {
         menu("mnuRefresh");
         choose(*controls().lsvCtrl, {0});
     }
-    if (is("mnuTools(2)")) // the system's own window, which knows no Esc here
+    if (is("mnuTools(3)")) // the system's own window, which knows no Esc here
         modal.answer([this](wxDialog&) {
             dialogs_ += "file dialog\n";
             return wxID_CANCEL;

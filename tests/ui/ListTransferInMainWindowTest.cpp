@@ -69,7 +69,7 @@ TEST_F(ListTransferInMainWindowTest, AsksWithTheSystemsWindowWhereTheSelectionIs
     pcJob("A");
     pcJob("B");
     start(false);
-    const auto isOffered = [this] { return window().menus().find("mnuTools(2)")->IsEnabled(); };
+    const auto isOffered = [this] { return window().menus().find("mnuTools(3)")->IsEnabled(); };
     choose(*controls().lsvPC, {});
     EXPECT_TRUE(waitFor([&] { return !isOffered(); }));
     choose(*controls().lsvPC, {0, 1});
@@ -83,7 +83,7 @@ TEST_F(ListTransferInMainWindowTest, AsksWithTheSystemsWindowWhereTheSelectionIs
         EXPECT_EQ(system.GetWildcard(), "*.lst");
         return wxID_CANCEL;
     });
-    menu("mnuTools(2)");
+    menu("mnuTools(3)");
     EXPECT_FALSE(folder.has("jobs/A.lst"));
     EXPECT_TRUE(waitFor([this] { return controls().lsvPC->native().HasFocus(); }));
 }

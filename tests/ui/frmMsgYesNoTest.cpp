@@ -17,7 +17,7 @@ class frmMsgYesNoTest : public DialogInLanguage {
         return name + " " + messages.resourceMessage(2);
     }
 
-    frmMsgYesNo dialog{nullptr,  "Snappy", overwriteQuestion("WELD_01.JBI"), "", nullptr,
+    frmMsgYesNo dialog{nullptr,  "Snappy", overwriteQuestion("WELD_01.JBI"), {}, nullptr,
                        messages, state};
 };
 
@@ -42,7 +42,7 @@ TEST_P(frmMsgYesNoTest, StandsInTheMiddleOfTheScreen) {
     wxFrame corner(nullptr, wxID_ANY, "Snappy", wxPoint(0, 0), wxSize(320, 200));
     corner.Show();
     runEvents();
-    frmMsgYesNo question(&corner, "Snappy", overwriteQuestion("WELD_01.JBI"), "", nullptr, messages,
+    frmMsgYesNo question(&corner, "Snappy", overwriteQuestion("WELD_01.JBI"), {}, nullptr, messages,
                          state);
     const auto isInTheMiddle = [&question] {
         constexpr int frame = 60; // what a window manager adds at one side only, in half pixels
@@ -100,7 +100,7 @@ TEST_P(frmMsgYesNoTest, TheKeyboardAnswersIt) {
          {KeyRow{'Y', wxMOD_ALT, "0"}, KeyRow{'N', wxMOD_ALT, "1"}, KeyRow{'A', wxMOD_ALT, "2"},
           KeyRow{'C', wxMOD_ALT, "3"}, KeyRow{WXK_RETURN, wxMOD_NONE, "3"},
           KeyRow{WXK_ESCAPE, wxMOD_NONE, "3"}, KeyRow{WXK_F4, wxMOD_ALT, "3"}}) {
-        frmMsgYesNo asked(nullptr, "Snappy", "?", "", nullptr, messages, state);
+        frmMsgYesNo asked(nullptr, "Snappy", "?", {}, nullptr, messages, state);
         whileModal(asked, [&] {
             ASSERT_TRUE(waitFor([&] { return asked.IsActive(); }));
             pressKey(key, modifiers);
@@ -111,7 +111,7 @@ TEST_P(frmMsgYesNoTest, TheKeyboardAnswersIt) {
 }
 
 TEST_P(frmMsgYesNoTest, ALongNameWrapsInsteadOfWideningIt) {
-    frmMsgYesNo longOne(nullptr, "Snappy", overwriteQuestion(std::string(200, 'W') + ".JBI"), "",
+    frmMsgYesNo longOne(nullptr, "Snappy", overwriteQuestion(std::string(200, 'W') + ".JBI"), {},
                         nullptr, messages, state);
     EXPECT_LT(longOne.GetSize().x, longOne.FromDIP(600));
     whileModal(longOne, [&] {
@@ -122,7 +122,7 @@ TEST_P(frmMsgYesNoTest, ALongNameWrapsInsteadOfWideningIt) {
 }
 
 TEST_P(frmMsgYesNoTest, AmpersandsOfNamesAreShown) {
-    const frmMsgYesNo asked(nullptr, "Snappy", "A&B.JBI ?", "", nullptr, messages, state);
+    const frmMsgYesNo asked(nullptr, "Snappy", "A&B.JBI ?", {}, nullptr, messages, state);
     const auto* const label =
         dynamic_cast<wxStaticText*>(wxWindow::FindWindowByName("lblMsg", &asked));
     EXPECT_EQ(label->GetLabelText(), "A&B.JBI ?");
@@ -130,13 +130,13 @@ TEST_P(frmMsgYesNoTest, AmpersandsOfNamesAreShown) {
 
 TEST_P(frmMsgYesNoTest, ALanguageWithoutCaptionsLeavesNoButtonEmpty) {
     messages.replace({});
-    frmMsgYesNo asked(nullptr, "Snappy", "?", "", nullptr, messages, state);
+    frmMsgYesNo asked(nullptr, "Snappy", "?", {}, nullptr, messages, state);
     EXPECT_EQ(labelOf(asked, "cmdYesNo0"), "はい(&Y)");
     EXPECT_EQ(labelOf(asked, "cmdYesNo3"), "ｷｬﾝｾﾙ(&C)");
 }
 
 TEST_P(frmMsgYesNoTest, NamesTheControllerBelowTheQuestion) {
-    const frmMsgYesNo asked(nullptr, "Snappy", "A.JBI ?", "\u2192 A&B (10.0.0.5)", nullptr,
+    const frmMsgYesNo asked(nullptr, "Snappy", "A.JBI ?", {"\u2192 A&B (10.0.0.5)"}, nullptr,
                             messages, state);
     const auto* const question = wxWindow::FindWindowByName("lblMsg", &asked);
     const auto* const place =
@@ -153,8 +153,8 @@ TEST_P(frmMsgYesNoTest, EachQuestionIsAskedByADialogOfItsOwn) {
     ModalScript operatorsHand;
     operatorsHand.act([](wxDialog& asked) { click(asked, "cmdYesNo2"); });
     operatorsHand.act([](wxDialog& asked) { asked.Close(); });
-    EXPECT_EQ(questions.ask("title", "one?", "", nullptr), Answer::All);
-    EXPECT_EQ(questions.ask("title", "two?", "", nullptr), Answer::Cancel);
+    EXPECT_EQ(questions.ask("title", "one?", {}, nullptr), Answer::All);
+    EXPECT_EQ(questions.ask("title", "two?", {}, nullptr), Answer::Cancel);
 }
 
 TEST_P(frmMsgYesNoTest, AChoiceComesBackAsItWasLeft) {
@@ -170,13 +170,13 @@ TEST_P(frmMsgYesNoTest, AChoiceComesBackAsItWasLeft) {
         box.SetValue(true);
         click(asked, "cmdYesNo1");
     });
-    EXPECT_EQ(questions.ask("title", "one?", "facts", &choice), Answer::No);
+    EXPECT_EQ(questions.ask("title", "one?", {"facts"}, &choice), Answer::No);
     EXPECT_TRUE(choice.isChecked);
     operatorsHand.act([](wxDialog& asked) {
         EXPECT_TRUE(control<wxCheckBox>(asked, "chkChoice").IsChecked());
         click(asked, "cmdYesNo0");
     });
-    EXPECT_EQ(questions.ask("title", "two?", "", &choice), Answer::Yes);
+    EXPECT_EQ(questions.ask("title", "two?", {}, &choice), Answer::Yes);
     EXPECT_TRUE(choice.isChecked);
     EXPECT_EQ(wxWindow::FindWindowByName("chkChoice", &dialog), nullptr) << "nothing to choose";
 }

@@ -197,6 +197,7 @@ void SettingRobotPage::showListMenu(const wxPoint& place) {
             item->GetId());
     };
     add(message::menuTestConnection, onTestConnection);
+    add(message::menuRobotMark, onEditMark);
     lstRgstRbt_->PopupMenu(&menu, place);
 }
 

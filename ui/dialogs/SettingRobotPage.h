@@ -28,6 +28,8 @@ class SettingRobotPage : public wxPanel {
     std::function<void()> onEdited;
     /// Called when the connection of the selected robot is to be tested.
     std::function<void()> onTestConnection;
+    /// Called when its colour and label are to be edited.
+    std::function<void()> onEditMark;
 
     /// Gives the list and the address boxes the widths that their texts ask for in their font.
     void fitFields();

@@ -4,6 +4,7 @@
 #include "base/ApplicationState.h"
 #include "ui/dialogs/DialogBasics.h"
 #include "ui/look/Captions.h"
+#include "ui/look/ColourSwatch.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/WindowFont.h"
 #include "ui/look/WxText.h"
@@ -23,6 +24,7 @@ namespace {
 
 /// Device-independent pixels; texts of any length are shortened to it, so the window never jumps.
 constexpr int contentWidth = 400;
+constexpr int swatchWidth = 16;
 
 /// "&" in a file's name is shown, and an equal text is not painted again.
 void showText(wxStaticText& label, const std::string& text) {
@@ -71,9 +73,17 @@ void frmMsgStat::buildControls() {
     lblPlace_ =
         new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblPlace");
     lblPace_ = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblPace");
+    shpPlace_ = new ColourSwatch(this, "shpPlace", wxBORDER_SIMPLE);
+    shpPlace_->SetMinSize(FromDIP(wxSize(swatchWidth, -1)));
+    shpPlace_->Hide();
     cmdCancel_ = newCaptionButton(this, "", "cmdCancel");
 
     const int gap = FromDIP(8);
+    auto* const place = new wxBoxSizer(wxHORIZONTAL);
+    place->Add(shpPlace_, wxSizerFlags().Expand().Border(wxRIGHT, gap));
+    place->Add(lblPlace_, wxSizerFlags(1));
+    // The other lines keep the width.
+    lblPlace_->SetMinSize(FromDIP(wxSize(1, -1)));
     // A hidden bar or button keeps its place: the window's size does not change while it is shown.
     const auto whole = wxSizerFlags().Expand().ReserveSpaceEvenIfHidden();
     auto* const column = new wxBoxSizer(wxVERTICAL);
@@ -83,7 +93,7 @@ void frmMsgStat::buildControls() {
     column->AddSpacer(gap);
     column->Add(lblWaiting_, whole);
     column->AddSpacer(gap);
-    column->Add(lblPlace_, whole);
+    column->Add(place, wxSizerFlags().Expand());
     column->AddSpacer(gap);
     column->Add(lblPace_, whole);
     column->AddSpacer(2 * gap);
@@ -141,9 +151,19 @@ void frmMsgStat::showTexts(const ProgressPanel& panel) {
     showText(*lblWaiting_, panel.waitingFor());
     showText(*lblPlace_, panel.place());
     showText(*lblPace_, panel.pace());
+    showColour(panel.mark());
     const auto caption = toWx(panel.cancelCaption());
     if (!caption.empty() && cmdCancel_->GetLabel() != caption)
         cmdCancel_->SetLabel(caption);
+}
+
+void frmMsgStat::showColour(const PlaceMark& mark) {
+    if (mark.colour)
+        shpPlace_->showColour(*mark.colour, mark.colourName);
+    if (shpPlace_->IsShown() == mark.colour.has_value())
+        return;
+    shpPlace_->Show(mark.colour.has_value());
+    Layout();
 }
 
 void frmMsgStat::showControls(const ProgressPanel& panel) {

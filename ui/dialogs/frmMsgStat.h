@@ -12,6 +12,8 @@ class wxStaticText;
 
 namespace vantrel {
 
+class ColourSwatch;
+
 struct ApplicationState;
 class MessageTable;
 
@@ -46,6 +48,7 @@ class frmMsgStat : public wxDialog, public ProgressView {
     void buildControls();
     void bindEvents();
     void showTexts(const ProgressPanel& panel);
+    void showColour(const PlaceMark& mark);
     void showControls(const ProgressPanel& panel);
     void showOrHide(bool visible);
     void pressCancel();
@@ -57,6 +60,7 @@ class frmMsgStat : public wxDialog, public ProgressView {
     wxStaticText* lblMsg_ = nullptr;
     wxGauge* pgbInf_ = nullptr;
     wxStaticText* lblWaiting_ = nullptr;
+    ColourSwatch* shpPlace_ = nullptr; ///< the colour of the controller that it names
     wxStaticText* lblPlace_ = nullptr;
     wxStaticText* lblPace_ = nullptr;
     wxButton* cmdCancel_ = nullptr;

@@ -4,6 +4,7 @@
 #include "base/ApplicationState.h"
 #include "ui/dialogs/DialogBasics.h"
 #include "ui/look/Captions.h"
+#include "ui/look/ColourSwatch.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
 #include "ui/look/WindowFont.h"
@@ -23,13 +24,14 @@ namespace {
 
 /// Device-independent pixels.
 constexpr int questionWidth = 380;
+constexpr int barWidth = 16;
 
 constexpr std::size_t cancelIndex = std::size_t(Answer::Cancel);
 
 } // namespace
 
 frmMsgYesNo::frmMsgYesNo(wxWindow* parent, const std::string& title, const std::string& question,
-                         const std::string& note, const CheckedChoice* choice,
+                         const QuestionNote& note, const CheckedChoice* choice,
                          const MessageTable& messages, const ApplicationState& state)
     : wxDialog(parent, wxID_ANY, toWx(title), wxDefaultPosition, wxDefaultSize,
                wxCAPTION | wxCLOSE_BOX, "frmMsgYesNo") {
@@ -46,16 +48,15 @@ frmMsgYesNo::frmMsgYesNo(wxWindow* parent, const std::string& title, const std::
     CentreOnScreen();
 }
 
-wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const std::string& note,
+wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const QuestionNote& note,
                                     const CheckedChoice* choice, const ApplicationState& state) {
     auto* const row = new wxBoxSizer(wxHORIZONTAL);
     auto* const picture = new wxStaticBitmap(this, wxID_ANY, questionPicture());
     row->Add(picture, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(16)));
     auto* const texts = new wxBoxSizer(wxVERTICAL);
     texts->Add(newText(question, state, "lblMsg"), wxSizerFlags().Expand());
-    if (!note.empty())
-        texts->Add(newText(note, state, "lblPlace"),
-                   wxSizerFlags().Expand().Border(wxTOP, FromDIP(8)));
+    if (!note.text.empty())
+        texts->Add(buildNote(note, state), wxSizerFlags().Expand().Border(wxTOP, FromDIP(8)));
     if (choice) {
         chkChoice_ = new wxCheckBox(this, wxID_ANY, toWx(choice->caption), wxDefaultPosition,
                                     wxDefaultSize, 0, wxDefaultValidator, "chkChoice");
@@ -63,6 +64,18 @@ wxSizer* frmMsgYesNo::buildQuestion(const std::string& question, const std::stri
         texts->Add(chkChoice_, wxSizerFlags().Border(wxTOP, FromDIP(10)));
     }
     row->Add(texts, wxSizerFlags(1).CentreVertical());
+    return row;
+}
+
+wxSizer* frmMsgYesNo::buildNote(const QuestionNote& note, const ApplicationState& state) {
+    auto* const row = new wxBoxSizer(wxHORIZONTAL);
+    if (note.mark.colour) {
+        auto* const bar = new ColourSwatch(this, "shpPlace", wxBORDER_SIMPLE);
+        bar->showColour(*note.mark.colour, note.mark.colourName);
+        bar->SetMinSize(FromDIP(wxSize(barWidth, -1)));
+        row->Add(bar, wxSizerFlags().Expand().Border(wxRIGHT, FromDIP(8)));
+    }
+    row->Add(newText(note.text, state, "lblPlace"), wxSizerFlags(1));
     return row;
 }
 
@@ -108,7 +121,7 @@ void frmMsgYesNo::press(std::size_t index) {
 }
 
 Answer QuestionDialogs::ask(const std::string& title, const std::string& question,
-                            const std::string& note, CheckedChoice* choice) {
+                            const QuestionNote& note, CheckedChoice* choice) {
     frmMsgYesNo dialog(dialogParent(), title, question, note, choice, messages_, state_);
     dialog.ShowModal();
     if (choice)

@@ -20,9 +20,9 @@ class MessageTable;
 class frmMsgYesNo : public wxDialog {
   public:
     /// `note` and `choice` stand below the question, as in `QuestionWindow`; an empty one leaves no
-    /// room.
+    /// room. The colour of a mark is a bar beside the note.
     frmMsgYesNo(wxWindow* parent, const std::string& title, const std::string& question,
-                const std::string& note, const CheckedChoice* choice, const MessageTable& messages,
+                const QuestionNote& note, const CheckedChoice* choice, const MessageTable& messages,
                 const ApplicationState& state);
 
     /// The number of the button that was pressed, as text. It is Cancel's until a button is
@@ -32,8 +32,9 @@ class frmMsgYesNo : public wxDialog {
     bool isChoiceChecked() const;
 
   private:
-    wxSizer* buildQuestion(const std::string& question, const std::string& note,
+    wxSizer* buildQuestion(const std::string& question, const QuestionNote& note,
                            const CheckedChoice* choice, const ApplicationState& state);
+    wxSizer* buildNote(const QuestionNote& note, const ApplicationState& state);
     wxStaticText* newText(const std::string& text, const ApplicationState& state,
                           const std::string& name);
     wxSizer* buildButtons(const MessageTable& messages);
@@ -50,7 +51,7 @@ class QuestionDialogs : public QuestionWindow {
     QuestionDialogs(const MessageTable& messages, const ApplicationState& state)
         : messages_(messages), state_(state) {}
 
-    Answer ask(const std::string& title, const std::string& question, const std::string& note,
+    Answer ask(const std::string& title, const std::string& question, const QuestionNote& note,
                CheckedChoice* choice) override;
 
   private:

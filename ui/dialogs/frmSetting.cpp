@@ -2,6 +2,7 @@
 
 #include "app/settings/SettingDraft.h"
 #include "base/ApplicationState.h"
+#include "files/RobotMark.h"
 #include "lang/FormCaptions.h"
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
@@ -10,6 +11,7 @@
 #include "ui/dialogs/SettingOptionPage.h"
 #include "ui/dialogs/SettingPortPage.h"
 #include "ui/dialogs/SettingRobotPage.h"
+#include "ui/dialogs/frmRobotMark.h"
 #include "ui/look/Captions.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/WindowFont.h"
@@ -65,9 +67,18 @@ void frmSetting::buildPages() {
         new SettingRobotPage(SSTab1_, draft_.robots(), messages, std::move(services_.folders)),
         message::settingsRobotPage);
     robotPage_->onTestConnection = [this] { services_.testConnection(*this); };
+    robotPage_->onEditMark = [this] { editMark(); };
     portPage_ = addPage(new SettingPortPage(SSTab1_, draft_.serial(), messages),
                         message::settingsCommunicationPage);
     addPage(new SettingOptionPage(SSTab1_, draft_, messages), message::settingsOptionsPage);
+}
+
+void frmSetting::editMark() {
+    RobotMarkDraft mark(draft_.robots().selectedRobot());
+    if (frmRobotMark(this, mark, services_.messages, services_.state).ShowModal() != wxID_OK)
+        return;
+    draft_.robots().setMark(mark.robot().Colour, mark.robot().Label);
+    refreshButtons();
 }
 
 wxSizer* frmSetting::buildButtons() {

@@ -41,6 +41,7 @@ class frmSetting : public wxDialog {
     void buildPages();
     wxSizer* buildButtons();
     void bindEvents();
+    void editMark();
     bool apply();
     void confirm();
     void refreshButtons();

@@ -1,0 +1,138 @@
+#include "DialogTest.h"
+#include "ProgramWorld.h"
+#include "ui/look/ColourSwatch.h"
+
+#include <gmock/gmock.h>
+#include <wx/choice.h>
+#include <wx/listbox.h>
+#include <wx/menu.h>
+
+namespace vantrel::tests {
+namespace {
+
+using testing::HasSubstr;
+
+constexpr int red = 1; ///< its place in the list of colours
+
+/// A robot's colour and label, through the whole program in each language.
+class RobotMarkInMainWindowTest : public testing::TestWithParam<const char*>, public ProgramWorld {
+  protected:
+    RobotMarkInMainWindowTest() {
+        settings("TransMode=16\r\n", GetParam());
+        EXPECT_TRUE(bool(LanguageFiles(dataFolder()).readInto(GetParam(), messages)));
+    }
+
+    static std::string picture(const char* name) {
+        return std::string("mark-") + name + "-" + GetParam();
+    }
+    /// The next dialog is that of colour and label, which is filled in and left by this button.
+    void expectMarkDialog(int colour, const std::string& label, const std::string& button) {
+        modal.act([=](wxDialog& dialog) {
+            ASSERT_EQ(dialog.GetName(), "frmRobotMark");
+            pick(control<wxChoice>(dialog, "cmbColour"), colour);
+            type(dialog, "txtLabel", label);
+            EXPECT_EQ(control<wxWindow>(dialog, "shpColour").IsShown(), colour > 0);
+            expectNothingCutOff(dialog);
+            saveScreenshot(dialog, picture("dialog"));
+            click(dialog, button);
+        });
+    }
+    void mark(int colour, const std::string& label) {
+        expectMarkDialog(colour, label, "cmdOK");
+        menu("mnuTools(2)");
+    }
+    void expectShown(const std::string& text, bool hasColour) {
+        EXPECT_EQ(controls().lblIPaddr->IsShown(), text.empty());
+        EXPECT_EQ(controls().lblRobotMark->IsShown(), !text.empty());
+        EXPECT_EQ(controls().lblRobotMark->GetLabelText().utf8_string(), text);
+        EXPECT_EQ(controls().robotColour->IsShown(), hasColour);
+        EXPECT_TRUE(controls().lblIPAddr2->IsShown());
+    }
+
+    MessageTable messages;
+};
+
+TEST_P(RobotMarkInMainWindowTest, WithoutOneTheWindowIsAsItAlwaysWas) {
+    start(false);
+    expectShown("", false);
+    expectMarkDialog(red, "LIVE", "cmdCancel");
+    menu("mnuTools(2)");
+    expectShown("", false);
+}
+
+TEST_P(RobotMarkInMainWindowTest, IsShownBesideTheBoxOfItsRobotOnly) {
+    start(false);
+    mark(red, "LIVE LINE");
+    expectShown("LIVE LINE", true);
+    EXPECT_EQ(controls().robotColour->GetBackgroundColour(), wxColour(0xD0, 0, 0));
+    const auto& text = *controls().lblRobotMark;
+    EXPECT_LE(text.GetTextExtent(text.GetLabelText()).x, text.GetSize().x);
+    saveScreenshot(window(), picture("window"));
+    menu("mnuModeBsc");
+    EXPECT_FALSE(controls().lblRobotMark->IsShown()) << "a serial line may lead to any robot";
+    EXPECT_FALSE(controls().robotColour->IsShown());
+    EXPECT_FALSE(controls().lblIPaddr->IsShown());
+}
+
+TEST_P(RobotMarkInMainWindowTest, AColourAloneIsNamed) {
+    start(false);
+    mark(red, "");
+    expectShown(messages.getMessage(513), true);
+    mark(0, "");
+    expectShown("", false);
+}
+
+TEST_P(RobotMarkInMainWindowTest, StandsBelowTheQuestion) {
+    pcJob("A");
+    robotJob("A");
+    start(true);
+    mark(red, "LIVE LINE");
+    choose(*controls().lsvPC, {0});
+    modal.act([&](wxDialog& dialog) {
+        ASSERT_EQ(dialog.GetName(), "frmMsgYesNo");
+        EXPECT_THAT(labelOf(dialog, "lblPlace"), HasSubstr("LIVE LINE"));
+        EXPECT_EQ(control<wxWindow>(dialog, "shpPlace").GetBackgroundColour(),
+                  wxColour(0xD0, 0, 0));
+        expectNothingCutOff(dialog);
+        saveScreenshot(dialog, picture("question"));
+        click(dialog, "cmdYesNo3");
+    });
+    menu("mnuFile(0)");
+}
+
+TEST_P(RobotMarkInMainWindowTest, TheSettingsKeepItWithTheSelectedRobot) {
+    start(false);
+    bool isMarked = false;
+    modal.act([&](wxDialog& dialog) {
+        auto& list = control<wxListBox>(dialog, "lstRgstRbt");
+        pick(list, 0);
+        list.Bind(wxEVT_MENU_OPEN, [&](wxMenuEvent& event) {
+            auto* const menu = event.GetMenu();
+            list.CallAfter([menu] {
+                const int id = menu->FindItemByPosition(1)->GetId();
+                closeOpenMenu(*menu);
+                wxCommandEvent chosen(wxEVT_MENU, id);
+                chosen.SetEventObject(menu);
+                menu->ProcessEvent(chosen);
+            });
+            event.Skip();
+        });
+        wxContextMenuEvent key(wxEVT_CONTEXT_MENU, list.GetId(), wxDefaultPosition);
+        key.SetEventObject(&list);
+        list.HandleWindowEvent(key);
+        auto& apply = control<wxButton>(dialog, "cmdRefresh");
+        EXPECT_TRUE(waitFor([&] { return apply.IsEnabled(); })) << "an edit like any other";
+        expectShown("", false);
+        click(dialog, "cmdOK");
+        isMarked = true;
+    });
+    expectMarkDialog(red, "TEST CELL", "cmdOK");
+    menu("mnuOpt(0)");
+    EXPECT_TRUE(isMarked);
+    expectShown("TEST CELL", true);
+}
+
+INSTANTIATE_TEST_SUITE_P(In, RobotMarkInMainWindowTest, bothLanguages, languageName);
+
+} // namespace
+} // namespace vantrel::tests
