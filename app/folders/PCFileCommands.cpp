@@ -110,8 +110,10 @@ void PCFileCommands::goToFolder() {
          .selected = with_.state.PCPath.size(),
          .problem =
              [this](const std::string& text) {
-                 return isFolder(absolute(text)) ? std::string()
-                                                 : with_.messages.getMessage(message::noSuchFolder);
+                 const std::string folder = absolute(text);
+                 return source_.isOnNetwork(folder) || isFolder(folder)
+                            ? std::string()
+                            : with_.messages.getMessage(message::noSuchFolder);
              },
          .completions = [this](const std::string& text) { return completions(text); }});
     if (!typed)
