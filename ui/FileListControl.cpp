@@ -265,7 +265,8 @@ void FileListControl::update(const PaneRows& rows, const std::vector<std::size_t
     rows_ = &rows;
     emptiness_ = rows.emptiness();
     const wxWindowUpdateLocker frozen(list_);
-    const long top = list_->GetTopItem();
+    // Only there the systems know what is on the screen.
+    const long top = view_ == ListView::Details ? list_->GetTopItem() : 0;
     fillItems();
     filling_ = true;
     for (const auto old : selectedRows())
@@ -275,11 +276,12 @@ void FileListControl::update(const PaneRows& rows, const std::vector<std::size_t
     if (focused)
         list_->SetItemState(long(*focused), wxLIST_STATE_FOCUSED, wxLIST_STATE_FOCUSED);
     filling_ = false;
-    // Items that were made anew stand at the start; the last row comes into view first, so that
-    // the old one ends at the top again.
+    // The last row comes into view first, so that the old one ends at the top again.
     if (top > 0 && top < list_->GetItemCount() && list_->GetTopItem() != top) {
         list_->EnsureVisible(list_->GetItemCount() - 1);
         list_->EnsureVisible(top);
+    } else if (view_ != ListView::Details && focused) {
+        list_->EnsureVisible(long(*focused));
     }
     surface().Refresh();
     changed();

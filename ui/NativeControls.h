@@ -48,6 +48,10 @@ void chooseInOpenListOnly(wxChoice& choice);
 /// hears nothing in a port that builds a choice of several windows.
 void tellRightPresses(wxChoice& choice);
 
+/// Has the open list of a choice be as wide as its entries, where the system would have it be as
+/// narrow as the closed one. To be called again when they change.
+void showWholeEntries(wxChoice& choice);
+
 /// Shows the list of a choice.
 void openList(wxChoice& choice);
 

@@ -84,6 +84,9 @@ void tellRightPresses(wxChoice& choice) {
     tellOfButton(choice.GetHandle(), &choice);
 }
 
+// The system's own list is as wide as they are.
+void showWholeEntries(wxChoice& /*choice*/) {}
+
 void openList(wxChoice& choice) {
     if (choice.IsEnabled())
         gtk_combo_box_popup(GTK_COMBO_BOX(choice.GetHandle()));

@@ -107,6 +107,11 @@ void appendQuietly(wxTextCtrl& control, const std::string& text) {
 // The toolkit hears of them.
 void tellRightPresses(wxChoice& /*choice*/) {}
 
+void showWholeEntries(wxChoice& choice) {
+    ::SendMessageW(GetHwndOf(&choice), CB_SETDROPPEDWIDTH,
+                   static_cast<WPARAM>(choice.GetBestSize().x), 0);
+}
+
 void openList(wxChoice& choice) {
     if (choice.IsEnabled())
         ::SendMessageW(GetHwndOf(&choice), CB_SHOWDROPDOWN, TRUE, 0);

@@ -324,6 +324,7 @@ void frmZuroVant::lay() {
                                 twipsFromPixels(outer.GetHeight(), resolution)},
                                robotRoom(controls_, resolution)),
                   resolution);
+    showWholeEntries(*controls_.cmbRbtName);
     controls_.surface->Refresh();
 }
 

@@ -1,5 +1,6 @@
 #include "DialogTest.h"
 #include "ProgramWorld.h"
+#include "ui/CommandToolBar.h"
 #include "ui/look/ColourSwatch.h"
 
 #include <gmock/gmock.h>
@@ -72,6 +73,21 @@ TEST_P(RobotMarkInMainWindowTest, IsShownBesideTheBoxOfItsRobotOnly) {
     EXPECT_FALSE(controls().lblRobotMark->IsShown()) << "a serial line may lead to any robot";
     EXPECT_FALSE(controls().robotColour->IsShown());
     EXPECT_FALSE(controls().lblIPaddr->IsShown());
+}
+
+TEST_P(RobotMarkInMainWindowTest, ALongNameHasTheRoomOfAWideWindow) {
+    folder.write("robot.ini", "[Boot]\r\nName=FIRST\r\n\r\n[Robot]\r\nName=FIRST\r\n"
+                              "IPaddr=10.0.0.1\r\nPath=jobs\r\n\r\n[Robot]\r\n"
+                              "Name=HALL 3 LINE 12 SPOT WELDING ROBOT LEFT SIDE (SPARE)\r\n"
+                              "IPaddr=10.0.0.2\r\nPath=jobs\r\n\r\n");
+    start(false);
+    wxChoice& box = *controls().cmbRbtName;
+    const int narrow = box.GetSize().x;
+    EXPECT_LT(narrow, box.GetBestSize().x);
+    window().SetSize(window().FromDIP(wxSize(1200, 600)));
+    EXPECT_TRUE(waitFor([&] { return box.GetSize().x >= box.GetBestSize().x; }));
+    EXPECT_GT(box.GetPosition().x, controls().tlbMain->GetRect().GetRight());
+    saveScreenshot(window(), picture("wide"));
 }
 
 TEST_P(RobotMarkInMainWindowTest, AColourAloneIsNamed) {
