@@ -15,12 +15,13 @@ namespace {
 constexpr std::string_view jobEnd = ".JBI";
 constexpr std::string_view relatedJobEnd = ".JBR";
 
-void askForRelatedJob(std::string& name) {
+} // namespace
+
+std::string nameOfRelatedJob(std::string name) {
     if (const std::size_t place = name.find(jobEnd); place != std::string::npos)
         name.replace(place, jobEnd.size(), relatedJobEnd);
+    return name;
 }
-
-} // namespace
 
 CommandOutcome CopyCommand::send(const std::vector<SelectedItem>& items) {
     return transfer(items, Direction::Send);
@@ -29,7 +30,7 @@ CommandOutcome CopyCommand::send(const std::vector<SelectedItem>& items) {
 CommandOutcome CopyCommand::receive(std::vector<SelectedItem> items) {
     if (with_.state.JBR)
         for (std::size_t item = 0; item < items.size(); ++item) {
-            askForRelatedJob(items[item].name);
+            items[item].name = nameOfRelatedJob(items[item].name);
             with_.results.rename(item, items[item].name);
         }
     return transfer(items, Direction::Receive);

@@ -3,9 +3,13 @@
 #include "files/ListTransfer.h"
 #include "files/TransferServices.h"
 
+#include <string>
 #include <vector>
 
 namespace vantrel {
+
+/// What is asked for, and arrives, in place of a job when the `JBR` setting is on.
+std::string nameOfRelatedJob(std::string name);
 
 /// A copy through the session's job list: the session asks its own overwrite questions and stops at
 /// the first failure of the library.

@@ -5,7 +5,9 @@ source "$(dirname "${BASH_SOURCE[0]}")/steps.sh"
 
 # For scripts/pack.sh.
 linux_packages=(dpkg-dev fakeroot file librsvg2-bin)
-build_packages=(g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev pkg-config librsvg2-common fonts-vlgothic
+# The two headers-only libraries of console/.
+header_packages=(libcli11-dev nlohmann-json3-dev)
+build_packages=("${header_packages[@]}" g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev pkg-config librsvg2-common fonts-vlgothic
     ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils adwaita-icon-theme)
 test_packages=(libgtest-dev libgmock-dev g++-multilib python3 poppler-utils "${linux_packages[@]}" desktop-file-utils appstream)
@@ -14,7 +16,7 @@ style_packages=(git clang-14 clang-format-14 clang-tidy-14)
 fuzz_packages=(clang cmake ninja-build ccache)
 # For the Windows build and its tests under Wine; the source package of the toolkit is fetched by
 # scripts/windows-toolkit.sh.
-windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build ccache make dpkg-dev
+windows_packages=("${header_packages[@]}" g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build ccache make dpkg-dev
     libgtest-dev libgmock-dev python3 librsvg2-bin icoutils fakeroot nsis wine wine64 locales fonts-vlgothic
     ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic poppler-utils)
 

@@ -69,6 +69,10 @@ void RobotRegistry::read(RobotBox& box) {
     // cannot be kept is told when the program ends.
     if (!anythingExists(path_))
         (void)replaceFile(path_, encoded(defaultText()).value_or(std::string()));
+    look(box);
+}
+
+void RobotRegistry::look(RobotBox& box) {
     const Result<std::string> content = fileContent();
     state_.BaseDir = robotBaseFolder(currentFolder());
     state_.RobotList = emptyRobotList();

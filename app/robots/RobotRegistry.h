@@ -35,6 +35,9 @@ class RobotRegistry {
     /// written first; one that cannot be read is told, and box and current robot stay as they were.
     /// So is a name to start with that more than one robot has.
     void read(RobotBox& box);
+    /// The same for a program that only looks: a file that is missing is not written, the robots
+    /// are those that it would have.
+    void look(RobotBox& box);
 
     /// Fills the box again after an edit and selects the current robot.
     void fillBox(RobotBox& box) const;

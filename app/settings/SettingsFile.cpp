@@ -152,4 +152,12 @@ Outcome SettingsFile::write(const ApplicationState& state, const WindowPlacement
     return saved;
 }
 
+void makeFolderAbsolute(ApplicationState& state, const std::string& programFolder) {
+    const PathRules rules;
+    if (rules.isAbsolute(state.PCPath))
+        return;
+    state.PCPath = rules.withoutTrailingSeparator(rules.join(programFolder, state.PCPath));
+    state.CurrentRobot.Path = state.PCPath;
+}
+
 } // namespace vantrel

@@ -42,4 +42,8 @@ class SettingsFile {
     std::string path_;
 };
 
+/// Connecting changes the current directory, so that a relative folder of the settings would not
+/// stay the same one: it starts from the program's.
+void makeFolderAbsolute(ApplicationState& state, const std::string& programFolder);
+
 } // namespace vantrel

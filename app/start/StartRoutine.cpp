@@ -109,7 +109,7 @@ void StartRoutine::loadSettings() {
     main_.emplace(with_.windows.buildMainWindow());
     main_->panes.fillFilterChoices();
     with_.settings.read(with_.state);
-    makeFolderAbsolute();
+    makeFolderAbsolute(with_.state, with_.programFolder);
     with_.registry.read(main_->robots);
     passSessionParameters(with_.state, with_.session);
     with_.session.path = with_.state.PCPath;
@@ -118,16 +118,6 @@ void StartRoutine::loadSettings() {
     // controller's filters follow the model, which is known only now.
     normaliseMode(with_.state);
     main_->panes.fillFilterChoices();
-}
-
-// Connecting changes the current directory, so a relative folder would not stay the same one.
-void StartRoutine::makeFolderAbsolute() {
-    const PathRules rules;
-    if (rules.isAbsolute(with_.state.PCPath))
-        return;
-    with_.state.PCPath =
-        rules.withoutTrailingSeparator(rules.join(with_.programFolder, with_.state.PCPath));
-    with_.state.CurrentRobot.Path = with_.state.PCPath;
 }
 
 void StartRoutine::offerControllerDirectory() {

@@ -92,7 +92,6 @@ class StartRoutine {
     void setHelpFile();
     bool chooseLanguage();
     void loadSettings();
-    void makeFolderAbsolute();
     void offerControllerDirectory();
     void openMainWindow();
     void startOpenedWindow();

@@ -20,3 +20,4 @@ endforeach()
 
 file(MAKE_DIRECTORY "${root}/usr/bin")
 file(CREATE_LINK /opt/vantrel/vantrel "${root}/usr/bin/vantrel" SYMBOLIC)
+file(CREATE_LINK /opt/vantrel/vantrel "${root}/usr/bin/vantrelctl" SYMBOLIC)

@@ -47,4 +47,6 @@ LangString Running ${LANG_JAPANESE} "Vantrelが実行中です。終了してく
 !macro RequireClosedProgram
     !insertmacro RequireFree "$INSTDIR\Vantrel\Vantrel.exe"
     !insertmacro RequireFree "$INSTDIR\Trial\Vantrel.exe"
+    !insertmacro RequireFree "$INSTDIR\Vantrel\vantrelctl.exe"
+    !insertmacro RequireFree "$INSTDIR\Trial\vantrelctl.exe"
 !macroend

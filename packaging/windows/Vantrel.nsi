@@ -65,6 +65,7 @@ VIAddVersionKey /LANG=${LANG_ENGLISH} "LegalCopyright" "Copyright (c) 2026 The V
     File "${CONTENT}\${FOLDER}\.installed\*.new"
     SetOutPath "$INSTDIR\${FOLDER}"
     File "${CONTENT}\${FOLDER}\Vantrel.exe"
+    File "${CONTENT}\${FOLDER}\vantrelctl.exe"
 !macroend
 
 ; A folder of the trial belongs to the operator once it is there: what he deleted stays deleted.
@@ -127,8 +128,10 @@ Section "Uninstall"
     RMDir "$INSTDIR\ZUROLINKDLL\Help"
     RMDir "$INSTDIR\ZUROLINKDLL"
     Delete "$INSTDIR\Vantrel\Vantrel.exe"
+    Delete "$INSTDIR\Vantrel\vantrelctl.exe"
     Delete "$INSTDIR\Vantrel\LICENSE.txt"
     Delete "$INSTDIR\Trial\Vantrel.exe"
+    Delete "$INSTDIR\Trial\vantrelctl.exe"
     MessageBox MB_YESNO|MB_ICONQUESTION "$(KeepData)" /SD IDYES IDYES keep
     Delete "$INSTDIR\Vantrel\Vantrel.ini"
     Delete "$INSTDIR\Vantrel\robot.ini"

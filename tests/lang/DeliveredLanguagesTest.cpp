@@ -86,7 +86,7 @@ std::vector<std::string> constantNamesIn(std::string_view header) {
 /// The program's own sources, one text.
 std::string programSources() {
     std::string sources;
-    for (const char* room : {"lang", "link", "files", "app", "ui"})
+    for (const char* room : {"lang", "link", "files", "app", "console", "ui"})
         for (const auto& entry : std::filesystem::recursive_directory_iterator(
                  std::filesystem::path(tests::sourceFolder()) / room))
             if (entry.path().extension() == ".cpp")
@@ -96,7 +96,8 @@ std::string programSources() {
 
 TEST(MessageNumbers, AreAllUsedByTheProgram) {
     const auto sources = programSources();
-    const auto names = constantNamesIn(header("lang/MessageNumbers.h"));
+    const auto names =
+        constantNamesIn(header("lang/MessageNumbers.h") + header("console/ConsoleMessages.h"));
     EXPECT_GT(names.size(), 100U);
     for (const auto& name : names) {
         auto at = sources.find("::" + name);
@@ -117,6 +118,7 @@ std::set<std::int32_t> namedNumbers() {
     auto numbers = constantsIn(content.substr(0, resources));
     for (const auto number : constantsIn(content.substr(resources)))
         numbers.insert(number + resourceOffset);
+    numbers.merge(constantsIn(header("console/ConsoleMessages.h")));
     return numbers;
 }
 

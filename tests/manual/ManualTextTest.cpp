@@ -1,4 +1,5 @@
 #include "base/Text.h"
+#include "console/ConsoleMessages.h"
 #include "lang/LanguageFiles.h"
 #include "lang/MessageNumbers.h"
 #include "platform/Files.h"
@@ -77,6 +78,7 @@ std::set<int> namedNumbers() {
     };
     add(header.substr(0, resources), 0);
     add(header.substr(resources), resourceOffset);
+    add(contentOf("console/ConsoleMessages.h"), 0);
     return numbers;
 }
 
@@ -111,6 +113,7 @@ constexpr std::pair<int, int> captionNumbers[] = {
     {message::closeQuickFilter, message::closeQuickFilter},
     {message::menuSaveSelection, message::timeMomentLeft},
     {message::listFilesOffered, message::listFilesOffered},
+    {message::consoleFolder, message::consoleWouldBeDone}, // cells of vantrelctl's lines
     {ofResource(message::resource::yes), ofResource(message::resource::cancel)}};
 
 bool isCaption(int number) {

@@ -35,7 +35,8 @@ install_version() {
     printf '%s\n' "$1" >"$installed/Vantrel/jobs/A.JBI"
     printf '%s\n' "$1" >"$installed/version"
     printf '#!/bin/sh\nprintf "%%s|%%s" "$VANTREL_FOLDER" "$*"\n' >"$installed/Vantrel/Vantrel"
-    chmod +x "$installed/Vantrel/Vantrel"
+    printf '#!/bin/sh\nprintf "without a window|%%s|%%s" "$VANTREL_FOLDER" "$*"\n' >"$installed/Vantrel/vantrelctl"
+    chmod +x "$installed/Vantrel/Vantrel" "$installed/Vantrel/vantrelctl"
     chmod -R a-w "$installed/Vantrel"
 }
 upgrade() {
@@ -103,6 +104,12 @@ begin StartsThroughALinkFindWhatIsInstalled
 ln -s "$installed/vantrel" "$work/$case/link"
 XDG_DATA_HOME=$home "$work/$case/link" >"$work/started"
 expect_text "$work/started" "$own|"
+
+begin CalledByTheOtherNameItStartsTheProgramWithoutAWindow
+ln -s "$installed/vantrel" "$work/$case/vantrelctl"
+XDG_DATA_HOME=$home "$work/$case/vantrelctl" list >"$work/started"
+expect_text "$work/started" "without a window|$own|list"
+expect_no_file "$own/vantrelctl"
 
 begin WithoutADataFolderTheHomeFolderHasIt
 env -u XDG_DATA_HOME HOME="$home" "$installed/vantrel" >"$work/started"

@@ -23,7 +23,7 @@ archive=$(echo "$work"/Vantrel-linux-*.tar.gz)
 unpacked=${archive%.tar.gz}
 unpack() { tar --extract --file "$archive" --directory "$work"; }
 unpack
-for file in Vantrel/Vantrel Vantrel/.installed/English.lng.new Vantrel/LICENSE.txt Trial/Vantrel \
+for file in Vantrel/Vantrel Vantrel/vantrelctl Trial/vantrelctl Vantrel/.installed/English.lng.new Vantrel/LICENSE.txt Trial/Vantrel \
     Trial/.installed/libZurolink.so.new Trial/jobs/TRIAL1.JBI ZUROLINKDLL/Help/Zurolink_us.pdf \
     ZUROLINKDLL/Help/Zurolink_jp.pdf; do
     [ -s "$unpacked/$file" ] || give_up "not in the archive: $file"
@@ -54,6 +54,11 @@ for size in 16 24 32 48 64 128 256; do
     [ "$(identify -format '%wx%h' "$icon")" = "${size}x$size" ] || give_up "no icon of $size pixels"
 done
 [ "$(readlink "$root/usr/bin/vantrel")" = /opt/vantrel/vantrel ] || give_up "no launcher among the programs"
+[ "$(readlink "$root/usr/bin/vantrelctl")" = /opt/vantrel/vantrel ] || give_up "no vantrelctl among the programs"
+for file in man/man1/vantrelctl.1 bash-completion/completions/vantrelctl; do
+    [ -s "$root/usr/share/$file" ] || give_up "not in the .deb: $file"
+done
+bash -n "$root/usr/share/bash-completion/completions/vantrelctl"
 dpkg-deb --field "$work"/vantrel_*.deb Depends | grep -q libwxgtk3.2 || give_up "the toolkit is not asked for"
 ! grep -rlF "$work" "$root" || give_up "a path of this machine is in the package"
 
@@ -73,5 +78,8 @@ until_true "CALIB.JBI in the user's folder" same_bytes "$jobs/CALIB.JBI" "$contr
 until_true "the progress window to close" is_gone 'File transfer'
 trial_close
 [ -z "$(as_installed)" ] || give_up "$(as_installed)"
+ln -s "$launcher" "$work/vantrelctl"
+"$work/vantrelctl" list --mode hispeed >"$work/listed" || give_up "vantrelctl ended with $?"
+grep -qx CALIB.JBI "$work/listed" || give_up "vantrelctl does not list the controller"
 grep -q "^Path=$jobs" "$trial/Vantrel.ini" || give_up "the settings are not in the user's folder"
 say "Packages passed."

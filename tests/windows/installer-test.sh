@@ -76,7 +76,7 @@ install_and_start() {
 }
 
 install_and_start
-there Vantrel/Vantrel.exe Vantrel/Japanese.lng Vantrel/FileTable.tbl Vantrel/Japanese.ico \
+there Vantrel/Vantrel.exe Vantrel/vantrelctl.exe Vantrel/Japanese.lng Vantrel/FileTable.tbl Vantrel/Japanese.ico \
     Trial/Zurolink.dll Trial/jobs/MAIN.JBI Trial/controllers/line1-weld/CALIB.JBI Uninstall.exe \
     ZUROLINKDLL/Help/Zurolink_us.pdf ZUROLINKDLL/Help/Zurolink_jp.pdf
 gone Vantrel/Zurolink.dll
@@ -137,7 +137,7 @@ done
 
 printf 'in the other language' >"$menu/Vantrel (trial).lnk"
 uninstall || give_up "the uninstaller ended with $?"
-gone Vantrel/Vantrel.exe Vantrel/LICENSE.txt Trial/Vantrel.exe ZUROLINKDLL Uninstall.exe
+gone Vantrel/Vantrel.exe Vantrel/vantrelctl.exe Trial/vantrelctl.exe Vantrel/LICENSE.txt Trial/Vantrel.exe ZUROLINKDLL Uninstall.exe
 there Vantrel/English.lng Vantrel/.installed/English.lng Trial/Zurolink.dll
 for file in "${mine[@]}" Vantrel/English.lng.old; do holds "$file" mine; done
 ! is_registered || give_up "still in the list of installed programs"

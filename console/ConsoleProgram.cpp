@@ -1,0 +1,179 @@
+#include "console/ConsoleProgram.h"
+
+#include "app/commands/ModeCommands.h"
+#include "app/robots/Machine.h"
+#include "app/robots/RobotRegistry.h"
+#include "app/start/DeliveredFiles.h"
+#include "console/ConsoleMessages.h"
+#include "console/FileCommands.h"
+#include "console/RobotCommands.h"
+#include "lang/SystemReasons.h"
+#include "platform/Files.h"
+
+#include <exception>
+#include <utility>
+
+namespace vantrel {
+namespace {
+
+using Task = Request::Task;
+
+/// Nobody chooses from a list here.
+class NoRobotBox final : public RobotBox {
+  public:
+    void clear() override {}
+    void add(const std::string&) override {}
+    void select(int) override {}
+};
+
+AnswerPolicy policyFor(const Request& request, const ConsoleWorld& world) {
+    AnswerPolicy policy = answerPolicy(request);
+    policy.readLine = world.readLine;
+    return policy;
+}
+
+int usageError(const ParsedArguments& parsed, Report& report) {
+    report.message(parsed.text);
+    report.object("end",
+                  {{"command", std::string()}, {"exit", std::int64_t{exit_code::wrongUsage}}});
+    return exit_code::wrongUsage;
+}
+
+} // namespace
+
+ConsoleProgram::ConsoleProgram(const Request& request, const ConsoleWorld& world, Report& report)
+    : request_(request), world_(world), report_(report), talk_(report, policyFor(request, world)),
+      engine_({.state = state_,
+               .messages = messages_,
+               .boxes = talk_,
+               .questions = talk_,
+               .executable = world.executable,
+               .beforeLibraryCall = [] {},
+               .dummyWindow = world.window,
+               .library = world.library}),
+      progress_(world, engine_.progress), desk_{request, world, report, tally_, engine_} {}
+
+int ConsoleProgram::run() {
+    int code = start();
+    if (code == exit_code::allDone) {
+        perform();
+        code = concluded();
+    }
+    engine_.session.Quit();
+    tellEnd(code);
+    return code;
+}
+
+int ConsoleProgram::start() {
+    placeFiles();
+    found_.tableIsWhole = engine_.table.load(engine_.programFolder);
+    found_.settingsPath = engine_.settings.path();
+    if (const int refused = readLanguage(); refused != 0)
+        return refused;
+    if (const Outcome entered = changeCurrentFolder(engine_.programFolder); !entered) {
+        report_.message(engine_.programFolder + ": " +
+                        reasonInLanguage(messages_, entered.reason()));
+        return exit_code::nothingDone;
+    }
+    readSettings();
+    if (request_.overwrite == OverwritePolicy::Ask && !world_.readLine) {
+        report_.message(messages_.getMessage(message::consoleNoTerminal));
+        return exit_code::wrongUsage;
+    }
+    auto targets = chooseTargets(request_, state_, world_.workingFolder, messages_);
+    if (!targets) {
+        report_.message(targets.reason());
+        return exit_code::wrongUsage;
+    }
+    desk_.targets = std::move(*targets);
+    return exit_code::allDone;
+}
+
+/// A fresh installation has its texts there only. A rehearsal touches nothing.
+void ConsoleProgram::placeFiles() {
+    if (request_.dryRun)
+        return;
+    for (const UndeliveredFile& file : DeliveredFiles(engine_.programFolder).takePlaces())
+        report_.message(file.path + ": " + file.reason);
+}
+
+/// The one that was asked for, else the settings', else the locale's. Whether the window program
+/// asks for one at its start is of no matter here.
+int ConsoleProgram::readLanguage() {
+    const bool hasDefault = engine_.language.loadDefaultLanguage();
+    if (!request_.language) {
+        (void)engine_.language.loadLanguagePreference(found_.settingsPath);
+        if (!state_.LanguageName.empty())
+            (void)engine_.languages.readInto(state_.LanguageName, messages_);
+    } else if (!engine_.languages.readInto(*request_.language, messages_)) {
+        report_.message(messages_.getMessageWithInsertion(message::languageFileMissing,
+                                                          *request_.language + ".lng"));
+        return exit_code::wrongUsage;
+    } else {
+        state_.LanguageName = *request_.language;
+    }
+    found_.language = hasDefault || request_.language ? state_.LanguageName : std::string();
+    const bool goesOn = !found_.language.empty() || request_.task == Task::Doctor;
+    return goesOn ? exit_code::allDone : exit_code::nothingDone;
+}
+
+void ConsoleProgram::readSettings() {
+    NoRobotBox box;
+    engine_.settings.read(state_);
+    makeFolderAbsolute(state_, engine_.programFolder);
+    engine_.registry.look(box);
+    passSessionParameters(state_, engine_.session);
+    normaliseMode(state_);
+}
+
+void ConsoleProgram::perform() {
+    switch (request_.task) {
+    case Task::Robots:
+        return listRobots(desk_);
+    case Task::List:
+        return listFiles(desk_);
+    case Task::Get:
+    case Task::Put:
+    case Task::Delete:
+        for (const Target& target : desk_.targets.targets)
+            FileCommands(desk_, target).run();
+        return;
+    case Task::Doctor: {
+        Doctor doctor(desk_, found_);
+        doctor.lookAtProgram();
+        return doctor.lookAtRobots();
+    }
+    }
+}
+
+int ConsoleProgram::concluded() {
+    if (world_.isInterrupted())
+        tally_.interrupt();
+    return tally_.exitCode();
+}
+
+void ConsoleProgram::tellEnd(int code) {
+    const auto number = [this](ItemEnd end) {
+        return static_cast<std::int64_t>(tally_.count(end));
+    };
+    report_.object("end", {{"command", request_.command},
+                           {"exit", std::int64_t{code}},
+                           {"done", number(ItemEnd::Done)},
+                           {"skipped", number(ItemEnd::Skipped)},
+                           {"failed", number(ItemEnd::Failed)},
+                           {"not_tried", number(ItemEnd::NotTried)}});
+}
+
+int runConsole(const std::vector<std::string>& arguments, const ConsoleWorld& world) {
+    const ParsedArguments parsed = parseArguments(arguments);
+    Report report(world.output, world.messages, parsed.json);
+    if (parsed.isHelp) {
+        report.text(parsed.text);
+        return exit_code::allDone;
+    }
+    if (!parsed.request)
+        return usageError(parsed, report);
+    return ConsoleProgram(*parsed.request, world, report).run();
+}
+
+} // namespace vantrel

@@ -1,0 +1,112 @@
+#include "console/Doctor.h"
+
+#include "app/robots/RobotFile.h"
+#include "app/start/Engine.h"
+#include "base/PathRules.h"
+#include "console/ConsoleMessages.h"
+#include "lang/SystemReasons.h"
+#include "platform/Environment.h"
+#include "platform/Files.h"
+#include "platform/TextEncoding.h"
+
+namespace vantrel {
+
+void Doctor::lookAtProgram() {
+    const Engine& engine = desk_.engine;
+    report({.key = "folder",
+            .label = message::consoleFolder,
+            .subject = engine.programFolder,
+            .works = isFolder(engine.programFolder)});
+    const bool hasSettings = anythingExists(found_.settingsPath);
+    report({.key = "settings",
+            .label = message::consoleSettings,
+            .subject = found_.settingsPath,
+            .detail = hasSettings ? std::string() : text(message::consoleNoSettings)});
+    report({.key = "language",
+            .label = message::consoleLanguage,
+            .subject = found_.language,
+            .works = !found_.language.empty(),
+            .advice = message::consoleAdviseFiles});
+    const std::size_t robots = robotCount(engine.state.RobotList);
+    report({.key = "registry",
+            .label = message::consoleRegistry,
+            .subject = engine.registry.path(),
+            .works = robots > 0,
+            .detail = std::to_string(robots),
+            .advice = message::consoleAdviseRobots});
+    report({.key = "table",
+            .label = message::consoleTable,
+            .subject = PathRules().join(engine.programFolder, "FileTable.tbl"),
+            .works = found_.tableIsWhole,
+            .advice = message::consoleAdviseFiles});
+    lookAtLibrary();
+}
+
+/// An operation begins and ends with these two, and between them nothing is reached.
+void Doctor::lookAtLibrary() {
+    const std::string& folder = desk_.engine.programFolder;
+    Check check{.key = "library",
+                .label = message::consoleLibrary,
+                .subject = PathRules().join(folder, libraryFileName()),
+                .advice = message::consoleAdviseLibrary};
+    if (!desk_.world.library) {
+        ZurolinkBinding library(folder, [&](const LibraryProblem& problem) {
+            check.works = false;
+            check.detail = reasonInLanguage(desk_.engine.messages, problem.reason);
+            for (const std::string& name : problem.missing)
+                check.detail += (check.detail.empty() ? "" : ", ") + name;
+        });
+        constexpr auto type = static_cast<std::int16_t>(TransferMode::Bsc);
+        const std::int16_t handle =
+            library.BscOpen(toCodePage(folder).value_or(std::string()).c_str(), type);
+        if (handle > 0)
+            library.BscClose(handle);
+        if (library.simulation())
+            check.detail = text(message::simulationNotice);
+    }
+    report(check, exit_code::noLibrary);
+}
+
+void Doctor::lookAtRobots() {
+    for (const Target& target : desk_.targets.targets)
+        lookAtRobot(target);
+}
+
+void Doctor::lookAtRobot(const Target& target) {
+    MachineDesk machine(desk_, target);
+    const bool isCalledOff = desk_.world.isInterrupted();
+    const bool works = !isCalledOff && machine.readController();
+    Check check{.key = "robot", .label = message::labelRobot, .subject = machine.name()};
+    check.works = works;
+    check.detail = works || isCalledOff ? std::string() : machine.reason();
+    check.advice = message::consoleAdviseConnection;
+    if (works)
+        desk_.tally.add(ItemEnd::Done);
+    report(check, isCalledOff ? exit_code::nothingDone : causeOf(desk_.engine.session));
+}
+
+/// Something is done when a robot is reached: what works besides is of no use without one.
+void Doctor::report(const Check& check, int cause) {
+    if (!check.works)
+        desk_.tally.add(ItemEnd::Failed, cause);
+    const std::string advice = check.works ? std::string() : text(check.advice);
+    const std::string label = text(check.label);
+    std::vector<std::string> cells{
+        label.empty() ? check.key : label, check.subject,
+        text(check.works ? message::consoleWorks : message::consoleWorksNot)};
+    for (const std::string& further : {check.detail, advice})
+        if (!further.empty())
+            cells.push_back(further);
+    desk_.report.line(cells, "check",
+                      {{"check", check.key},
+                       {"subject", check.subject},
+                       {"works", check.works},
+                       {"detail", check.detail},
+                       {"advice", advice}});
+}
+
+std::string Doctor::text(std::int32_t number) const {
+    return number == 0 ? std::string() : desk_.engine.messages.getMessage(number);
+}
+
+} // namespace vantrel

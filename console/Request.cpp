@@ -1,0 +1,194 @@
+#include "console/Request.h"
+
+#include "app/robots/RobotCheck.h"
+#include "base/PathRules.h"
+#include "base/Text.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include <CLI/CLI.hpp>
+
+namespace vantrel {
+namespace {
+
+using Task = Request::Task;
+
+constexpr const char* programPurpose =
+    "Moves files between this PC and robot controllers, as Vantrel does in its window.";
+constexpr const char* exitCodes =
+    "Exit codes: 0 all done, 1 nothing done, 2 wrong usage, 3 partly done, 10 no usable library,\n"
+    "12 no connection, 130 interrupted. Take any other one for a failure.\n"
+    "vantrelctl COMMAND --help lists what a command takes.";
+
+/// One command of the table.
+struct Command {
+    Task task;
+    const char* word;
+    const char* purpose;
+    const char* names; ///< what its names are; null when it takes none
+    bool usesFolder;
+    bool changesFiles; ///< on either side
+    bool mayReplace;
+};
+
+constexpr const char* controllerFiles = "Files on the controller; * and ? stand for any characters";
+
+constexpr Command commands[] = {
+    {Task::Robots, "robots", "Lists the registered robots", nullptr, false, false, false},
+    {Task::List, "list", "Lists the files of a controller", nullptr, false, false, false},
+    {Task::Get, "get", "Copies files from a controller to the PC", controllerFiles, true, true,
+     true},
+    {Task::Put, "put", "Copies files from the PC to a controller",
+     "Files of the PC folder; * and ? stand for any characters", true, true, true},
+    {Task::Delete, "delete", "Deletes files on a controller, unasked", controllerFiles, false, true,
+     false},
+    {Task::Doctor, "doctor", "Says what works, what does not and what to do", nullptr, false, false,
+     false},
+};
+
+std::string notAddress(std::string& text) {
+    const auto parts = split(text, '.');
+    const bool isAddress = parts.size() == 4 && std::ranges::all_of(parts, isAddressPart);
+    return isAddress ? std::string() : "not an address of four numbers: " + onOneLine(text);
+}
+
+/// A name of one file, or a pattern for such names.
+std::string notPlain(std::string& name) {
+    std::string plain = name;
+    std::ranges::replace(plain, '*', 'x');
+    std::ranges::replace(plain, '?', 'x');
+    return PathRules::isPlainName(plain) ? std::string()
+                                         : "not the plain name of a file: " + onOneLine(name);
+}
+
+template <typename Value>
+struct Word {
+    const char* word;
+    Value value;
+};
+
+constexpr Word<TransferMode> modes[] = {{"bsc", TransferMode::Bsc},
+                                        {"hispeed", TransferMode::HispeedLink}};
+constexpr Word<OverwritePolicy> policies[] = {{"never", OverwritePolicy::Never},
+                                              {"always", OverwritePolicy::Always},
+                                              {"ask", OverwritePolicy::Ask}};
+
+/// An option whose value is one of these words.
+template <typename Value, std::size_t count, typename Chosen>
+void addChoice(CLI::App& into, const char* name, const Word<Value> (&words)[count], Chosen& chosen,
+               const char* purpose) {
+    std::vector<std::string> known;
+    std::string shown;
+    for (const auto& [word, value] : words) {
+        known.emplace_back(word);
+        shown += (shown.empty() ? "" : "|") + known.back();
+    }
+    const auto choose = [&words, &chosen](const std::string& typed) {
+        for (const auto& [word, value] : words)
+            if (typed == word)
+                chosen = value;
+    };
+    into.add_option_function<std::string>(name, choose, purpose)
+        ->check(CLI::IsMember(known))
+        ->option_text(shown);
+}
+
+void addMachine(CLI::App& into, Request& request) {
+    into.add_option("--robot", request.robots, "A registered robot; may be given several times")
+        ->allow_extra_args(false)
+        ->option_text("NAME");
+    into.add_flag("--all-robots", request.allRobots, "Every registered robot, one after another")
+        ->excludes("--robot");
+    addChoice(into, "--mode", modes, request.mode,
+              "The way to the controller, in place of the settings'");
+    into.add_option("--port", request.port, "The serial port, 1 for COM1; means --mode bsc")
+        ->check(CLI::Range(1, 256))
+        ->option_text("NUMBER");
+    into.add_option("--address", request.address, "The robot's address; means --mode hispeed")
+        ->check(CLI::Validator(notAddress, "", ""))
+        ->option_text("A.B.C.D")
+        ->excludes("--port")
+        ->excludes("--all-robots");
+}
+
+void addFileChanges(CLI::App& into, Request& request, bool mayReplace) {
+    into.add_flag("--keep-going", request.keepGoing, "Go on with the next file after a failure");
+    into.add_flag("--dry-run", request.dryRun, "Only say what would be done");
+    if (mayReplace)
+        addChoice(into, "--overwrite", policies, request.overwrite,
+                  "Whether to replace a file that is there; ask works on a terminal only. "
+                  "Without it: never");
+}
+
+void addCommand(CLI::App& app, const Command& command, Request& request) {
+    CLI::App& into = *app.add_subcommand(command.word, command.purpose);
+    into.allow_windows_style_options(false);
+    into.add_flag("--json", request.json, "One JSON object a line, for programs to read");
+    into.add_option("--lang", request.language, "The language of the texts, by its file's name")
+        ->option_text("NAME");
+    addMachine(into, request);
+    if (command.usesFolder)
+        into.add_option("--folder", request.folder, "The folder on the PC, in place of the robot's")
+            ->option_text("PATH");
+    if (command.changesFiles)
+        addFileChanges(into, request, command.mayReplace);
+    if (command.task == Task::Robots)
+        into.add_flag("--check", request.check, "Connect to each of them");
+    if (command.names)
+        into.add_option("NAME", request.names, command.names)
+            ->required()
+            ->check(CLI::Validator(notPlain, "", ""))
+            ->option_text("...");
+    into.callback([&request, &command] {
+        request.task = command.task;
+        request.command = command.word;
+    });
+}
+
+/// A way to a controller that is not the one that was asked for would lead to another machine.
+const char* contradiction(const Request& request) {
+    if (request.port && request.mode == TransferMode::HispeedLink)
+        return "--port does not go with --mode hispeed";
+    if (request.address && request.mode == TransferMode::Bsc)
+        return "--address does not go with --mode bsc";
+    if (request.address && request.robots.size() > 1)
+        return "--address goes with one robot only";
+    const bool isSerial = request.port || request.mode == TransferMode::Bsc;
+    if (isSerial && (request.robots.size() > 1 || request.allRobots))
+        return "a serial port has one robot at its end";
+    return nullptr;
+}
+
+} // namespace
+
+ParsedArguments parseArguments(const std::vector<std::string>& arguments) {
+    CLI::App app(programPurpose, "vantrelctl");
+    app.allow_windows_style_options(false);
+    app.require_subcommand(1);
+    app.footer(exitCodes);
+    Request request;
+    for (const Command& command : commands)
+        addCommand(app, command, request);
+    ParsedArguments parsed;
+    parsed.json = std::ranges::find(arguments, "--json") != arguments.end();
+    try {
+        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    } catch (const CLI::CallForHelp&) {
+        const auto chosen = app.get_subcommands();
+        parsed.text = chosen.empty() ? app.help() : chosen.front()->help("vantrelctl");
+        parsed.isHelp = true;
+        return parsed;
+    } catch (const CLI::ParseError& error) {
+        parsed.text = error.what();
+        return parsed;
+    }
+    if (const char* const text = contradiction(request))
+        parsed.text = text;
+    else
+        parsed.request = std::move(request);
+    return parsed;
+}
+
+} // namespace vantrel

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "base/Connection.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+/// What becomes of a file that is already there.
+enum class OverwritePolicy { Never, Always, Ask };
+
+/// What the program is to do, as its arguments say it.
+struct Request {
+    enum class Task { Robots, List, Get, Put, Delete, Doctor };
+
+    Task task = Task::Robots;
+    std::string command;             ///< the word for the task
+    std::vector<std::string> names;  ///< of files, with wildcards
+    std::vector<std::string> robots; ///< by name; none for the robot in force
+    bool allRobots = false;
+    std::optional<TransferMode> mode;
+    std::optional<std::int16_t> port;
+    std::optional<std::string> address;
+    std::optional<std::string> folder; ///< on the PC, as it was given
+    std::optional<std::string> language;
+    OverwritePolicy overwrite = OverwritePolicy::Never;
+    bool keepGoing = false;
+    bool dryRun = false;
+    bool check = false;
+    bool json = false;
+};
+
+/// A request, or the text to show in place of one.
+struct ParsedArguments {
+    std::optional<Request> request;
+    std::string text;
+    bool isHelp = false; ///< the text was asked for
+    bool json = false;   ///< even where the rest cannot be understood
+};
+
+/// `arguments` are UTF-8, without the program's own name. Nothing is looked at but them.
+ParsedArguments parseArguments(const std::vector<std::string>& arguments);
+
+} // namespace vantrel

@@ -1,0 +1,41 @@
+# Completion of vantrelctl for bash.
+_vantrelctl() {
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]:-} choices=
+    COMPREPLY=()
+    case $before in
+    --overwrite) choices='never always ask' ;;
+    --mode) choices='bsc hispeed' ;;
+    --lang) choices='English Japanese System' ;;
+    --folder)
+        mapfile -t COMPREPLY < <(compgen -d -- "$word")
+        return
+        ;;
+    --robot)
+        local IFS=$'\n'
+        mapfile -t COMPREPLY < <(compgen -W "$(vantrelctl robots 2>/dev/null | cut -f 1)" -- "$word")
+        # A name with blanks is one word.
+        [ ${#COMPREPLY[@]} -eq 0 ] || mapfile -t COMPREPLY < <(printf '%q\n' "${COMPREPLY[@]}")
+        return
+        ;;
+    --port | --address) return ;;
+    esac
+    if [ -n "$choices" ]; then
+        mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$word")
+        return
+    fi
+    if [ "$COMP_CWORD" -eq 1 ]; then
+        mapfile -t COMPREPLY < <(compgen -W 'robots list get put delete doctor --help' -- "$word")
+        return
+    fi
+    choices='--help --json --lang --robot --all-robots --mode --port --address'
+    case $command in
+    robots) choices+=' --check' ;;
+    get | put) choices+=' --folder --keep-going --dry-run --overwrite' ;;
+    delete) choices+=' --keep-going --dry-run' ;;
+    esac
+    case $word in
+    -*) mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$word") ;;
+    *) [ "$command" != put ] || mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
+    esac
+}
+complete -F _vantrelctl vantrelctl

@@ -1,0 +1,53 @@
+#include "platform/Descriptor_posix.h"
+#include "platform/Terminal.h"
+
+#include <unistd.h>
+
+namespace vantrel {
+namespace {
+
+int descriptorOf(TextStream::Kind kind) {
+    return kind == TextStream::Kind::Output ? STDOUT_FILENO : STDERR_FILENO;
+}
+
+} // namespace
+
+std::vector<std::string> programArguments(int count, char** values) {
+    return count > 1 ? std::vector<std::string>(values + 1, values + count)
+                     : std::vector<std::string>();
+}
+
+bool TextStream::isTerminal() const {
+    return ::isatty(descriptorOf(kind_)) == 1;
+}
+
+Outcome TextStream::write(std::string_view text) {
+    const int error = writeAll(descriptorOf(kind_), text);
+    if (error != 0)
+        return systemFailure(error);
+    return Done{};
+}
+
+bool canReadTerminal() {
+    return ::isatty(STDIN_FILENO) == 1;
+}
+
+// Unbuffered: what follows the line is somebody else's to read.
+std::optional<std::string> readTerminalLine() {
+    std::string line;
+    char character = 0;
+    while (true) {
+        const auto count = ::read(STDIN_FILENO, &character, 1);
+        if (count != 1)
+            return std::nullopt;
+        if (character == '\n')
+            return line;
+        line += character;
+    }
+}
+
+void* unseenWindow() {
+    return nullptr;
+}
+
+} // namespace vantrel

@@ -1,0 +1,167 @@
+#include "base/Text.h"
+#include "link/SimulatedWorld.h"
+#include "support/ProjectFiles.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#ifndef _WIN32
+#include <sys/wait.h>
+#endif
+
+namespace vantrel {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+/// What a program says when it ends.
+int exitCodeOf(int status) {
+#ifdef _WIN32
+    return status;
+#else
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+#endif
+}
+
+/// The built program in a folder with the simulator and its two controllers, as a script starts it.
+class VantrelCtlTest : public testing::Test {
+  protected:
+    VantrelCtlTest() {
+        const auto& program = simulated_.program;
+        const std::filesystem::path built(VANTREL_CONSOLE_PROGRAM);
+        program_ = program.path(built.filename().string());
+        std::filesystem::copy_file(built, program_);
+        for (const char* file : {"English.lng", "Japanese.lng", "System.lng", "FileTable.tbl"})
+            std::filesystem::copy_file(std::filesystem::path(tests::dataFolder()) / file,
+                                       program.path(file));
+        program.write("Vantrel.ini", "[Vantrel]\r\nTransMode=16\r\n"
+                                     "[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n");
+        program.write("robot.ini", "[Boot]\r\nName=LINE1\r\n"
+                                   "[Robot]\r\nName=LINE1\r\nIPaddr=10.0.0.1\r\nPath=one\r\n"
+                                   "[Robot]\r\nName=LINE2\r\nIPaddr=10.0.0.2\r\nPath=two\r\n");
+        program.write("first/OWN.JBI", job("OWN", "first"));
+        program.write("first/SUB.JBI", job("SUB", "first"));
+        program.write("second/OWN.JBI", job("OWN", "second"));
+        program.makeFolder("one");
+        program.makeFolder("two");
+    }
+
+    static std::string job(const std::string& name, const std::string& body) {
+        return "/JOB\r\n//NAME " + name + "\r\n" + body + "\r\n";
+    }
+
+    /// Its exit code; what it has written is in `output_` and `messages_`.
+    int run(const std::string& arguments) {
+        const auto& folder = simulated_.program;
+        std::string command = "\"" + program_ + "\" " + arguments + " >\"" + folder.path("out") +
+                              "\" 2>\"" + folder.path("err") + "\"";
+#ifdef _WIN32
+        command = "\"" + command + " <NUL\"";
+#else
+        command += " </dev/null";
+#endif
+        const int code = exitCodeOf(std::system(command.c_str()));
+        output_ = folder.read("out");
+        messages_ = folder.read("err");
+        return code;
+    }
+
+    tests::SimulatedWorld simulated_;
+    const tests::TemporaryFolder& folder_ = simulated_.program;
+    std::string program_, output_, messages_;
+};
+
+TEST_F(VantrelCtlTest, ListsRobotsAndFiles) {
+    EXPECT_EQ(run("robots"), 0);
+    EXPECT_THAT(output_, AllOf(HasSubstr("LINE1\t10.0.0.1\t"), HasSubstr("LINE2\t10.0.0.2\t")));
+    EXPECT_EQ(run("list --robot LINE2"), 0);
+    EXPECT_THAT(output_, AllOf(HasSubstr("OWN.JBI"), Not(HasSubstr("SUB.JBI"))));
+    EXPECT_THAT(messages_, IsEmpty());
+}
+
+TEST_F(VantrelCtlTest, MovesFilesBothWaysAndDeletesThem) {
+    EXPECT_EQ(run("get OWN.JBI --all-robots"), 0);
+    EXPECT_EQ(folder_.read("one/OWN.JBI"), job("OWN", "first"));
+    EXPECT_EQ(folder_.read("two/OWN.JBI"), job("OWN", "second"));
+    folder_.write("two/NEW.JBI", job("NEW", "pc"));
+    EXPECT_EQ(run("put NEW.JBI --robot LINE2"), 0);
+    EXPECT_EQ(folder_.read("second/NEW.JBI"), job("NEW", "pc"));
+    EXPECT_FALSE(folder_.has("first/NEW.JBI"));
+    EXPECT_EQ(run("delete SUB.JBI"), 0);
+    EXPECT_FALSE(folder_.has("first/SUB.JBI"));
+}
+
+TEST_F(VantrelCtlTest, NothingDoneIsOneAndPartlyDoneIsThree) {
+    folder_.write("one/OWN.JBI", "old");
+    EXPECT_EQ(run("get OWN.JBI"), 1);
+    EXPECT_EQ(run("get \"*.JBI\""), 3);
+    EXPECT_EQ(folder_.read("one/OWN.JBI"), "old");
+    EXPECT_EQ(folder_.read("one/SUB.JBI"), job("SUB", "first"));
+}
+
+TEST_F(VantrelCtlTest, WrongUsageIsTwo) {
+    EXPECT_EQ(run(""), 2);
+    EXPECT_EQ(run("list --robot LINE9"), 2);
+    EXPECT_EQ(run("get OWN.JBI --overwrite ask"), 2);
+    EXPECT_THAT(messages_, Not(IsEmpty()));
+}
+
+TEST_F(VantrelCtlTest, ALibraryThatCannotBeUsedIsTen) {
+    folder_.write(libraryFileName(), "no library at all");
+    EXPECT_EQ(run("list"), 10);
+    EXPECT_EQ(run("doctor --json"), 10);
+    EXPECT_THAT(output_, HasSubstr("\"check\":\"library\""));
+}
+
+TEST_F(VantrelCtlTest, NoConnectionIsTwelve) {
+    simulated_.script("1=BscConnect 1+ fail 2040\n");
+    EXPECT_EQ(run("list"), 12);
+    EXPECT_EQ(run("get \"*\" --json"), 12);
+    EXPECT_THAT(output_, HasSubstr("\"exit\":12"));
+}
+
+TEST_F(VantrelCtlTest, AFileThatIsCutOffIsAFailureAndLeavesNoHalfOne) {
+    folder_.write("one/OWN.JBI", "old");
+    simulated_.script("1=BscUpLoad 1 cut 5\n");
+    EXPECT_EQ(run("get \"*.JBI\" --overwrite always --keep-going --json"), 3);
+    EXPECT_THAT(output_, AllOf(HasSubstr("\"end\":\"failed\""), HasSubstr("\"end\":\"done\"")));
+    EXPECT_EQ(folder_.read("one/OWN.JBI"), "old");
+    EXPECT_EQ(folder_.read("one/SUB.JBI"), job("SUB", "first"));
+}
+
+TEST_F(VantrelCtlTest, OutputIsUtf8InEveryLanguage) {
+    EXPECT_EQ(run("doctor --lang Japanese"), 0);
+    EXPECT_THAT(output_, HasSubstr("通信ライブラリ"));
+    EXPECT_TRUE(isValidUtf8(output_));
+}
+
+// Code page 932 on the controller, UTF-8 here.
+TEST_F(VantrelCtlTest, NamesBeyondAsciiComeAndGo) {
+    folder_.write("first/溶接.JBI", job("\x97\x6E\x90\xDA", "first"));
+    EXPECT_EQ(run("list"), 0);
+    EXPECT_THAT(output_, HasSubstr("溶接.JBI"));
+    EXPECT_EQ(run("get \"??.JBI\""), 0);
+    EXPECT_TRUE(folder_.has("one/溶接.JBI"));
+    std::filesystem::remove(std::filesystem::path(folder_.path("first")) / u8"溶接.JBI");
+    EXPECT_EQ(run("put \"??.JBI\""), 0);
+    EXPECT_TRUE(folder_.has("first/溶接.JBI"));
+}
+
+#ifndef _WIN32
+TEST_F(VantrelCtlTest, OutputThatCannotBeWrittenIsToldAndIsNoSuccess) {
+    const std::string command =
+        "\"" + program_ + "\" robots >/dev/full 2>\"" + folder_.path("err") + "\"";
+    EXPECT_EQ(exitCodeOf(std::system(command.c_str())), 3);
+    EXPECT_THAT(folder_.read("err"), Not(IsEmpty()));
+}
+#endif
+
+} // namespace
+} // namespace vantrel
