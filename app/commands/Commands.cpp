@@ -315,7 +315,7 @@ const std::vector<CommandRow>& table() {
          .isAvailable = hasRobot,
          .run = [](Targets to) { to.windows.editRobotMark(); }},
         {.caption = message::menuSaveSelection,
-         .offers = {{mnuToolsMain, 1, "mnuTools(3)"}},
+         .offers = {{mnuToolsMain, 1, "mnuTools(3)"}, {mnuRightTools, 2, "mnuRightSaveSelection"}},
          .isAvailable = hasSelectedJob,
          .run = [](Targets to) { to.lists.saveSelection(); }},
         {.caption = message::menuNewFolder,

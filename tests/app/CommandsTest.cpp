@@ -312,7 +312,7 @@ TEST(CommandsTest, EachMenuHasItsEntriesInOrder) {
                             "mnuOtherPane"));
     EXPECT_THAT(contents(mnuRightTools),
                 ElementsAre("mnuRightNewFolder", "mnuRightRename", "mnuRightViewOnController", "-",
-                            "mnuRightQuickFilter"));
+                            "mnuRightSaveSelection", "-", "mnuRightQuickFilter"));
     EXPECT_THAT(contents(mnuRightClick),
                 ElementsAre("mnuRightFile(0)", "mnuRightFile(1)", "mnuRightFile(2)",
                             "mnuRightFile(3)", "-", "mnuRightRefresh"));
