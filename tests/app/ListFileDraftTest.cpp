@@ -37,6 +37,7 @@ class ListFileDraftTest : public testing::Test {
     }
     std::vector<std::string> jobList() const {
         std::vector<std::string> entries;
+        entries.reserve(std::size_t(world.session->JobListCount()));
         for (int index = 0; index < world.session->JobListCount(); ++index)
             entries.push_back(world.session->JobList(index));
         return entries;

@@ -37,6 +37,7 @@ class SelectionListTest : public MainCommandsTest {
         session.path = pc.path();
         EXPECT_TRUE(session.SetJobListFile(file, true));
         std::vector<std::string> jobs;
+        jobs.reserve(std::size_t(session.JobListCount()));
         for (int index = 0; index < session.JobListCount(); ++index)
             jobs.push_back(session.JobList(index));
         return jobs;
