@@ -141,8 +141,15 @@ std::string PathRules::lastName(std::string_view path) const {
 
 std::string PathRules::resolved(std::string_view path) const {
     const bool isWindows = style_ == PathStyle::Windows;
-    const std::string start = isWindows ? drive(path) : std::string();
+    if (isWindows && path.starts_with("\\\\?\\"))
+        return std::string(path); // to be taken as it is written
+    std::string start = isWindows ? drive(path) : std::string();
     path.remove_prefix(start.size());
+    if (start.size() > 2) { // of a share
+        std::ranges::replace(start, '/', '\\');
+        const auto twice = [](char left, char right) { return left == '\\' && right == '\\'; };
+        start.erase(std::unique(start.begin() + 1, start.end(), twice), start.end());
+    }
     std::vector<std::string> names;
     while (!path.empty()) {
         const std::size_t end = std::min(path.find_first_of(separators()), path.size());

@@ -57,9 +57,9 @@ CommandProgress::CommandProgress(const TransferServices& services, const std::st
 }
 
 CommandProgress::~CommandProgress() {
+    with_.progress.setPace({}); // it asks the command, which is about to end
     with_.progress.hide();
     with_.progress.setPlace({});
-    with_.progress.setPace({});
     with_.session.DisplayMonitor = true;
 }
 
@@ -82,7 +82,10 @@ void CommandProgress::measure(const std::vector<std::string>& names, bool onPC,
     with_.progress.setPace(
         [this, files = names.size()](int item, int count, std::chrono::milliseconds worked) {
             // The reading of the directory, before the first file, is a step of its own.
-            pace_->reach(std::size_t(count) == files ? std::size_t(item) : 0, worked);
+            if (std::size_t(count) == files)
+                pace_->reach(std::size_t(item), worked);
+            else
+                pace_->prepare(worked);
             return paceText(with_.messages, *pace_);
         });
 }

@@ -35,8 +35,7 @@ void CopyIntoFolder::take(const std::string& path) {
         return reports.aboutFile(name, message::folderPassedOver);
     if (isInPCFolder(path))
         return with_.results.note(name, ItemEnd::Done);
-    // What stands under its name is half of a file, and would be put in its place again.
-    if (anythingExists(rules.join(with_.state.PCPath, FetchMark::fileNameFor(name))))
+    if (isBeingFetched(rules.parent(path), name) || isBeingFetched(with_.state.PCPath, name))
         return reports.aboutFile(name, message::fetchNotFinished);
     if (!mayTakePlace(name))
         return;
@@ -50,6 +49,13 @@ void CopyIntoFolder::take(const std::string& path) {
     }
     outcome_.succeeded = false;
     reports.aboutFile(name, message::notCopied, copied.reason());
+}
+
+/// Half a file would arrive as a whole one, a mark would have another file put away, and what
+/// replaces half a file would be put away with it.
+bool CopyIntoFolder::isBeingFetched(const std::string& folder, const std::string& name) {
+    return FetchMark::isFileName(name) ||
+           anythingExists(PathRules().join(folder, FetchMark::fileNameFor(name)));
 }
 
 bool CopyIntoFolder::isInPCFolder(const std::string& path) const {

@@ -1,5 +1,6 @@
 #include "files/Panes.h"
 
+#include "base/Text.h"
 #include "files/ControllerModels.h"
 #include "files/FolderScan.h"
 #include "files/PaneWindow.h"
@@ -60,6 +61,10 @@ bool Panes::scanPC(const std::string& folder) {
 
 bool Panes::hasPCChanged() const {
     return namesChangedAt(state_.PCPath) != pcNamesChangedAt_;
+}
+
+bool Panes::nameFilterHides(ActiveSide side, const std::string& name) const {
+    return asciiUpper(name).find(asciiUpper(nameFilter_[std::size_t(side)])) == std::string::npos;
 }
 
 bool Panes::rescanPC() {

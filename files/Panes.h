@@ -48,6 +48,7 @@ class Panes {
     bool fill(ActiveSide side);
     /// From the next fill on the pane shows only names that hold this text; an empty one shows all.
     void setNameFilter(ActiveSide side, std::string text);
+    bool nameFilterHides(ActiveSide side, const std::string& name) const;
     /// The same, shown at once and without letting events in: what is typed meanwhile is typed into
     /// this very text. What was selected and is still shown stays selected, and nothing else is.
     void filterNames(ActiveSide side, std::string text);

@@ -31,9 +31,19 @@ std::optional<std::size_t> markColourOf(const RobotRecord& robot) {
     return static_cast<std::size_t>(found - std::begin(colours));
 }
 
+/// Without a width: a label of those alone would hide the colour's name and be none.
+static bool isInvisible(char32_t character) {
+    return character == 0xAD || character == 0x61C || character == 0x180E ||
+           (character >= 0x200B && character <= 0x200D) ||
+           (character >= 0x2060 && character <= 0x2065) || character == 0x3164 ||
+           character == 0xFEFF;
+}
+
 std::string cleanLabel(std::string_view label) {
     std::u32string shown = codePoints(label);
-    std::erase_if(shown, isUnshowable);
+    std::erase_if(shown, [](char32_t character) {
+        return isUnshowable(character) || isInvisible(character);
+    });
     const std::string text = utf8(shown);
     return std::string(trimmed(firstCharacters(trimmed(text), longestLabel)));
 }

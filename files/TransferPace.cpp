@@ -83,6 +83,12 @@ TransferPace::TransferPace(std::vector<std::int64_t> sizes, Transferred wasTrans
     }
 }
 
+void TransferPace::prepare(milliseconds worked) {
+    worked_ = worked;
+    if (item_ == 0)
+        reachedAt_ = worked;
+}
+
 void TransferPace::reach(std::size_t item, milliseconds worked) {
     worked_ = worked;
     const std::size_t next = std::min(item, sizes_.size());

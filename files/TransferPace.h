@@ -23,6 +23,8 @@ class TransferPace {
     /// The files' sizes in bytes, in their order; none when they are not known.
     TransferPace(std::vector<std::int64_t> sizes, Transferred wasTransferred);
 
+    /// All of it took so long, and no file was begun yet.
+    void prepare(std::chrono::milliseconds worked);
     /// The first `item` files have been handled, and all of it took so long.
     void reach(std::size_t item, std::chrono::milliseconds worked);
 

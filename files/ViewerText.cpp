@@ -60,6 +60,21 @@ std::string viewerText(std::string_view text, bool Headder) {
     return kept;
 }
 
+std::string numberedText(std::string_view text) {
+    const auto lines = static_cast<std::size_t>(std::ranges::count(text, '\n'));
+    const std::size_t width = std::to_string(lines).size();
+    std::string numbered;
+    numbered.reserve(text.size() + lines * (width + 2));
+    for (std::size_t line = 1; !text.empty(); ++line) {
+        const std::string number = std::to_string(line);
+        numbered.append(width - std::min(width, number.size()), ' ').append(number).append("  ");
+        const std::size_t end = std::min(text.find('\n'), text.size() - 1) + 1;
+        numbered.append(text.substr(0, end));
+        text.remove_prefix(end);
+    }
+    return numbered;
+}
+
 Result<std::string> readViewerText(const std::string& path, bool Headder) {
     const auto bytes = readFile(path);
     if (!bytes)

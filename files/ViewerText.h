@@ -16,4 +16,7 @@ std::string viewerText(std::string_view text, bool Headder);
 /// The same of a file in any of the encodings in which text files are found.
 Result<std::string> readViewerText(const std::string& path, bool Headder);
 
+/// The lines of such a text with their numbers before them, from 1, in a column of their own.
+std::string numberedText(std::string_view text);
+
 } // namespace vantrel

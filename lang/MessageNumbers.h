@@ -254,6 +254,7 @@ inline constexpr std::int32_t menuForward = 444;
 inline constexpr std::int32_t menuQuickFilter = 445;
 inline constexpr std::int32_t menuOtherPane = 446;
 inline constexpr std::int32_t menuViewOnController = 447;
+inline constexpr std::int32_t menuLineNumbers = 462;
 inline constexpr std::int32_t newFolderName = 448;
 inline constexpr std::int32_t newNameOf = 449; ///< with the old one
 inline constexpr std::int32_t folderToOpen = 450;

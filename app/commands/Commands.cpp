@@ -63,6 +63,10 @@ bool isControllerPaneShown(Input input, CommandPlace) {
     return !input.viewerShown;
 }
 
+bool hasLineNumbers(Input input, CommandPlace) {
+    return input.lineNumbers;
+}
+
 bool hasHispeed(Input input, CommandPlace) {
     return input.hispeedAvailable;
 }
@@ -334,6 +338,12 @@ const std::vector<CommandRow>& table() {
                     {mnuRightTools, 1, "mnuRightViewOnController"}},
          .isAvailable = canViewOnController,
          .run = [](Targets to) { to.main.viewOnController(); }},
+        {.caption = message::menuLineNumbers,
+         .offers = {{mnuToolsMain, 2, "mnuLineNumbers"}},
+         .isAvailable = isViewerShown,
+         .indicator = everywhere,
+         .isInForce = hasLineNumbers,
+         .run = [](Targets to) { to.main.lineNumbers(); }},
         {.caption = message::menuGoToFolder,
          .key = "Ctrl+L",
          .offers = {{mnuToolsMain, 3, "mnuGoToFolder"}},

@@ -23,6 +23,7 @@ struct CommandInput {
     bool hispeedAvailable = true;
     bool locked = false;      ///< an operation runs
     bool viewerShown = false; ///< the viewer stands in place of the controller pane
+    bool lineNumbers = false; ///< in the viewer
     /// Of the selected item of `lsvPC`; nothing when there is none or its name is empty.
     std::optional<FileKind> selectedKind = {};
     std::optional<FileKind> controllerKind = {}; ///< the same of `lsvCtrl`

@@ -214,6 +214,11 @@ void MainCommands::filterNames(ActiveSide side, const std::string& text) {
     updateStates();
 }
 
+void MainCommands::lineNumbers() {
+    viewer_.showLineNumbers(!viewer_.lineNumbersShown());
+    updateStates();
+}
+
 void MainCommands::viewOnController() {
     const auto row = with_.window.list(ActiveSide::Controller).selectedRow();
     if (!row || with_.state.ViewerShown)
@@ -302,6 +307,7 @@ CommandInput MainCommands::input() const {
         .hispeedAvailable = hispeedAvailable(state),
         .locked = state.Busy,
         .viewerShown = state.ViewerShown,
+        .lineNumbers = viewer_.lineNumbersShown(),
         .selectedKind = selectedKind(ActiveSide::PC),
         .controllerKind = selectedKind(ActiveSide::Controller),
         .jobSelected = isJobSelected(),

@@ -54,6 +54,8 @@ class MainCommands {
     /// Shows only names of a pane that hold this text; an empty one shows all. What was selected
     /// and is still shown stays selected.
     void filterNames(ActiveSide side, const std::string& text);
+    /// Shows the lines of the viewer with their numbers, or without again.
+    void lineNumbers();
     /// Shows a job of the controller in the viewer, fetched to a temporary place for it.
     void viewOnController();
     /// Whether something in the selection of `source` could be copied to the other pane.

@@ -93,7 +93,7 @@ std::string PCFileCommands::problemOfName(const std::string& folder, const std::
 void PCFileCommands::showNew(const std::string& name) {
     with_.transfers.refresh(ActiveSide::PC);
     with_.panes.selectOnly(ActiveSide::PC, {name});
-    if (with_.panes.selectedNames(ActiveSide::PC).empty()) {
+    if (with_.panes.nameFilterHides(ActiveSide::PC, name)) {
         with_.view.closeQuickFilter(ActiveSide::PC);
         with_.panes.filterNames(ActiveSide::PC, {});
         with_.panes.selectOnly(ActiveSide::PC, {name});
@@ -127,7 +127,11 @@ void PCFileCommands::goToFolder() {
 /// In one spelling, since folders are told apart by it.
 std::string PCFileCommands::absolute(const std::string& typed) const {
     const PathRules rules;
-    return rules.resolved(rules.isAbsolute(typed) ? typed : rules.join(with_.state.PCPath, typed));
+    if (!rules.isAbsolute(typed))
+        return rules.resolved(rules.join(with_.state.PCPath, typed));
+    // A path from the root is one on the drive that is shown.
+    const bool hasDrive = !rules.drive(typed).empty();
+    return rules.resolved(hasDrive ? typed : rules.drive(with_.state.PCPath) + typed);
 }
 
 /// Nothing is read on a network while the operator types.

@@ -92,11 +92,11 @@ void ListTransferCommands::loadVariables() {
         &ListTransferCommands::sendVariables);
 }
 
-/// A list in a locked window cannot take the focus, so that comes after the lock.
 void ListTransferCommands::saveSelection() const {
     SelectionList(with_, dialog_).save();
 }
 
+/// A list in a locked window cannot take the focus, so that comes after the lock.
 void ListTransferCommands::run(std::string_view mode, std::int32_t title, CommandKind kind,
                                Transfer transfer) {
     if (!dialog_.readList(mode) || !holdsSomething(mode))

@@ -101,7 +101,9 @@ std::optional<std::string> SelectionList::askPath(const std::string& firstJob) c
 }
 
 bool SelectionList::mayWrite(const std::string& path) const {
-    if (!PathRules::isPlainName(PathRules().lastName(path))) {
+    const std::string name = PathRules().lastName(path);
+    // A list of that name keeps its jobs from every transfer.
+    if (!PathRules::isPlainName(name) || equalsIgnoringAsciiCase(name, "LocalJob.lst")) {
         tellNotWritten(path, with_.messages.errorText(session_code::nameRefused));
         return false;
     }
@@ -129,7 +131,10 @@ void SelectionList::tellNotWritten(const std::string& path, const std::string& r
 /// A list in the PC folder is shown there, and is the one that the list-file dialog begins with.
 void SelectionList::showWritten(const std::string& path) const {
     const PathRules rules;
-    if (rules.withSeparator(rules.parent(path)) != rules.withSeparator(with_.state.PCPath))
+    const auto compared = [&rules](const std::string& folder) {
+        return comparedName(rules.resolved(folder));
+    };
+    if (compared(rules.parent(path)) != compared(with_.state.PCPath))
         return;
     with_.state.JobListFile = rules.lastName(path);
     const PaneRefresh refresh(with_);

@@ -46,7 +46,7 @@ TestedController controllerInForce(const ApplicationState& state) {
 TestedController controllerOf(const RobotEntry& entry, const SerialLine& line, TransferMode mode) {
     RobotRecord robot = entry.robot;
     // A part that is missing would become a zero, and another address be tried than is shown.
-    if (entry.isChanged() && isAddress(robot))
+    if (entry.isEdited() && isAddress(robot))
         tidyAddress(robot);
     return {mode, line, std::move(robot)};
 }

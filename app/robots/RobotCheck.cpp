@@ -148,7 +148,7 @@ void tidyAddress(RobotRecord& robot) {
 std::optional<RobotFault> findRobotFault(std::span<const RobotEntry> robots) {
     NameCount names(robots);
     for (std::size_t place = 0; place < robots.size(); ++place)
-        if (robots[place].isChanged())
+        if (robots[place].isEdited())
             if (const auto fault = faultOf(robots[place], place, names))
                 return fault;
     return std::nullopt;

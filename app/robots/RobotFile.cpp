@@ -35,19 +35,19 @@ std::optional<std::string> blockName(std::string_view token) {
 }
 
 void takeValue(RobotRecord& record, const LineTokens& line) {
-    if (line.second.empty())
+    // Of a later version than the others: whole, whatever they hold.
+    if (line.first == "Colour")
+        record.Colour = line.rest;
+    else if (line.first == "Label")
+        record.Label = line.rest;
+    else if (line.second.empty())
         return;
-    if (line.first == "Name")
+    else if (line.first == "Name")
         record.Name = line.second;
     else if (line.first == "IPaddr")
         setAddress(record, line.second);
     else if (line.first == "Path")
         record.Path = line.second;
-    // Of a later version than the others: whole, whatever they hold.
-    else if (line.first == "Colour")
-        record.Colour = line.rest;
-    else if (line.first == "Label")
-        record.Label = line.rest;
 }
 
 int errorNumber(const std::exception& error) {

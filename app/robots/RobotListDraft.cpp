@@ -130,7 +130,7 @@ std::vector<RobotRecord> RobotListDraft::records() const {
     records.reserve(entries_.size() + 1);
     for (const RobotEntry& entry : entries_) {
         records.push_back(entry.robot);
-        if (entry.isChanged())
+        if (entry.isEdited())
             tidyAddress(records.back());
     }
     records.push_back(emptyRobotList().front());

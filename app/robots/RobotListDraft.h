@@ -18,6 +18,14 @@ struct RobotEntry {
     bool isNew = false;
 
     bool isChanged() const { return isNew || robot != stored; }
+    /// Whether something other than the mark was edited: a mark alone leaves the rest as it was
+    /// read.
+    bool isEdited() const {
+        RobotRecord unmarked = robot;
+        unmarked.Colour = stored.Colour;
+        unmarked.Label = stored.Label;
+        return isNew || unmarked != stored;
+    }
 };
 
 /// The working copy of the robot list, as the settings dialog edits it.

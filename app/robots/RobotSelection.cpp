@@ -8,6 +8,7 @@
 #include "app/robots/RobotRegistry.h"
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
+#include "files/RobotMark.h"
 #include "lang/MessageBoxes.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
@@ -31,6 +32,8 @@ void RobotSelection::choose(int index) {
     if (!isNew)
         return;
     with_.state.CurrentRobotIndex = static_cast<std::int16_t>(index);
+    // Whatever is told of its folder, no mark of another robot stands beside its name.
+    with_.view.showRobotMark(robotMark(with_.messages, with_.state.CurrentRobot));
     if (with_.state.SyncroRobotDir == 1)
         followFolder();
     commands_.showRobot();

@@ -32,9 +32,9 @@ class SettingCommands {
 
     /// OK or apply, on a draft without a fault: its values become the program's, then the
     /// session's; a controller pane that now belongs to another machine is emptied.
+    void apply(SettingDraft& draft);
     /// Colour and label for the robot in force, to be written with the registry.
     void takeMark(const RobotRecord& marked);
-    void apply(SettingDraft& draft);
     /// After the dialog was closed, whichever way: everything that shows a setting.
     void showSettings();
     /// After another language: every text of the main window, with the mode as it is.

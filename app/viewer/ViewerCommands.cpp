@@ -34,7 +34,7 @@ void ViewerCommands::show(const std::string& name) {
         if (text) {
             file_ = {name, with_.state.PCPath, changed};
             text_ = std::move(*text);
-            with_.viewerPane.showFile(name, text_);
+            showInPane();
         }
     }
     with_.state.ViewerShown = bool(text);
@@ -46,14 +46,25 @@ void ViewerCommands::showText(const std::string& name, const std::string& folder
                               std::string text) {
     file_ = {name, folder, {}};
     text_ = std::move(text);
-    with_.viewerPane.showFile(name, text_);
+    showInPane();
     with_.state.ViewerShown = true;
+}
+
+void ViewerCommands::showLineNumbers(bool shown) {
+    lineNumbers_ = shown;
+    if (with_.state.ViewerShown)
+        showInPane();
+}
+
+void ViewerCommands::showInPane() {
+    numbered_ = lineNumbers_ ? numberedText(text_) : std::string();
+    with_.viewerPane.showFile(file_.name, lineNumbers_ ? numbered_ : text_);
 }
 
 void ViewerCommands::hide() {
     with_.viewerPane.hideFile();
     with_.state.ViewerShown = false;
-    text_ = std::string(); // it may be large
+    text_ = numbered_ = std::string(); // they may be large
 }
 
 void ViewerCommands::print() {

@@ -52,11 +52,15 @@ class ViewerCommands {
     void showOrHide();
     /// Shows a text that was read already; `folder` says in print where its file is.
     void showText(const std::string& name, const std::string& folder, std::string text);
+    /// Shows the lines with their numbers from now on, or without; they are not printed.
+    void showLineNumbers(bool shown);
+    bool lineNumbersShown() const { return lineNumbers_; }
     /// Asks, then prints the text that is displayed; says so when there is none.
     void print();
 
   private:
     void show(const std::string& name);
+    void showInPane();
     void hide();
     std::optional<std::string> selectedJobFile() const;
     void tell(std::int32_t messageNumber, const std::string& name, const std::string& reason) const;
@@ -64,6 +68,8 @@ class ViewerCommands {
     MainServices with_;
     PrintedFile file_;
     std::string text_;
+    std::string numbered_; ///< what is shown while numbers are
+    bool lineNumbers_ = false;
 };
 
 } // namespace vantrel

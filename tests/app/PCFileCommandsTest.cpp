@@ -433,5 +433,16 @@ TEST_F(PCFileCommandsTest, OfVeryManyFilesOnlyTheNamesAreLookedAt) {
     EXPECT_EQ(window.pc.updates, 1);
 }
 
+TEST_F(PCFileCommandsTest, AQuickFilterThatDoesNotHideTheNewNameStays) {
+    show({"DOOR.JBI", "ROOF.JBI"});
+    window.pcFilter = 0; // jobs only
+    main.filterNames(ActiveSide::PC, "door");
+    window.pc.click({"DOOR.JBI"});
+    prompts.answer = "DOOR.BAK";
+    files.rename();
+    EXPECT_THAT(view.closedQuickFilters, IsEmpty());
+    EXPECT_THAT(window.pc.names, IsEmpty());
+}
+
 } // namespace
 } // namespace vantrel::tests

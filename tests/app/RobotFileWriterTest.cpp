@@ -102,7 +102,9 @@ TEST(RobotFileWriterTest, AMarkIsWrittenWhereThereIsOne) {
 
 TEST(RobotFileWriterTest, AMarkThatCannotBeShownReadsBackAsItWas) {
     std::vector<RobotRecord> robots = emptyRobotList();
-    robots.insert(robots.begin(), robot("R1", "", "/a"));
+    robots.insert(robots.begin(), {robot("R1", "", "/a"), robot("R2", "", "/b")});
+    robots[1].Colour = ",";
+    robots[1].Label = "==";
     robots[0].Colour = " Pink, dark = 7";
     robots[0].Label = std::string(500, 'x') + "\x01\t=,[Robot] ";
     const std::string text = registryText("R1", robots, RobotPaths("/opt", PathStyle::Posix));

@@ -287,5 +287,25 @@ TEST(RobotListDraftTest, AMarkGoesWithItsRobot) {
     EXPECT_EQ(records[2].Label, "");
 }
 
+/// An address that is no four numbers is the operator's, and not the mark's, to mend.
+TEST(RobotListDraftTest, AMarkAloneLeavesTheAddressAsItWasRead) {
+    auto robots = three();
+    robots[0].IPaddr = "";
+    robots[1].IPaddr = "010.0.0.8";
+    robots[2].IPaddr = "cell3";
+    RobotListDraft draft = draftOn(0, robots);
+    for (const std::size_t place : {0u, 1u, 2u}) {
+        draft.select(place);
+        draft.setMark("Red", "LIVE");
+    }
+    const auto records = draft.records();
+    for (const std::size_t place : {0u, 1u, 2u}) {
+        EXPECT_EQ(records[place].IPaddr, robots[place].IPaddr);
+        EXPECT_EQ(records[place].Colour, "Red");
+    }
+    EXPECT_FALSE(findRobotFault(draft.entries()));
+    EXPECT_TRUE(draft.isChanged());
+}
+
 } // namespace
 } // namespace vantrel

@@ -206,5 +206,23 @@ TEST_F(RobotSelectionTest, TheSameMachineKeepsItsList) {
     EXPECT_EQ(state.CtrlListing.Count, 1);
 }
 
+TEST_F(RobotSelectionTest, TheMarkIsThatOfTheRobotChosen) {
+    state.RobotList[0].Label = "LIVE LINE";
+    selection.choose(1);
+    EXPECT_EQ(view.mark.text, "");
+    selection.choose(0);
+    EXPECT_EQ(view.mark.text, "LIVE LINE");
+}
+
+/// Its box stands over the window for as long as nobody answers.
+TEST_F(RobotSelectionTest, NoOtherRobotsMarkIsSeenWhileTheFolderIsTold) {
+    view.mark.text = "LIVE LINE"; // of the robot before
+    state.RobotList[1].Path = pc.path("none");
+    std::string seen = "nothing told";
+    boxes.whileOpen = [&] { seen = view.mark.text; };
+    selection.choose(1);
+    EXPECT_EQ(seen, "");
+}
+
 } // namespace
 } // namespace vantrel::tests

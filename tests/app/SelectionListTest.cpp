@@ -207,5 +207,14 @@ TEST_F(SelectionListTest, IsOfferedOnlyForAJobInTheActivePane) {
     EXPECT_TRUE(isOffered());
 }
 
+/// Its jobs would be passed over by every transfer of the folder.
+TEST_F(SelectionListTest, TheListOfThePCsOwnJobsIsNotWritten) {
+    selectOnPC({"A.JBI"});
+    saveAs(pc.path("localjob"));
+    EXPECT_FALSE(pc.has("localjob.lst"));
+    EXPECT_EQ(boxes.texts().size(), 1U);
+    EXPECT_EQ(state.JobListFile, "");
+}
+
 } // namespace
 } // namespace vantrel::tests

@@ -221,5 +221,39 @@ TEST_F(ViewerCommandsTest, AFailedPrintIsToldOnceTheWindowIsFree) {
     expectLeftInOrder();
 }
 
+TEST_F(ViewerCommandsTest, LineNumbersAreShownWhileTheyAreWantedAndNeverPrinted) {
+    main.updateStates();
+    EXPECT_FALSE(shown("mnuLineNumbers").enabled);
+    press();
+    EXPECT_FALSE(shown("mnuLineNumbers").checked);
+    run("mnuLineNumbers");
+    EXPECT_EQ(viewer.text, "1  NOP\r\n");
+    EXPECT_TRUE(shown("mnuLineNumbers").checked);
+    boxes.answers = {true};
+    run("mnuFile(6)");
+    EXPECT_THAT(printer.printed, ElementsAre("A.JBI:NOP\r\n"));
+    press();
+    window.pc.click({"B.DAT"});
+    press();
+    EXPECT_EQ(viewer.text, "1  1,2\r\n2  3\r\n") << "for the next file too";
+    run("mnuLineNumbers");
+    EXPECT_EQ(viewer.text, "1,2\r\n3\r\n");
+}
+
+TEST_F(ViewerCommandsTest, AJobOfTheControllerIsShownWithoutAFileOnThePC) {
+    robotJob("X");
+    showPanes();
+    window.controller.click({"X.JBI"});
+    state.Active = ActiveSide::Controller;
+    main.updateStates();
+    EXPECT_TRUE(shown("mnuViewOnController").enabled);
+    run("mnuViewOnController");
+    EXPECT_TRUE(viewer.isShown);
+    EXPECT_EQ(viewer.name, "X.JBI");
+    EXPECT_EQ(state.Active, ActiveSide::PC) << "its pane is covered";
+    EXPECT_FALSE(pc.has("X.JBI"));
+    EXPECT_FALSE(shown("mnuViewOnController").enabled);
+}
+
 } // namespace
 } // namespace vantrel::tests

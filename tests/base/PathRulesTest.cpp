@@ -259,6 +259,9 @@ TEST(ResolvedPath, HasOneSpellingForEachFolder) {
     EXPECT_EQ(windows.resolved("D:jobs"), "D:\\jobs") << "not from the program's folder";
     EXPECT_EQ(windows.resolved("D:\\..\\jobs"), "D:\\jobs");
     EXPECT_EQ(windows.resolved("\\\\server\\share\\a\\..\\b\\"), "\\\\server\\share\\b");
+    EXPECT_EQ(windows.resolved("//server//share/a"), "\\\\server\\share\\a");
+    EXPECT_EQ(windows.resolved("\\jobs\\.\\a"), "\\jobs\\a");
+    EXPECT_EQ(windows.resolved("\\\\?\\D:\\a.\\b"), "\\\\?\\D:\\a.\\b");
 }
 
 } // namespace

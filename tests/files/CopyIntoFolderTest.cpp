@@ -131,5 +131,18 @@ TEST_F(CopyIntoFolderTest, AFileThatTheFilterHidesLeavesNothingSelected) {
     EXPECT_THAT(window.pc.selected, IsEmpty());
 }
 
+/// It would arrive as a whole one.
+TEST_F(CopyIntoFolderTest, HalfAFileAndItsMarkStayWhereTheyAre) {
+    pcJob("A");
+    showPanes();
+    const auto half = dropped("A");
+    const auto mark = elsewhere.write(FetchMark::fileNameFor("A.JBI"), "");
+    EXPECT_TRUE(commands.copyIntoFolder({half, mark, dropped("B")}));
+    EXPECT_EQ(pc.read("A.JBI"), job("A"));
+    EXPECT_FALSE(pc.has(FetchMark::fileNameFor("A.JBI")));
+    EXPECT_TRUE(pc.has("B.JBI"));
+    EXPECT_EQ(window.result, "1 copied, 2 skipped, 0 failed");
+}
+
 } // namespace
 } // namespace vantrel

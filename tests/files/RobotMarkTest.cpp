@@ -39,6 +39,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LabelRow{{"Blanks"}, "  LIVE LINE ", "LIVE LINE"},
                     LabelRow{{"Control"}, "LIVE\x01\x7F LINE\t", "LIVE LINE"},
                     LabelRow{{"Direction"}, "A\xE2\x80\xAE\x42", "AB"},
+                    LabelRow{{"Invisible"}, "\u200B\uFEFF\u00AD\u3164", ""},
                     LabelRow{{"NoText"}, "A\xFF", "A\xEF\xBF\xBD"},
                     LabelRow{{"Long"}, "0123456789ABCDEFG", "0123456789ABCDEF"},
                     LabelRow{{"LongBehindBlanks"}, "  123456789ABCDEF0 x", "123456789ABCDEF0"},

@@ -241,5 +241,16 @@ TEST_F(PaceLineTest, ADeletionHasNone) {
     EXPECT_THAT(shownLines(), testing::IsEmpty());
 }
 
+/// Ten seconds for the directory are not the speed of a file.
+TEST_F(TransferPaceTest, WhatCameBeforeTheFirstFileIsNoMeasure) {
+    TransferPace pace = paceOf(100);
+    pace.prepare(milliseconds(10000));
+    pace.reach(1, milliseconds(11000));
+    pace.prepare(milliseconds(11500)); // too late to be told of a directory
+    pace.reach(2, milliseconds(12000));
+    EXPECT_EQ(pace.secondsLeft(), 2 * 60) << "98 files of a second each";
+    EXPECT_EQ(pace.worked(), milliseconds(12000));
+}
+
 } // namespace
 } // namespace vantrel::tests

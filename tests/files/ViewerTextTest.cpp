@@ -116,5 +116,16 @@ TEST_F(ViewerFileTest, ARandomLineOfTenMegabytesIsOneLineOfValidText) {
     EXPECT_TRUE(isValidUtf8(*text));
 }
 
+TEST(NumberedText, HasTheNumbersInAColumn) {
+    EXPECT_EQ(numberedText(""), "");
+    EXPECT_EQ(numberedText("NOP\r\n\r\n"), "1  NOP\r\n2  \r\n");
+    std::string ten, expected;
+    for (int line = 1; line <= 10; ++line) {
+        ten += "X\r\n";
+        expected += (line < 10 ? " " : "") + std::to_string(line) + "  X\r\n";
+    }
+    EXPECT_EQ(numberedText(ten), expected);
+}
+
 } // namespace
 } // namespace vantrel::tests

@@ -110,7 +110,7 @@ constexpr std::pair<int, int> captionNumbers[] = {
     {message::menuNewFolder, message::folderToOpen},
     {message::toWasteBin, message::quickFilterLabel},
     {message::resultCopied, message::resultCopied},
-    {message::closeQuickFilter, message::closeQuickFilter},
+    {message::menuLineNumbers, message::closeQuickFilter},
     {message::menuSaveSelection, message::timeMomentLeft},
     {message::listFilesOffered, message::listFilesOffered},
     {message::consoleFolder, message::consoleWouldBeDone}, // cells of vantrelctl's lines

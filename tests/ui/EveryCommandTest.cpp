@@ -140,7 +140,7 @@ void EveryCommandTest::prepare(const CommandRow& command) {
     menu("mnuRefresh");
     choose(*controls().lsvPC, {0});
     const auto is = [&command](const char* name) { return commandNamed(name).first == &command; };
-    if (is("mnuFile(6)"))
+    if (is("mnuFile(6)") || is("mnuLineNumbers"))
         menu("mnuFile(5)");
     for (const std::string of : {"mnuDisp", "mnuSort"})
         for (int index = 0; index < 3; ++index)

@@ -74,7 +74,7 @@ void frmMsgStat::buildControls() {
         new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblPlace");
     lblPace_ = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, width, shortened, "lblPace");
     shpPlace_ = new ColourSwatch(this, "shpPlace", wxBORDER_SIMPLE);
-    shpPlace_->SetMinSize(FromDIP(wxSize(swatchWidth, -1)));
+    shpPlace_->SetMinSize(FromDIP(wxSize(swatchWidth, 1)));
     shpPlace_->Hide();
     cmdCancel_ = newCaptionButton(this, "", "cmdCancel");
 

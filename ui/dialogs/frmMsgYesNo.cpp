@@ -72,7 +72,7 @@ wxSizer* frmMsgYesNo::buildNote(const QuestionNote& note, const ApplicationState
     if (note.mark.colour) {
         auto* const bar = new ColourSwatch(this, "shpPlace", wxBORDER_SIMPLE);
         bar->showColour(*note.mark.colour, note.mark.colourName);
-        bar->SetMinSize(FromDIP(wxSize(barWidth, -1)));
+        bar->SetMinSize(FromDIP(wxSize(barWidth, 1)));
         row->Add(bar, wxSizerFlags().Expand().Border(wxRIGHT, FromDIP(8)));
     }
     row->Add(newText(note.text, state, "lblPlace"), wxSizerFlags(1));

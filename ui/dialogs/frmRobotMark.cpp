@@ -76,7 +76,7 @@ wxSizer* frmRobotMark::buildFields() {
     cmbColour_->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { showColour(); });
     keepEnter(*cmbColour_);
     swatch_ = new ColourSwatch(this, "shpColour", wxBORDER_SIMPLE);
-    swatch_->SetMinSize(FromDIP(wxSize(swatchWidth, -1)));
+    swatch_->SetMinSize(FromDIP(wxSize(swatchWidth, 1)));
     txtLabel_ = new wxTextCtrl(this, wxID_ANY, toWx(mark_.label()), wxDefaultPosition,
                                wxDefaultSize, 0, wxDefaultValidator, "txtLabel");
     txtLabel_->SetMaxLength(longestLabel);
