@@ -60,7 +60,7 @@ bool DeleteCommand::isWanted(const std::string& name, std::int32_t question) {
         return true;
     CheckedChoice wasteBin{with_.messages.getMessage(message::toWasteBin),
                            with_.state.DeletesToWasteBin};
-    const bool isOffered = side_ == ActiveSide::PC && with_.moveToWasteBin;
+    const bool isOffered = side_ == ActiveSide::PC && with_.moveToWasteBin != nullptr;
     const Answer answer =
         with_.talk.ask(title_, questionText(name, question), {}, isOffered ? &wasteBin : nullptr);
     if (isOffered && answer != Answer::Cancel)
@@ -100,8 +100,8 @@ bool DeleteCommand::deleteOnController(const std::string& name) {
 void DeleteCommand::deleteOnPC(const std::string& name) {
     outcome_.pcTouched = true;
     const std::string path = PathRules().join(with_.state.PCPath, name);
-    const bool isKept = with_.state.DeletesToWasteBin && with_.moveToWasteBin;
-    const Outcome removed = isKept ? with_.moveToWasteBin(path) : removeFile(path);
+    const bool isKept = with_.state.DeletesToWasteBin && with_.moveToWasteBin != nullptr;
+    const Outcome removed = isKept ? (*with_.moveToWasteBin)(path) : removeFile(path);
     if (removed)
         return with_.results.note(name, ItemEnd::Done);
     outcome_.succeeded = false;

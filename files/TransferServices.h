@@ -18,6 +18,9 @@ class Snappy;
 class TransferTable;
 struct ApplicationState;
 
+/// Moves a file, by its path, to where the operator can get it back from.
+using MoveToWasteBin = std::function<Outcome(const std::string& path)>;
+
 /// What the transfer commands work with; everything is borrowed and outlives them.
 struct TransferServices {
     ApplicationState& state;
@@ -29,8 +32,8 @@ struct TransferServices {
     ProgressPanel& progress;
     OperatorTalk& talk;
     ResultLog& results;
-    /// Where deleted files can be got back from; without it there is no such place.
-    std::function<Outcome(const std::string& path)> moveToWasteBin = {};
+    /// Where deleted files can be got back from; null where there is no such place.
+    const MoveToWasteBin* moveToWasteBin = nullptr;
 };
 
 /// What a transfer command comes to. A side is touched when something there may have changed; only

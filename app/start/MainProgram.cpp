@@ -8,9 +8,12 @@ namespace vantrel {
 
 MainProgram::MainProgram(Engine& engine, const MainWindowParts& parts)
     : panes(engine.state, engine.session, engine.table, engine.messages, parts.panes),
-      transferServices_{engine.state, engine.session,      panes,           parts.panes,
-                        engine.table, engine.messages,     engine.progress, engine.talk,
-                        results_,     parts.moveToWasteBin},
+      moveToWasteBin_(parts.moveToWasteBin),
+      transferServices_{engine.state,    engine.session,
+                        panes,           parts.panes,
+                        engine.table,    engine.messages,
+                        engine.progress, engine.talk,
+                        results_,        moveToWasteBin_ ? &moveToWasteBin_ : nullptr},
       transfers_(transferServices_),
       folder_(engine.state, panes, engine.talk, parts.view, parts.tree),
       services_{engine.state, engine.session, panes,      transfers_, engine.messages,

@@ -43,7 +43,7 @@ struct MainWindowParts {
     FolderTreeSource folders;
     std::function<Outcome(const std::string& path)> editTextFile; ///< the system's text editor
     HelpCommands::Opener openDocument;
-    std::function<Outcome(const std::string& path)> moveToWasteBin = {};
+    MoveToWasteBin moveToWasteBin = {};
     PromptWindow& prompts;
 };
 
@@ -63,6 +63,7 @@ class MainProgram {
 
   private:
     ResultLog results_;
+    MoveToWasteBin moveToWasteBin_;
     TransferServices transferServices_;
     TransferCommands transfers_;
     PCFolder folder_;

@@ -253,12 +253,12 @@ TEST_F(DeleteCommandTest, ADeletedJobLeavesTheListThoughItCannotBeReadAgain) {
 class DeleteToWasteBinTest : public DeleteCommandTest {
   protected:
     bool remove() {
-        return TransferCommands({state, session, panes, window, table, messages, progress, talk,
-                                 results,
-                                 [this](const std::string& path) {
-                                     inBin.push_back(path);
-                                     return binAnswer;
-                                 }})
+        const MoveToWasteBin bin = [this](const std::string& path) {
+            inBin.push_back(path);
+            return binAnswer;
+        };
+        return TransferCommands(
+                   {state, session, panes, window, table, messages, progress, talk, results, &bin})
             .deleteOnPC();
     }
 
