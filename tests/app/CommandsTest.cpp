@@ -307,8 +307,8 @@ TEST(CommandsTest, EachMenuHasItsEntriesInOrder) {
     EXPECT_THAT(contents(mnuRobot), ElementsAre("mnuRobot(0)", "mnuRobot(1)"));
     EXPECT_THAT(contents(mnuToolsMain),
                 ElementsAre("mnuTools(0)", "-", "mnuTools(1)", "mnuTools(2)", "mnuTools(3)", "-",
-                            "mnuNewFolder", "mnuRename", "mnuViewOnController", "-",
-                            "mnuGoToFolder", "mnuBack", "mnuForward", "-", "mnuQuickFilter",
+                            "mnuNewFolder", "mnuRename", "mnuViewOnController", "mnuLineNumbers",
+                            "-", "mnuGoToFolder", "mnuBack", "mnuForward", "-", "mnuQuickFilter",
                             "mnuOtherPane"));
     EXPECT_THAT(contents(mnuRightTools),
                 ElementsAre("mnuRightNewFolder", "mnuRightRename", "mnuRightViewOnController", "-",
