@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include <X11/Xatom.h>
 #include <fcntl.h>
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
@@ -132,6 +133,24 @@ std::vector<std::uint32_t> pixelsOnScreen(wxRect& area) {
     return pixels;
 }
 
+/// A tool tip comes by itself wherever the pointer happens to rest.
+static bool isToolTip(Display* display, Window window) {
+    const Atom property = XInternAtom(display, "_NET_WM_WINDOW_TYPE", False);
+    Atom type = None;
+    int format = 0;
+    unsigned long count = 0, rest = 0;
+    unsigned char* value = nullptr;
+    constexpr long one = 1;
+    XGetWindowProperty(display, window, property, 0, one, False, XA_ATOM, &type, &format, &count,
+                       &rest, &value);
+    const bool isTip = value != nullptr && count == 1 &&
+                       *reinterpret_cast<Atom*>(value) ==
+                           XInternAtom(display, "_NET_WM_WINDOW_TYPE_TOOLTIP", False);
+    if (value != nullptr)
+        XFree(value);
+    return isTip;
+}
+
 int windowsOnScreen() {
     Display* const display = GDK_DISPLAY_XDISPLAY(gdk_display_get_default());
     Window root = 0, parent = 0, *children = nullptr;
@@ -145,7 +164,8 @@ int windowsOnScreen() {
         const bool isThere = XGetWindowAttributes(display, children[child], &at) != 0;
         // Window managers have tiny windows of their own, some beside the screen.
         if (isThere && at.map_state == IsViewable && at.c_class == InputOutput && at.width > 20 &&
-            at.height > 20 && at.x + at.width > 0 && at.y + at.height > 0)
+            at.height > 20 && at.x + at.width > 0 && at.y + at.height > 0 &&
+            !isToolTip(display, children[child]))
             ++seen;
     }
     XFree(children);

@@ -125,6 +125,7 @@ std::string EveryCommandTest::picture() {
                                  static_cast<wxWindow*>(controls().pcQuickFilter),
                                  static_cast<wxWindow*>(controls().pcHighlight)})
         all += part->IsShown() ? '+' : '-';
+    all += window().menus().find("mnuLineNumbers")->IsChecked() ? '+' : '-';
     for (int index = 0; index < 3; ++index)
         all += window().menus().find("mnuSort(" + std::to_string(index) + ")")->IsChecked() ? '+'
                                                                                             : '-';
