@@ -111,5 +111,8 @@ is_still() {
     [ "$(import -window "$1" rgba:- | md5sum)" = "$before" ]
 }
 
+# The same for longer: a busy machine paints in parts.
+is_settled() { is_still "$1" && is_still "$1" && is_still "$1"; }
+
 has_ended() { ! kill -0 "$program" 2>/dev/null; }
 same_bytes() { cmp -s "$1" "$2"; }

@@ -33,7 +33,7 @@ import -window root "$work/question.png"
 answer 'File transfer' alt+y
 until_true "$newer on the controller" same_bytes "$jobs/$newer" "$controller/$newer"
 until_true "$added on the controller" same_bytes "$jobs/$added" "$controller/$added"
-until_true "the progress window to close" is_gone 'File transfer'
+progress_ends
 
 say "Fetching $fetched: pane chosen with the mouse, copied with the menu."
 activate "$main"
@@ -41,7 +41,7 @@ select_on_controller "$fetched"
 keys alt+f
 keys c
 until_true "$fetched on the PC" same_bytes "$jobs/$fetched" "$controller/$fetched"
-until_true "the progress window to close" is_gone 'File transfer'
+progress_ends
 activate "$main"
 import -window "$main" "$work/window.png"
 

@@ -16,11 +16,6 @@ cp -r "$controller" "$work/controller"
 is_gone_file() { [ ! -e "$1" ]; }
 expect_gone() { until_true "$1 to go" is_gone_file "$1"; }
 expect_same() { until_true "$2 to equal $1" same_bytes "$1" "$2"; }
-# Behind the progress window the lists are filled anew, with another selection.
-progress_ends() {
-    until_true "the progress window to close" is_gone 'File transfer'
-    until_true "the lists to be filled" is_still "$main"
-}
 
 trial_start
 

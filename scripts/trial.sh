@@ -18,6 +18,12 @@ trial_lay_out() {
     controller=$trial/controllers/line1-weld
 }
 
+# Behind the progress window the lists are filled anew, with another selection.
+progress_ends() {
+    until_true "the progress window to close" is_gone 'File transfer'
+    until_true "the lists to be filled" is_settled "$main"
+}
+
 launch() {
     env LC_ALL=C.UTF-8 "${launcher:-$trial/Vantrel}" >"$work/program.log" 2>&1 &
     program=$!
@@ -34,6 +40,7 @@ trial_start() {
     until_true "the windows to be painted" is_still "$main"
     until_true "the version window to close" closes Escape is_shown "About Vantrel"
     activate "$main"
+    until_true "the main window to be ready" is_settled "$main"
 }
 
 trial_close() {

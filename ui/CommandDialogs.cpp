@@ -40,7 +40,7 @@ bool ListFileDialogs::readList(std::string_view mode) {
 std::optional<std::string> ListFileDialogs::askNewList(const std::string& folder,
                                                        const std::string& name) {
     const std::string title = withoutMnemonic(messages_.getMessage(message::menuSaveSelection));
-    wxFileDialog dialog(&parent_, toWx(title), toWx(folder), toWx(name), "*.lst", wxFD_SAVE);
+    wxFileDialog dialog(&parent_, toWx(title), toWx(folder), toWx(name), "*.lst|*.lst", wxFD_SAVE);
     if (dialog.ShowModal() != wxID_OK)
         return std::nullopt;
     return fromWx(dialog.GetPath());

@@ -80,7 +80,7 @@ TEST_F(ListTransferInMainWindowTest, AsksWithTheSystemsWindowWhereTheSelectionIs
         EXPECT_EQ(system.GetMessage(), "Save Selection as Job List");
         EXPECT_TRUE(system.HasFlag(wxFD_SAVE));
         EXPECT_FALSE(system.HasFlag(wxFD_OVERWRITE_PROMPT)) << "the program itself asks";
-        EXPECT_EQ(system.GetWildcard(), "*.lst");
+        EXPECT_EQ(system.GetWildcard(), "*.lst|*.lst") << "no words of the toolkit's";
         return wxID_CANCEL;
     });
     menu("mnuTools(3)");

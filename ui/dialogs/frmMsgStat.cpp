@@ -23,7 +23,7 @@ namespace vantrel {
 namespace {
 
 /// Device-independent pixels; texts of any length are shortened to it, so the window never jumps.
-constexpr int contentWidth = 400;
+constexpr int contentWidth = 460;
 constexpr int swatchWidth = 16;
 
 /// "&" in a file's name is shown, and an equal text is not painted again.
