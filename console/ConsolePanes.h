@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/PaneRows.h"
 #include "files/PaneWindow.h"
 
 #include <cstddef>
@@ -13,13 +14,19 @@ namespace vantrel {
 /// The rows of a pane and which of them are selected, in memory.
 class ConsoleList final : public PaneList {
   public:
-    void show(const PaneRows& rows) override;
+    void show(const PaneRows& rows) override {
+        selected_.clear();
+        if (rows.size() > 0)
+            selected_.push_back(0);
+    }
     void update(const PaneRows&, const std::vector<std::size_t>& selected,
                 std::optional<std::size_t>) override {
         selected_ = selected;
     }
     std::vector<std::size_t> selectedRows() const override { return selected_; }
-    std::optional<std::size_t> selectedRow() const override;
+    std::optional<std::size_t> selectedRow() const override {
+        return selected_.empty() ? std::nullopt : std::optional(selected_.front());
+    }
     void select(const std::vector<std::size_t>& rows) override { selected_ = rows; }
     void focus() override {}
 

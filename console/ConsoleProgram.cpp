@@ -6,6 +6,7 @@
 #include "app/start/DeliveredFiles.h"
 #include "console/ConsoleMessages.h"
 #include "console/FileCommands.h"
+#include "console/ListCommands.h"
 #include "console/RobotCommands.h"
 #include "lang/SystemReasons.h"
 #include "platform/Files.h"
@@ -137,6 +138,13 @@ void ConsoleProgram::perform() {
     case Task::Delete:
         for (const Target& target : desk_.targets.targets)
             FileCommands(desk_, target).run();
+        return;
+    case Task::GetVariables:
+    case Task::PutVariables:
+    case Task::GetJobs:
+    case Task::PutJobs:
+        for (const Target& target : desk_.targets.targets)
+            ListCommands(desk_, target).run();
         return;
     case Task::Doctor: {
         Doctor doctor(desk_, found_);

@@ -3,13 +3,32 @@
 #include "base/Text.h"
 #include "console/Report.h"
 
+#include <iterator>
+#include <span>
+
 namespace vantrel {
+namespace {
+
+struct TypedAnswer {
+    const char* letter;
+    const char* word;
+    Answer answer;
+};
+
+constexpr TypedAnswer answers[] = {{"y", "yes", Answer::Yes},
+                                   {"n", "no", Answer::No},
+                                   {"a", "all", Answer::All},
+                                   {"c", "cancel", Answer::Cancel}};
+
+} // namespace
 
 AnswerPolicy answerPolicy(const Request& request) {
+    const bool replacesValues = request.task == Request::Task::GetVariables;
     return {.overwrite = request.overwrite,
             .deletes = request.task == Request::Task::Delete,
             .keepsGoing = request.keepGoing,
-            .folderGiven = request.folder.has_value()};
+            .saysYes = replacesValues ? request.overwrite == OverwritePolicy::Always
+                                      : request.folder.has_value()};
 }
 
 void ConsoleTalk::tell(const std::string& text, BoxIcon) {
@@ -17,16 +36,18 @@ void ConsoleTalk::tell(const std::string& text, BoxIcon) {
     report_.message(text);
 }
 
-// Asked about a file of a list that is missing.
+// Asked about each file of a list that is missing. Whoever runs the list looks at all of it first.
 bool ConsoleTalk::askOkCancel(const std::string& text, BoxIcon icon) {
     tell(text, icon);
-    return policy_.keepsGoing;
+    return true;
 }
 
-// Asked before files leave the folder of another robot.
+// Asked before files leave the folder of another robot, and before values of a list are replaced.
 bool ConsoleTalk::askYesNo(const std::string& text, BoxIcon icon) {
+    if (policy_.overwrite == OverwritePolicy::Ask && policy_.readLine)
+        return typedAnswer(text, 2) == Answer::Yes;
     tell(text, icon);
-    return policy_.folderGiven;
+    return policy_.saysYes;
 }
 
 Answer ConsoleTalk::ask(const std::string&, const std::string& question, const QuestionNote& note,
@@ -37,7 +58,8 @@ Answer ConsoleTalk::ask(const std::string&, const std::string& question, const Q
     case OverwritePolicy::Always:
         return Answer::All;
     case OverwritePolicy::Ask:
-        return policy_.readLine ? typedAnswer(question + "\n" + note.text) : Answer::No;
+        return policy_.readLine ? typedAnswer(question + "\n" + note.text, std::size(answers))
+                                : Answer::No;
     case OverwritePolicy::Never:
         break;
     }
@@ -54,19 +76,19 @@ Answer ConsoleTalk::deletionAnswer() {
     return told_ == *toldBeforeDeletions_ ? Answer::Yes : Answer::Cancel;
 }
 
-Answer ConsoleTalk::typedAnswer(const std::string& question) const {
+Answer ConsoleTalk::typedAnswer(const std::string& question, std::size_t offered) const {
+    std::string hint;
+    for (const TypedAnswer& answer : std::span(answers).first(offered))
+        hint += (hint.empty() ? "[" : "  [") + std::string(answer.letter) + "] " + answer.word;
     while (true) {
-        report_.note(question + "\n[y] yes  [n] no  [a] all  [c] cancel");
+        report_.note(question + "\n" + hint);
         const auto line = policy_.readLine();
-        const std::string typed = line ? asciiLower(trimmed(*line)) : "c";
-        if (typed == "y" || typed == "yes")
-            return Answer::Yes;
-        if (typed == "n" || typed == "no")
-            return Answer::No;
-        if (typed == "a" || typed == "all")
-            return Answer::All;
-        if (typed == "c" || typed == "cancel")
+        if (!line)
             return Answer::Cancel;
+        const std::string typed = asciiLower(trimmed(*line));
+        for (const TypedAnswer& answer : std::span(answers).first(offered))
+            if (typed == answer.letter || typed == answer.word)
+                return answer.answer;
     }
 }
 

@@ -16,9 +16,9 @@ class Report;
 /// How questions are answered where nobody sits.
 struct AnswerPolicy {
     OverwritePolicy overwrite = OverwritePolicy::Never; ///< of a file that is there
-    bool deletes = false;     ///< every question is whether to delete, and that is the wish
-    bool keepsGoing = false;  ///< after a failure, and without a file that is missing
-    bool folderGiven = false; ///< the PC folder is meant, whoever's it is
+    bool deletes = false;    ///< every question is whether to delete, and that is the wish
+    bool keepsGoing = false; ///< after a failure
+    bool saysYes = false;    ///< to leave another robot's folder, or to replace a list's values
     std::function<std::optional<std::string>()> readLine = {}; ///< when somebody sits there
 };
 
@@ -37,7 +37,8 @@ class ConsoleTalk final : public MessageBoxes, public QuestionWindow {
                CheckedChoice* choice) override;
 
   private:
-    Answer typedAnswer(const std::string& question) const;
+    /// One of the first so many answers.
+    Answer typedAnswer(const std::string& question, std::size_t offered) const;
     Answer deletionAnswer();
 
     Report& report_;

@@ -22,30 +22,50 @@ constexpr const char* exitCodes =
     "12 no connection, 130 interrupted. Take any other one for a failure.\n"
     "vantrelctl COMMAND --help lists what a command takes.";
 
+/// What a command takes beside the machine.
+enum Feature : unsigned {
+    usesFolder = 1,
+    mayGoOn = 2, ///< after a failure
+    mayRehearse = 4,
+    mayReplace = 8,
+    takesOneFile = 16, ///< the name is that of one file
+    hasDirection = 32  ///< both ways lie open, and one has to be named
+};
+
 /// One command of the table.
 struct Command {
     Task task;
     const char* word;
     const char* purpose;
-    const char* names; ///< what its names are; null when it takes none
-    bool usesFolder;
-    bool changesFiles; ///< on either side
-    bool mayReplace;
+    const char* names = nullptr; ///< what its names are; null when it takes none
+    unsigned features = 0;
+    Task sending = task; ///< the task with --send, where there is a direction
 };
 
 constexpr const char* controllerFiles = "Files on the controller; * and ? stand for any characters";
+constexpr const char* variableList = "The variable list, a file of the PC folder";
 
 constexpr Command commands[] = {
-    {Task::Robots, "robots", "Lists the registered robots", nullptr, false, false, false},
-    {Task::List, "list", "Lists the files of a controller", nullptr, false, false, false},
-    {Task::Get, "get", "Copies files from a controller to the PC", controllerFiles, true, true,
-     true},
+    {Task::Robots, "robots", "Lists the registered robots"},
+    {Task::List, "list", "Lists the files of a controller"},
+    {Task::Get, "get", "Copies files from a controller to the PC", controllerFiles,
+     usesFolder | mayGoOn | mayRehearse | mayReplace},
     {Task::Put, "put", "Copies files from the PC to a controller",
-     "Files of the PC folder; * and ? stand for any characters", true, true, true},
-    {Task::Delete, "delete", "Deletes files on a controller, unasked", controllerFiles, false, true,
-     false},
-    {Task::Doctor, "doctor", "Says what works, what does not and what to do", nullptr, false, false,
-     false},
+     "Files of the PC folder; * and ? stand for any characters",
+     usesFolder | mayGoOn | mayRehearse | mayReplace},
+    {Task::Delete, "delete", "Deletes files on a controller, unasked", controllerFiles,
+     mayGoOn | mayRehearse},
+    {Task::GetVariables, "get-vars", "Puts a controller's values into a variable list",
+     variableList, usesFolder | mayRehearse | mayReplace | takesOneFile},
+    {Task::PutVariables, "put-vars", "Sets a controller's variables by a variable list",
+     variableList, usesFolder | mayGoOn | mayRehearse | takesOneFile},
+    {Task::GetJobs, "jobs-run", "Copies the files that a job list names",
+     "The job list, a file of the PC folder",
+     usesFolder | mayGoOn | mayRehearse | mayReplace | takesOneFile | hasDirection, Task::PutJobs},
+    {Task::GetVariables, "vars-run", "The same as get-vars or put-vars", variableList,
+     usesFolder | mayGoOn | mayRehearse | mayReplace | takesOneFile | hasDirection,
+     Task::PutVariables},
+    {Task::Doctor, "doctor", "Says what works, what does not and what to do"},
 };
 
 std::string notAddress(std::string& text) {
@@ -61,6 +81,11 @@ std::string notPlain(std::string& name) {
     std::ranges::replace(plain, '?', 'x');
     return PathRules::isPlainName(plain) ? std::string()
                                          : "not the plain name of a file: " + onOneLine(name);
+}
+
+std::string notOneFile(std::string& name) {
+    return PathRules::isPlainName(name) ? std::string()
+                                        : "not the plain name of a file: " + onOneLine(name);
 }
 
 template <typename Value>
@@ -113,13 +138,35 @@ void addMachine(CLI::App& into, Request& request) {
         ->excludes("--all-robots");
 }
 
-void addFileChanges(CLI::App& into, Request& request, bool mayReplace) {
-    into.add_flag("--keep-going", request.keepGoing, "Go on with the next file after a failure");
-    into.add_flag("--dry-run", request.dryRun, "Only say what would be done");
-    if (mayReplace)
+void addManners(CLI::App& into, unsigned features, Request& request) {
+    if (features & usesFolder)
+        into.add_option("--folder", request.folder, "The folder on the PC, in place of the robot's")
+            ->option_text("PATH");
+    if (features & mayGoOn)
+        into.add_flag("--keep-going", request.keepGoing, "Go on with the next one after a failure");
+    if (features & mayRehearse)
+        into.add_flag("--dry-run", request.dryRun, "Only say what would be done");
+    if (features & mayReplace)
         addChoice(into, "--overwrite", policies, request.overwrite,
-                  "Whether to replace a file that is there; ask works on a terminal only. "
+                  "Whether to replace what is there; ask works on a terminal only. "
                   "Without it: never");
+}
+
+void addNames(CLI::App& into, const Command& command, Request& request) {
+    const bool isOne = command.features & takesOneFile;
+    CLI::Option& names = *into.add_option(isOne ? "FILE" : "NAME", request.names, command.names);
+    names.required()->check(CLI::Validator(isOne ? notOneFile : notPlain, "", ""));
+    if (isOne)
+        names.expected(1)->option_text(" ");
+    else
+        names.option_text("...");
+}
+
+void addDirection(CLI::App& into) {
+    CLI::App& direction = *into.add_option_group("Direction", "One of these is needed");
+    direction.add_flag("--send")->description("From the PC to the controller");
+    direction.add_flag("--receive")->description("From the controller to the PC");
+    direction.require_option(1);
 }
 
 void addCommand(CLI::App& app, const Command& command, Request& request) {
@@ -129,20 +176,16 @@ void addCommand(CLI::App& app, const Command& command, Request& request) {
     into.add_option("--lang", request.language, "The language of the texts, by its file's name")
         ->option_text("NAME");
     addMachine(into, request);
-    if (command.usesFolder)
-        into.add_option("--folder", request.folder, "The folder on the PC, in place of the robot's")
-            ->option_text("PATH");
-    if (command.changesFiles)
-        addFileChanges(into, request, command.mayReplace);
+    addManners(into, command.features, request);
     if (command.task == Task::Robots)
         into.add_flag("--check", request.check, "Connect to each of them");
     if (command.names)
-        into.add_option("NAME", request.names, command.names)
-            ->required()
-            ->check(CLI::Validator(notPlain, "", ""))
-            ->option_text("...");
-    into.callback([&request, &command] {
-        request.task = command.task;
+        addNames(into, command, request);
+    if (command.features & hasDirection)
+        addDirection(into);
+    into.callback([&into, &request, &command] {
+        const bool isSent = (command.features & hasDirection) && into.count("--send") > 0;
+        request.task = isSent ? command.sending : command.task;
         request.command = command.word;
     });
 }
@@ -158,6 +201,11 @@ const char* contradiction(const Request& request) {
     const bool isSerial = request.port || request.mode == TransferMode::Bsc;
     if (isSerial && (request.robots.size() > 1 || request.allRobots))
         return "a serial port has one robot at its end";
+    if (request.task == Task::PutVariables && request.overwrite != OverwritePolicy::Never)
+        return "--overwrite does not go with variables that are sent: each has a value to replace";
+    if (request.task == Task::GetVariables && request.keepGoing)
+        return "--keep-going does not go with variables that are received: they come all or not "
+               "at all";
     return nullptr;
 }
 

@@ -14,11 +14,22 @@ enum class OverwritePolicy { Never, Always, Ask };
 
 /// What the program is to do, as its arguments say it.
 struct Request {
-    enum class Task { Robots, List, Get, Put, Delete, Doctor };
+    enum class Task {
+        Robots,
+        List,
+        Get,
+        Put,
+        Delete,
+        GetVariables,
+        PutVariables,
+        GetJobs,
+        PutJobs,
+        Doctor
+    };
 
     Task task = Task::Robots;
     std::string command;             ///< the word for the task
-    std::vector<std::string> names;  ///< of files, with wildcards
+    std::vector<std::string> names;  ///< of files, with wildcards; or of the list file
     std::vector<std::string> robots; ///< by name; none for the robot in force
     bool allRobots = false;
     std::optional<TransferMode> mode;

@@ -1,8 +1,8 @@
 #include "app/lists/ListTransferCommands.h"
 
 #include "app/lists/SelectionList.h"
+#include "app/lists/VariableValues.h"
 #include "base/ApplicationState.h"
-#include "base/Text.h"
 #include "files/CommandScopes.h"
 #include "files/FolderOwner.h"
 #include "files/PaneRefresh.h"
@@ -15,9 +15,7 @@
 #include "link/OperatorTalk.h"
 #include "link/ShownText.h"
 #include "link/Snappy.h"
-#include "link/VariableEntry.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace vantrel {
@@ -37,33 +35,6 @@ std::vector<SelectedItem> jobsOf(const Snappy& session) {
     for (std::string& name : jobNames(session))
         items.push_back({std::move(name), false});
     return items;
-}
-
-/// The list's entries but for blank lines.
-std::vector<std::string> variablesOf(const Snappy& session) {
-    std::vector<std::string> entries;
-    for (std::int32_t index = 0; index < session.VarListCount(); ++index)
-        if (std::string entry = session.VarList(index); !trimmed(entry).empty())
-            entries.push_back(std::move(entry));
-    return entries;
-}
-
-/// Whether the entry holds values. One that only names its variable, "B001=", has none to lose.
-bool holdsValues(std::string_view entry) {
-    const auto sign = entry.find('=');
-    return sign != entry.npos && !trimmed(entry.substr(sign + 1)).empty();
-}
-
-bool isSameVariable(const std::string& left, const std::string& right) {
-    const auto one = VariableEntry::parse(left), other = VariableEntry::parse(right);
-    return one && other ? *one == *other : left == right;
-}
-
-/// Whether values of a list are others after it was refreshed.
-bool losesValues(const std::vector<std::string>& before, const std::vector<std::string>& after) {
-    return !std::ranges::equal(before, after, [](const auto& old, const auto& refreshed) {
-        return !holdsValues(old) || isSameVariable(old, refreshed);
-    });
 }
 
 std::string inParentheses(std::int32_t number) {

@@ -24,7 +24,7 @@ _vantrelctl() {
         return
     fi
     if [ "$COMP_CWORD" -eq 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W 'robots list get put delete doctor --help' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'robots list get put delete get-vars put-vars jobs-run vars-run doctor --help' -- "$word")
         return
     fi
     choices='--help --json --lang --robot --all-robots --mode --port --address'
@@ -32,10 +32,13 @@ _vantrelctl() {
     robots) choices+=' --check' ;;
     get | put) choices+=' --folder --keep-going --dry-run --overwrite' ;;
     delete) choices+=' --keep-going --dry-run' ;;
+    get-vars) choices+=' --folder --dry-run --overwrite' ;;
+    put-vars) choices+=' --folder --keep-going --dry-run' ;;
+    *-run) choices+=' --send --receive --folder --keep-going --dry-run --overwrite' ;;
     esac
     case $word in
     -*) mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$word") ;;
-    *) [ "$command" != put ] || mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
+    *) [[ $command != put && $command != *-vars && $command != *-run ]] || mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
     esac
 }
 complete -F _vantrelctl vantrelctl

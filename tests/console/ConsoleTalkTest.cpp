@@ -78,8 +78,29 @@ TEST_F(ConsoleTalkTest, DeletingEndsAtItsFirstFailureUnlessItIsToGoOn) {
 
 TEST_F(ConsoleTalkTest, FilesLeaveTheFolderOfAnotherRobotOnlyWhenItWasNamed) {
     EXPECT_FALSE(talk({}).askYesNo("another robot's?", BoxIcon::Exclamation));
-    EXPECT_TRUE(talk({.folderGiven = true}).askYesNo("another robot's?", BoxIcon::Exclamation));
+    EXPECT_TRUE(talk({.saysYes = true}).askYesNo("another robot's?", BoxIcon::Exclamation));
     EXPECT_NE(messages_.find("another robot's?"), messages_.npos);
+}
+
+TEST_F(ConsoleTalkTest, SomebodyWhoSitsThereIsAskedYesOrNo) {
+    EXPECT_TRUE(talk(typing({"all", "y"})).askYesNo("replace?", BoxIcon::Question));
+    EXPECT_FALSE(talk(typing({"no"})).askYesNo("replace?", BoxIcon::Question));
+    EXPECT_FALSE(talk(typing({})).askYesNo("replace?", BoxIcon::Question));
+    EXPECT_EQ(messages_.find("[a]"), messages_.npos);
+}
+
+TEST_F(ConsoleTalkTest, AMissingFileIsToldAndTheListReadOn) {
+    EXPECT_TRUE(talk({}).askOkCancel("missing", BoxIcon::Exclamation));
+    EXPECT_EQ(messages_, "missing\n");
+}
+
+TEST_F(ConsoleTalkTest, ValuesOfAListAreReplacedOnlyByTheRuleForFiles) {
+    Request request;
+    request.task = Request::Task::GetVariables;
+    request.folder = "x";
+    EXPECT_FALSE(answerPolicy(request).saysYes);
+    request.overwrite = OverwritePolicy::Always;
+    EXPECT_TRUE(answerPolicy(request).saysYes);
 }
 
 TEST_F(ConsoleTalkTest, TheRequestDecides) {
@@ -89,7 +110,7 @@ TEST_F(ConsoleTalkTest, TheRequestDecides) {
     request.folder = "x";
     request.overwrite = OverwritePolicy::Always;
     const AnswerPolicy policy = answerPolicy(request);
-    EXPECT_TRUE(policy.deletes && policy.keepsGoing && policy.folderGiven);
+    EXPECT_TRUE(policy.deletes && policy.keepsGoing && policy.saysYes);
     EXPECT_EQ(policy.overwrite, OverwritePolicy::Always);
     EXPECT_FALSE(answerPolicy(Request()).deletes);
 }

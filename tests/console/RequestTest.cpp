@@ -52,7 +52,39 @@ TEST(Request, KnowsEveryCommand) {
     EXPECT_TRUE(understood({"robots", "--check"}).check);
     EXPECT_EQ(understood({"list"}).task, Task::List);
     EXPECT_EQ(understood({"delete", "X"}).task, Task::Delete);
+    EXPECT_EQ(understood({"get-vars", "V"}).task, Task::GetVariables);
+    EXPECT_EQ(understood({"put-vars", "V", "--keep-going"}).task, Task::PutVariables);
     EXPECT_EQ(understood({"doctor"}).task, Task::Doctor);
+}
+
+TEST(Request, AListRunsInTheDirectionThatIsNamed) {
+    EXPECT_EQ(understood({"jobs-run", "L", "--send"}).task, Task::PutJobs);
+    EXPECT_EQ(understood({"jobs-run", "--receive", "L"}).task, Task::GetJobs);
+    EXPECT_EQ(understood({"vars-run", "L", "--send"}).task, Task::PutVariables);
+    EXPECT_EQ(understood({"vars-run", "L", "--receive"}).task, Task::GetVariables);
+    EXPECT_EQ(understood({"vars-run", "L", "--receive"}).command, "vars-run");
+    refused({"jobs-run", "L"});
+    refused({"jobs-run", "L", "--send", "--receive"});
+    refused({"put", "A.JBI", "--send"});
+}
+
+TEST(Request, AListIsOneFile) {
+    for (const char* command : {"get-vars", "put-vars"}) {
+        refused({command});
+        refused({command, "A.lst", "B.lst"});
+        refused({command, "*.lst"});
+        refused({command, "../A.lst"});
+    }
+    EXPECT_THAT(understood({"jobs-run", "A.lst", "--send"}).names, ElementsAre("A.lst"));
+}
+
+TEST(Request, WhatAListOfVariablesCannotDoIsRefused) {
+    refused({"put-vars", "L", "--overwrite", "always"});
+    refused({"vars-run", "L", "--send", "--overwrite", "always"});
+    refused({"get-vars", "L", "--keep-going"});
+    refused({"vars-run", "L", "--receive", "--keep-going"});
+    EXPECT_EQ(understood({"vars-run", "L", "--receive", "--overwrite", "always"}).overwrite,
+              OverwritePolicy::Always);
 }
 
 TEST(Request, TakesAWayToTheController) {
@@ -107,7 +139,8 @@ TEST(Request, JsonIsKnownEvenWhereTheRestIsNot) {
 TEST(Request, HelpNamesEveryCommandOptionAndExitCode) {
     const auto help = parseArguments({"--help"});
     EXPECT_TRUE(help.isHelp);
-    for (const char* word : {"robots", "list", "get", "put", "delete", "doctor", "130"})
+    for (const char* word : {"robots", "list", "get", "put", "delete", "get-vars", "put-vars",
+                             "jobs-run", "vars-run", "doctor", "130"})
         EXPECT_THAT(help.text, HasSubstr(word));
     const auto ofCommand = parseArguments({"get", "--help"});
     EXPECT_TRUE(ofCommand.isHelp);

@@ -106,6 +106,27 @@ TEST_F(VantrelCtlTest, NothingDoneIsOneAndPartlyDoneIsThree) {
     EXPECT_EQ(folder_.read("one/SUB.JBI"), job("SUB", "first"));
 }
 
+TEST_F(VantrelCtlTest, RunsListFilesBothWays) {
+    folder_.write("first/variables.txt", "B001=5\nB002=6\n");
+    folder_.write("one/V.lst", "B001=\r\nB002=\r\n");
+    EXPECT_EQ(run("get-vars V"), 0);
+    EXPECT_EQ(folder_.read("one/V.lst"), "B001=5\r\nB002=6\r\n");
+    folder_.write("one/V.lst", "B001=5\r\nB002=7\r\n");
+    EXPECT_EQ(run("vars-run V --receive"), 1);
+    EXPECT_EQ(folder_.read("one/V.lst"), "B001=5\r\nB002=7\r\n");
+    EXPECT_EQ(run("put-vars V.lst"), 0);
+    EXPECT_THAT(folder_.read("first/variables.txt"), HasSubstr("B002=7"));
+    folder_.write("one/V.lst", "B001=8\r\nB002=256\r\nB003=9\r\n");
+    EXPECT_EQ(run("vars-run V --send"), 3);
+    EXPECT_THAT(folder_.read("first/variables.txt"), Not(HasSubstr("B003")));
+    folder_.write("one/L.lst", "SUB.JBI\r\n");
+    EXPECT_EQ(run("jobs-run L --receive"), 0);
+    EXPECT_EQ(folder_.read("one/SUB.JBI"), job("SUB", "first"));
+    EXPECT_EQ(run("jobs-run L --send"), 1);
+    EXPECT_EQ(run("jobs-run L --send --overwrite always"), 0);
+    EXPECT_EQ(run("jobs-run L"), 2);
+}
+
 TEST_F(VantrelCtlTest, WrongUsageIsTwo) {
     EXPECT_EQ(run(""), 2);
     EXPECT_EQ(run("list --robot LINE9"), 2);
