@@ -33,4 +33,6 @@ inline constexpr std::int32_t consoleAdviseRobots = 632;
 inline constexpr std::int32_t consoleAdviseLibrary = 633;
 inline constexpr std::int32_t consoleAdviseConnection = 634;
 
+inline constexpr std::int32_t consoleDone = 640; ///< of an operation that was called
+
 } // namespace vantrel::message

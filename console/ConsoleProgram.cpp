@@ -7,6 +7,7 @@
 #include "console/ConsoleMessages.h"
 #include "console/FileCommands.h"
 #include "console/ListCommands.h"
+#include "console/OperationCall.h"
 #include "console/RobotCommands.h"
 #include "lang/SystemReasons.h"
 #include "platform/Files.h"
@@ -145,6 +146,10 @@ void ConsoleProgram::perform() {
     case Task::PutJobs:
         for (const Target& target : desk_.targets.targets)
             ListCommands(desk_, target).run();
+        return;
+    case Task::Call:
+        for (const Target& target : desk_.targets.targets)
+            OperationCall(desk_, target).run();
         return;
     case Task::Doctor: {
         Doctor doctor(desk_, found_);

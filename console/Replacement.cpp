@@ -49,7 +49,7 @@ std::vector<std::string> Replacement::withoutKept(const std::vector<std::string>
     const std::string reason = desk_.engine.messages.getMessage(message::resultKept);
     std::vector<std::string> left;
     for (const std::string& name : names)
-        if (toAll_ || isJobFileName(name) || !isThere(name) || mayReplace(name))
+        if (isJobFileName(name) || !isThere(name) || mayReplace(name))
             left.push_back(name);
         else
             items.addAll({name}, ItemEnd::Skipped, reason);
@@ -57,6 +57,8 @@ std::vector<std::string> Replacement::withoutKept(const std::vector<std::string>
 }
 
 bool Replacement::mayReplace(const std::string& name) {
+    if (toAll_)
+        return true;
     if (desk_.request.dryRun || desk_.request.overwrite != OverwritePolicy::Ask)
         return desk_.request.overwrite == OverwritePolicy::Ask;
     const MessageTable& messages = desk_.engine.messages;

@@ -19,8 +19,10 @@ class Replacement {
     /// As the session finds out what a file would replace: a job by the file's name and by the one
     /// that it has inside.
     bool isThere(const std::string& name) const;
-    /// Without those that the controller would replace without a word; they are reported. Asks
-    /// where that is wished. The session itself asks about jobs, and about all that comes.
+    /// Whether a file that is there may be replaced. Asks where that is wished.
+    bool mayReplace(const std::string& name);
+    /// Without those that the controller would replace without a word; they are reported. The
+    /// session itself asks about jobs, and about all that comes.
     std::vector<std::string> withoutKept(const std::vector<std::string>& names, ItemReport& items);
     /// What would become of them: what the commands look at before they touch anything, and no
     /// more.
@@ -29,7 +31,6 @@ class Replacement {
 
   private:
     bool isSend() const { return sourceOf(kind_) == ActiveSide::PC; }
-    bool mayReplace(const std::string& name);
 
     Desk& desk_;
     CommandKind kind_;

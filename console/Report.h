@@ -17,7 +17,7 @@ using TextSink = std::function<void(std::string_view text)>;
 /// messages. Texts may hold anything; what comes out is always valid UTF-8, a line each.
 class Report {
   public:
-    using Value = std::variant<bool, std::int64_t, std::string>;
+    using Value = std::variant<bool, std::int64_t, std::string, std::vector<std::string>>;
     /// The members of an object in their order; names are English whatever the language.
     using Members = std::vector<std::pair<const char*, Value>>;
 

@@ -3,6 +3,7 @@
 #include "app/robots/RobotCheck.h"
 #include "base/PathRules.h"
 #include "base/Text.h"
+#include "console/OperationCall.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -29,7 +30,8 @@ enum Feature : unsigned {
     mayRehearse = 4,
     mayReplace = 8,
     takesOneFile = 16, ///< the name is that of one file
-    hasDirection = 32  ///< both ways lie open, and one has to be named
+    hasDirection = 32, ///< both ways lie open, and one has to be named
+    takesCall = 64     ///< the names are those of an operation and its arguments
 };
 
 /// One command of the table.
@@ -65,6 +67,9 @@ constexpr Command commands[] = {
     {Task::GetVariables, "vars-run", "The same as get-vars or put-vars", variableList,
      usesFolder | mayGoOn | mayRehearse | mayReplace | takesOneFile | hasDirection,
      Task::PutVariables},
+    {Task::Call, "call", "Calls an operation of the session by its name",
+     "The operation; a wrong one gets a list of all",
+     usesFolder | mayRehearse | mayReplace | takesCall},
     {Task::Doctor, "doctor", "Says what works, what does not and what to do"},
 };
 
@@ -153,6 +158,12 @@ void addManners(CLI::App& into, unsigned features, Request& request) {
 }
 
 void addNames(CLI::App& into, const Command& command, Request& request) {
+    if (command.features & takesCall) {
+        into.add_option("OPERATION", request.names, command.names)
+            ->required()
+            ->option_text("[ARGUMENT...]");
+        return;
+    }
     const bool isOne = command.features & takesOneFile;
     CLI::Option& names = *into.add_option(isOne ? "FILE" : "NAME", request.names, command.names);
     names.required()->check(CLI::Validator(isOne ? notOneFile : notPlain, "", ""));
@@ -234,7 +245,9 @@ ParsedArguments parseArguments(const std::vector<std::string>& arguments) {
     }
     if (const char* const text = contradiction(request))
         parsed.text = text;
-    else
+    else if (request.task == Task::Call)
+        parsed.text = callRefusal(request.names, request.overwrite);
+    if (parsed.text.empty())
         parsed.request = std::move(request);
     return parsed;
 }

@@ -24,12 +24,13 @@ struct Request {
         PutVariables,
         GetJobs,
         PutJobs,
+        Call,
         Doctor
     };
 
     Task task = Task::Robots;
     std::string command;             ///< the word for the task
-    std::vector<std::string> names;  ///< of files, with wildcards; or of the list file
+    std::vector<std::string> names;  ///< of files, with wildcards; the list file; the call
     std::vector<std::string> robots; ///< by name; none for the robot in force
     bool allRobots = false;
     std::optional<TransferMode> mode;

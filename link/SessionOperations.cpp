@@ -86,10 +86,56 @@ Result<SessionValue> dispatch(Snappy& session, Returned (Snappy::*method)(Declar
                                          std::index_sequence_for<Declared...>());
 }
 
+template <typename Type>
+constexpr bool isList = std::is_same_v<std::remove_cvref_t<Type>, std::vector<std::string>>;
+
+template <typename Declared>
+void describeParameter(SessionForm& form) {
+    using Type = std::remove_cvref_t<Declared>;
+    using Kind = SessionForm::Kind;
+    if constexpr (isList<Declared>)
+        return;
+    else if constexpr (std::is_same_v<Type, bool>)
+        form.parameters.push_back({.kind = Kind::Flag, .isOptional = true});
+    else
+        form.parameters.push_back(
+            {.kind = std::is_same_v<Type, std::string> ? Kind::Text : Kind::Number,
+             .isGivenBack = std::is_same_v<Declared, Type&>});
+}
+
+template <typename... Declared>
+bool accepts(const Arguments& arguments) {
+    std::size_t at = 0;
+    return (parameter<std::remove_cvref_t<Declared>>(arguments, at++).has_value() && ...);
+}
+
+/// What a method's type says of it.
+template <typename Returned, typename... Declared>
+struct Signature {
+    static SessionForm form(std::string_view name) {
+        SessionForm form{.name = std::string(name), .saysSuccess = std::is_same_v<Returned, bool>};
+        (describeParameter<Declared>(form), ...);
+        return form;
+    }
+    static bool takes(const Arguments& arguments) { return accepts<Declared...>(arguments); }
+};
+
+template <typename Returned, typename... Declared>
+Signature<Returned, Declared...> signatureOf(Returned (Snappy::*)(Declared...)) {
+    return {};
+}
+
+template <typename Returned, typename... Declared>
+Signature<Returned, Declared...> signatureOf(Returned (Snappy::*)(Declared...) const) {
+    return {};
+}
+
 /// A row of the table of operations.
 struct Operation {
     std::string_view name;
     Result<SessionValue> (*call)(Snappy&, Arguments&);
+    SessionForm (*form)(std::string_view name);
+    bool (*takes)(const Arguments&);
 };
 
 /// A row of the table of properties; `set` is false when the value does not convert.
@@ -97,6 +143,8 @@ struct Property {
     std::string_view name;
     SessionValue (*get)(const Snappy&);
     bool (*set)(Snappy&, const SessionValue&);
+    SessionForm (*form)(std::string_view name);
+    bool (*takes)(const Arguments&);
 };
 
 template <auto Method>
@@ -120,10 +168,31 @@ bool setProperty(Snappy& session, const SessionValue& value) {
     return converted.has_value();
 }
 
+/// A property's value may be left out: it is read then.
+template <auto Field>
+SessionForm formOfProperty(std::string_view name) {
+    SessionForm form{.name = std::string(name)};
+    describeParameter<std::remove_cvref_t<decltype(std::declval<Snappy>().*Field)>>(form);
+    form.parameters.front().isOptional = true;
+    return form;
+}
+
+template <auto Field>
+bool propertyTakes(const Arguments& arguments) {
+    return arguments.empty() ||
+           accepts<std::remove_cvref_t<decltype(std::declval<Snappy>().*Field)>>(arguments);
+}
+
 #define VANTREL_PROPERTY(name)                                                                     \
-    { #name, getProperty < &Snappy::name>, setProperty < &Snappy::name> }
+    {                                                                                              \
+#name, getProperty < &Snappy::name>, setProperty < &Snappy::name>,                         \
+            formOfProperty < &Snappy::name>, propertyTakes < &Snappy::name>                        \
+    }
 #define VANTREL_OPERATION(name)                                                                    \
-    { #name, callOperation < &Snappy::name> }
+    {                                                                                              \
+#name, callOperation < &Snappy::name>, decltype(signatureOf(&Snappy::name))::form,         \
+            decltype(signatureOf(&Snappy::name))::takes                                            \
+    }
 
 constexpr Property properties[] = {
     VANTREL_PROPERTY(port),           VANTREL_PROPERTY(Baudrate),     VANTREL_PROPERTY(parity),
@@ -245,11 +314,34 @@ Outcome SessionOperations::set(std::string_view property, const SessionValue& va
 
 std::vector<std::string> SessionOperations::names() {
     std::vector<std::string> all;
-    for (const Property& property : properties)
-        all.emplace_back(property.name);
-    for (const Operation& operation : operations)
-        all.emplace_back(operation.name);
+    for (SessionForm& form : forms())
+        all.push_back(std::move(form.name));
     return all;
+}
+
+std::vector<SessionForm> SessionOperations::forms() {
+    std::vector<SessionForm> all;
+    for (const Property& property : properties)
+        all.push_back(property.form(property.name));
+    for (const Operation& operation : operations)
+        all.push_back(operation.form(operation.name));
+    return all;
+}
+
+Outcome SessionOperations::check(std::string_view name,
+                                 const std::vector<SessionValue>& arguments) {
+    const auto judge = [&](const auto* row) -> Outcome {
+        if (arguments.size() > row->form(name).parameters.size())
+            return Failure{"too many arguments"};
+        if (!row->takes(arguments))
+            return Failure{"an argument is missing or of the wrong kind"};
+        return Done{};
+    };
+    if (const Operation* const operation = findRow(operations, name))
+        return judge(operation);
+    if (const Property* const property = findRow(properties, name))
+        return judge(property);
+    return unknownName(name);
 }
 
 } // namespace vantrel

@@ -32,6 +32,21 @@ std::optional<std::int16_t> integer16From(const SessionValue& value);
 std::optional<bool> flagFrom(const SessionValue& value);
 std::string textFrom(const SessionValue& value);
 
+/// What an operation or a property takes and gives.
+struct SessionForm {
+    enum class Kind { Text, Number, Flag };
+
+    struct Parameter {
+        Kind kind = Kind::Text;
+        bool isOptional = false;
+        bool isGivenBack = false; ///< changed by the operation
+    };
+
+    std::string name;
+    std::vector<Parameter> parameters{}; ///< a caller's; a list that only goes out follows them
+    bool saysSuccess = false;            ///< the result is whether it went well
+};
+
 /// The session's operations and properties by their names, for scripts and remote callers that bind
 /// late. Numbers given as text and texts given as numbers are converted; arguments beyond those
 /// that an operation takes are ignored.
@@ -54,6 +69,11 @@ class SessionOperations {
 
     /// The names of all properties and operations, in the order of the session's interface.
     static std::vector<std::string> names();
+    /// The same with what they take and give.
+    static std::vector<SessionForm> forms();
+    /// Whether `call` would take just these arguments, for callers who ignore none; nothing is
+    /// called.
+    static Outcome check(std::string_view name, const std::vector<SessionValue>& arguments);
 
   private:
     Snappy& session_;

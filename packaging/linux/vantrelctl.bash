@@ -24,7 +24,7 @@ _vantrelctl() {
         return
     fi
     if [ "$COMP_CWORD" -eq 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W 'robots list get put delete get-vars put-vars jobs-run vars-run doctor --help' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'robots list get put delete get-vars put-vars jobs-run vars-run call doctor --help' -- "$word")
         return
     fi
     choices='--help --json --lang --robot --all-robots --mode --port --address'
@@ -34,8 +34,14 @@ _vantrelctl() {
     delete) choices+=' --keep-going --dry-run' ;;
     get-vars) choices+=' --folder --dry-run --overwrite' ;;
     put-vars) choices+=' --folder --keep-going --dry-run' ;;
+    call) choices+=' --folder --dry-run --overwrite' ;;
     *-run) choices+=' --send --receive --folder --keep-going --dry-run --overwrite' ;;
     esac
+    if [ "$command $COMP_CWORD" = 'call 2' ]; then
+        choices+=" $(vantrelctl call '' 2>&1 >/dev/null | sed -n 's/^  \([^ ]*\).*/\1/p')"
+        mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$word")
+        return
+    fi
     case $word in
     -*) mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$word") ;;
     *) [[ $command != put && $command != *-vars && $command != *-run ]] || mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;

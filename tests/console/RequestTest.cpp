@@ -54,6 +54,7 @@ TEST(Request, KnowsEveryCommand) {
     EXPECT_EQ(understood({"delete", "X"}).task, Task::Delete);
     EXPECT_EQ(understood({"get-vars", "V"}).task, Task::GetVariables);
     EXPECT_EQ(understood({"put-vars", "V", "--keep-going"}).task, Task::PutVariables);
+    EXPECT_EQ(understood({"call", "JobDelete", "A.JBI"}).task, Task::Call);
     EXPECT_EQ(understood({"doctor"}).task, Task::Doctor);
 }
 
@@ -140,7 +141,7 @@ TEST(Request, HelpNamesEveryCommandOptionAndExitCode) {
     const auto help = parseArguments({"--help"});
     EXPECT_TRUE(help.isHelp);
     for (const char* word : {"robots", "list", "get", "put", "delete", "get-vars", "put-vars",
-                             "jobs-run", "vars-run", "doctor", "130"})
+                             "jobs-run", "vars-run", "call", "doctor", "130"})
         EXPECT_THAT(help.text, HasSubstr(word));
     const auto ofCommand = parseArguments({"get", "--help"});
     EXPECT_TRUE(ofCommand.isHelp);

@@ -127,6 +127,19 @@ TEST_F(VantrelCtlTest, RunsListFilesBothWays) {
     EXPECT_EQ(run("jobs-run L"), 2);
 }
 
+TEST_F(VantrelCtlTest, CallsAnOperationByItsName) {
+    folder_.write("first/variables.txt", "B001=5\n");
+    EXPECT_EQ(run("call VarUpLoad B001="), 0);
+    EXPECT_EQ(output_, "LINE1\tVarUpLoad\tdone\tB001=5\n");
+    EXPECT_EQ(run("call VarDownLoad B001=256"), 1);
+    EXPECT_EQ(run("call JobDelete SUB.JBI --dry-run"), 0);
+    EXPECT_TRUE(folder_.has("first/SUB.JBI"));
+    EXPECT_EQ(run("call JobDelete SUB.JBI"), 0);
+    EXPECT_FALSE(folder_.has("first/SUB.JBI"));
+    EXPECT_EQ(run("call JobErase SUB.JBI"), 2);
+    EXPECT_THAT(messages_, HasSubstr("JobDelete TEXT"));
+}
+
 TEST_F(VantrelCtlTest, WrongUsageIsTwo) {
     EXPECT_EQ(run(""), 2);
     EXPECT_EQ(run("list --robot LINE9"), 2);

@@ -52,6 +52,55 @@ TEST_F(SessionOperationsTest, NamesAreExactlyTheInterfaceInItsOrder) {
                     "VarListDownLoad", "VarListUpLoad", "WriteVarListFile", "Quit", "SetTansMode"));
 }
 
+/// As it is shown: "JobUpLoad text [flag]".
+std::string formOf(std::string_view name) {
+    for (const SessionForm& form : SessionOperations::forms()) {
+        if (form.name != name)
+            continue;
+        std::string text = form.saysSuccess ? "ok " : "";
+        for (const auto& [kind, isOptional, isGivenBack] : form.parameters)
+            text += std::string(isGivenBack ? "&" : "") + "tnf"[static_cast<int>(kind)] +
+                    (isOptional ? "? " : " ");
+        return text;
+    }
+    return "unknown";
+}
+
+TEST_F(SessionOperationsTest, FormsSayWhatIsTakenAndGiven) {
+    EXPECT_EQ(formOf("port"), "n? ");
+    EXPECT_EQ(formOf("path"), "t? ");
+    EXPECT_EQ(formOf("DisplayMonitor"), "f? ");
+    EXPECT_EQ(formOf("JobListCount"), "");
+    EXPECT_EQ(formOf("GetCTRLError"), "n ");
+    EXPECT_EQ(formOf("ReadDirectory"), "ok ");
+    EXPECT_EQ(formOf("JobDownLoad"), "ok t f? ");
+    EXPECT_EQ(formOf("VarUpLoad"), "ok &t ");
+    EXPECT_EQ(formOf("VarDownLoad"), "ok t ");
+    EXPECT_EQ(formOf("AddJobList"), "t ");
+    EXPECT_EQ(formOf("SetTansMode"), "ok n ");
+}
+
+TEST_F(SessionOperationsTest, OnlyJustTheRightArgumentsAreTheRightOnes) {
+    const auto isRight = [](std::string_view name, const std::vector<SessionValue>& given) {
+        return static_cast<bool>(SessionOperations::check(name, given));
+    };
+    EXPECT_TRUE(isRight("JobUpLoad", {Text("A.JBI")}));
+    EXPECT_TRUE(isRight("JobUpLoad", {Text("A.JBI"), Text("true")}));
+    EXPECT_FALSE(isRight("JobUpLoad", {Text("A.JBI"), Text("maybe")}));
+    EXPECT_FALSE(isRight("JobUpLoad", {Text("A.JBI"), Text("1"), Text("1")}));
+    EXPECT_FALSE(isRight("JobUpLoad", {}));
+    EXPECT_TRUE(isRight("ReadDirectory", {}));
+    EXPECT_FALSE(isRight("ReadDirectory", {Text("x")}));
+    EXPECT_TRUE(isRight("SetTansMode", {Text("1")}));
+    EXPECT_FALSE(isRight("SetTansMode", {Text("40000")}));
+    EXPECT_FALSE(isRight("SetTansMode", {Text("one")}));
+    EXPECT_TRUE(isRight("port", {}));
+    EXPECT_TRUE(isRight("port", {Text("3")}));
+    EXPECT_FALSE(isRight("port", {Text("COM3")}));
+    EXPECT_FALSE(isRight("jobupload", {Text("A.JBI")}));
+    EXPECT_EQ(world.library.callCount(), 0);
+}
+
 TEST_F(SessionOperationsTest, PropertiesAreReadAndSetByName) {
     EXPECT_TRUE(operations.set("port", 3.0));
     EXPECT_TRUE(operations.set("Baudrate", Text("19200")));

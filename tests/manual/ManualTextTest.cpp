@@ -114,6 +114,7 @@ constexpr std::pair<int, int> captionNumbers[] = {
     {message::menuSaveSelection, message::timeMomentLeft},
     {message::listFilesOffered, message::listFilesOffered},
     {message::consoleFolder, message::consoleWouldBeDone}, // cells of vantrelctl's lines
+    {message::consoleDone, message::consoleDone},
     {ofResource(message::resource::yes), ofResource(message::resource::cancel)}};
 
 bool isCaption(int number) {
