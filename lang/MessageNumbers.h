@@ -6,7 +6,8 @@ namespace vantrel::message {
 
 // Numbers of the texts in the language files, named by use. Where a text is joined to a name, a
 // number or a reason, the blank between them belongs to the text. Resource numbers are looked up
-// through MessageTable::resourceMessage, which adds 500.
+// through MessageTable::resourceMessage, which adds 500. So are the codes that the library returns:
+// a new text takes a number from 6000 on, which no code can be taken for.
 
 inline constexpr std::int32_t title = 0;
 inline constexpr std::int32_t askReadController = 1;
@@ -133,45 +134,45 @@ inline constexpr std::int32_t resultNotSaved = 421; ///< then [file] and the rea
 inline constexpr std::int32_t resultRowGone = 422;  ///< after [name]
 
 // The test of a robot's connection.
-inline constexpr std::int32_t menuTestConnection = 491;
-inline constexpr std::int32_t testColumnStep = 492;
-inline constexpr std::int32_t testLibrary = 493;
-inline constexpr std::int32_t testPlace = 494;
-inline constexpr std::int32_t testLink = 495;
-inline constexpr std::int32_t testAnswer = 496;
-inline constexpr std::int32_t testEnd = 497;
-inline constexpr std::int32_t testAddressRefused = 498;
-inline constexpr std::int32_t testCopy = 499;
-inline constexpr std::int32_t testPortRefused = 508;
+inline constexpr std::int32_t menuTestConnection = 6491;
+inline constexpr std::int32_t testColumnStep = 6492;
+inline constexpr std::int32_t testLibrary = 6493;
+inline constexpr std::int32_t testPlace = 6494;
+inline constexpr std::int32_t testLink = 6495;
+inline constexpr std::int32_t testAnswer = 6496;
+inline constexpr std::int32_t testEnd = 6497;
+inline constexpr std::int32_t testAddressRefused = 6498;
+inline constexpr std::int32_t testCopy = 6499;
+inline constexpr std::int32_t testPortRefused = 6508;
 
 // The selection as a job list file.
-inline constexpr std::int32_t menuSaveSelection = 548;
-inline constexpr std::int32_t selectionLeftOut = 556;     ///< then the names
-inline constexpr std::int32_t selectionNotListable = 557; ///< then the names
+inline constexpr std::int32_t menuSaveSelection = 6548;
+inline constexpr std::int32_t selectionLeftOut = 6556;     ///< then the names
+inline constexpr std::int32_t selectionNotListable = 6557; ///< then the names
 
 // How far a transfer is and how long it may take.
-inline constexpr std::int32_t timeBytes = 549; ///< done, and all with the unit
-inline constexpr std::int32_t timeElapsed = 551;
-inline constexpr std::int32_t timeMinutesLeft = 552;
-inline constexpr std::int32_t timeMinuteLeft = 553;
-inline constexpr std::int32_t timeSecondsLeft = 554;
-inline constexpr std::int32_t timeMomentLeft = 555; ///< fewer than ten seconds
+inline constexpr std::int32_t timeBytes = 6549; ///< done, and all with the unit
+inline constexpr std::int32_t timeElapsed = 6551;
+inline constexpr std::int32_t timeMinutesLeft = 6552;
+inline constexpr std::int32_t timeMinuteLeft = 6553;
+inline constexpr std::int32_t timeSecondsLeft = 6554;
+inline constexpr std::int32_t timeMomentLeft = 6555; ///< fewer than ten seconds
 
 // Above the list files that the list-file dialog offers.
-inline constexpr std::int32_t listFilesOffered = 559;
+inline constexpr std::int32_t listFilesOffered = 6559;
 
 // Colour and label of a robot.
-inline constexpr std::int32_t menuRobotMark = 509;
-inline constexpr std::int32_t markColour = 510;
-inline constexpr std::int32_t markLabel = 511;
-inline constexpr std::int32_t colourNone = 512;
-inline constexpr std::int32_t colourRed = 513;
-inline constexpr std::int32_t colourOrange = 514;
-inline constexpr std::int32_t colourYellow = 515;
-inline constexpr std::int32_t colourGreen = 516;
-inline constexpr std::int32_t colourBlue = 517;
-inline constexpr std::int32_t colourPurple = 518;
-inline constexpr std::int32_t colourGrey = 519;
+inline constexpr std::int32_t menuRobotMark = 6509;
+inline constexpr std::int32_t markColour = 6510;
+inline constexpr std::int32_t markLabel = 6511;
+inline constexpr std::int32_t colourNone = 6512;
+inline constexpr std::int32_t colourRed = 6513;
+inline constexpr std::int32_t colourOrange = 6514;
+inline constexpr std::int32_t colourYellow = 6515;
+inline constexpr std::int32_t colourGreen = 6516;
+inline constexpr std::int32_t colourBlue = 6517;
+inline constexpr std::int32_t colourPurple = 6518;
+inline constexpr std::int32_t colourGrey = 6519;
 
 // Menus, with their mnemonics.
 inline constexpr std::int32_t menuFile = 101;

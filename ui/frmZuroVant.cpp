@@ -15,6 +15,7 @@
 #include "ui/FileListControl.h"
 #include "ui/FileViewer.h"
 #include "ui/FolderTreeDropDown.h"
+#include "ui/MainWindowKeys.h"
 #include "ui/MainWindowLook.h"
 #include "ui/NativeControls.h"
 #include "ui/OperationGuard.h"
@@ -28,7 +29,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <utility>
 
 #include <wx/choice.h>
@@ -40,22 +40,14 @@
 
 namespace vantrel {
 
-namespace {
-
-constexpr int panelPC = 0;
-constexpr int panelController = 1;
-constexpr int panelNotice = 2;
-constexpr int panelResult = 3;
-
-} // namespace
-
 frmZuroVant::frmZuroVant(ApplicationState& state, const MessageTable& messages,
                          OperationGuard& guard, std::span<const CommandRow> table)
     : wxFrame(nullptr, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
               wxDEFAULT_FRAME_STYLE, "frmZuroVant"),
       state_(state), messages_(messages), table_(table), guard_(guard), controls_(*this, table),
-      menus_(*this, table), drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard),
-      place_(*this, *controls_.surface), statusLine_(controls_.stsFileInf->GetCharHeight()) {
+      panels_(*controls_.stsFileInf), menus_(*this, table),
+      drag_(*controls_.lsvPC, *controls_.lsvCtrl, guard), place_(*this, *controls_.surface),
+      statusLine_(controls_.stsFileInf->GetCharHeight()) {
     SetIcons(programIcons());
     // No help for menu entries in the panel that shows the PC's count.
     SetStatusBarPane(-1);
@@ -85,14 +77,12 @@ void frmZuroVant::connect(MainCommands& commands, PCFileCommands& files,
     for (CommandToolBar* bar : controls_.toolBars())
         bar->onPressed = run;
     // The window gets a key before the control that has the focus.
-    Bind(wxEVT_CHAR_HOOK, [this, &commands, &runner](wxKeyEvent& event) {
-        if (!isViewerKey(event, commands) && !isPaneKey(event, commands))
-            functionKey(event, runner);
-    });
-    controls_.stsFileInf->Bind(wxEVT_LEFT_UP, [this, &runner](wxMouseEvent& event) {
-        event.Skip();
-        statusClicked(event.GetPosition(), runner);
-    });
+    Bind(wxEVT_CHAR_HOOK, [keys = MainWindowKeys(*this, controls_, state_, commands, runner)](
+                              wxKeyEvent& event) { keys.take(event); });
+    panels_.onResultClicked = [this, &runner] {
+        for (const CommandRow* const command : commandsAt(table_, CommandPlace::stsFileInf))
+            CallAfter([command, &runner] { runner.runIfOffered(*command); });
+    };
     controls_.lsvPC->onColumnClicked = [&commands](int column) { commands.clickColumn(column); };
     drag_.canDrop = [&commands](ActiveSide source) { return commands.canDrop(source); };
     drag_.onDropped = [&commands](ActiveSide source) { commands.drop(source); };
@@ -150,10 +140,6 @@ void frmZuroVant::bindEvents() {
     Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
         event.Skip();
         lay();
-    });
-    controls_.stsFileInf->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
-        event.Skip();
-        CallAfter(&frmZuroVant::sharePanels);
     });
     Bind(wxEVT_CLOSE_WINDOW, &frmZuroVant::close, this);
     Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
@@ -246,72 +232,12 @@ void frmZuroVant::watchPCFolder() {
     watch_.Start(interval);
 }
 
-/// Tab goes from list to list, as in other programs with two panes; with Shift or Ctrl it goes on
-/// through the window.
-bool frmZuroVant::isPaneKey(const wxKeyEvent& event, MainCommands& commands) {
-    if (event.GetKeyCode() != WXK_TAB || event.HasAnyModifiers() || state_.ViewerShown ||
-        state_.Busy)
-        return false;
-    wxWindow* const focused = FindFocus();
-    if (!controls_.lsvPC->IsDescendant(focused) && !controls_.lsvCtrl->IsDescendant(focused))
-        return false;
-    commands.otherPane();
-    return true;
-}
-
 /// A list that is locked may hand the keyboard on to the other one, which is not the active one for
 /// that; the keys would act on it all the same.
 void frmZuroVant::keepFocusInActivePane() {
     const auto other = state_.Active == ActiveSide::PC ? ActiveSide::Controller : ActiveSide::PC;
     if (!state_.Busy && pane(other).IsDescendant(FindFocus()))
         pane(state_.Active).focus();
-}
-
-/// Acts on the keys of the viewer that the window takes before its controls; false for another key.
-/// Esc belongs to the viewer's frame and to the list, which has the focus when the viewer appears;
-/// in other controls it has a meaning of theirs.
-bool frmZuroVant::isViewerKey(const wxKeyEvent& event, MainCommands& commands) {
-    if (!state_.ViewerShown || state_.Busy)
-        return false;
-    auto& search = *controls_.viewerSearch;
-    wxWindow* const focused = FindFocus();
-    const bool isInFrame = controls_.fraFile.panel->IsDescendant(focused);
-    const int key = event.GetKeyCode();
-    if (key == 'F' && event.GetModifiers() == wxMOD_CONTROL) {
-        search.open();
-    } else if (key == WXK_F3 && isInFrame && (event.GetModifiers() & ~wxMOD_SHIFT) == 0) {
-        search.search(event.ShiftDown() ? SearchDirection::Previous : SearchDirection::Next);
-    } else if (key == WXK_ESCAPE && !event.HasAnyModifiers() &&
-               (isInFrame || pane(ActiveSide::PC).IsDescendant(focused))) {
-        if (search.IsShown())
-            search.close();
-        else
-            commands.displayFile();
-    } else {
-        return false;
-    }
-    return true;
-}
-
-/// The keys that act wherever the focus is; the one for help whatever is held down with it.
-void frmZuroVant::functionKey(wxKeyEvent& event, const CommandRunner& runner) {
-    const int number = event.GetKeyCode() - WXK_F1 + 1;
-    const bool isPlain = event.GetKeyCode() == WXK_F1 || !event.HasAnyModifiers();
-    const auto* const command =
-        number > 0 && isPlain ? runner.commandOf("F" + std::to_string(number)) : nullptr;
-    if (!command)
-        return event.Skip();
-    // One system tells of a key from inside a hook, where nothing may take long; an operation that
-    // has begun until then is not entered.
-    CallAfter([command, &runner] { runner.runIfOffered(*command); });
-}
-
-void frmZuroVant::statusClicked(const wxPoint& place, const CommandRunner& runner) {
-    wxRect result;
-    if (!controls_.stsFileInf->GetFieldRect(panelResult, result) || !result.Contains(place))
-        return;
-    for (const CommandRow* const command : commandsAt(table_, CommandPlace::stsFileInf))
-        CallAfter([command, &runner] { runner.runIfOffered(*command); });
 }
 
 void frmZuroVant::lay() {
@@ -346,43 +272,15 @@ void frmZuroVant::setFilterChoices(ActiveSide side, const std::vector<std::strin
 }
 
 void frmZuroVant::setStatus(ActiveSide side, const std::string& text) {
-    SetStatusText(toWx(text), side == ActiveSide::PC ? panelPC : panelController);
-    if (side == ActiveSide::PC)
-        sharePanels();
+    panels_.setPane(side, text);
 }
 
 void frmZuroVant::showNotice(const std::string& text) {
-    SetStatusText(toWx(text), panelNotice);
-    sharePanels();
-}
-
-/// Shares of the width, but what says that nothing here is real must not be cut off, nor what is
-/// selected on the PC.
-void frmZuroVant::sharePanels() {
-    constexpr int spare = 16; // device-independent pixels
-    constexpr int shares[] = {3, 4, 1, 4};
-    wxStatusBar& bar = *controls_.stsFileInf;
-    const auto needed = [&](int panel) {
-        return bar.GetTextExtent(bar.GetStatusText(panel)).x + FromDIP(spare);
-    };
-    const bool hasNotice = !bar.GetStatusText(panelNotice).empty();
-    const int notice = hasNotice ? needed(panelNotice) : -shares[panelNotice];
-    const int sum = hasNotice ? 11 : 12;
-    const int rest = bar.GetSize().x - std::max(notice, 0);
-    if (rest <= 0)
-        return; // the bar has no size yet
-    const int pc = needed(panelPC);
-    const int widths[MainWindowControls::statusPanels] = {
-        pc > rest * shares[panelPC] / sum ? pc : -shares[panelPC], -shares[panelController], notice,
-        -shares[panelResult]};
-    if (std::equal(std::begin(widths), std::end(widths), panelWidths_.begin()))
-        return;
-    std::copy(std::begin(widths), std::end(widths), panelWidths_.begin());
-    bar.SetStatusWidths(MainWindowControls::statusPanels, widths);
+    panels_.setNotice(text);
 }
 
 void frmZuroVant::setResult(const std::string& text) {
-    SetStatusText(toWx(text), panelResult);
+    panels_.setResult(text);
 }
 
 void frmZuroVant::setBusyPointer(bool busy) {

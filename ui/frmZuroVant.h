@@ -9,6 +9,7 @@
 #include "ui/MainMenus.h"
 #include "ui/MainWindowControls.h"
 #include "ui/PaneDrag.h"
+#include "ui/StatusPanels.h"
 #include "ui/WindowPlace.h"
 
 #include <array>
@@ -94,7 +95,6 @@ class frmZuroVant : public wxFrame,
   private:
     FileListControl& pane(ActiveSide side) const;
     QuickFilter& quickFilter(ActiveSide side) const;
-    bool isPaneKey(const wxKeyEvent& event, MainCommands& commands);
     wxChoice& filter(ActiveSide side) const;
     /// Pixels per inch that the window is laid out with.
     int dpi() const;
@@ -102,15 +102,11 @@ class frmZuroVant : public wxFrame,
     /// Larger captions get a larger window, as far as the screen goes.
     void makeRoomForCaptions();
     void fitStatusBar();
-    void sharePanels();
     void setColumnWidths(const std::array<double, 3>& twips);
     void bindEvents();
     void close(wxCloseEvent& event);
     void bindPane(ActiveSide side, MainCommands& commands, const CommandRunner& runner);
     void exchangePanes(bool viewer);
-    bool isViewerKey(const wxKeyEvent& event, MainCommands& commands);
-    void functionKey(wxKeyEvent& event, const CommandRunner& runner);
-    void statusClicked(const wxPoint& place, const CommandRunner& runner);
     void keepFocusInActivePane();
     void lay();
 
@@ -119,6 +115,7 @@ class frmZuroVant : public wxFrame,
     std::span<const CommandRow> table_;
     OperationGuard& guard_;
     MainWindowControls controls_;
+    StatusPanels panels_;
     MainMenus menus_;
     PaneDrag drag_;
     WindowPlace place_;
@@ -126,9 +123,8 @@ class frmZuroVant : public wxFrame,
     std::function<void(bool closely)> lookForChanges_ = [](bool) {};
     wxTimer watch_{this};
     bool wasLeft_ = false; ///< for another program, since it was looked for changes closely
-    std::array<int, MainWindowControls::statusPanels> panelWidths_{}; ///< as the toolkit takes them
-    int statusLine_; ///< the height of a line that the status bar has been made for
-    PlaceMark mark_; ///< of the robot in force
+    int statusLine_;       ///< the height of a line that the status bar has been made for
+    PlaceMark mark_;       ///< of the robot in force
     bool placed_ = false;
     double captionRoom_ = 1; ///< what the design's lengths are multiplied by
     bool closesWhenUnlocked_ = false;

@@ -31,7 +31,7 @@ struct CommandInput {
     int controllerFilter = 0; ///< the chosen entry of `cmbCtrlFileType`
     bool JBR = false;
     bool hasResult = false;                   ///< a command has ended
-    bool hasRobot = false;                    ///< the robot in force is a registered one
+    bool hasRobot = false;                    ///< a registered robot is in force, not a serial line
     bool hasBack = false, hasForward = false; ///< in the history of the PC folder
 };
 

@@ -314,7 +314,8 @@ CommandInput MainCommands::input() const {
         .controllerFilter = with_.window.filterIndex(ActiveSide::Controller),
         .JBR = state.JBR,
         .hasResult = with_.results.last().has_value(),
-        .hasRobot = currentRobotPlace(state).has_value(),
+        .hasRobot =
+            state.TransMode == TransferMode::HispeedLink && currentRobotPlace(state).has_value(),
         .hasBack = with_.folder.history().hasBack(),
         .hasForward = with_.folder.history().hasForward(),
     };

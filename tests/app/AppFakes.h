@@ -28,8 +28,10 @@ using Log = std::vector<std::string>;
 /// Every message N reads "mN".
 inline MessageTable numberedMessages() {
     std::vector<MessageEntry> entries;
-    for (std::int16_t number = 0; number <= 600; ++number)
-        entries.push_back({number, "", "m" + std::to_string(number)});
+    for (const auto& [first, last] : {std::pair{0, 600}, std::pair{6400, 6700}})
+        for (int number = first; number <= last; ++number)
+            entries.push_back(
+                {static_cast<std::int16_t>(number), "", "m" + std::to_string(number)});
     MessageTable table;
     table.replace(std::move(entries));
     return table;

@@ -64,8 +64,8 @@ TEST_F(ConnectionTestTest, NamesTheControllerAndItsSteps) {
     EXPECT_THAT(outcomes(test), Each(std::string()));
     test.run([] {});
     EXPECT_THAT(outcomes(test), Each(done));
-    EXPECT_EQ(test.text(), "LINE1 WELD (10.0.0.1)\nm493\tm325\nm494\tm325\nm495\tm325\n"
-                           "m496\tm325\nm497\tm325\n");
+    EXPECT_EQ(test.text(), "LINE1 WELD (10.0.0.1)\nm6493\tm325\nm6494\tm325\nm6495\tm325\n"
+                           "m6496\tm325\nm6497\tm325\n");
 }
 
 TEST_F(ConnectionTestTest, TellsOfEachStepAsItBeginsAndEnds) {
@@ -110,10 +110,10 @@ TEST_P(RefusedAddressTest, IsToldBeforeALinkIsOpened) {
 INSTANTIATE_TEST_SUITE_P(At, RefusedAddressTest,
                          testing::Values(AddressRow{{"Empty"}, "", "m34"},
                                          AddressRow{{"Zeros"}, "0.0.0.0", "m34"},
-                                         AddressRow{{"TooLarge"}, "10.0.0.256", "m498"},
-                                         AddressRow{{"Short"}, "10.0.0", "m498"},
-                                         AddressRow{{"Long"}, "10.0.0.1.2", "m498"},
-                                         AddressRow{{"Word"}, "robot", "m498"}),
+                                         AddressRow{{"TooLarge"}, "10.0.0.256", "m6498"},
+                                         AddressRow{{"Short"}, "10.0.0", "m6498"},
+                                         AddressRow{{"Long"}, "10.0.0.1.2", "m6498"},
+                                         AddressRow{{"Word"}, "robot", "m6498"}),
                          tests::rowName);
 
 struct FaultRow : tests::NamedRow {
@@ -148,7 +148,7 @@ TEST_F(ConnectionTestTest, ASerialLineIsTestedByItsPortWhateverTheAddress) {
     test.run([] {});
     EXPECT_THAT(outcomes(test), Each(done));
     desk.state.Port = 0;
-    EXPECT_EQ(outcomesInForce().at(1), "m405: m508");
+    EXPECT_EQ(outcomesInForce().at(1), "m405: m6508");
 }
 
 TEST_F(ConnectionTestTest, ARobotThatIsEditedIsTriedAsItWouldBeStored) {
@@ -174,7 +174,7 @@ TEST_F(ConnectionTestTest, AMissingPartIsNoZero) {
     ConnectionTest test =
         testOf(controllerOf(draft.entries().front(), {}, TransferMode::HispeedLink));
     test.run([] {});
-    EXPECT_EQ(test.outcome(ConnectionTest::Place), "m405: m498");
+    EXPECT_EQ(test.outcome(ConnectionTest::Place), "m405: m6498");
 }
 
 TEST_F(ConnectionTestTest, NothingIsDoneWhileACommandRuns) {

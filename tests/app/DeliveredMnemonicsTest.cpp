@@ -43,7 +43,7 @@ std::map<std::string, std::vector<std::int32_t>> groups() {
         {"question dialog", {455, 530, 531, 532, 533}},
         {"settings dialog", {320, 321, 322}},
         {"result sheet", {417, 418, 419}},
-        {"connection test", {499}},
+        {"connection test", {6499}},
         {"robot's pop-up menu", captionsAt(mnuRobot)},
         {"menu bar", captionsAt(menuBar)},
         {"pop-up menu", captionsAt(mnuRightClick)}};

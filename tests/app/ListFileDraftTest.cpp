@@ -20,7 +20,7 @@ class ListFileDraftTest : public testing::Test {
         state.PCPath = world.pc.path();
         world.session->path = "/elsewhere";
         std::vector<MessageEntry> entries;
-        for (const int number : {19, 20, 21, 22, 23, 24, 45, 53, 325, 326, 559})
+        for (const int number : {19, 20, 21, 22, 23, 24, 45, 53, 325, 326, 6559})
             entries.push_back({std::int16_t(number), "", "text " + std::to_string(number)});
         messages.replace(entries);
     }
@@ -282,7 +282,7 @@ class OfferedListFiles : public ListFileDraftTest {
 TEST_F(OfferedListFiles, AreThoseOfThePaneByName) {
     for (const auto mode : {list_mode::saveJobs, list_mode::loadVariables})
         EXPECT_THAT(draft(mode).offered(), ElementsAre("Door.LST", "door2.lst", "weld.lst"));
-    EXPECT_EQ(draft(list_mode::saveJobs).offeredLabel(), "text 559");
+    EXPECT_EQ(draft(list_mode::saveJobs).offeredLabel(), "text 6559");
     EXPECT_EQ(draft(list_mode::saveJobs).name(), "") << "offered is not chosen";
 }
 

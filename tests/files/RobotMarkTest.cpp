@@ -18,7 +18,7 @@ RobotRecord marked(const std::string& colour, const std::string& label) {
 
 MessageTable colourNames() {
     MessageTable messages;
-    messages.replace({{513, "", "red"}, {517, "", "blue"}});
+    messages.replace({{6513, "", "red"}, {6517, "", "blue"}});
     return messages;
 }
 

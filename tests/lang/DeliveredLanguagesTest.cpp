@@ -200,9 +200,9 @@ TEST_P(DeliveredLanguage, HasTextsThatCanBeShown) {
 }
 
 TEST_P(DeliveredLanguage, HasPlaceholdersWhereSomethingIsInserted) {
-    const std::map<int, int> inserted{{3, 1},   {10, 1},  {11, 2},  {49, 1},  {70, 1},
-                                      {390, 2}, {393, 1}, {408, 2}, {423, 2}, {549, 2},
-                                      {551, 1}, {552, 1}, {554, 1}, {449, 1}, {456, 2}};
+    const std::map<int, int> inserted{{3, 1},    {10, 1},   {11, 2},   {49, 1},  {70, 1},
+                                      {390, 2},  {393, 1},  {408, 2},  {423, 2}, {6549, 2},
+                                      {6551, 1}, {6552, 1}, {6554, 1}, {449, 1}, {456, 2}};
     for (const auto& [number, entry] : textsOf(GetParam())) {
         const auto found = inserted.find(number);
         const auto expected = found == inserted.end() ? 0 : found->second;
@@ -222,6 +222,18 @@ TEST(DeliveredLanguages, ErrorCodesHaveTextsOfTheirOwn) {
     const auto named = namedNumbers();
     for (const auto number : codeNumbers())
         EXPECT_FALSE(named.contains(number)) << number;
+}
+
+/// Whatever small code a library returns, it is looked up among the resource messages.
+TEST(DeliveredLanguages, NoCodeOfTheLibraryFindsATextThatIsMeantForSomethingElse) {
+    auto meant = codeNumbers();
+    for (const auto number : {2, 4, 7, 30, 31, 32, 33})
+        meant.insert(resourceOffset + number);
+    const auto numbers = numbersOf("English");
+    for (std::int32_t code = -30; code < 100; ++code)
+        EXPECT_TRUE(!numbers.contains(resourceOffset + code) ||
+                    meant.contains(resourceOffset + code))
+            << code;
 }
 
 TEST(DeliveredLanguages, HaveTheSameNumbersAndReferenceTexts) {

@@ -117,7 +117,7 @@ TEST_P(ConnectionTestInMainWindowTest, TheMenuOfTheRobotBoxOffersIt) {
     const auto* const entry = opened->FindItem(window().menus().idOf("mnuRobot(0)"));
     ASSERT_TRUE(entry);
     EXPECT_TRUE(entry->IsEnabled());
-    EXPECT_EQ(entry->GetItemLabel().utf8_string(), text(491));
+    EXPECT_EQ(entry->GetItemLabel().utf8_string(), text(6491));
     outwaitToolkit();
     expectTest([&](wxDialog& dialog) { click(dialog, "cmdOK"); });
     menu("mnuRobot(0)");

@@ -69,7 +69,10 @@ TEST_P(RobotMarkInMainWindowTest, IsShownBesideTheBoxOfItsRobotOnly) {
     const auto& text = *controls().lblRobotMark;
     EXPECT_LE(text.GetTextExtent(text.GetLabelText()).x, text.GetSize().x);
     saveScreenshot(window(), picture("window"));
+    const auto isOffered = [this] { return window().menus().find("mnuTools(2)")->IsEnabled(); };
+    EXPECT_TRUE(isOffered());
     menu("mnuModeBsc");
+    EXPECT_FALSE(isOffered());
     EXPECT_FALSE(controls().lblRobotMark->IsShown()) << "a serial line may lead to any robot";
     EXPECT_FALSE(controls().robotColour->IsShown());
     EXPECT_FALSE(controls().lblIPaddr->IsShown());
@@ -93,7 +96,7 @@ TEST_P(RobotMarkInMainWindowTest, ALongNameHasTheRoomOfAWideWindow) {
 TEST_P(RobotMarkInMainWindowTest, AColourAloneIsNamed) {
     start(false);
     mark(red, "");
-    expectShown(messages.getMessage(513), true);
+    expectShown(messages.getMessage(6513), true);
     mark(0, "");
     expectShown("", false);
 }
@@ -116,12 +119,29 @@ TEST_P(RobotMarkInMainWindowTest, StandsBelowTheQuestion) {
     menu("mnuFile(0)");
 }
 
-TEST_P(RobotMarkInMainWindowTest, TheSettingsKeepItWithTheSelectedRobot) {
+class RobotMarkInSettings : public RobotMarkInMainWindowTest {
+  protected:
+    /// Two robots, of which the first is in force; the one of this row gets a mark in the settings,
+    /// which are left by this button.
+    void markInSettings(int row, const std::string& button);
+    /// The robots as they are kept when the program ends.
+    std::string registryAtTheEnd() {
+        modal.answer([](wxDialog&) { return wxID_OK; });
+        menu("mnuEnd");
+        EXPECT_TRUE(waitFor([this] { return !program->mainWindow(); }));
+        return folder.read("robot.ini");
+    }
+};
+
+void RobotMarkInSettings::markInSettings(int row, const std::string& button) {
+    folder.write("robot.ini", "[Boot]\r\nName=FIRST\r\n\r\n[Robot]\r\nName=FIRST\r\n"
+                              "IPaddr=10.0.0.1\r\nPath=jobs\r\n\r\n[Robot]\r\nName=SECOND\r\n"
+                              "IPaddr=10.0.0.2\r\nPath=jobs\r\n\r\n");
     start(false);
     bool isMarked = false;
     modal.act([&](wxDialog& dialog) {
         auto& list = control<wxListBox>(dialog, "lstRgstRbt");
-        pick(list, 0);
+        pick(list, row);
         list.Bind(wxEVT_MENU_OPEN, [&](wxMenuEvent& event) {
             auto* const menu = event.GetMenu();
             list.CallAfter([menu] {
@@ -139,16 +159,38 @@ TEST_P(RobotMarkInMainWindowTest, TheSettingsKeepItWithTheSelectedRobot) {
         auto& apply = control<wxButton>(dialog, "cmdRefresh");
         EXPECT_TRUE(waitFor([&] { return apply.IsEnabled(); })) << "an edit like any other";
         expectShown("", false);
-        click(dialog, "cmdOK");
+        click(dialog, button);
         isMarked = true;
     });
     expectMarkDialog(red, "TEST CELL", "cmdOK");
     menu("mnuOpt(0)");
     EXPECT_TRUE(isMarked);
+}
+
+TEST_P(RobotMarkInSettings, IsShownAtOnceForTheRobotInForce) {
+    markInSettings(0, "cmdOK");
     expectShown("TEST CELL", true);
+    const auto registry = registryAtTheEnd();
+    EXPECT_LT(registry.find("Label=TEST CELL"), registry.find("Name=SECOND")) << registry;
+}
+
+TEST_P(RobotMarkInSettings, IsKeptWithTheSelectedRobotWhichIsNotTheOneInForce) {
+    markInSettings(1, "cmdOK");
+    expectShown("", false);
+    const auto registry = registryAtTheEnd();
+    const auto label = registry.find("Label=TEST CELL");
+    EXPECT_NE(label, std::string::npos) << registry;
+    EXPECT_GT(label, registry.find("Name=SECOND")) << registry;
+}
+
+TEST_P(RobotMarkInSettings, IsGoneWithTheSettingsThatAreCancelled) {
+    markInSettings(0, "cmdCancel");
+    expectShown("", false);
+    EXPECT_EQ(registryAtTheEnd().find("Label="), std::string::npos);
 }
 
 INSTANTIATE_TEST_SUITE_P(In, RobotMarkInMainWindowTest, bothLanguages, languageName);
+INSTANTIATE_TEST_SUITE_P(In, RobotMarkInSettings, bothLanguages, languageName);
 
 } // namespace
 } // namespace vantrel::tests

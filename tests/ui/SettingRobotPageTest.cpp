@@ -63,7 +63,7 @@ TEST_P(SettingRobotPageTest, TheRightButtonSelectsTheRobotUnderItForItsMenu) {
         opened = event.GetMenu();
         EXPECT_EQ(robots().GetSelection(), 1);
         EXPECT_EQ(opened->FindItemByPosition(0)->GetItemLabel().utf8_string(),
-                  messages.getMessage(491));
+                  messages.getMessage(6491));
         robots().CallAfter([menu = opened] { closeOpenMenu(*menu); });
         event.Skip();
     });

@@ -171,7 +171,7 @@ TEST_P(frmListFileTest, WithoutListFilesNoneAreOffered) {
 }
 
 TEST_P(frmListFileOffering, ShowsTheFoldersListFilesBelowTheField) {
-    EXPECT_EQ(labelOf(window, "lblOffered"), messages.getMessage(559));
+    EXPECT_EQ(labelOf(window, "lblOffered"), messages.getMessage(6559));
     const wxArrayString names = list().GetStrings();
     ASSERT_EQ(names.size(), 3U);
     EXPECT_EQ(names[0], "door.lst");

@@ -53,9 +53,9 @@ TEST_P(frmMsgStatTest, ShowsWhatThePanelHolds) {
         EXPECT_EQ(item, 2);
         EXPECT_EQ(count, 5);
         const std::string joint = messages.getMessage(409);
-        return messages.getMessageWithInsertion(549, "1048576", "2097152 KB") + joint +
-               messages.getMessageWithInsertion(552, "120") + joint +
-               messages.getMessageWithInsertion(551, "2:00:35");
+        return messages.getMessageWithInsertion(6549, "1048576", "2097152 KB") + joint +
+               messages.getMessageWithInsertion(6552, "120") + joint +
+               messages.getMessageWithInsertion(6551, "2:00:35");
     });
     panel.showAgain();
     EXPECT_FALSE(panel.pace().empty());
