@@ -41,6 +41,14 @@ int usageError(const ParsedArguments& parsed, Report& report) {
     return exit_code::wrongUsage;
 }
 
+/// Whoever reads the objects gets a last one here too. What was done until then has its lines.
+int unexpectedEnd(const Request& request, const std::exception& error, Report& report) {
+    report.message(std::string("vantrelctl: ") + error.what());
+    report.object("end",
+                  {{"command", request.command}, {"exit", std::int64_t{exit_code::unexpected}}});
+    return exit_code::unexpected;
+}
+
 } // namespace
 
 ConsoleProgram::ConsoleProgram(const Request& request, const ConsoleWorld& world, Report& report)
@@ -186,7 +194,11 @@ int runConsole(const std::vector<std::string>& arguments, const ConsoleWorld& wo
     }
     if (!parsed.request)
         return usageError(parsed, report);
-    return ConsoleProgram(*parsed.request, world, report).run();
+    try {
+        return ConsoleProgram(*parsed.request, world, report).run();
+    } catch (const std::exception& error) {
+        return unexpectedEnd(*parsed.request, error, report);
+    }
 }
 
 } // namespace vantrel

@@ -1,5 +1,6 @@
 #include "console/Doctor.h"
 
+#include "app/robots/ConnectionTest.h"
 #include "app/robots/RobotFile.h"
 #include "app/start/Engine.h"
 #include "base/PathRules.h"
@@ -9,7 +10,28 @@
 #include "platform/Files.h"
 #include "platform/TextEncoding.h"
 
+#include <algorithm>
+#include <array>
+
 namespace vantrel {
+namespace {
+
+/// Of the connection test, with the exit code that says best that it failed.
+struct Step {
+    std::size_t place;
+    const char* key;
+    int cause;
+};
+
+constexpr std::array<Step, ConnectionTest::stepCount> steps{{
+    {ConnectionTest::Library, "library", exit_code::noLibrary},
+    {ConnectionTest::Place, "place", exit_code::noConnection},
+    {ConnectionTest::Link, "link", exit_code::noConnection},
+    {ConnectionTest::Answer, "answer", exit_code::nothingDone},
+    {ConnectionTest::End, "close", exit_code::nothingDone},
+}};
+
+} // namespace
 
 void Doctor::lookAtProgram() {
     const Engine& engine = desk_.engine;
@@ -72,17 +94,43 @@ void Doctor::lookAtRobots() {
         lookAtRobot(target);
 }
 
+/// The window's own connection test, a line for each step as it ends.
 void Doctor::lookAtRobot(const Target& target) {
     MachineDesk machine(desk_, target);
-    const bool isCalledOff = desk_.world.isInterrupted();
-    const bool works = !isCalledOff && machine.readController();
     Check check{.key = "robot", .label = message::labelRobot, .subject = machine.name()};
-    check.works = works;
-    check.detail = works || isCalledOff ? std::string() : machine.reason();
     check.advice = message::consoleAdviseConnection;
-    if (works)
+    if (desk_.world.isInterrupted()) {
+        check.works = false;
+        return report(check);
+    }
+    Engine& engine = desk_.engine;
+    ConnectionTest test({.state = engine.state,
+                         .messages = engine.messages,
+                         .session = engine.session,
+                         .window = machine.services.window,
+                         .libraryProblem = [&engine] { return engine.libraryProblem(); }},
+                        controllerInForce(engine.state));
+    std::size_t told = 0;
+    test.run([&] {
+        for (; told < steps.size() && test.hasEnded(told); ++told)
+            reportStep(machine.name(), test, told);
+    });
+    const auto failed =
+        std::ranges::find_if(steps, [&](const Step& step) { return !test.isDone(step.place); });
+    check.works = failed == steps.end();
+    if (check.works)
         desk_.tally.add(ItemEnd::Done);
-    report(check, isCalledOff ? exit_code::nothingDone : causeOf(desk_.engine.session));
+    else
+        check.detail = test.caption(failed->place) + ": " + test.outcome(failed->place);
+    report(check, check.works ? exit_code::allDone : failed->cause);
+}
+
+void Doctor::reportStep(const std::string& robot, const ConnectionTest& test, std::size_t step) {
+    desk_.report.line({robot, test.caption(step), test.outcome(step)}, "step",
+                      {{"robot", robot},
+                       {"step", steps.at(step).key},
+                       {"works", test.isDone(step)},
+                       {"detail", test.outcome(step)}});
 }
 
 /// Something is done when a robot is reached: what works besides is of no use without one.

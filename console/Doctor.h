@@ -6,6 +6,8 @@
 
 namespace vantrel {
 
+class ConnectionTest;
+
 /// What the program found when it began.
 struct Findings {
     std::string settingsPath;
@@ -34,6 +36,7 @@ class Doctor {
 
     void lookAtLibrary();
     void lookAtRobot(const Target& target);
+    void reportStep(const std::string& robot, const ConnectionTest& test, std::size_t step);
     void report(const Check& check, int cause = exit_code::nothingDone);
     std::string text(std::int32_t number) const;
 

@@ -31,7 +31,8 @@ class TextStream {
 
 /// Whether somebody can type an answer.
 bool canReadTerminal();
-/// The next line that is typed, without its end; nothing when there is no more.
+/// The next line that is typed, without its end; nothing when there is no more, or when the program
+/// is asked to end meanwhile.
 std::optional<std::string> readTerminalLine();
 
 /// A window that nobody sees, made by the first call, where the system has windows: the

@@ -1,6 +1,7 @@
 #include "platform/Descriptor_posix.h"
 #include "platform/Terminal.h"
 
+#include <poll.h>
 #include <unistd.h>
 
 namespace vantrel {
@@ -8,6 +9,13 @@ namespace {
 
 int descriptorOf(TextStream::Kind kind) {
     return kind == TextStream::Kind::Output ? STDOUT_FILENO : STDERR_FILENO;
+}
+
+// A signal that is only noted ends the waiting, as a console of the other system does it; a reading
+// would begin anew.
+bool isLineTyped() {
+    pollfd input{.fd = STDIN_FILENO, .events = POLLIN, .revents = 0};
+    return ::poll(&input, 1, -1) == 1;
 }
 
 } // namespace
@@ -34,6 +42,8 @@ bool canReadTerminal() {
 
 // Unbuffered: what follows the line is somebody else's to read.
 std::optional<std::string> readTerminalLine() {
+    if (!isLineTyped())
+        return std::nullopt;
     std::string line;
     char character = 0;
     while (true) {

@@ -56,6 +56,10 @@ class ConnectionTest {
     std::string caption(std::size_t step) const;
     /// What a step came to; empty for one that may still be tried, "..." for the one under way.
     std::string outcome(std::size_t step) const;
+    /// Whether it is known what became of a step.
+    bool hasEnded(std::size_t step) const {
+        return states_.at(step) != State::Open && states_.at(step) != State::UnderWay;
+    }
     /// Whether a step has ended, and well.
     bool isDone(std::size_t step) const { return states_.at(step) == State::Done; }
     /// All of it, a line for each step.

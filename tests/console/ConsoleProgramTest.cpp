@@ -276,6 +276,34 @@ TEST_F(ConsoleProgramTest, TheDoctorNamesWhatDoesNotWorkAndWhatToDo) {
     EXPECT_EQ(run({"doctor"}), 12);
 }
 
+TEST_F(ConsoleProgramTest, TheDoctorTestsEachConnectionStepByStep) {
+    EXPECT_EQ(run({"doctor"}), 0);
+    EXPECT_THAT(output_, HasSubstr("first\tCommunication library\tOK\n"
+                                   "first\tAddress or port\tOK\n"
+                                   "first\tOpen the link\tOK\n"
+                                   "first\tAsk the controller\tOK\n"
+                                   "first\tClose the link\tOK\n"));
+    EXPECT_EQ(run({"doctor", "--robot", "second", "--json"}), 0);
+    EXPECT_EQ(values("step", "step"), "library place link answer close ");
+    EXPECT_EQ(values("step", "robot"), "second second second second second ");
+    EXPECT_EQ(values("step", "works"), "true true true true true ");
+}
+
+TEST_F(ConsoleProgramTest, TheDoctorSaysAtWhichStepItEnds) {
+    library_.disturb({.function = "BscConnect", .code = 2040});
+    EXPECT_EQ(run({"doctor", "--robot", "first", "--json"}), 12);
+    EXPECT_EQ(values("step", "works"), "true true false false false ");
+    EXPECT_THAT(values("step", "detail"), AllOf(HasSubstr("BscConnect"), HasSubstr("not tried")));
+    EXPECT_THAT(values("check", "detail"), HasSubstr("Open the link: failed"));
+    library_.disturb({.function = "BscFindFirst", .code = 1000});
+    EXPECT_EQ(run({"doctor", "--robot", "first", "--json"}), 1);
+    EXPECT_EQ(values("step", "works"), "true true true false true ");
+    program_.write("robot.ini", "[Robot]\r\nName=first\r\nIPaddr=0.0.0.0\r\nPath=one\r\n");
+    EXPECT_EQ(run({"doctor", "--json"}), 12);
+    EXPECT_EQ(values("step", "works"), "true false false false false ");
+    EXPECT_EQ(library_.callCount(), 0);
+}
+
 TEST_F(ConsoleProgramTest, WithoutAUsableLibraryNoRobotIsReached) {
     world_.library = nullptr;
     program_.write(libraryFileName(), "no library at all");
@@ -283,6 +311,17 @@ TEST_F(ConsoleProgramTest, WithoutAUsableLibraryNoRobotIsReached) {
     EXPECT_EQ(run({"get", "*"}), 10);
     EXPECT_EQ(run({"doctor", "--json"}), 10);
     EXPECT_THAT(values("check", "check"), HasSubstr("library"));
+}
+
+TEST_F(ConsoleProgramTest, AnErrorThatNobodyForesawHasAnEndOfItsOwn) {
+    library_.onCall = [](const std::string& function) {
+        if (function == "BscUpLoad")
+            throw std::runtime_error("what nobody foresaw");
+    };
+    EXPECT_EQ(run({"get", "OWN.JBI", "--json"}), 70);
+    EXPECT_EQ(values("end", "exit"), "70 ");
+    EXPECT_EQ(values("end", "command"), "get ");
+    EXPECT_EQ(messages_, "vantrelctl: what nobody foresaw\n");
 }
 
 TEST_F(ConsoleProgramTest, NamesFromAControllerShowNoControlCharacters) {

@@ -150,6 +150,8 @@ TEST_F(OperationCallTest, AFileLeavesTheFolderOfAnotherRobotOnlyWhenItWasNamed) 
 
 TEST_F(OperationCallTest, ANameOutsideTheFolderIsNoneOfIts) {
     program_.write("V.lst", "B001=5\r\n");
+    EXPECT_EQ(run({"call", "WriteVarListFile", "../V.lst", "--json"}), 1);
+    EXPECT_EQ(values("call", "end"), "failed ");
     EXPECT_EQ(run({"call", "WriteVarListFile", "../V.lst", "--overwrite", "always"}), 1);
     EXPECT_EQ(program_.read("V.lst"), "B001=5\r\n");
     EXPECT_EQ(run({"call", "JobDownLoad", "../V.lst", "--json"}), 1);

@@ -141,7 +141,7 @@ TEST(Request, HelpNamesEveryCommandOptionAndExitCode) {
     const auto help = parseArguments({"--help"});
     EXPECT_TRUE(help.isHelp);
     for (const char* word : {"robots", "list", "get", "put", "delete", "get-vars", "put-vars",
-                             "jobs-run", "vars-run", "call", "doctor", "130"})
+                             "jobs-run", "vars-run", "call", "doctor", " 70 ", "130"})
         EXPECT_THAT(help.text, HasSubstr(word));
     const auto ofCommand = parseArguments({"get", "--help"});
     EXPECT_TRUE(ofCommand.isHelp);

@@ -1,17 +1,11 @@
 #include "base/Text.h"
-#include "link/SimulatedWorld.h"
-#include "support/ProjectFiles.h"
+#include "console/BuiltProgramWorld.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <string>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#ifndef _WIN32
-#include <sys/wait.h>
-#endif
 
 namespace vantrel {
 namespace {
@@ -21,62 +15,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-/// What a program says when it ends.
-int exitCodeOf(int status) {
-#ifdef _WIN32
-    return status;
-#else
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-#endif
-}
-
-/// The built program in a folder with the simulator and its two controllers, as a script starts it.
-class VantrelCtlTest : public testing::Test {
-  protected:
-    VantrelCtlTest() {
-        const auto& program = simulated_.program;
-        const std::filesystem::path built(VANTREL_CONSOLE_PROGRAM);
-        program_ = program.path(built.filename().string());
-        std::filesystem::copy_file(built, program_);
-        for (const char* file : {"English.lng", "Japanese.lng", "System.lng", "FileTable.tbl"})
-            std::filesystem::copy_file(std::filesystem::path(tests::dataFolder()) / file,
-                                       program.path(file));
-        program.write("Vantrel.ini", "[Vantrel]\r\nTransMode=16\r\n"
-                                     "[Language Info]\r\nLanguage=English\r\nLangSelect=0\r\n");
-        program.write("robot.ini", "[Boot]\r\nName=LINE1\r\n"
-                                   "[Robot]\r\nName=LINE1\r\nIPaddr=10.0.0.1\r\nPath=one\r\n"
-                                   "[Robot]\r\nName=LINE2\r\nIPaddr=10.0.0.2\r\nPath=two\r\n");
-        program.write("first/OWN.JBI", job("OWN", "first"));
-        program.write("first/SUB.JBI", job("SUB", "first"));
-        program.write("second/OWN.JBI", job("OWN", "second"));
-        program.makeFolder("one");
-        program.makeFolder("two");
-    }
-
-    static std::string job(const std::string& name, const std::string& body) {
-        return "/JOB\r\n//NAME " + name + "\r\n" + body + "\r\n";
-    }
-
-    /// Its exit code; what it has written is in `output_` and `messages_`.
-    int run(const std::string& arguments) {
-        const auto& folder = simulated_.program;
-        std::string command = "\"" + program_ + "\" " + arguments + " >\"" + folder.path("out") +
-                              "\" 2>\"" + folder.path("err") + "\"";
-#ifdef _WIN32
-        command = "\"" + command + " <NUL\"";
-#else
-        command += " </dev/null";
-#endif
-        const int code = exitCodeOf(std::system(command.c_str()));
-        output_ = folder.read("out");
-        messages_ = folder.read("err");
-        return code;
-    }
-
-    tests::SimulatedWorld simulated_;
-    const tests::TemporaryFolder& folder_ = simulated_.program;
-    std::string program_, output_, messages_;
-};
+using VantrelCtlTest = tests::BuiltProgramWorld;
 
 TEST_F(VantrelCtlTest, ListsRobotsAndFiles) {
     EXPECT_EQ(run("robots"), 0);
@@ -152,6 +91,7 @@ TEST_F(VantrelCtlTest, ALibraryThatCannotBeUsedIsTen) {
     EXPECT_EQ(run("list"), 10);
     EXPECT_EQ(run("doctor --json"), 10);
     EXPECT_THAT(output_, HasSubstr("\"check\":\"library\""));
+    EXPECT_THAT(output_, HasSubstr("\"step\":\"library\",\"works\":false"));
 }
 
 TEST_F(VantrelCtlTest, NoConnectionIsTwelve) {
@@ -192,7 +132,7 @@ TEST_F(VantrelCtlTest, NamesBeyondAsciiComeAndGo) {
 TEST_F(VantrelCtlTest, OutputThatCannotBeWrittenIsToldAndIsNoSuccess) {
     const std::string command =
         "\"" + program_ + "\" robots >/dev/full 2>\"" + folder_.path("err") + "\"";
-    EXPECT_EQ(exitCodeOf(std::system(command.c_str())), 3);
+    EXPECT_EQ(tests::exitCodeOf(std::system(command.c_str())), 3);
     EXPECT_THAT(folder_.read("err"), Not(IsEmpty()));
 }
 #endif
