@@ -39,7 +39,7 @@ int run(const std::vector<std::string>& arguments, Written& output, Written& mes
                        .isInterrupted = Interruption::isWanted,
                        .window = unseenWindow};
     if (canReadTerminal() && messages.isTerminal())
-        world.readLine = readTerminalLine;
+        world.readLine = [] { return readTerminalLine(Interruption::isWanted); };
     Interruption::watch();
     return runConsole(arguments, world);
 }

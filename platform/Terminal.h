@@ -2,6 +2,7 @@
 
 #include "base/Result.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,9 +32,9 @@ class TextStream {
 
 /// Whether somebody can type an answer.
 bool canReadTerminal();
-/// The next line that is typed, without its end; nothing when there is no more, or when the program
-/// is asked to end meanwhile.
-std::optional<std::string> readTerminalLine();
+/// The next line that is typed, without its end; nothing when there is no more, or when a
+/// signal, or Ctrl+C, calls the waiting off; one that came before is asked for by `isCalledOff`.
+std::optional<std::string> readTerminalLine(const std::function<bool()>& isCalledOff);
 
 /// A window that nobody sees, made by the first call, where the system has windows: the
 /// communication library wants the handle of one. Else null.

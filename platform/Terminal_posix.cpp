@@ -1,6 +1,8 @@
 #include "platform/Descriptor_posix.h"
 #include "platform/Terminal.h"
 
+#include <csignal>
+
 #include <poll.h>
 #include <unistd.h>
 
@@ -11,11 +13,19 @@ int descriptorOf(TextStream::Kind kind) {
     return kind == TextStream::Kind::Output ? STDOUT_FILENO : STDERR_FILENO;
 }
 
-// A signal that is only noted ends the waiting, as a console of the other system does it; a reading
-// would begin anew.
-bool isLineTyped() {
+/// False when the waiting was called off. A signal ends it, as a console of the other system does
+/// it; a reading would begin anew. Until the waiting begins signals wait too, so that none is
+/// missed.
+bool isLineTyped(const std::function<bool()>& isCalledOff) {
+    sigset_t ending, before;
+    ::sigemptyset(&ending);
+    ::sigaddset(&ending, SIGINT);
+    ::sigaddset(&ending, SIGTERM);
+    ::pthread_sigmask(SIG_BLOCK, &ending, &before);
     pollfd input{.fd = STDIN_FILENO, .events = POLLIN, .revents = 0};
-    return ::poll(&input, 1, -1) == 1;
+    const bool isTyped = !isCalledOff() && ::ppoll(&input, 1, nullptr, &before) == 1;
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    return isTyped;
 }
 
 } // namespace
@@ -41,8 +51,8 @@ bool canReadTerminal() {
 }
 
 // Unbuffered: what follows the line is somebody else's to read.
-std::optional<std::string> readTerminalLine() {
-    if (!isLineTyped())
+std::optional<std::string> readTerminalLine(const std::function<bool()>& isCalledOff) {
+    if (!isLineTyped(isCalledOff))
         return std::nullopt;
     std::string line;
     char character = 0;

@@ -69,7 +69,9 @@ bool canReadTerminal() {
     return isConsole(::GetStdHandle(STD_INPUT_HANDLE));
 }
 
-std::optional<std::string> readTerminalLine() {
+std::optional<std::string> readTerminalLine(const std::function<bool()>& isCalledOff) {
+    if (isCalledOff())
+        return std::nullopt;
     std::array<wchar_t, 256> characters{};
     DWORD count = 0;
     if (::ReadConsoleW(::GetStdHandle(STD_INPUT_HANDLE), characters.data(),
