@@ -60,7 +60,10 @@ ConsoleProgram::ConsoleProgram(const Request& request, const ConsoleWorld& world
                .executable = world.executable,
                .beforeLibraryCall = [] {},
                .dummyWindow = world.window,
-               .library = world.library}),
+               .library = world.library,
+               .program = "vantrelctl",
+               .command = request.command,
+               .holdsMachines = true}),
       progress_(world, engine_.progress), desk_{request, world, report, tally_, engine_} {}
 
 int ConsoleProgram::run() {

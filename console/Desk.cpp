@@ -22,13 +22,18 @@ int causeOf(const Snappy& session) {
                                                          "BscConnect"};
     if (session.ErrorCode() == session_code::libraryUnusable)
         return exit_code::noLibrary;
+    if (session.operatorIsTold())
+        return exit_code::noConnection;
+    if (session.ErrorCode() == session_code::machineInUse)
+        return exit_code::inUse;
     const bool isLink = std::ranges::find(connecting, session.ErrorFunction()) != connecting.end();
-    return isLink || session.operatorIsTold() ? exit_code::noConnection : exit_code::nothingDone;
+    return isLink ? exit_code::noConnection : exit_code::nothingDone;
 }
 
 MachineDesk::MachineDesk(Desk& desk, const Target& target)
-    : desk_(desk), panes(desk.engine.state, desk.engine.session, desk.engine.table,
-                         desk.engine.messages, window_),
+    : desk_(desk), command_(&desk.engine.use),
+      panes(desk.engine.state, desk.engine.session, desk.engine.table, desk.engine.messages,
+            window_),
       services{desk.engine.state,
                desk.engine.session,
                panes,

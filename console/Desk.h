@@ -9,6 +9,7 @@
 #include "files/CommandResult.h"
 #include "files/Panes.h"
 #include "files/TransferServices.h"
+#include "link/MachineUse.h"
 
 #include <string>
 
@@ -30,7 +31,8 @@ struct Desk {
 /// The exit code that says best why the session's last operation, which has failed, did so.
 int causeOf(const Snappy& session);
 
-/// A machine in force, with the panes and the transfers of one.
+/// A machine in force, with the panes and the transfers of one. From its first use on it is kept
+/// from other programs as long as this lives.
 class MachineDesk {
   public:
     MachineDesk(Desk& desk, const Target& target);
@@ -49,6 +51,7 @@ class MachineDesk {
 
   private:
     Desk& desk_;
+    const MachineUse::Command command_;
     ConsolePanes window_;
 
   public:

@@ -20,8 +20,8 @@ constexpr const char* programPurpose =
     "Moves files between this PC and robot controllers, as Vantrel does in its window.";
 constexpr const char* exitCodes =
     "Exit codes: 0 all done, 1 nothing done, 2 wrong usage, 3 partly done, 10 no usable library,\n"
-    "12 no connection, 70 an error nobody foresaw, 130 interrupted. Take any other one for a "
-    "failure.\n"
+    "11 in use by another program, 12 no connection, 70 an error nobody foresaw, 130 interrupted.\n"
+    "Take any other one for a failure.\n"
     "vantrelctl COMMAND --help lists what a command takes.";
 
 /// What a command takes beside the machine.

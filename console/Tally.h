@@ -16,6 +16,7 @@ inline constexpr int nothingDone = 1;
 inline constexpr int wrongUsage = 2;
 inline constexpr int partlyDone = 3;
 inline constexpr int noLibrary = 10;
+inline constexpr int inUse = 11; ///< another program works with the machine
 inline constexpr int noConnection = 12;
 inline constexpr int unexpected = 70; ///< an error that nobody has foreseen
 inline constexpr int interrupted = 130;

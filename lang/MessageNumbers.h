@@ -339,6 +339,11 @@ inline constexpr std::int32_t allMeans = 393; ///< with the number of items that
 inline constexpr std::int32_t markUnusable = 372; ///< after [name], then [the mark's name]
 inline constexpr std::int32_t markOfNoFile = 373; ///< after [the mark's name]
 
+// Who works with a machine that is in use.
+inline constexpr std::int32_t userProcess = 662; ///< with its number
+inline constexpr std::int32_t userSince = 663;   ///< with a date and time
+inline constexpr std::int32_t unknownUser = 664;
+
 namespace resource {
 inline constexpr std::int32_t alreadyExists = 2; ///< after a name and a blank
 inline constexpr std::int32_t transferring = 4;  ///< then a name, or alone

@@ -10,6 +10,8 @@
 #include "platform/Files.h"
 #include "platform/TextEncoding.h"
 
+#include <utility>
+
 namespace vantrel {
 namespace {
 
@@ -44,7 +46,7 @@ std::optional<std::string> LinkConnection::workingFolder() const {
 }
 
 std::int16_t LinkConnection::connect() {
-    if (!isAsBegun())
+    if (!isAsBegun() || !takeMachine())
         return noHandle;
     // The library keeps files of its own beside the program; without that folder it may still work.
     static_cast<void>(changeCurrentFolder(services_.programFolder));
@@ -65,6 +67,25 @@ std::int16_t LinkConnection::connect() {
         return handle;
     library().BscClose(handle);
     return noHandle;
+}
+
+bool LinkConnection::takeMachine() {
+    if (!services_.use || addressUnset())
+        return true;
+    const ReachedMachine machine{services_.TransMode, properties_.port, properties_.IPaddress};
+    MachineUse::Taking taking = services_.use->take(machine);
+    if (taking.answer == MachineUse::Answer::InUse) {
+        error_.set(session_code::machineInUse, "", 0);
+        error_.machine = machine.name();
+        error_.user = std::move(taking.holder);
+        return false;
+    }
+    if (taking.answer == MachineUse::Answer::Taken || !services_.use->isStrict())
+        return true;
+    error_.set(session_code::machineNotHeld, "", 0);
+    error_.machine = std::move(taking.file);
+    error_.systemReason = std::move(taking.reason);
+    return false;
 }
 
 bool LinkConnection::addressUnset() const {

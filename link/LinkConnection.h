@@ -76,6 +76,8 @@ class LinkConnection {
     Ends ends() const;
     /// The folder that the library is told, in its code page.
     std::optional<std::string> workingFolder() const;
+    /// False, with the reason recorded, when another program works with the machine.
+    bool takeMachine();
     bool addressUnset() const;
     std::int16_t refuseUnsetAddress(std::int16_t handle);
     bool configure(std::int16_t handle);

@@ -1,8 +1,10 @@
 #include "link/LinkTest.h"
 
 #include "lang/MessageTable.h"
+#include "lang/SystemReasons.h"
 #include "link/DirectoryReader.h"
 #include "link/LinkConnection.h"
+#include "link/ShownText.h"
 
 namespace vantrel {
 namespace {
@@ -17,7 +19,8 @@ SessionServices inMode(const SessionServices& services, TransferMode& mode) {
             .progress = services.progress,
             .talk = services.talk,
             .programFolder = services.programFolder,
-            .dummyWindow = services.dummyWindow};
+            .dummyWindow = services.dummyWindow,
+            .use = services.use};
 }
 
 SessionProperties reaching(const LinkTarget& target, SessionProperties properties) {
@@ -30,6 +33,16 @@ SessionProperties reaching(const LinkTarget& target, SessionProperties propertie
     return properties;
 }
 
+/// With what stands in the way of the machine.
+std::string textWithMachine(const MessageTable& messages, const SessionErrorRecord& error) {
+    constexpr std::int32_t resourceOffset = 500; // of the texts of our own codes
+    const bool isInUse = error.ErrorCode == session_code::machineInUse;
+    std::string text = messages.getMessageWithInsertion(
+        error.ErrorCode + resourceOffset, shownText(error.machine),
+        isInUse ? shownUser(messages, error.user) : reasonInLanguage(messages, error.systemReason));
+    return text.empty() ? messages.errorText(error.ErrorCode) : text;
+}
+
 LinkFault faultOf(const MessageTable& messages, const SessionErrorRecord& error) {
     return {error.ErrorFunction, error.ErrorCode, recordedText(messages, error, error.isReturned)};
 }
@@ -38,6 +51,8 @@ LinkFault faultOf(const MessageTable& messages, const SessionErrorRecord& error)
 
 std::string recordedText(const MessageTable& messages, const SessionErrorRecord& error,
                          bool isReturned) {
+    if (!isReturned && !error.machine.empty())
+        return textWithMachine(messages, error);
     return isReturned ? messages.returnedCodeText(error.ErrorCode)
                       : messages.errorText(error.ErrorCode);
 }
@@ -55,6 +70,7 @@ LinkTestStep LinkTest::refused(const MessageTable& messages) {
 
 void LinkTest::run(const std::function<void(const LinkTestStep&)>& ended) {
     LinkConnection link(services_, properties_, error_);
+    const MachineUse::Command command(services_.use);
     link.begin(LinkConnection::FolderUse::None);
     const std::int16_t handle = link.connect();
     ended(step(Kind::Open, handle >= 0));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "link/MachineUse.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -39,6 +41,8 @@ inline constexpr std::int16_t fileNotFlushed =
     46; ///< the arrived file cannot be brought to the disk
 inline constexpr std::int16_t markUnusable =
     47; ///< what marks an interrupted fetch of the PC file cannot be read
+inline constexpr std::int16_t machineInUse = 160;    ///< by another program
+inline constexpr std::int16_t machineNotHeld = 161;  ///< nobody knows whether it is in use
 inline constexpr std::int16_t libraryUnusable = -10; ///< missing, wrong or incomplete library
 } // namespace session_code
 
@@ -52,6 +56,8 @@ struct SessionErrorRecord {
     bool hasIndex = false;    ///< the index was given with this failure and is not an older one
     std::string systemReason; ///< in the system's words, where it was the one to refuse
     std::string mark;         ///< the name of the one that cannot be read
+    std::string machine;      ///< the one in use, or the file that could not be held for it
+    MachineUser user;         ///< of the machine in use
 
     /// Without an index the previous one stays.
     void set(std::int16_t code, std::string function, std::optional<std::int32_t> index = {}) {
@@ -59,6 +65,8 @@ struct SessionErrorRecord {
         ErrorFunction = std::move(function);
         systemReason.clear();
         mark.clear();
+        machine.clear();
+        user = {};
         isReturned = false;
         hasIndex = index.has_value();
         if (index)

@@ -10,6 +10,7 @@ namespace vantrel {
 
 class FetchFiles;
 class LanguageFiles;
+class MachineUse;
 class MessageTable;
 class OperatorTalk;
 class ProgressPanel;
@@ -41,6 +42,7 @@ struct SessionServices {
     std::function<void()> unloadWindows = {}; ///< unloads `frmDumy`; called once, by `Quit`
     std::function<void()> modeChanged = {};   ///< `SetTansMode` has written `TransMode`
     FetchFiles* files = nullptr;              ///< null for the disk itself
+    MachineUse* use = nullptr;                ///< keeps other programs off; null for nothing
 };
 
 } // namespace vantrel

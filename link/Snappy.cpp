@@ -12,6 +12,7 @@
 #include "link/JobSend.h"
 #include "link/LinkConnection.h"
 #include "link/LinkTest.h"
+#include "link/MachineUse.h"
 #include "link/OverwriteQuestion.h"
 #include "link/ProgressPanel.h"
 #include "link/SentFile.h"
@@ -94,8 +95,9 @@ namespace {
 /// The time of one operation.
 class Operation {
   public:
-    Operation(LinkConnection& link, SessionProgress& progress, LinkConnection::FolderUse use)
-        : link_(link), progress_(progress) {
+    Operation(LinkConnection& link, SessionProgress& progress, LinkConnection::FolderUse use,
+              MachineUse* machines)
+        : command_(machines), link_(link), progress_(progress) {
         link_.begin(use);
         progress_.begin();
     }
@@ -107,6 +109,7 @@ class Operation {
     Operation& operator=(const Operation&) = delete;
 
   private:
+    MachineUse::Command command_;
     LinkConnection& link_;
     SessionProgress& progress_;
 };
@@ -226,7 +229,7 @@ bool Snappy::Parts::operate(const Work& work, FolderUse use) {
         error.set(session_code::operationRunning, "");
         return false;
     }
-    const Operation operation(link, progress, use);
+    const Operation operation(link, progress, use, services.use);
     sending.begin();
     operatorTold = false;
     entryTried = false;

@@ -2,6 +2,7 @@
 
 #include "base/Result.h"
 
+#include <cstdint>
 #include <string>
 
 namespace vantrel {
@@ -12,6 +13,12 @@ std::string executablePath();
 /// runs, unless VANTREL_FOLDER names another absolute folder: the launcher of an installation for
 /// all users gives each of them a folder that he may write into.
 std::string programPath();
+
+/// The user's name for the system, this PC's and the number of this process, to be told to others;
+/// a name that cannot be found out is empty.
+std::string userName();
+std::string computerName();
+std::uint64_t processNumber();
 
 /// The English name of the user's default locale's language: "Japanese", "English", "German".
 /// Elsewhere than on Windows it is taken from LC_ALL, LC_MESSAGES or LANG; "English" when unset.

@@ -5,7 +5,11 @@
 #include "platform/Files.h"
 #include "platform/LanguageNames.h"
 
+#include <array>
 #include <cstdlib>
+#include <vector>
+
+#include <pwd.h>
 
 namespace vantrel {
 
@@ -43,6 +47,25 @@ std::string programPath() {
     if (!folder || *folder != '/')
         return executable;
     return PathRules().join(folder, executable.substr(executable.rfind('/') + 1));
+}
+
+std::string userName() {
+    constexpr std::size_t mostBytes = 16384;
+    std::vector<char> bytes(mostBytes);
+    passwd entry{};
+    passwd* found = nullptr;
+    const int error = ::getpwuid_r(::geteuid(), &entry, bytes.data(), bytes.size(), &found);
+    return error == 0 && found ? std::string(found->pw_name) : std::string();
+}
+
+std::string computerName() {
+    std::array<char, 256> name{};
+    return ::gethostname(name.data(), name.size() - 1) == 0 ? std::string(name.data())
+                                                            : std::string();
+}
+
+std::uint64_t processNumber() {
+    return static_cast<std::uint64_t>(::getpid());
 }
 
 std::string localeLanguageName() {

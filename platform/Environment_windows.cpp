@@ -56,6 +56,23 @@ std::string programPath() {
     return executablePath();
 }
 
+std::string userName() {
+    constexpr DWORD longestName = 256; // characters, its NUL not counted
+    std::array<wchar_t, longestName + 1> name{};
+    DWORD length = static_cast<DWORD>(name.size());
+    return ::GetUserNameW(name.data(), &length) ? narrow(name.data()) : std::string();
+}
+
+std::string computerName() {
+    std::array<wchar_t, MAX_COMPUTERNAME_LENGTH + 1> name{};
+    DWORD length = static_cast<DWORD>(name.size());
+    return ::GetComputerNameW(name.data(), &length) ? narrow(name.data()) : std::string();
+}
+
+std::uint64_t processNumber() {
+    return ::GetCurrentProcessId();
+}
+
 std::string localeLanguageName() {
     std::array<wchar_t, 128> name{};
     const int length = ::GetLocaleInfoW(::GetUserDefaultLCID(), LOCALE_SENGLANGUAGE, name.data(),

@@ -20,6 +20,10 @@ class HeldFile {
     /// Nothing when somebody holds the file or there is none any more; fails when what is there can
     /// be held by nobody here.
     static Result<std::optional<HeldFile>> take(const std::string& path);
+    /// Makes a file that is there only to be held: everybody may read meanwhile who holds it, and
+    /// nothing of it is brought to the disk. Nothing when somebody holds it; fails on a disk
+    /// without locks.
+    static Result<std::optional<HeldFile>> lock(const std::string& path);
 
     /// False on a disk without locks: somebody else may hold the file as well.
     bool isHeldAlone() const;
@@ -32,9 +36,11 @@ class HeldFile {
 
   private:
     struct Open;
+    struct Attempt;
+    enum class Wish { Make, Take, Lock };
 
     explicit HeldFile(std::shared_ptr<Open> open) : open_(std::move(open)) {}
-    static Result<std::optional<HeldFile>> hold(const std::string& path, bool make);
+    static Result<Attempt> hold(const std::string& path, Wish wish);
 
     std::shared_ptr<Open> open_;
 };

@@ -11,6 +11,13 @@ struct HeldFile::Open {
     std::string path;
     Descriptor file;
     bool isLocked;
+    bool isLasting; ///< it is brought to the disk
+};
+
+/// Without a file there was somebody who holds it, or none was there.
+struct HeldFile::Attempt {
+    std::optional<HeldFile> file;
+    bool isSomebodys = false;
 };
 
 namespace {
@@ -21,14 +28,17 @@ std::string folderOf(const std::string& path) {
     return path.substr(0, path.rfind('/') + 1);
 }
 
-Descriptor openForHolding(const std::string& path, int flags) {
+Descriptor openForHolding(const std::string& path, bool make, bool readingWillDo) {
     constexpr int always = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
     constexpr mode_t everybody = 0666; // less the process's mask
-    Descriptor file(::open(path.c_str(), O_RDWR | always | flags, everybody));
-    // A mark on a medium that has become write-protected can be held and read all the same.
-    if (!file.isOpen() && flags == 0 && (errno == EACCES || errno == EROFS))
+    Descriptor file(::open(path.c_str(), O_RDWR | always | (make ? O_CREAT : 0), everybody));
+    if (!file.isOpen() && readingWillDo && (errno == EACCES || errno == EROFS))
         file = Descriptor(::open(path.c_str(), O_RDONLY | always));
     return file;
+}
+
+bool isWritable(const Descriptor& file) {
+    return (::fcntl(file.number(), F_GETFL) & O_ACCMODE) == O_RDWR;
 }
 
 bool isRegular(const Descriptor& file) {
@@ -51,12 +61,14 @@ bool knowsNoLocks(int error) {
 
 } // namespace
 
-Result<std::optional<HeldFile>> HeldFile::hold(const std::string& path, bool make) {
+Result<HeldFile::Attempt> HeldFile::hold(const std::string& path, Wish wish) {
     if (hasNul(path))
         return systemFailure(EINVAL);
-    Descriptor file = openForHolding(path, make ? O_CREAT : 0);
-    if (!file.isOpen() && !make && errno == ENOENT)
-        return std::optional<HeldFile>();
+    // A mark on a medium that has become write-protected can be held and read all the same, and
+    // another user's lock tells whether he holds it.
+    Descriptor file = openForHolding(path, wish != Wish::Take, wish != Wish::Make);
+    if (!file.isOpen() && wish == Wish::Take && errno == ENOENT)
+        return Attempt{};
     if (!file.isOpen())
         return systemFailure(errno);
     if (!isRegular(file))
@@ -64,23 +76,44 @@ Result<std::optional<HeldFile>> HeldFile::hold(const std::string& path, bool mak
     // The lock belongs to this opening of the file, so it also keeps this program from another.
     const bool isLocked = ::flock(file.number(), LOCK_EX | LOCK_NB) == 0;
     if (!isLocked && errno == EWOULDBLOCK)
-        return std::optional<HeldFile>();
-    if (!isLocked && !knowsNoLocks(errno))
+        return Attempt{.file = {}, .isSomebodys = true};
+    if (!isLocked && (wish == Wish::Lock || !knowsNoLocks(errno)))
         return systemFailure(errno);
     if (!isThere(file, path))
-        return std::optional<HeldFile>();
-    return std::optional(HeldFile(std::make_shared<Open>(Open{path, std::move(file), isLocked})));
+        return Attempt{};
+    const bool isOfAnother = wish == Wish::Lock && !isWritable(file);
+    if (isOfAnother && ::unlink(path.c_str()) != 0)
+        return systemFailure(errno);
+    if (isOfAnother)
+        return Attempt{};
+    return Attempt{HeldFile(
+        std::make_shared<Open>(Open{path, std::move(file), isLocked, wish != Wish::Lock}))};
 }
 
 Result<HeldFile> HeldFile::make(const std::string& path) {
-    auto held = hold(path, true);
+    auto held = hold(path, Wish::Make);
     if (!held)
         return Failure{held.reason()};
-    return *held ? Result<HeldFile>(std::move(**held)) : systemFailure(EWOULDBLOCK);
+    return held->file ? Result<HeldFile>(std::move(*held->file)) : systemFailure(EWOULDBLOCK);
 }
 
 Result<std::optional<HeldFile>> HeldFile::take(const std::string& path) {
-    return hold(path, false);
+    auto held = hold(path, Wish::Take);
+    if (!held)
+        return Failure{held.reason()};
+    return std::move(held->file);
+}
+
+Result<std::optional<HeldFile>> HeldFile::lock(const std::string& path) {
+    constexpr int mostTries = 100; // each costs one holder who lets go of it just now
+    for (int tries = 0; tries < mostTries; ++tries) {
+        auto held = hold(path, Wish::Lock);
+        if (!held)
+            return Failure{held.reason()};
+        if (held->file || held->isSomebodys)
+            return std::move(held->file);
+    }
+    return systemFailure(EAGAIN);
 }
 
 bool HeldFile::isHeldAlone() const {
@@ -109,6 +142,8 @@ Outcome HeldFile::write(std::string_view content) {
         return systemFailure(errno);
     if (const int error = writeAll(file, content); error != 0)
         return systemFailure(error);
+    if (!open_->isLasting)
+        return Done{};
     if (::fsync(file) != 0)
         return systemFailure(errno);
     return flushFolder(folderOf(open_->path));
@@ -117,7 +152,7 @@ Outcome HeldFile::write(std::string_view content) {
 Outcome HeldFile::remove() {
     if (::unlink(open_->path.c_str()) != 0)
         return systemFailure(errno);
-    return flushFolder(folderOf(open_->path));
+    return open_->isLasting ? flushFolder(folderOf(open_->path)) : Outcome(Done{});
 }
 
 } // namespace vantrel

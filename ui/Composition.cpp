@@ -20,7 +20,9 @@ Composition::Composition(std::string executable, std::span<const std::string> ar
       versionWindow_(messages_, state_) {
     // What the operator does to the windows being built is refused.
     starting_.emplace(guard_);
+    guard_.onEnded = [this] { engine_.use.end(); };
     guard_.onBegun = [this] {
+        engine_.use.begin();
         if (progressWindow_)
             progressWindow_->beginCommand();
     };

@@ -47,9 +47,12 @@ void OperationGuard::lock() {
 }
 
 void OperationGuard::unlock() {
+    const bool ends = operations_ == 1;
     if (operations_ > 0)
         --operations_;
     busy_ = operations_ > 0;
+    if (ends && onEnded)
+        onEnded();
 }
 
 void OperationGuard::yield() {

@@ -31,6 +31,8 @@ class OperationGuard : public wxEventFilter {
 
     /// Called when the first of nested operations begins.
     std::function<void()> onBegun;
+    /// Called when the last of nested operations has ended.
+    std::function<void()> onEnded;
 
     /// Lets pending events run once, locked; does nothing when called from within itself.
     void yield();

@@ -26,6 +26,8 @@ Engine::Engine(EngineGround ground)
       language(state, messages, languages, boxes, localeLanguageName()),
       settings(programFolder, settingsFileName(executable)),
       registry(state, messages, boxes, programFolder), talk(progress, ground.questions, boxes),
+      use(programFolder, std::move(ground.program), std::move(ground.command),
+          ground.holdsMachines),
       library_(programFolder,
                [this](const LibraryProblem& problem) { tellLibraryProblem(problem); }),
       isLibraryGiven_(ground.library != nullptr),
@@ -39,7 +41,8 @@ Engine::Engine(EngineGround ground)
                .programFolder = programFolder,
                .dummyWindow = std::move(ground.dummyWindow),
                .unloadWindows = std::move(ground.unloadWindows),
-               .modeChanged = std::move(ground.modeChanged)}) {
+               .modeChanged = std::move(ground.modeChanged),
+               .use = &use}) {
     progress.setUsualPlace([this] { return fromController(state); });
     progress.setClock(ground.clock ? std::move(ground.clock) : steadyTime);
     progress.setMark([this] { return markInForce(messages, state); });

@@ -7,6 +7,7 @@
 #include "lang/LanguageChoice.h"
 #include "lang/LanguageFiles.h"
 #include "lang/MessageTable.h"
+#include "link/MachineUse.h"
 #include "link/OperatorTalk.h"
 #include "link/ProgressPanel.h"
 #include "link/Snappy.h"
@@ -36,6 +37,11 @@ struct EngineGround {
     std::function<void()> modeChanged = {};   ///< the session was told another mode by name
     Zurolink* library = nullptr;              ///< in place of the one in the program's folder
     ProgressPanel::Clock clock = {};          ///< in place of the system's steady one
+    /// What other programs are told of this one and of what it does while it works with a machine.
+    std::string program = "Vantrel";
+    std::string command = {};
+    /// Nothing is done on a machine where nobody can tell whether it is in use.
+    bool holdsMachines = false;
 };
 
 /// The program without its windows: texts, settings, registry, file table, library and session,
@@ -64,6 +70,7 @@ class Engine {
     TransferTable table;
     ProgressPanel progress;
     OperatorTalk talk;
+    MachineUse use;
 
   private:
     std::string textOf(const LibraryProblem& problem) const;

@@ -1,4 +1,5 @@
 #include "console/ConsoleProgramWorld.h"
+#include "link/MachineUse.h"
 #include "platform/Environment.h"
 
 #include <gmock/gmock.h>
@@ -43,6 +44,26 @@ TEST_F(ConsoleProgramTest, ARobotThatCannotBeReachedIsNoConnection) {
     EXPECT_EQ(values("robot-failed", "robot"), "10.0.0.9 ");
     EXPECT_EQ(values("end", "exit"), "12 ");
     EXPECT_THAT(messages_, HasSubstr("10.0.0.9"));
+}
+
+TEST_F(ConsoleProgramTest, AMachineThatAnotherProgramWorksWithIsInUse) {
+    MachineUse others(program_.path(), "Vantrel", "", false);
+    const MachineUse::Command command(&others);
+    others.take({TransferMode::HispeedLink, 1, "10.0.0.1"});
+    EXPECT_EQ(run({"list", "--json"}), 11);
+    EXPECT_THAT(values("robot-failed", "reason"), HasSubstr("10.0.0.1 is in use by Vantrel"));
+    EXPECT_EQ(run({"get", "OWN.JBI", "SUB1.JBI"}), 11);
+    EXPECT_THAT(output_, HasSubstr("10.0.0.1 is in use by Vantrel"));
+    EXPECT_EQ(run({"doctor", "--robot", "first"}), 11);
+    EXPECT_EQ(library_.callCount(), 0);
+    EXPECT_EQ(run({"list", "--all-robots"}), 3) << "the other robot is free";
+}
+
+TEST_F(ConsoleProgramTest, WhereNobodyCanTellWhetherAMachineIsInUseNothingIsDone) {
+    program_.write("locks", "no folder");
+    EXPECT_EQ(run({"list"}), 1);
+    EXPECT_THAT(messages_, HasSubstr(program_.path("locks")));
+    EXPECT_EQ(library_.callCount(), 0);
 }
 
 TEST_F(ConsoleProgramTest, AnAddressThatIsNotSetIsNoConnection) {

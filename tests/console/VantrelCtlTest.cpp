@@ -1,9 +1,12 @@
 #include "base/Text.h"
 #include "console/BuiltProgramWorld.h"
+#include "platform/ChildProcess.h"
+#include "platform/Environment.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <thread>
 
 #include <gmock/gmock.h>
 
@@ -108,6 +111,26 @@ TEST_F(VantrelCtlTest, AFileThatIsCutOffIsAFailureAndLeavesNoHalfOne) {
     EXPECT_THAT(output_, AllOf(HasSubstr("\"end\":\"failed\""), HasSubstr("\"end\":\"done\"")));
     EXPECT_EQ(folder_.read("one/OWN.JBI"), "old");
     EXPECT_EQ(folder_.read("one/SUB.JBI"), job("SUB", "first"));
+}
+
+TEST_F(VantrelCtlTest, AMachineIsOneProgramsUntilItEndsOrCrashes) {
+    simulated_.script("1=BscFindNext 1 slow 60000\n");
+    auto first = ChildProcess::start(
+        {.program = program_, .arguments = {"get", "OWN.JBI"}, .folder = folder_.path()});
+    ASSERT_TRUE(first) << first.reason();
+    while (!folder_.has("locks/hispeed-10.0.0.1.lock") ||
+           folder_.read("locks/hispeed-10.0.0.1.lock").find("process=") == std::string::npos)
+        std::this_thread::yield();
+    simulated_.script("");
+    EXPECT_EQ(run("list"), 11);
+    EXPECT_THAT(messages_, AllOf(HasSubstr("vantrelctl get"), HasSubstr(userName())));
+    EXPECT_EQ(run("get OWN.JBI --json"), 11);
+    EXPECT_THAT(output_, AllOf(HasSubstr("vantrelctl get"), HasSubstr("\"exit\":11")));
+    EXPECT_EQ(run("list --robot LINE2"), 0);
+    first->kill();
+    EXPECT_EQ(first->exitCode(), std::nullopt);
+    EXPECT_EQ(run("list"), 0);
+    EXPECT_FALSE(folder_.has("locks/hispeed-10.0.0.1.lock"));
 }
 
 TEST_F(VantrelCtlTest, OutputIsUtf8InEveryLanguage) {

@@ -116,6 +116,7 @@ constexpr std::pair<int, int> captionNumbers[] = {
     {message::listFilesOffered, message::listFilesOffered},
     {message::consoleFolder, message::consoleWouldBeDone}, // cells of vantrelctl's lines
     {message::consoleDone, message::consoleDone},
+    {message::userProcess, message::unknownUser}, // of who works with a machine
     {ofResource(message::resource::yes), ofResource(message::resource::cancel)}};
 
 bool isCaption(int number) {

@@ -1,5 +1,6 @@
 #include "platform/HeldFile.h"
 
+#include "platform/ChildProcess.h"
 #include "platform/Files.h"
 #include "support/TemporaryFolder.h"
 
@@ -72,6 +73,50 @@ TEST_F(HeldFileTest, OfAHugeFileOnlyTheBeginningIsRead) {
     const auto held = HeldFile::take(path);
     ASSERT_TRUE(held && *held);
     EXPECT_EQ((*held)->read()->size(), 65536u);
+}
+
+TEST_F(HeldFileTest, WhoHoldsALockCanBeReadMeanwhile) {
+    auto held = HeldFile::lock(path);
+    ASSERT_TRUE(held && *held);
+    EXPECT_TRUE((*held)->write("mine"));
+    EXPECT_EQ(*readFile(path), "mine");
+    const auto other = HeldFile::lock(path);
+    ASSERT_TRUE(other) << other.reason();
+    EXPECT_FALSE(*other) << "somebody has it, which is no failure";
+    EXPECT_EQ(*readFile(path), "mine");
+    EXPECT_TRUE((*held)->remove());
+    EXPECT_FALSE(anythingExists(path));
+    EXPECT_TRUE(*HeldFile::lock(path));
+}
+
+TEST_F(HeldFileTest, ALockThatNobodyCanHaveIsAFailure) {
+    EXPECT_FALSE(HeldFile::lock(folder.path("nowhere/lock")));
+    EXPECT_FALSE(HeldFile::lock(folder.path()));
+    EXPECT_FALSE(HeldFile::lock(std::string("a\0b", 3)));
+}
+
+TEST_F(HeldFileTest, ACrashOfItsHolderFreesALock) {
+    auto holder = ChildProcess::start(
+        {.program = VANTREL_TEST_PROGRAM, .arguments = {"hold", path, "another program's"}});
+    ASSERT_TRUE(holder) << holder.reason();
+    std::string said;
+    ChildProcess* const one[] = {&*holder};
+    while (!holder->isAtEnd() && !said.ends_with('\n')) {
+        ChildProcess::wait(one, std::chrono::seconds(60));
+        said += holder->read();
+    }
+    ASSERT_EQ(said, "held\n");
+    const auto held = HeldFile::lock(path);
+    ASSERT_TRUE(held) << held.reason();
+    EXPECT_FALSE(*held);
+    EXPECT_EQ(*readFile(path), "another program's");
+    holder->kill();
+    EXPECT_EQ(holder->exitCode(), std::nullopt);
+    EXPECT_TRUE(anythingExists(path)) << "it stays behind, and nobody holds it";
+    auto next = HeldFile::lock(path);
+    ASSERT_TRUE(next && *next);
+    EXPECT_TRUE((*next)->write("mine"));
+    EXPECT_EQ(*readFile(path), "mine");
 }
 
 TEST(FlushTest, WhatIsThereIsBroughtToTheDisk) {
