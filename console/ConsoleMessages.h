@@ -35,4 +35,9 @@ inline constexpr std::int32_t consoleAdviseConnection = 634;
 
 inline constexpr std::int32_t consoleDone = 640; ///< of an operation that was called
 
+// Of a robot whose work was done in a process of its own.
+inline constexpr std::int32_t consoleTookTooLong = 665; ///< after [robot], with the seconds
+inline constexpr std::int32_t consoleStopped = 666;     ///< after [robot]
+inline constexpr std::int32_t consoleRobotsChanged = 667;
+
 } // namespace vantrel::message

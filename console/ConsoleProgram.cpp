@@ -8,7 +8,9 @@
 #include "console/FileCommands.h"
 #include "console/ListCommands.h"
 #include "console/OperationCall.h"
+#include "console/Relay.h"
 #include "console/RobotCommands.h"
+#include "console/RobotProcesses.h"
 #include "lang/SystemReasons.h"
 #include "platform/Files.h"
 
@@ -64,7 +66,12 @@ ConsoleProgram::ConsoleProgram(const Request& request, const ConsoleWorld& world
                .program = "vantrelctl",
                .command = request.command,
                .holdsMachines = true}),
-      progress_(world, engine_.progress), desk_{request, world, report, tally_, engine_} {}
+      progress_(world, engine_.progress), desk_{request, world, report, tally_, engine_} {
+    if (world_.relay)
+        tally_.onAdded = [this](ItemEnd end, int cause) {
+            world_.relay(relayLine({.kind = Relayed::Kind::Item, .end = end, .code = cause}));
+        };
+}
 
 int ConsoleProgram::run() {
     int code = start();
@@ -99,12 +106,27 @@ int ConsoleProgram::start() {
         return exit_code::wrongUsage;
     }
     desk_.targets = std::move(*targets);
-    return exit_code::allDone;
+    desk_.targets.areSeveral = desk_.targets.targets.size() > 1;
+    return keepOwnRobot();
+}
+
+/// Between the look of the process that has started this one and its own, somebody may have changed
+/// the robots.
+int ConsoleProgram::keepOwnRobot() {
+    if (request_.relay.empty())
+        return exit_code::allDone;
+    std::erase_if(desk_.targets.targets, [this](const Target& target) {
+        return relayName(desk_.targets, target) != request_.relay;
+    });
+    if (desk_.targets.targets.size() == 1)
+        return exit_code::allDone;
+    report_.message(messages_.getMessage(message::consoleRobotsChanged));
+    return exit_code::nothingDone;
 }
 
 /// A fresh installation has its texts there only. A rehearsal touches nothing.
 void ConsoleProgram::placeFiles() {
-    if (request_.dryRun)
+    if (request_.dryRun || !request_.relay.empty())
         return;
     for (const UndeliveredFile& file : DeliveredFiles(engine_.programFolder).takePlaces())
         report_.message(file.path + ": " + file.reason);
@@ -140,33 +162,35 @@ void ConsoleProgram::readSettings() {
 }
 
 void ConsoleProgram::perform() {
+    if (request_.task == Task::Robots && !request_.check)
+        return listRobots(desk_);
+    if (request_.task == Task::Doctor && request_.relay.empty())
+        Doctor(desk_, found_).lookAtProgram();
+    if (request_.usesProcesses() && request_.relay.empty())
+        return RobotProcesses(desk_, [this](const Target& target) { performOn(target); }).run();
+    for (const Target& target : desk_.targets.targets)
+        performOn(target);
+}
+
+void ConsoleProgram::performOn(const Target& target) {
     switch (request_.task) {
     case Task::Robots:
-        return listRobots(desk_);
+        return checkRobot(desk_, target);
     case Task::List:
-        return listFiles(desk_);
+        return listFiles(desk_, target);
     case Task::Get:
     case Task::Put:
     case Task::Delete:
-        for (const Target& target : desk_.targets.targets)
-            FileCommands(desk_, target).run();
-        return;
+        return FileCommands(desk_, target).run();
     case Task::GetVariables:
     case Task::PutVariables:
     case Task::GetJobs:
     case Task::PutJobs:
-        for (const Target& target : desk_.targets.targets)
-            ListCommands(desk_, target).run();
-        return;
+        return ListCommands(desk_, target).run();
     case Task::Call:
-        for (const Target& target : desk_.targets.targets)
-            OperationCall(desk_, target).run();
-        return;
-    case Task::Doctor: {
-        Doctor doctor(desk_, found_);
-        doctor.lookAtProgram();
-        return doctor.lookAtRobots();
-    }
+        return OperationCall(desk_, target).run();
+    case Task::Doctor:
+        return Doctor(desk_, found_).lookAtRobot(target);
     }
 }
 
@@ -177,6 +201,8 @@ int ConsoleProgram::concluded() {
 }
 
 void ConsoleProgram::tellEnd(int code) {
+    if (world_.relay)
+        return world_.relay(relayLine({.kind = Relayed::Kind::End, .code = code}));
     const auto number = [this](ItemEnd end) {
         return static_cast<std::int64_t>(tally_.count(end));
     };
@@ -190,6 +216,8 @@ void ConsoleProgram::tellEnd(int code) {
 
 int runConsole(const std::vector<std::string>& arguments, const ConsoleWorld& world) {
     const ParsedArguments parsed = parseArguments(arguments);
+    if (parsed.request && !parsed.request->relay.empty() && !world.relay)
+        return runConsole(arguments, relayingWorld(world));
     Report report(world.output, world.messages, parsed.json);
     if (parsed.isHelp) {
         report.text(parsed.text);
@@ -200,6 +228,8 @@ int runConsole(const std::vector<std::string>& arguments, const ConsoleWorld& wo
     try {
         return ConsoleProgram(*parsed.request, world, report).run();
     } catch (const std::exception& error) {
+        if (world.relay) // whoever has started this process finds no end and says so
+            throw;
         return unexpectedEnd(*parsed.request, error, report);
     }
 }

@@ -27,7 +27,9 @@ class ConsoleProgram {
     int readLanguage();
     void placeFiles();
     void readSettings();
+    int keepOwnRobot();
     void perform();
+    void performOn(const Target& target);
     int concluded();
     void tellEnd(int code);
 

@@ -16,6 +16,8 @@ struct ConsoleWorld {
     std::string workingFolder; ///< what relative folders of the arguments start from
     TextSink output;
     TextSink messages;
+    TextSink relay = {};        ///< to the process that has started this one for a robot
+    std::string program = {};   ///< this program's own file, absolute: it starts itself for a robot
     bool showsProgress = false; ///< the messages go to a terminal
     /// The next line that somebody types; without this nobody can be asked.
     std::function<std::optional<std::string>()> readLine = {};

@@ -6,6 +6,7 @@
 #include "base/PathRules.h"
 #include "console/ConsoleMessages.h"
 #include "lang/SystemReasons.h"
+#include "link/SessionErrorRecord.h"
 #include "platform/Environment.h"
 #include "platform/Files.h"
 #include "platform/TextEncoding.h"
@@ -30,6 +31,13 @@ constexpr std::array<Step, ConnectionTest::stepCount> steps{{
     {ConnectionTest::Answer, "answer", exit_code::nothingDone},
     {ConnectionTest::End, "close", exit_code::nothingDone},
 }};
+
+/// `fault` is the code of the link, where it is that which has failed.
+int causeOf(const Step& step, std::int16_t fault) {
+    if (fault == session_code::machineInUse)
+        return exit_code::inUse;
+    return fault == session_code::machineNotHeld ? exit_code::nothingDone : step.cause;
+}
 
 } // namespace
 
@@ -89,11 +97,6 @@ void Doctor::lookAtLibrary() {
     report(check, exit_code::noLibrary);
 }
 
-void Doctor::lookAtRobots() {
-    for (const Target& target : desk_.targets.targets)
-        lookAtRobot(target);
-}
-
 /// The window's own connection test, a line for each step as it ends.
 void Doctor::lookAtRobot(const Target& target) {
     MachineDesk machine(desk_, target);
@@ -122,7 +125,7 @@ void Doctor::lookAtRobot(const Target& target) {
         desk_.tally.add(ItemEnd::Done);
     else
         check.detail = test.caption(failed->place) + ": " + test.outcome(failed->place);
-    report(check, check.works ? exit_code::allDone : failed->cause);
+    report(check, check.works ? exit_code::allDone : causeOf(*failed, test.linkFault()));
 }
 
 void Doctor::reportStep(const std::string& robot, const ConnectionTest& test, std::size_t step) {

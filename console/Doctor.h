@@ -21,8 +21,7 @@ class Doctor {
     Doctor(Desk& desk, Findings findings) : desk_(desk), found_(std::move(findings)) {}
 
     void lookAtProgram();
-    /// Each of the request's machines.
-    void lookAtRobots();
+    void lookAtRobot(const Target& target);
 
   private:
     struct Check {
@@ -35,7 +34,6 @@ class Doctor {
     };
 
     void lookAtLibrary();
-    void lookAtRobot(const Target& target);
     void reportStep(const std::string& robot, const ConnectionTest& test, std::size_t step);
     void report(const Check& check, int cause = exit_code::nothingDone);
     std::string text(std::int32_t number) const;

@@ -181,6 +181,20 @@ void addDirection(CLI::App& into) {
     direction.require_option(1);
 }
 
+void addProcesses(CLI::App& into, Request& request) {
+    constexpr int mostAtOnce = 64;
+    constexpr int aDay = 86400; // seconds
+    into.add_option("--parallel", request.parallel,
+                    "Work with so many robots at a time, each in a process of its own")
+        ->check(CLI::Range(1, mostAtOnce))
+        ->option_text("NUMBER");
+    into.add_option("--timeout", request.timeout,
+                    "End the work with a robot that takes longer than so many seconds")
+        ->check(CLI::Range(1, aDay))
+        ->option_text("SECONDS");
+    into.add_option("--relay", request.relay)->group(""); // for this program's own use
+}
+
 void addCommand(CLI::App& app, const Command& command, Request& request) {
     CLI::App& into = *app.add_subcommand(command.word, command.purpose);
     into.allow_windows_style_options(false);
@@ -188,6 +202,7 @@ void addCommand(CLI::App& app, const Command& command, Request& request) {
     into.add_option("--lang", request.language, "The language of the texts, by its file's name")
         ->option_text("NAME");
     addMachine(into, request);
+    addProcesses(into, request);
     addManners(into, command.features, request);
     if (command.task == Task::Robots)
         into.add_flag("--check", request.check, "Connect to each of them");
@@ -213,6 +228,8 @@ const char* contradiction(const Request& request) {
     const bool isSerial = request.port || request.mode == TransferMode::Bsc;
     if (isSerial && (request.robots.size() > 1 || request.allRobots))
         return "a serial port has one robot at its end";
+    if (request.usesProcesses() && request.overwrite == OverwritePolicy::Ask)
+        return "--overwrite ask does not go with --parallel and --timeout: nobody could answer";
     if (request.task == Task::PutVariables && request.overwrite != OverwritePolicy::Never)
         return "--overwrite does not go with variables that are sent: each has a value to replace";
     if (request.task == Task::GetVariables && request.keepGoing)
@@ -248,6 +265,7 @@ ParsedArguments parseArguments(const std::vector<std::string>& arguments) {
         parsed.text = text;
     else if (request.task == Task::Call)
         parsed.text = callRefusal(request.names, request.overwrite);
+    request.arguments = arguments;
     if (parsed.text.empty())
         parsed.request = std::move(request);
     return parsed;

@@ -43,6 +43,18 @@ struct Request {
     bool dryRun = false;
     bool check = false;
     bool json = false;
+    std::optional<std::int32_t> parallel; ///< how many robots at a time, each in its own process
+    std::optional<std::int32_t> timeout;  ///< seconds that a robot's process may take
+    /// The one machine of this process, which another one has started for it, as that one names it.
+    std::string relay;
+    std::vector<std::string> arguments; ///< all of it, as it was given
+
+    bool usesProcesses() const { return parallel || timeout; }
+    /// Whether it may write into the PC folder.
+    bool receives() const {
+        return task == Task::Get || task == Task::GetVariables || task == Task::GetJobs ||
+               task == Task::Call;
+    }
 };
 
 /// A request, or the text to show in place of one.

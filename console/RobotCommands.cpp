@@ -21,6 +21,8 @@ void listRobot(Desk& desk, const RobotRecord& robot, bool isInForce) {
                       {"in_force", isInForce}});
 }
 
+} // namespace
+
 void checkRobot(Desk& desk, const Target& target) {
     MachineDesk machine(desk, target);
     const bool isReached = !desk.world.isInterrupted() && machine.readController();
@@ -40,7 +42,7 @@ void checkRobot(Desk& desk, const Target& target) {
                       {"reason", reason}});
 }
 
-void listTarget(Desk& desk, const Target& target) {
+void listFiles(Desk& desk, const Target& target) {
     MachineDesk machine(desk, target);
     const bool isCalledOff = desk.world.isInterrupted();
     if (isCalledOff || !machine.readController()) {
@@ -55,20 +57,13 @@ void listTarget(Desk& desk, const Target& target) {
     const PaneRows& rows = std::as_const(machine.panes).rows(ActiveSide::Controller);
     for (std::size_t row = 0; row < rows.size(); ++row) {
         std::vector<std::string> cells{rows.name(row)};
-        if (desk.targets.targets.size() > 1)
+        if (desk.targets.areSeveral)
             cells.insert(cells.begin(), machine.name());
         desk.report.line(cells, "entry", {{"robot", machine.name()}, {"name", rows.name(row)}});
     }
 }
 
-} // namespace
-
 void listRobots(Desk& desk) {
-    if (desk.request.check) {
-        for (const Target& target : desk.targets.targets)
-            checkRobot(desk, target);
-        return;
-    }
     const ApplicationState& state = desk.engine.state;
     // A serial line has no robots of its own: those of the registry are what is asked for.
     if (isSerial(desk)) {
@@ -79,11 +74,6 @@ void listRobots(Desk& desk) {
     }
     for (const Target& target : desk.targets.targets)
         listRobot(desk, target.robot, target.index == state.CurrentRobotIndex);
-}
-
-void listFiles(Desk& desk) {
-    for (const Target& target : desk.targets.targets)
-        listTarget(desk, target);
 }
 
 } // namespace vantrel

@@ -4,10 +4,12 @@
 
 namespace vantrel {
 
-/// `robots`: the registered robots, and with `--check` whether each can be reached.
+/// `robots`: the registered robots.
 void listRobots(Desk& desk);
+/// `robots --check`: whether this one can be reached.
+void checkRobot(Desk& desk, const Target& target);
 
-/// `list`: the files that each controller of the request shows.
-void listFiles(Desk& desk);
+/// `list`: the files that this controller shows.
+void listFiles(Desk& desk, const Target& target);
 
 } // namespace vantrel

@@ -8,6 +8,8 @@ void Tally::add(ItemEnd end, int cause) {
     ++counts_[static_cast<std::size_t>(end)];
     if (end != ItemEnd::Done && cause != exit_code::nothingDone)
         causes_.insert(cause);
+    if (onAdded)
+        onAdded(end, cause);
 }
 
 int Tally::exitCode() const {

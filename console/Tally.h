@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <set>
 
 namespace vantrel {
@@ -28,6 +29,8 @@ class Tally {
     /// `cause` is the exit code that says best why it was not done.
     void add(ItemEnd end, int cause = exit_code::nothingDone);
     void interrupt() { interrupted_ = true; }
+    /// Called with each item that is added.
+    std::function<void(ItemEnd end, int cause)> onAdded;
 
     std::size_t count(ItemEnd end) const { return counts_[static_cast<std::size_t>(end)]; }
     int exitCode() const;

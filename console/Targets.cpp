@@ -164,6 +164,12 @@ Result<Targets> chooseTargets(const Request& request, const ApplicationState& st
     return Choice(request, state, workingFolder, messages).choose();
 }
 
+std::string relayName(const Targets& targets, const Target& target) {
+    const std::string way = targets.mode == TransferMode::Bsc ? "COM" + std::to_string(targets.port)
+                                                              : target.robot.IPaddr;
+    return std::to_string(target.index) + "|" + way + "|" + target.robot.Name + "|" + target.folder;
+}
+
 void putInForce(const Targets& targets, const Target& target, ApplicationState& state) {
     state.TransMode = targets.mode;
     state.Port = targets.port;

@@ -24,6 +24,7 @@ struct Targets {
     TransferMode mode = TransferMode::Bsc;
     std::int16_t port = 1;
     std::vector<Target> targets;
+    bool areSeveral = false; ///< as they were meant, whichever of them are left
 };
 
 /// By the request and, where it is silent, by the settings and robots in `state`. Fails, with words
@@ -31,6 +32,9 @@ struct Targets {
 /// `workingFolder` is what a relative folder of the request starts from.
 Result<Targets> chooseTargets(const Request& request, const ApplicationState& state,
                               const std::string& workingFolder, const MessageTable& messages);
+
+/// What tells a machine from every other one of a request, in a text for another process.
+std::string relayName(const Targets& targets, const Target& target);
 
 /// Makes it the machine in force, with its folder.
 void putInForce(const Targets& targets, const Target& target, ApplicationState& state);

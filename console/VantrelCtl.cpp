@@ -35,6 +35,7 @@ int run(const std::vector<std::string>& arguments, Written& output, Written& mes
                        .workingFolder = currentFolder(),
                        .output = std::ref(output),
                        .messages = std::ref(messages),
+                       .program = executablePath(),
                        .showsProgress = messages.isTerminal(),
                        .isInterrupted = Interruption::isWanted,
                        .window = unseenWindow};

@@ -111,6 +111,11 @@ MachineUse::~MachineUse() {
     letGo();
 }
 
+bool MachineUse::isSameAddress(const std::string& one, const std::string& other) {
+    return fileNameOf({TransferMode::HispeedLink, 0, one}) ==
+           fileNameOf({TransferMode::HispeedLink, 0, other});
+}
+
 void MachineUse::end() {
     if (--commands_ == 0)
         letGo();

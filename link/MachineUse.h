@@ -76,6 +76,9 @@ class MachineUse {
     MachineUse(const MachineUse&) = delete;
     MachineUse& operator=(const MachineUse&) = delete;
 
+    /// Whether both lead to one machine.
+    static bool isSameAddress(const std::string& one, const std::string& other);
+
     void begin() { ++commands_; }
     void end();
     /// To be called while a command runs. A machine that this program has taken already is taken.

@@ -15,9 +15,9 @@ constexpr std::array<std::string_view, functionCount> functionNames = {
     "BscClose",     "BscFindFirst", "BscFindNext",   "BscDownLoad",  "BscUpLoad",
     "BscSelectJob", "BscDeleteJob", "BscGetVarData", "BscPutVarData"};
 
-/// The words of a row; a row of the longest kind has five.
+/// The words of a row; a row of the longest kind has six.
 std::vector<std::string_view> words(std::string_view row) {
-    constexpr std::size_t enoughToRefuse = 6;
+    constexpr std::size_t enoughToRefuse = 7;
     std::vector<std::string_view> found;
     constexpr std::string_view blanks = " \t";
     auto start = row.find_first_not_of(blanks);
@@ -86,6 +86,8 @@ std::optional<Disturbance> disturbance(Function function, std::string_view verb,
         return Disturbance{Disturbance::Kind::Nothing, 0, 0, {}};
     if (equalsIgnoringAsciiCase(verb, "cut") && isTransfer(function))
         return cut(operands);
+    if (equalsIgnoringAsciiCase(verb, "crash") && operands.empty())
+        return Disturbance{Disturbance::Kind::Crash, 0, 0, {}};
     return std::nullopt;
 }
 
@@ -93,6 +95,11 @@ std::optional<Disturbance> disturbance(Function function, std::string_view verb,
 
 std::optional<Script::Row> Script::parse(std::string_view text) {
     auto parts = words(text);
+    std::string line;
+    if (!parts.empty() && parts[0].starts_with('@')) {
+        line = parts[0].substr(1);
+        parts.erase(parts.begin());
+    }
     if (parts.size() < 3)
         return std::nullopt;
     const auto function = functionNamed(parts[0]);
@@ -104,7 +111,7 @@ std::optional<Script::Row> Script::parse(std::string_view text) {
     const auto what = disturbance(*function, parts[2], {parts.begin() + 3, parts.end()});
     if (!what)
         return std::nullopt;
-    return Row{*function, *call, andLater, *what};
+    return Row{*function, *call, andLater, *what, std::move(line)};
 }
 
 bool Script::addRow(std::string_view text) {
@@ -114,12 +121,15 @@ bool Script::addRow(std::string_view text) {
     return row.has_value();
 }
 
-Disturbance Script::next(Function function) {
-    const auto call = ++calls_[static_cast<std::size_t>(function)];
+Disturbance Script::next(Function function, std::string_view line) {
+    const auto callOfAll = ++calls_[static_cast<std::size_t>(function)];
     Disturbance result;
     std::chrono::milliseconds delay{};
-    for (const auto& row : rows_) {
-        if (row.function != function || (row.andLater ? call < row.call : call != row.call))
+    for (auto& row : rows_) {
+        if (row.function != function || (!row.line.empty() && row.line != line))
+            continue;
+        const auto call = row.line.empty() ? callOfAll : ++row.callsOnLine;
+        if (row.andLater ? call < row.call : call != row.call)
             continue;
         delay = std::min(delay + row.disturbance.delay, longestDelay);
         if (result.kind == Disturbance::Kind::None)

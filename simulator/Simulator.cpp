@@ -7,6 +7,7 @@
 #include "simulator/ResultCodes.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace vantrel::simulator {
 
@@ -39,6 +40,8 @@ std::int16_t writeEntry(Link& link, char* buffer, std::int16_t length) {
     ++link.nextEntry;
     return code::done;
 }
+
+constexpr int crashed = 99; ///< what the process's end says
 
 TransferLimit limitOf(const Disturbance& disturbance) {
     const bool isCut = disturbance.kind == Disturbance::Kind::Cut;
@@ -80,10 +83,13 @@ void Simulator::readSettings() {
 }
 
 template <typename Action>
-std::int16_t Simulator::scripted(Function function, std::int16_t success, Action action) {
-    const auto disturbance = script_.next(function);
+std::int16_t Simulator::scripted(Function function, std::int16_t success, Action action,
+                                 const std::string& line) {
+    const auto disturbance = script_.next(function, line);
     if (disturbance.delay.count() > 0)
         pause_(disturbance.delay);
+    if (disturbance.kind == Disturbance::Kind::Crash)
+        std::_Exit(crashed);
     if (disturbance.kind == Disturbance::Kind::Fail)
         return disturbance.code;
     if (disturbance.kind == Disturbance::Kind::Nothing)
@@ -94,14 +100,24 @@ std::int16_t Simulator::scripted(Function function, std::int16_t success, Action
 template <typename Action>
 std::int16_t Simulator::onLink(Function function, std::int16_t success, std::int16_t handle,
                                Needs needs, Action action) {
-    return scripted(function, success, [&](const Disturbance& disturbance) -> std::int16_t {
+    const auto act = [&](const Disturbance& disturbance) -> std::int16_t {
         auto* link = links_.find(handle);
         if (link == nullptr)
             return code::handleInvalid;
         if (link->controller.has_value() != (needs == Needs::Connected))
             return link->controller ? code::refused : code::notConnected;
         return action(*link, disturbance);
-    });
+    };
+    return scripted(function, success, act, lineOf(handle));
+}
+
+std::string Simulator::lineOf(std::int16_t handle) {
+    const auto* link = links_.find(handle);
+    if (link == nullptr || !link->line)
+        return {};
+    if (const auto* serial = std::get_if<SerialLine>(&*link->line))
+        return "COM" + std::to_string(serial->port);
+    return std::get<EthernetLine>(*link->line).address;
 }
 
 std::int16_t Simulator::BscOpen(const char* path, std::int16_t type) {

@@ -46,7 +46,9 @@ class Simulator {
     void readSettings();
     /// Counts the call, does what the script wants done to it, and else runs `action(disturbance)`.
     template <typename Action>
-    std::int16_t scripted(Function function, std::int16_t success, Action action);
+    std::int16_t scripted(Function function, std::int16_t success, Action action,
+                          const std::string& line = {});
+    std::string lineOf(std::int16_t handle);
     /// The same with the link of the handle: `action(link, disturbance)`.
     template <typename Action>
     std::int16_t onLink(Function function, std::int16_t success, std::int16_t handle, Needs needs,

@@ -104,6 +104,8 @@ std::string ConnectionTest::placeFault() const {
 
 void ConnectionTest::linkStepEnded(const LinkTestStep& step) {
     const auto& fault = step.fault;
+    if (fault)
+        linkFault_ = fault->code;
     end(stepOf(step.kind),
         fault ? functionAndReason(fault->function, fault->code, fault->text) : std::string());
     const bool hasLink = step.kind != LinkTestStep::Kind::Open || !fault;

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -62,6 +63,8 @@ class ConnectionTest {
     }
     /// Whether a step has ended, and well.
     bool isDone(std::size_t step) const { return states_.at(step) == State::Done; }
+    /// The code of the link's step that has failed, or 0.
+    std::int16_t linkFault() const { return linkFault_; }
     /// All of it, a line for each step.
     std::string text() const;
 
@@ -79,6 +82,7 @@ class ConnectionTest {
     std::function<void()> changed_;
     std::array<State, stepCount> states_{};
     std::array<std::string, stepCount> faults_;
+    std::int16_t linkFault_ = 0;
 };
 
 } // namespace vantrel

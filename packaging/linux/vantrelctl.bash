@@ -17,7 +17,7 @@ _vantrelctl() {
         [ ${#COMPREPLY[@]} -eq 0 ] || mapfile -t COMPREPLY < <(printf '%q\n' "${COMPREPLY[@]}")
         return
         ;;
-    --port | --address) return ;;
+    --port | --address | --parallel | --timeout) return ;;
     esac
     if [ -n "$choices" ]; then
         mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$word")
@@ -27,7 +27,7 @@ _vantrelctl() {
         mapfile -t COMPREPLY < <(compgen -W 'robots list get put delete get-vars put-vars jobs-run vars-run call doctor --help' -- "$word")
         return
     fi
-    choices='--help --json --lang --robot --all-robots --mode --port --address'
+    choices='--help --json --lang --robot --all-robots --mode --port --address --parallel --timeout'
     case $command in
     robots) choices+=' --check' ;;
     get | put) choices+=' --folder --keep-going --dry-run --overwrite' ;;

@@ -24,6 +24,21 @@ std::string refused(const std::vector<std::string>& arguments) {
     return parsed.text;
 }
 
+TEST(Request, SeveralRobotsAtATimeAreProcesses) {
+    EXPECT_FALSE(understood({"list"}).usesProcesses());
+    EXPECT_EQ(understood({"list", "--all-robots", "--parallel", "8"}).parallel, 8);
+    EXPECT_EQ(understood({"get", "A.JBI", "--timeout=30"}).timeout, 30);
+    EXPECT_TRUE(understood({"get", "A.JBI", "--timeout=30"}).usesProcesses());
+    refused({"list", "--parallel", "0"});
+    refused({"list", "--parallel", "many"});
+    refused({"list", "--timeout", "-1"});
+    EXPECT_THAT(refused({"get", "A.JBI", "--parallel", "2", "--overwrite", "ask"}),
+                HasSubstr("nobody could answer"));
+    EXPECT_THAT(refused({"get", "A.JBI", "--timeout", "2", "--overwrite", "ask"}),
+                HasSubstr("nobody could answer"));
+    EXPECT_EQ(parseArguments({"list", "--help"}).text.find("relay"), std::string::npos);
+}
+
 TEST(Request, WhatIsNotSaidIsTheSafeWay) {
     const Request request = understood({"get", "MAIN.JBI"});
     EXPECT_EQ(request.task, Task::Get);

@@ -114,14 +114,13 @@ TEST_F(VantrelCtlTest, AFileThatIsCutOffIsAFailureAndLeavesNoHalfOne) {
 }
 
 TEST_F(VantrelCtlTest, AMachineIsOneProgramsUntilItEndsOrCrashes) {
-    simulated_.script("1=BscFindNext 1 slow 60000\n");
+    simulated_.script("1=@10.0.0.1 BscFindNext 1 slow 60000\n");
     auto first = ChildProcess::start(
         {.program = program_, .arguments = {"get", "OWN.JBI"}, .folder = folder_.path()});
     ASSERT_TRUE(first) << first.reason();
     while (!folder_.has("locks/hispeed-10.0.0.1.lock") ||
            folder_.read("locks/hispeed-10.0.0.1.lock").find("process=") == std::string::npos)
         std::this_thread::yield();
-    simulated_.script("");
     EXPECT_EQ(run("list"), 11);
     EXPECT_THAT(messages_, AllOf(HasSubstr("vantrelctl get"), HasSubstr(userName())));
     EXPECT_EQ(run("get OWN.JBI --json"), 11);
@@ -129,6 +128,7 @@ TEST_F(VantrelCtlTest, AMachineIsOneProgramsUntilItEndsOrCrashes) {
     EXPECT_EQ(run("list --robot LINE2"), 0);
     first->kill();
     EXPECT_EQ(first->exitCode(), std::nullopt);
+    simulated_.script("");
     EXPECT_EQ(run("list"), 0);
     EXPECT_FALSE(folder_.has("locks/hispeed-10.0.0.1.lock"));
 }

@@ -116,6 +116,17 @@ TEST(Script, AddsUpDelaysAndTakesTheFirstOfTheRest) {
     EXPECT_EQ(disturbance.code, 3010);
 }
 
+TEST(Script, ARowOfOneLineCountsItsCallsAlone) {
+    Script script;
+    EXPECT_TRUE(script.addRow("@10.0.0.2 BscUpLoad 2 fail 5"));
+    EXPECT_TRUE(script.addRow("@COM1 BscUpLoad 1 crash"));
+    EXPECT_EQ(script.next(Function::BscUpLoad, "10.0.0.1").kind, Disturbance::Kind::None);
+    EXPECT_EQ(script.next(Function::BscUpLoad, "10.0.0.2").kind, Disturbance::Kind::None);
+    EXPECT_EQ(script.next(Function::BscUpLoad).kind, Disturbance::Kind::None);
+    EXPECT_EQ(script.next(Function::BscUpLoad, "10.0.0.2").code, 5);
+    EXPECT_EQ(script.next(Function::BscUpLoad, "COM1").kind, Disturbance::Kind::Crash);
+}
+
 TEST(Script, HoldsDelaysToAMinute) {
     Script script;
     script.addRow("BscUpLoad 1+ slow 4294967295");
