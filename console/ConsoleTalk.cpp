@@ -44,7 +44,7 @@ bool ConsoleTalk::askOkCancel(const std::string& text, BoxIcon icon) {
 
 // Asked before files leave the folder of another robot, and before values of a list are replaced.
 bool ConsoleTalk::askYesNo(const std::string& text, BoxIcon icon) {
-    if (policy_.overwrite == OverwritePolicy::Ask && policy_.readLine)
+    if (!policy_.saysYes && policy_.overwrite == OverwritePolicy::Ask && policy_.readLine)
         return typedAnswer(text, 2) == Answer::Yes;
     tell(text, icon);
     return policy_.saysYes;
@@ -78,8 +78,10 @@ Answer ConsoleTalk::deletionAnswer() {
 
 Answer ConsoleTalk::typedAnswer(const std::string& question, std::size_t offered) const {
     std::string hint;
-    for (const TypedAnswer& answer : std::span(answers).first(offered))
-        hint += (hint.empty() ? "[" : "  [") + std::string(answer.letter) + "] " + answer.word;
+    for (const TypedAnswer& answer : std::span(answers).first(offered)) {
+        hint += hint.empty() ? "[" : "  [";
+        hint.append(answer.letter).append("] ").append(answer.word);
+    }
     while (true) {
         report_.note(question + "\n" + hint);
         const auto line = policy_.readLine();

@@ -1,7 +1,7 @@
 #include "console/ListCommands.h"
 
 #include "app/lists/ListFileDraft.h"
-#include "app/lists/VariableValues.h"
+#include "app/lists/SessionLists.h"
 #include "app/start/Engine.h"
 #include "console/ConsoleMessages.h"
 #include "console/Replacement.h"
@@ -49,13 +49,6 @@ bool isForJobs(CommandKind kind) {
     return kind == CommandKind::SaveJobs || kind == CommandKind::LoadJobs;
 }
 
-std::vector<std::string> jobsOf(const Snappy& session) {
-    std::vector<std::string> names;
-    for (std::int32_t index = 0; index < session.JobListCount(); ++index)
-        names.push_back(session.JobList(index));
-    return names;
-}
-
 } // namespace
 
 ListCommands::ListCommands(Desk& desk, const Target& target)
@@ -95,7 +88,7 @@ bool ListCommands::readFile() {
     const std::string file = draft.completedName();
     std::vector<std::string> all;
     if (kind_ == CommandKind::LoadJobs && session.SetJobListFile(file, true))
-        all = jobsOf(session);
+        all = jobNames(session);
     draft.confirm();
     if (draft.result() != list_file_result::listRead) {
         const std::string& reason = session.systemReason();
@@ -104,7 +97,7 @@ bool ListCommands::readFile() {
                                      : reasonInLanguage(desk_.engine.messages, reason));
         return false;
     }
-    entries_ = isForJobs(kind_) ? jobsOf(session) : variablesOf(session);
+    entries_ = isForJobs(kind_) ? jobNames(session) : variablesOf(session);
     if (all.empty() && entries_.empty())
         items_.addAll({file}, ItemEnd::Failed, text(message::listFileEmpty) + bracketed(file));
     return leaveOutMissing(all) && !entries_.empty();

@@ -15,6 +15,7 @@ namespace {
 
 std::vector<SelectedItem> itemsOf(const std::vector<std::string>& names) {
     std::vector<SelectedItem> items;
+    items.reserve(names.size());
     for (const std::string& name : names)
         items.push_back({name, false});
     return items;

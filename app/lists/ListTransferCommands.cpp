@@ -1,7 +1,7 @@
 #include "app/lists/ListTransferCommands.h"
 
 #include "app/lists/SelectionList.h"
-#include "app/lists/VariableValues.h"
+#include "app/lists/SessionLists.h"
 #include "base/ApplicationState.h"
 #include "files/CommandScopes.h"
 #include "files/FolderOwner.h"
@@ -21,14 +21,6 @@
 namespace vantrel {
 
 namespace {
-
-std::vector<std::string> jobNames(const Snappy& session) {
-    std::vector<std::string> names;
-    names.reserve(std::size_t(session.JobListCount()));
-    for (std::int32_t index = 0; index < session.JobListCount(); ++index)
-        names.push_back(session.JobList(index));
-    return names;
-}
 
 std::vector<SelectedItem> jobsOf(const Snappy& session) {
     std::vector<SelectedItem> items;

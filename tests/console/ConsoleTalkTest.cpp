@@ -89,6 +89,13 @@ TEST_F(ConsoleTalkTest, SomebodyWhoSitsThereIsAskedYesOrNo) {
     EXPECT_EQ(messages_.find("[a]"), messages_.npos);
 }
 
+TEST_F(ConsoleTalkTest, WhatTheRequestHasAnsweredIsNotAskedAnyMore) {
+    AnswerPolicy policy = typing({"n"});
+    policy.saysYes = true;
+    EXPECT_TRUE(talk(policy).askYesNo("another robot's?", BoxIcon::Exclamation));
+    EXPECT_EQ(typed_.size(), 1u);
+}
+
 TEST_F(ConsoleTalkTest, AMissingFileIsToldAndTheListReadOn) {
     EXPECT_TRUE(talk({}).askOkCancel("missing", BoxIcon::Exclamation));
     EXPECT_EQ(messages_, "missing\n");

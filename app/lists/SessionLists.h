@@ -7,6 +7,9 @@ namespace vantrel {
 
 class Snappy;
 
+/// The session's job list.
+std::vector<std::string> jobNames(const Snappy& session);
+
 /// The entries of the session's variable list but for blank lines.
 std::vector<std::string> variablesOf(const Snappy& session);
 

@@ -1,10 +1,11 @@
-#include "app/lists/VariableValues.h"
+#include "app/lists/SessionLists.h"
 
 #include "base/Text.h"
 #include "link/Snappy.h"
 #include "link/VariableEntry.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <utility>
@@ -23,6 +24,14 @@ bool isSameVariable(const std::string& left, const std::string& right) {
 }
 
 } // namespace
+
+std::vector<std::string> jobNames(const Snappy& session) {
+    std::vector<std::string> names;
+    names.reserve(std::size_t(session.JobListCount()));
+    for (std::int32_t index = 0; index < session.JobListCount(); ++index)
+        names.push_back(session.JobList(index));
+    return names;
+}
 
 std::vector<std::string> variablesOf(const Snappy& session) {
     std::vector<std::string> entries;
