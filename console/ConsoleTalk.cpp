@@ -77,13 +77,14 @@ Answer ConsoleTalk::deletionAnswer() {
 }
 
 Answer ConsoleTalk::typedAnswer(const std::string& question, std::size_t offered) const {
-    std::string hint;
+    std::string asked = question + "\n";
+    const char* gap = "[";
     for (const TypedAnswer& answer : std::span(answers).first(offered)) {
-        hint += hint.empty() ? "[" : "  [";
-        hint.append(answer.letter).append("] ").append(answer.word);
+        asked.append(gap).append(answer.letter).append("] ").append(answer.word);
+        gap = "  [";
     }
     while (true) {
-        report_.note(question + "\n" + hint);
+        report_.note(asked);
         const auto line = policy_.readLine();
         if (!line)
             return Answer::Cancel;

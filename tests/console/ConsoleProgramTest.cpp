@@ -55,6 +55,14 @@ TEST_F(ConsoleProgramTest, AMachineThatAnotherProgramWorksWithIsInUse) {
     EXPECT_EQ(run({"get", "OWN.JBI", "SUB1.JBI"}), 11);
     EXPECT_THAT(output_, HasSubstr("10.0.0.1 is in use by Vantrel"));
     EXPECT_EQ(run({"doctor", "--robot", "first"}), 11);
+    program_.write("one/V.lst", "B001=5\r\nB002=6\r\n");
+    EXPECT_EQ(run({"put-vars", "V.lst", "--keep-going"}), 11);
+    EXPECT_EQ(run({"get-vars", "V.lst", "--overwrite", "always"}), 11);
+    EXPECT_EQ(program_.read("one/V.lst"), "B001=5\r\nB002=6\r\n");
+    program_.write("one/L.lst", "SUB1.JBI\r\n");
+    EXPECT_EQ(run({"jobs-run", "L.lst", "--receive"}), 11);
+    EXPECT_EQ(run({"call", "JobDelete", "OWN.JBI"}), 11);
+    EXPECT_THAT(output_, HasSubstr("10.0.0.1 is in use by Vantrel"));
     EXPECT_EQ(library_.callCount(), 0);
     EXPECT_EQ(run({"list", "--all-robots"}), 3) << "the other robot is free";
 }
