@@ -136,8 +136,9 @@ TEST_F(PCFileCommandsTest, LetterCaseAloneCanBeChanged) {
     EXPECT_THAT(boxes.texts(), IsEmpty());
     EXPECT_EQ(pc.read("WELD.JBI"), job("weld"));
     // Where letter case tells no names apart the old spelling may stay.
-    if (comparedName("a") != comparedName("A"))
+    if (comparedName("a") != comparedName("A")) {
         EXPECT_THAT(window.pc.names, ElementsAre("WELD.JBI"));
+    }
 }
 
 TEST_F(PCFileCommandsTest, OfAFolderTheWholeNameIsReplacedByTyping) {
