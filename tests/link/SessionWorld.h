@@ -12,6 +12,7 @@
 #include "support/ScriptedQuestionWindow.h"
 #include "support/TemporaryFolder.h"
 
+#include <bit>
 #include <cstdint>
 #include <initializer_list>
 #include <memory>
@@ -77,7 +78,7 @@ class SessionWorld {
                    program.path(),
                    [this] {
                        ++dummyWindowsAsked;
-                       return reinterpret_cast<void*>(std::uintptr_t{77});
+                       return std::bit_cast<void*>(std::uintptr_t{77});
                    },
                    [this] { ++windowsUnloaded; },
                    [this] { ++modeChanges; }} {
