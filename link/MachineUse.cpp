@@ -104,8 +104,10 @@ std::string shownUser(const MessageTable& messages, const MachineUser& user) {
 
 MachineUse::MachineUse(std::string programFolder, std::string program, std::string command,
                        bool isStrict)
-    : folder_(PathRules().join(programFolder, "locks")), program_(std::move(program)),
-      command_(std::move(command)), isStrict_(isStrict) {}
+    : folder_(std::move(programFolder)), program_(std::move(program)), command_(std::move(command)),
+      isStrict_(isStrict) {
+    folder_ = PathRules().join(folder_, "locks");
+}
 
 MachineUse::~MachineUse() {
     letGo();

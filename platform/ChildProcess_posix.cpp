@@ -128,6 +128,7 @@ Result<ChildProcess> ChildProcess::start(const Start& start) {
 
 void ChildProcess::wait(std::span<ChildProcess* const> children, std::chrono::milliseconds atMost) {
     std::vector<pollfd> watched;
+    watched.reserve(children.size());
     for (const ChildProcess* child : children)
         watched.push_back({child->running_->output.number(), POLLIN, 0});
     static_cast<void>(::poll(watched.data(), watched.size(), static_cast<int>(atMost.count())));

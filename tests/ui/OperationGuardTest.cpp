@@ -57,6 +57,20 @@ class OperationGuardTest : public testing::Test {
     int reachedOther = 0;
 };
 
+TEST_F(OperationGuardTest, TellsOfTheBeginningAndTheEndOfNestedOperationsOnce) {
+    std::string told;
+    guard.onBegun = [&told] { told += "begun "; };
+    guard.onEnded = [&told] { told += "ended "; };
+    guard.lock();
+    guard.lock();
+    guard.unlock();
+    EXPECT_EQ(told, "begun ");
+    guard.unlock();
+    EXPECT_EQ(told, "begun ended ");
+    guard.unlock();
+    EXPECT_EQ(told, "begun ended ") << "nothing was left to end";
+}
+
 TEST_F(OperationGuardTest, LetsEverythingThroughWhileNothingRuns) {
     doEverything(*window, inside);
     EXPECT_EQ(reached, 5);
