@@ -2,6 +2,7 @@
 
 #include "base/ApplicationState.h"
 #include "base/PathRules.h"
+#include "files/AmbiguousNames.h"
 #include "files/CommandScopes.h"
 #include "files/ControllerPlace.h"
 #include "files/TransferReports.h"
@@ -45,6 +46,9 @@ class PeekFolder {
 } // namespace
 
 std::optional<std::string> peekAtController(const TransferServices& with, const std::string& name) {
+    // The other one of that name could come.
+    if (withoutAmbiguousNames(with, {{name, false}}).empty())
+        return std::nullopt;
     const TransferReports reports(with);
     const auto notShown = [&](const std::string& reason) {
         reports.aboutFile(name, message::notViewed, reason);

@@ -39,6 +39,9 @@ void CopyIntoFolder::take(const std::string& path) {
         return reports.aboutFile(name, message::fetchNotFinished);
     if (!mayTakePlace(name))
         return;
+    // A fetch may have begun while the question was open.
+    if (isBeingFetched(with_.state.PCPath, name))
+        return reports.aboutFile(name, message::fetchNotFinished);
     const auto content = readSettledFile(path);
     const Outcome copied = content ? replaceFile(rules.join(with_.state.PCPath, name), *content)
                                    : Outcome(Failure{content.reason()});

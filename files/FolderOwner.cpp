@@ -10,7 +10,6 @@
 #include "link/ShownText.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace vantrel {
 namespace {
@@ -30,17 +29,18 @@ std::string otherOwnerOfPCFolder(const ApplicationState& state, const PathRules&
     if (state.TransMode == TransferMode::Bsc)
         return {};
     const std::string shown = comparedFolder(state.PCPath, rules);
-    std::vector<std::size_t> owners;
+    std::string owners;
     for (std::size_t index = 0; index < state.RobotList.size(); ++index) {
         const RobotRecord& robot = state.RobotList[index];
         if (robot.Name == endOfRobots)
             break;
-        if (comparedFolder(robot.Path, rules) == shown)
-            owners.push_back(index);
+        if (comparedFolder(robot.Path, rules) != shown)
+            continue;
+        if (index == static_cast<std::size_t>(state.CurrentRobotIndex))
+            return {};
+        owners += (owners.empty() ? "" : ", ") + robot.Name;
     }
-    const bool isOther =
-        owners.size() == 1 && owners.front() != static_cast<std::size_t>(state.CurrentRobotIndex);
-    return isOther ? state.RobotList[owners.front()].Name : std::string();
+    return owners;
 }
 
 namespace {

@@ -7,9 +7,8 @@
 
 namespace vantrel {
 
-/// The robot that the PC folder is registered for, when that is another one than the robot in
-/// force; else empty. A folder of several robots is nobody's, and neither is one of the robot in
-/// force; over the serial line nobody knows which robot is at its end.
+/// The robots that the PC folder is registered for, when the robot in force is none of them; else
+/// empty. Over the serial line nobody knows which robot is at its end.
 std::string otherOwnerOfPCFolder(const ApplicationState& state,
                                  const PathRules& rules = PathRules());
 

@@ -1,13 +1,12 @@
 #include "ui/PaneDrag.h"
 
 #include "ui/OperationGuard.h"
+#include "ui/dialogs/DialogBasics.h"
 #include "ui/look/WxText.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <wx/dataobj.h>
-#include <wx/dialog.h>
 #include <wx/dnd.h>
 #include <wx/window.h>
 
@@ -106,11 +105,7 @@ bool PaneDrag::accepts(ActiveSide target) const {
 /// Some systems let a drop through to a window whose dialog waits for an answer, which was asked
 /// about what the window shows.
 bool PaneDrag::acceptsFiles(ActiveSide target) const {
-    const bool isDialogOpen = std::ranges::any_of(wxTopLevelWindows, [](wxWindow* window) {
-        const auto* const dialog = dynamic_cast<wxDialog*>(window);
-        return dialog && dialog->IsModal();
-    });
-    return !source_ && target == ActiveSide::PC && !guard_.isLocked() && !isDialogOpen;
+    return !source_ && target == ActiveSide::PC && !guard_.isLocked() && !isDialogOpen();
 }
 
 bool PaneDrag::dropFiles(ActiveSide target, const std::vector<std::string>& paths) {

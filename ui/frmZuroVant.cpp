@@ -22,12 +22,13 @@
 #include "ui/PathDisplay.h"
 #include "ui/QuickFilter.h"
 #include "ui/ViewerSearch.h"
+#include "ui/dialogs/DialogBasics.h"
 #include "ui/look/IconSet.h"
 #include "ui/look/SystemLook.h"
 #include "ui/look/WindowFont.h"
 #include "ui/look/WxText.h"
 
-#include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <utility>
 
@@ -215,8 +216,15 @@ void frmZuroVant::watchPCFolder() {
     Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
         // Rows do not move below a pointer that is about to choose one.
         const bool isPointing = drag_.isDragging() || wxGetMouseState().LeftIsDown();
-        if (IsShownOnScreen() && !IsIconized() && !isPointing)
-            lookForChanges_(false);
+        const auto begin = std::chrono::steady_clock::now();
+        // What is found may have to be told, and nobody answers a box that opens over another one.
+        if (!IsShownOnScreen() || IsIconized() || isPointing || isDialogOpen() || begin < nextLook_)
+            return;
+        lookForChanges_(false);
+        // A folder that takes long and changes all the time leaves room for work.
+        constexpr int restPerLook = 20;
+        const auto end = std::chrono::steady_clock::now();
+        nextLook_ = end + restPerLook * (end - begin);
     });
     // Editors change a file in place, which the folder's own date does not tell; whoever has worked
     // in one comes back to this window.

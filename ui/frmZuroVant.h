@@ -13,6 +13,7 @@
 #include "ui/WindowPlace.h"
 
 #include <array>
+#include <chrono>
 #include <functional>
 #include <span>
 #include <string>
@@ -122,6 +123,7 @@ class frmZuroVant : public wxFrame,
     std::function<void()> updateStates_ = [] {};
     std::function<void(bool closely)> lookForChanges_ = [](bool) {};
     wxTimer watch_{this};
+    std::chrono::steady_clock::time_point nextLook_{}; ///< not before
     bool wasLeft_ = false; ///< for another program, since it was looked for changes closely
     int statusLine_;       ///< the height of a line that the status bar has been made for
     PlaceMark mark_;       ///< of the robot in force

@@ -49,9 +49,7 @@ void PCFileCommands::rename() {
     const std::string old = rows.name(*row);
     const bool isFolder = rows.kind(*row) == FileKind::Folder;
     if (isBeingFetched(folder, old))
-        return with_.talk.tell(bracketed(old) +
-                                   with_.messages.getMessage(message::fetchNotFinished),
-                               BoxIcon::Exclamation);
+        return tellUnfinished(old);
     const auto name = prompts_.ask(
         {.title = message::menuRename,
          .label = with_.messages.getMessageWithInsertion(message::newNameOf, shownText(old)),
@@ -62,6 +60,10 @@ void PCFileCommands::rename() {
          }});
     if (!name || *name == old)
         return;
+    // One may have begun while the name was typed.
+    for (const std::string& either : {old, *name})
+        if (isBeingFetched(folder, either))
+            return tellUnfinished(either);
     const PathRules rules;
     const Outcome renamed = renameToFree(rules.join(folder, old), rules.join(folder, *name));
     if (!renamed)
@@ -69,7 +71,13 @@ void PCFileCommands::rename() {
     showNew(*name);
 }
 
-/// A mark finds its file by the name: under another one half a file would look like a whole one.
+void PCFileCommands::tellUnfinished(const std::string& name) const {
+    with_.talk.tell(bracketed(name) + with_.messages.getMessage(message::fetchNotFinished),
+                    BoxIcon::Exclamation);
+}
+
+/// A mark finds its file by the name: under another one half a file would look like a whole one,
+/// and what took the name of one that is still to come would be replaced by it.
 bool PCFileCommands::isBeingFetched(const std::string& folder, const std::string& name) const {
     return FetchMark::isFileName(name) ||
            anythingExists(PathRules().join(folder, FetchMark::fileNameFor(name)));
@@ -81,8 +89,10 @@ std::string PCFileCommands::problemOfName(const std::string& folder, const std::
                                           const std::string& old) const {
     if (name == old)
         return {};
-    if (!PathRules::isPlainName(name))
+    if (!PathRules::isPlainName(name) || FetchMark::isFileName(name))
         return with_.messages.getMessage(message::nameUnusable);
+    if (isBeingFetched(folder, name))
+        return bracketed(name) + with_.messages.getMessage(message::fetchNotFinished);
     const bool isOwn = comparedName(name) == comparedName(old);
     if (!isOwn && !source_.isOnNetwork(folder) && anythingExists(PathRules().join(folder, name)))
         return with_.messages.getMessage(message::nameTaken);
@@ -110,38 +120,41 @@ void PCFileCommands::goToFolder() {
          .selected = with_.state.PCPath.size(),
          .problem =
              [this](const std::string& text) {
-                 const std::string folder = absolute(text);
+                 const std::string folder = absolute(with_.state.PCPath, text);
                  return source_.isOnNetwork(folder) || isFolder(folder)
                             ? std::string()
                             : with_.messages.getMessage(message::noSuchFolder);
              },
-         .completions = [this](const std::string& text) { return completions(text); }});
+         // One system completes in a thread of its own, which must not look at the state.
+         .completions = [this, shown = with_.state.PCPath](
+                            const std::string& text) { return completions(shown, text); }});
     if (!typed)
         return;
-    const std::string folder = absolute(*typed);
+    const std::string folder = absolute(with_.state.PCPath, *typed);
     commands_.openPCFolder(folder, FolderTree::driveAndFolder(folder));
     commands_.workIn(ActiveSide::PC);
     commands_.updateStates();
 }
 
 /// In one spelling, since folders are told apart by it.
-std::string PCFileCommands::absolute(const std::string& typed) const {
+std::string PCFileCommands::absolute(const std::string& shown, const std::string& typed) {
     const PathRules rules;
     if (!rules.isAbsolute(typed))
-        return rules.resolved(rules.join(with_.state.PCPath, typed));
+        return rules.resolved(rules.join(shown, typed));
     // A path from the root is one on the drive that is shown.
     const bool hasDrive = !rules.drive(typed).empty();
-    return rules.resolved(hasDrive ? typed : rules.drive(with_.state.PCPath) + typed);
+    return rules.resolved(hasDrive ? typed : rules.drive(shown) + typed);
 }
 
 /// Nothing is read on a network while the operator types.
-std::vector<std::string> PCFileCommands::completions(const std::string& typed) const {
+std::vector<std::string> PCFileCommands::completions(const std::string& shown,
+                                                     const std::string& typed) const {
     const PathRules rules;
     std::size_t start = typed.size();
     while (start > 0 && !rules.isSeparator(typed[start - 1]))
         --start;
     const std::string head = typed.substr(0, start);
-    const std::string folder = absolute(head);
+    const std::string folder = absolute(shown, head);
     std::vector<std::string> found;
     if (source_.isOnNetwork(folder))
         return found;

@@ -75,8 +75,9 @@ class PCFileCommands {
                               const std::string& old) const;
     bool isBeingFetched(const std::string& folder, const std::string& name) const;
     void showNew(const std::string& name);
-    std::string absolute(const std::string& typed) const;
-    std::vector<std::string> completions(const std::string& typed) const;
+    void tellUnfinished(const std::string& name) const;
+    static std::string absolute(const std::string& shown, const std::string& typed);
+    std::vector<std::string> completions(const std::string& shown, const std::string& typed) const;
     void tellFailure(const std::string& name, std::int32_t messageNumber,
                      const std::string& reason) const;
 

@@ -4,6 +4,7 @@
 #include "app/lists/SessionLists.h"
 #include "base/ApplicationState.h"
 #include "files/CommandScopes.h"
+#include "files/ControllerPlace.h"
 #include "files/FolderOwner.h"
 #include "files/PaneRefresh.h"
 #include "files/PaneWindow.h"
@@ -147,7 +148,8 @@ void ListTransferCommands::noteAll(const std::vector<std::string>& entries, Item
 /// The values in a list file may be the only copy of those that a robot had before.
 bool ListTransferCommands::mayReplaceValues() const {
     return with_.talk.askYesNo(with_.messages.getMessage(message::askReplaceValues) +
-                                   bracketed(with_.state.VarListFile),
+                                   bracketed(with_.state.VarListFile) + "\n" +
+                                   fromController(with_.state),
                                BoxIcon::Question);
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/lists/ListFileDraft.h"
 #include "files/CommandFixture.h"
+#include "files/ControllerPlace.h"
 #include "support/NamedRow.h"
 
 #include <array>
@@ -333,7 +334,7 @@ TEST_F(ListTransferCommandsTest, SavedVariablesAreWrittenToTheirList) {
     run(saveVariables);
     EXPECT_EQ(pc.read("LIST.LST"), "B001=7\r\n");
     EXPECT_GT(window.pc.shows, 1);
-    EXPECT_THAT(boxes.texts(), ElementsAre("replace values? [LIST.LST]"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("replace values? [LIST.LST]\n" + fromController(state)));
 }
 
 TEST_F(ListTransferCommandsTest, ValuesOfAListAreKeptWhereTheOperatorSaysSo) {
@@ -343,7 +344,7 @@ TEST_F(ListTransferCommandsTest, ValuesOfAListAreKeptWhereTheOperatorSaysSo) {
     boxes.answers = {false};
     run(saveVariables);
     EXPECT_EQ(pc.read("LIST.LST"), "B001=7\r\nB002=6\r\n");
-    EXPECT_THAT(boxes.texts(), ElementsAre("replace values? [LIST.LST]"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("replace values? [LIST.LST]\n" + fromController(state)));
 }
 
 TEST_F(ListTransferCommandsTest, NothingIsAskedWhereNoValueIsLost) {

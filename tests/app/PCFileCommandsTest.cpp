@@ -18,17 +18,19 @@ using testing::StartsWith;
 /// Between the check of a name and its use somebody else takes it.
 class FasterPrompts : public PromptWindow {
   public:
-    FasterPrompts(const TemporaryFolder& folder, std::string name)
-        : folder_(folder), name_(std::move(name)) {}
+    /// `appears` is the file that comes meanwhile, if not the one of that name.
+    FasterPrompts(const TemporaryFolder& folder, std::string name, std::string appears = {})
+        : folder_(folder), name_(std::move(name)),
+          appears_(appears.empty() ? name_ : std::move(appears)) {}
 
     std::optional<std::string> ask(const TextPrompt&) override {
-        folder_.write(name_, "of somebody else");
+        folder_.write(appears_, "of somebody else");
         return name_;
     }
 
   private:
     const TemporaryFolder& folder_;
-    std::string name_;
+    std::string name_, appears_;
 };
 
 class PCFileCommandsTest : public MainCommandsTest {
@@ -405,6 +407,33 @@ TEST_F(PCFileCommandsTest, AFileThatIsBeingFetchedKeepsItsName) {
     EXPECT_FALSE(pc.has("B.JBI"));
     EXPECT_THAT(boxes.texts(), ElementsAre("[A.JBI] not finished"));
     EXPECT_THAT(prompts.asked, IsEmpty());
+}
+
+TEST_F(PCFileCommandsTest, NoFileTakesTheNameOfOneThatIsStillToCome) {
+    show({"A.JBI"});
+    pc.write(FetchMark::fileNameFor("B.JBI"), "");
+    window.pc.click({"A.JBI"});
+    prompts.answer = "B.JBI";
+    files.rename();
+    EXPECT_EQ(prompts.asked.back().problem("B.JBI"), "[B.JBI] not finished");
+    EXPECT_NE(prompts.asked.back().problem(FetchMark::fileNameFor("X")), "");
+    EXPECT_EQ(prompts.asked.back().problem("C.JBI"), "");
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_FALSE(pc.has("B.JBI"));
+}
+
+TEST_F(PCFileCommandsTest, NorOfOneWhoseFetchBeginsWhileItIsTyped) {
+    for (const char* fetched : {"A.JBI", "B.JBI"}) {
+        show({"A.JBI"});
+        window.pc.click({"A.JBI"});
+        const std::string mark = FetchMark::fileNameFor(fetched);
+        FasterPrompts faster(pc, "B.JBI", mark);
+        PCFileCommands(services, main, faster, folderSource).rename();
+        EXPECT_EQ(boxes.texts().back(), "[" + std::string(fetched) + "] not finished");
+        EXPECT_TRUE(pc.has("A.JBI"));
+        EXPECT_FALSE(pc.has("B.JBI"));
+        EXPECT_TRUE(removeFile(pc.path(mark)));
+    }
 }
 
 TEST_F(PCFileCommandsTest, NothingIsReadOnANetworkWhileSomebodyTypes) {

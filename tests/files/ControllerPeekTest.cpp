@@ -68,6 +68,15 @@ TEST_F(ControllerPeekTest, AJobThatIsGoneIsTold) {
     EXPECT_EQ(boxes.texts().size(), 1U);
 }
 
+TEST_F(ControllerPeekTest, OfTwoJobsThatDifferInLetterCaseNeitherIsShown) {
+    robotJob("WELD");
+    robotJob("weld");
+    showPanes();
+    EXPECT_FALSE(commands.peek("WELD.JBI"));
+    EXPECT_EQ(library.callCount("BscUpLoad"), 0);
+    EXPECT_EQ(boxes.texts().size(), 1U);
+}
+
 TEST_F(ControllerPeekTest, CancelBeforeTheFetchAsksNobody) {
     robotJob("A");
     showPanes();

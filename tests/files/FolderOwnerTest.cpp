@@ -47,10 +47,13 @@ TEST_F(FolderOwnerTest, IsTheOneRobotThatHasTheFolder) {
     EXPECT_EQ(otherOwnerOfPCFolder(state), "");
 }
 
-TEST_F(FolderOwnerTest, AFolderOfSeveralIsNobodys) {
+TEST_F(FolderOwnerTest, AFolderOfSeveralIsEachOnesAndAllAreNamed) {
     robots({{"R1", pc.path("r1")}, {"R2", pc.path()}, {"R3", pc.path()}});
-    EXPECT_EQ(otherOwnerOfPCFolder(state), "");
+    EXPECT_EQ(otherOwnerOfPCFolder(state), "R2, R3");
     robots({{"R1", pc.path()}, {"R2", pc.path()}});
+    EXPECT_EQ(otherOwnerOfPCFolder(state), "");
+    robots({{"R1", pc.path("r1")}, {"R2", pc.path()}, {"R3", pc.path()}});
+    state.CurrentRobotIndex = 2;
     EXPECT_EQ(otherOwnerOfPCFolder(state), "");
 }
 

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <wx/bmpbuttn.h>
 #include <wx/statusbr.h>
+#include <wx/timer.h>
 
 namespace vantrel::tests {
 namespace {
@@ -138,6 +139,22 @@ TEST_P(PCFolderInMainWindowTest, WhatAnotherProgramSavesIsShownByItself) {
     pcJob("ALPHA");
     EXPECT_TRUE(waitFor([this] { return names().size() == 4; }));
     EXPECT_THAT(selected(), ElementsAre("ROOF.JBI"));
+}
+
+TEST_P(PCFolderInMainWindowTest, NothingChangesBehindAQuestion) {
+    const auto before = names();
+    bool wasAsked = false;
+    modal.act([&](wxDialog& dialog) {
+        pcJob("NEW");
+        wxTimer now(&window());
+        wxTimerEvent look(now);
+        window().HandleWindowEvent(look);
+        EXPECT_EQ(names(), before);
+        wasAsked = true;
+        click(dialog, "cmdCancel");
+    });
+    pressKey(WXK_F2);
+    EXPECT_TRUE(waitFor([&] { return wasAsked && names().size() == before.size() + 1; }));
 }
 
 TEST_P(PCFolderInMainWindowTest, SeveralSelectedItemsAreCountedInTheStatusBar) {

@@ -201,6 +201,19 @@ TEST_P(frmListFileOffering, AClickTakesTheNameAndADoubleClickReadsIt) {
     EXPECT_EQ(world.session->JobList(0), "A.JBI");
 }
 
+TEST_P(frmListFileOffering, TakingTheChoiceAwayKeepsTheName) {
+    whileModal(window, [&] {
+        pick(list(), 1);
+        list().SetSelection(wxNOT_FOUND);
+        wxCommandEvent gone(wxEVT_LISTBOX, list().GetId());
+        gone.SetEventObject(&list());
+        gone.SetInt(wxNOT_FOUND);
+        list().HandleWindowEvent(gone);
+        EXPECT_EQ(typed(), "jobs.lst");
+        click(window, "cmdCancel");
+    });
+}
+
 TEST_P(frmListFileOffering, TheArrowKeysTakeOneAfterTheOther) {
     whileModal(window, [&] {
         auto& text = control<wxTextCtrl>(window, "txtFile");

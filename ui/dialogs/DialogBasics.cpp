@@ -45,6 +45,13 @@ wxWindow* dialogParent() {
     return modal ? modal : shownMainWindow();
 }
 
+bool isDialogOpen() {
+    return std::ranges::any_of(wxTopLevelWindows, [](const wxWindow* window) {
+        const auto* const dialog = dynamic_cast<const wxDialog*>(window);
+        return dialog && dialog->IsModal();
+    });
+}
+
 void centreOverMainWindow(wxTopLevelWindow& window) {
     const wxWindow* const main = shownMainWindow();
     if (!main) {

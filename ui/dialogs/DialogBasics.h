@@ -17,6 +17,9 @@ namespace vantrel {
 /// message) never own another: their end would take it along.
 wxWindow* dialogParent();
 
+/// Whether a dialog of the toolkit's waits for an answer.
+bool isDialogOpen();
+
 /// Places a window in the middle of the main window, kept on its screen; without a main window in
 /// the middle of the screen.
 void centreOverMainWindow(wxTopLevelWindow& window);

@@ -104,7 +104,9 @@ void frmListFile::bindEvents() {
     });
     if (lstOffered_) {
         lstOffered_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent& event) {
-            take(draft_.offered().at(std::size_t(event.GetSelection())));
+            // Clicking the chosen entry again with Ctrl takes the choice away on one system.
+            if (event.GetSelection() != wxNOT_FOUND)
+                take(draft_.offered().at(std::size_t(event.GetSelection())));
         });
         lstOffered_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { confirm(); });
     }
