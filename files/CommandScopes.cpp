@@ -46,7 +46,7 @@ WindowLock::~WindowLock() {
 
 CommandProgress::CommandProgress(const TransferServices& services, const std::string& title,
                                  std::string label, std::string place)
-    : with_(services), label_(std::move(label)) {
+    : with_(services), label_(std::move(label)), hasController_(!place.empty()) {
     with_.progress.setTitle(title);
     with_.progress.setPlace(std::move(place));
     with_.progress.setCancelCaption(with_.messages.resourceMessage(message::resource::cancel));
@@ -64,8 +64,9 @@ CommandProgress::~CommandProgress() {
 }
 
 bool CommandProgress::next(const std::string& name, std::size_t item, std::size_t count) {
+    const auto state = hasController_ ? waitingText : itemText;
     with_.progress.step(label_ + shownText(name), static_cast<int>(item), static_cast<int>(count),
-                        waitingText(with_.messages, std::int32_t(item), std::int32_t(count)));
+                        state(with_.messages, std::int32_t(item), std::int32_t(count)));
     with_.progress.yield();
     return !isCancelled();
 }

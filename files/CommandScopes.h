@@ -27,7 +27,8 @@ class WindowLock {
 class CommandProgress {
   public:
     /// `label` stands alone first and before the file's name in each step; `place` names the
-    /// controller that the command has to do with, in its questions too.
+    /// controller that the command has to do with, in its questions too. Without one the command
+    /// works on the PC alone, and its steps wait for no controller.
     CommandProgress(const TransferServices& services, const std::string& title, std::string label,
                     std::string place);
     ~CommandProgress();
@@ -48,6 +49,7 @@ class CommandProgress {
   private:
     TransferServices with_;
     std::string label_;
+    bool hasController_;
     std::optional<TransferPace> pace_;
 };
 

@@ -34,7 +34,8 @@ void CopyIntoFolder::take(const std::string& path) {
     if (isFolder(path))
         return reports.aboutFile(name, message::folderPassedOver);
     if (isInPCFolder(path))
-        return with_.results.note(name, ItemEnd::Done);
+        return with_.results.note(name, ItemEnd::Skipped,
+                                  with_.messages.getMessage(message::alreadyInFolder));
     if (isBeingFetched(rules.parent(path), name) || isBeingFetched(with_.state.PCPath, name))
         return reports.aboutFile(name, message::fetchNotFinished);
     if (!mayTakePlace(name))

@@ -13,8 +13,6 @@
 namespace vantrel {
 namespace {
 
-/// Left out of every folder tree: what an installation remembers, nothing to work in.
-
 std::int32_t listedSize(const FolderEntry& entry) {
     constexpr std::uint64_t largest = std::numeric_limits<std::int32_t>::max();
     return entry.isFolder ? FolderListing::folderSize

@@ -6,8 +6,8 @@ namespace vantrel::message {
 
 // Numbers of the texts in the language files, named by use. Where a text is joined to a name, a
 // number or a reason, the blank between them belongs to the text. Resource numbers are looked up
-// through MessageTable::resourceMessage, which adds 500. So are the codes that the library returns:
-// a new text takes a number from 6000 on, which no code can be taken for.
+// through MessageTable::resourceMessage, which adds 500; the session's own codes are looked up
+// there too. A new text takes a number from 6000 on, which is in no code's way.
 
 inline constexpr std::int32_t title = 0;
 inline constexpr std::int32_t askReadController = 1;
@@ -271,6 +271,7 @@ inline constexpr std::int32_t notViewed = 461; ///< after [name], then (reason)
 inline constexpr std::int32_t closeQuickFilter = 463;
 inline constexpr std::int32_t noSuchFolder = 464;
 inline constexpr std::int32_t fetchNotFinished = 465; ///< after [name]
+inline constexpr std::int32_t alreadyInFolder = 6560; ///< why a file is skipped
 
 // The settings dialog.
 inline constexpr std::int32_t settingsTitle = 300;

@@ -135,6 +135,7 @@ class CommandFixture : public testing::Test {
             text(6555, "a moment left"),
             text(6556, "left out:"),
             text(6557, "not listable:"),
+            text(6560, "already here"),
             text(1200, "not on the controller"),
             text(2000, "line broken"),
             text(2040, "unreachable"),

@@ -72,13 +72,21 @@ TEST_F(CopyIntoFolderTest, FoldersArePassedOverByName) {
     EXPECT_EQ(window.result, "1 copied, 1 skipped, 0 failed");
 }
 
-TEST_F(CopyIntoFolderTest, AFileOnItselfStaysWithoutAWord) {
+TEST_F(CopyIntoFolderTest, AFileOnItselfIsSkippedWithTheReasonInTheResultAlone) {
     pcJob("A");
     showPanes();
-    EXPECT_TRUE(commands.copyIntoFolder({pc.path("A.JBI")}));
+    EXPECT_TRUE(commands.copyIntoFolder({pc.path("A.JBI"), dropped("B")}));
     EXPECT_EQ(pc.read("A.JBI"), job("A"));
     EXPECT_THAT(question.questions, IsEmpty());
     EXPECT_THAT(boxes.texts(), IsEmpty());
+    EXPECT_EQ(window.result, "1 copied, 1 skipped, 0 failed");
+    EXPECT_EQ(results.last()->items.front().reason, "already here");
+}
+
+TEST_F(CopyIntoFolderTest, TheProgressCountsTheFilesAndWaitsForNoController) {
+    showPanes();
+    commands.copyIntoFolder({dropped("A"), dropped("B")});
+    EXPECT_THAT(progressView.waits(), ElementsAre("", "item 1 of 2", "item 2 of 2"));
 }
 
 TEST_F(CopyIntoFolderTest, AFailureIsToldAndTheOthersGoOn) {

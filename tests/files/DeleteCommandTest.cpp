@@ -70,6 +70,13 @@ TEST_F(DeleteCommandTest, EachDeletionSaysWhichItemItIs) {
     EXPECT_THAT(waitingFor, ElementsAre("item 2 of 3  waiting", "item 3 of 3  waiting"));
 }
 
+TEST_F(DeleteCommandTest, OnThePCTheProgressWaitsForNoController) {
+    pcJobs();
+    question.answers = {Answer::No, Answer::All};
+    EXPECT_TRUE(commands.deleteOnPC());
+    EXPECT_THAT(progressView.waits(), ElementsAre("", "item 2 of 3", "item 3 of 3"));
+}
+
 TEST_F(DeleteCommandTest, AllDeletesThisAndEveryFollowingJob) {
     robotJobs();
     question.answers = {Answer::No, Answer::All};

@@ -225,8 +225,8 @@ TEST(DeliveredLanguages, ErrorCodesHaveTextsOfTheirOwn) {
         EXPECT_FALSE(named.contains(number)) << number;
 }
 
-/// Whatever small code a library returns, it is looked up among the resource messages.
-TEST(DeliveredLanguages, NoCodeOfTheLibraryFindsATextThatIsMeantForSomethingElse) {
+/// The session's own codes are small, and their texts are resource messages.
+TEST(DeliveredLanguages, NoSmallCodeFindsATextThatIsMeantForSomethingElse) {
     auto meant = codeNumbers();
     for (const auto number : {2, 4, 7, 30, 31, 32, 33})
         meant.insert(resourceOffset + number);

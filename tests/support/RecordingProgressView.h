@@ -36,18 +36,23 @@ class RecordingProgressView : public ProgressView {
     void unload() override { ++unloads; }
 
     /// The different messages that were to be seen, in order.
-    std::vector<std::string> messages() const {
-        std::vector<std::string> seen;
-        for (const auto& picture : pictures)
-            if (picture.visible && (seen.empty() || seen.back() != picture.message))
-                seen.push_back(picture.message);
-        return seen;
-    }
+    std::vector<std::string> messages() const { return seen(&Picture::message); }
+    /// The same of the second label.
+    std::vector<std::string> waits() const { return seen(&Picture::waitingFor); }
 
     std::vector<Picture> pictures;
     int yields = 0;
     int unloads = 0;
     std::function<void(int yield)> onYield; ///< what the operator does at yield 1, 2, ...
+
+  private:
+    std::vector<std::string> seen(std::string Picture::*text) const {
+        std::vector<std::string> texts;
+        for (const auto& picture : pictures)
+            if (picture.visible && (texts.empty() || texts.back() != picture.*text))
+                texts.push_back(picture.*text);
+        return texts;
+    }
 };
 
 } // namespace vantrel::tests

@@ -270,10 +270,10 @@ TEST_F(ViewerKeysTest, EnterGoesOnAndShiftEnterBack) {
     EXPECT_EQ(note(), "");
     pressKey(WXK_RETURN);
     EXPECT_TRUE(isSelected(4, 7));
-    EXPECT_EQ(note(), "On from the start");
+    EXPECT_EQ(note(), "Continued from the start");
     pressKey(WXK_RETURN, wxMOD_SHIFT);
     EXPECT_TRUE(isSelected(12, 15));
-    EXPECT_EQ(note(), "On from the end");
+    EXPECT_EQ(note(), "Continued from the end");
     EXPECT_TRUE(field().HasFocus());
 }
 
