@@ -76,6 +76,7 @@ TEST_P(ResultInMainWindowTest, TheStatusBarSaysItAndAClickOpensTheSheet) {
         EXPECT_NE(cell(dialog, 1, 2).find("1200"), std::string::npos);
         EXPECT_EQ(cell(dialog, 2, 1), messages.getMessage(406));
         EXPECT_TRUE(control<wxButton>(dialog, "cmdTryAgain").IsEnabled());
+        expectButtonOrder(dialog, {"cmdClose", "cmdTryAgain", "cmdSave", "cmdPrint"});
         expectNothingCutOff(dialog);
         saveScreenshot(dialog, std::string("result-") + GetParam());
         EXPECT_TRUE(swallows(dialog, WXK_ESCAPE));

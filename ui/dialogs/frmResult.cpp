@@ -11,6 +11,7 @@
 #include "ui/look/WxText.h"
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <utility>
 
@@ -122,22 +123,20 @@ void frmResult::fitColumns() {
 }
 
 wxSizer* frmResult::buildButtons() {
-    auto* const row = new wxBoxSizer(wxHORIZONTAL);
     const auto add = [&](std::int32_t caption, const char* name, std::function<void()> action) {
         auto* const button = newCaptionButton(this, messages_.getMessage(caption), name);
         button->Bind(wxEVT_BUTTON, [action = std::move(action)](wxCommandEvent&) { action(); });
-        row->Add(button, wxSizerFlags().Border(wxLEFT, row->IsEmpty() ? 0 : FromDIP(8)));
         return button;
     };
-    auto* const again =
+    auto* const cmdClose = add(message::resultClose, "cmdClose", [this] { EndModal(wxID_CLOSE); });
+    auto* const cmdTryAgain =
         add(message::resultTryAgain, "cmdTryAgain", [this] { EndModal(wxID_RETRY); });
-    again->Enable(results_.canTryAgain());
-    add(message::resultSave, "cmdSave", [this] { save(); });
-    add(message::resultPrint, "cmdPrint", [this] { results_.print(); });
-    auto* const close = add(message::resultClose, "cmdClose", [this] { EndModal(wxID_CLOSE); });
-    close->SetDefault();
-    SetEscapeId(close->GetId());
-    return row;
+    auto* const cmdSave = add(message::resultSave, "cmdSave", [this] { save(); });
+    auto* const cmdPrint = add(message::resultPrint, "cmdPrint", [this] { results_.print(); });
+    cmdTryAgain->Enable(results_.canTryAgain());
+    cmdClose->SetDefault();
+    SetEscapeId(cmdClose->GetId());
+    return buttonRow(std::array{cmdClose, cmdTryAgain, cmdSave, cmdPrint});
 }
 
 void frmResult::save() {
