@@ -37,7 +37,7 @@ timed() { # SECONDS_VARIABLE COMMAND...
     begin=$(date +%s%N)
     "${@:2}" >"$work/output"
     printf -v "$1" '%d' $((($(date +%s%N) - begin) / 1000000))
-    [ "$(wc -l <"$work/output")" -eq "$robots" ] || { echo "not every robot answered" >&2; exit 1; }
+    [ "$(grep -c 'A.JBI$' "$work/output")" -eq "$robots" ] || { echo "not every robot answered" >&2; exit 1; }
 }
 timed one "$trial/vantrelctl" list --mode hispeed --all-robots
 timed many "$trial/vantrelctl" list --mode hispeed --all-robots --parallel "$parallel"
