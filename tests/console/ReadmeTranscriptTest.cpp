@@ -18,11 +18,12 @@ struct Step {
 };
 
 std::vector<Step> transcript() {
-    const auto readme = readFile(tests::sourceFolder() + "/README.md");
-    EXPECT_TRUE(readme);
+    const auto read = readFile(tests::sourceFolder() + "/README.md");
+    EXPECT_TRUE(read);
+    const std::string readme = read ? *read : std::string();
     std::vector<Step> steps;
     bool isInside = false;
-    for (const std::string_view line : lines(readme ? *readme : std::string())) {
+    for (const std::string_view line : lines(readme)) {
         if (line.starts_with("```"))
             isInside = line == "```console";
         else if (isInside && line.starts_with("$ "))

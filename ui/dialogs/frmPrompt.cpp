@@ -59,9 +59,9 @@ frmPrompt::frmPrompt(wxWindow* parent, const TextPrompt& prompt, const MessageTa
     SetSizer(column);
     swallowF1(*this);
     applyCaptionFont(*this, state);
-    // Three lines of room, so that the window does not grow and shrink while somebody types.
+    // Room for the longest text, so that the window does not grow and shrink while somebody types.
     const int line = lblProblem_->GetTextExtent(toWx(prompt.label)).y;
-    lblProblem_->SetMinSize(wxSize(FromDIP(contentWidth), 3 * line + FromDIP(4)));
+    lblProblem_->SetMinSize(wxSize(FromDIP(contentWidth), 4 * line + FromDIP(4)));
     fitToContents(*this);
     CentreOnParent();
     txtName_->SetFocus();
