@@ -129,7 +129,8 @@ void frmPrompt::refresh() {
         return lblProblem_->GetTextExtent(toWx(std::string(part))).x;
     };
     const std::string shown = text().empty() ? std::string() : problem;
-    lblProblem_->SetLabelText(toWx(wrappedText(shown, FromDIP(contentWidth), widthOf)));
+    constexpr int spare = 16; // device-independent pixels: a system may draw a little wider
+    lblProblem_->SetLabelText(toWx(wrappedText(shown, FromDIP(contentWidth - spare), widthOf)));
     lblProblem_->Show(!shown.empty());
 }
 
