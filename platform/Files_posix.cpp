@@ -226,7 +226,7 @@ Outcome createFolder(const std::string& path) {
 Result<std::string> createTemporaryFolder() {
     const char* const place = std::getenv("TMPDIR");
     std::string path = place && *place == '/' ? place : "/tmp";
-    path += "/vantrel-XXXXXX"; // letters of its own choice come in place of each X
+    path += "/vantrel-XXXXXX"; // mkdtemp demands six X and puts letters of its own in their place
     if (!::mkdtemp(path.data()))
         return systemFailure(errno);
     return path;

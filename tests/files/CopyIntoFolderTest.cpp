@@ -130,6 +130,18 @@ TEST_F(CopyIntoFolderTest, AFileWhoseTransferIsNotFinishedIsNotReplaced) {
     EXPECT_EQ(window.result, "0 copied, 1 skipped, 0 failed");
 }
 
+TEST_F(CopyIntoFolderTest, NorIsOneWhoseTransferBeginsWhileTheQuestionStandsThere) {
+    pcJob("A");
+    showPanes();
+    question.answers = {Answer::Yes};
+    question.whileOpen = [this] { pc.write(FetchMark::fileNameFor("A.JBI"), ""); };
+    EXPECT_TRUE(commands.copyIntoFolder({dropped("A")}));
+    EXPECT_THAT(question.questions, SizeIs(1));
+    EXPECT_EQ(pc.read("A.JBI"), job("A"));
+    EXPECT_THAT(boxes.texts(), testing::ElementsAre("[A.JBI] not finished"));
+    EXPECT_EQ(window.result, "0 copied, 1 skipped, 0 failed");
+}
+
 TEST_F(CopyIntoFolderTest, AFileThatTheFilterHidesLeavesNothingSelected) {
     pcJob("A");
     showPanes();
