@@ -2,6 +2,7 @@
 
 #include "support/ToolkitPort.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <functional>
@@ -10,6 +11,7 @@
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
+#include <wx/arrstr.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/dialog.h>
@@ -121,6 +123,16 @@ inline int whileModal(wxDialog& dialog, const std::function<void()>& action) {
     return dialog.ShowModal();
 }
 
+/// The room that the text takes with its font.
+inline wxSize drawnSize(const wxStaticText& text) {
+    wxSize size;
+    for (const wxString& line : wxSplit(text.GetLabelText(), '\n', '\0')) {
+        const wxSize extent = text.GetTextExtent(line);
+        size = wxSize(std::max(size.x, extent.x), size.y + extent.y);
+    }
+    return size;
+}
+
 /// What of the window's captions is not wholly visible, one line per control.
 inline std::string cutOffCaptions(wxWindow& window) {
     std::string complaints;
@@ -131,11 +143,15 @@ inline std::string cutOffCaptions(wxWindow& window) {
         const bool shortensItself = child->HasFlag(wxST_ELLIPSIZE_MIDDLE | wxST_ELLIPSIZE_END);
         const bool hasCaption = dynamic_cast<wxStaticText*>(child) ||
                                 dynamic_cast<wxButton*>(child) || dynamic_cast<wxCheckBox*>(child);
-        auto best = child->GetBestSize();
-        // The toolkit may still ask for the size of the last font; it measures a little otherwise.
-        if (const auto* const text = dynamic_cast<wxStaticText*>(child))
-            best.IncTo(text->GetTextExtent(text->GetLabelText().BeforeFirst('\n')) * 9 / 10);
         const auto size = child->GetSize();
+        auto best = child->GetBestSize();
+        // GTK may keep the size it asked for with the font that a hidden text had before, smaller
+        // or larger than the text is now; what is drawn is measured too, a little otherwise.
+        if (const auto* const text = dynamic_cast<wxStaticText*>(child)) {
+            const auto drawn = drawnSize(*text);
+            best.DecTo(drawn);
+            best.IncTo(drawn * 9 / 10);
+        }
         const bool tooSmall = best.x > size.x || best.y > size.y;
         // A page is placed by its book, in the book's own coordinates.
         const bool sticksOut =
