@@ -1,8 +1,12 @@
+#include "base/PathRules.h"
 #include "base/Text.h"
 #include "base/TextCase.h"
 #include "platform/Descriptor_posix.h"
 #include "platform/Files.h"
 
+#include <algorithm>
+#include <array>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -10,6 +14,8 @@
 #include <stdexcept>
 
 #include <fcntl.h>
+#include <linux/magic.h>
+#include <sys/vfs.h>
 
 namespace vantrel {
 
@@ -67,6 +73,42 @@ int renameUnlessTaken(const std::string& from, const std::string& to) {
 bool isEntryName(std::string_view name) {
     return !name.empty() && name != "." && name != ".." && !hasNul(name) &&
            name.find('/') == std::string_view::npos;
+}
+
+Descriptor openForFlushing(const std::string& path) {
+    return Descriptor(
+        ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY));
+}
+
+/// False with the error number in `errno`.
+bool flushContent(const std::string& path) {
+    const Descriptor file = openForFlushing(path);
+    return file.isOpen() && ::fsync(file.number()) == 0;
+}
+
+/// Brings everything to the disk that is on the folder's file system. Only where that is known to
+/// reach the disk itself: those of servers, of sticks, and those that a program makes may not pass
+/// it on.
+bool flushFileSystem(const std::string& folder) {
+    constexpr std::array<std::uint32_t, 5> reaching{
+        EXT4_SUPER_MAGIC, XFS_SUPER_MAGIC, BTRFS_SUPER_MAGIC, F2FS_SUPER_MAGIC, TMPFS_MAGIC};
+    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    struct statfs details {};
+    if (!opened.isOpen() || ::fstatfs(opened.number(), &details) != 0)
+        return false;
+    const auto kind = static_cast<std::uint32_t>(details.f_type);
+    return std::ranges::find(reaching, kind) != reaching.end() && ::syncfs(opened.number()) == 0;
+}
+
+/// After `flushFileSystem`, which older systems let succeed whatever became of a file: whether its
+/// content has reached the disk. Flushes nothing.
+bool wasWritten(const std::string& path) {
+    const Descriptor file = openForFlushing(path);
+    if (!file.isOpen())
+        return false;
+    if (::sync_file_range(file.number(), 0, 0, SYNC_FILE_RANGE_WAIT_BEFORE) == 0)
+        return true;
+    return (errno == ENOSYS || errno == EINVAL) && ::fsync(file.number()) == 0;
 }
 
 } // namespace
@@ -158,12 +200,25 @@ Result<bool> removeFileIf(const std::string& path, const std::string& spare,
 Outcome flushFile(const std::string& path) {
     if (hasNul(path))
         return systemFailure(EINVAL);
-    const Descriptor file(
-        ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW | O_NOCTTY));
-    if (!file.isOpen() || ::fsync(file.number()) != 0)
+    if (!flushContent(path))
         return systemFailure(errno);
     const auto last = path.rfind('/');
     return flushFolder(last == std::string::npos ? "." : path.substr(0, last + 1));
+}
+
+// One that was not written is not flushed again: the system tells of each failure once, and of a
+// second try that it went well.
+std::vector<std::string> flushFiles(const std::string& folder,
+                                    const std::vector<std::string>& names) {
+    constexpr std::size_t few = 3;
+    const bool isAtOnce = names.size() > few && flushFileSystem(folder);
+    std::vector<std::string> failed;
+    for (const std::string& name : names) {
+        const std::string path = PathRules().join(folder, name);
+        if (hasNul(path) || !(isAtOnce ? wasWritten(path) : flushContent(path)))
+            failed.push_back(name);
+    }
+    return flushFolder(folder) ? failed : names;
 }
 
 Outcome flushFolder(const std::string& folder) {

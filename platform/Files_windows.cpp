@@ -1,3 +1,4 @@
+#include "base/PathRules.h"
 #include "base/TextCase.h"
 #include "platform/Files.h"
 #include "platform/System_windows.h"
@@ -151,6 +152,15 @@ Outcome flushFile(const std::string& path) {
     if (!file.isOpen() || !::FlushFileBuffers(file.get()))
         return lastFailure();
     return Done{};
+}
+
+std::vector<std::string> flushFiles(const std::string& folder,
+                                    const std::vector<std::string>& names) {
+    std::vector<std::string> failed;
+    for (const std::string& name : names)
+        if (!flushFile(PathRules().join(folder, name)))
+            failed.push_back(name);
+    return failed;
 }
 
 // The system's journal keeps the order of what happens to names; renaming writes through to the

@@ -17,6 +17,8 @@ class HeldFile {
   public:
     /// Makes the file; one that is there and not held is taken over.
     static Result<HeldFile> make(const std::string& path);
+    /// The same, and everybody may read meanwhile what it says.
+    static Result<HeldFile> makeReadable(const std::string& path);
     /// Nothing when somebody holds the file or there is none any more; fails when what is there can
     /// be held by nobody here.
     static Result<std::optional<HeldFile>> take(const std::string& path);
@@ -31,16 +33,21 @@ class HeldFile {
     Result<std::string> read() const;
     /// The whole new content; it and the file's name are on the disk afterwards.
     Outcome write(std::string_view content);
+    /// Further content at the end; nobody knows when it is on the disk.
+    Outcome append(std::string_view content);
+    /// What was appended is on the disk afterwards.
+    Outcome flush();
     /// The file is gone, on the disk too, and no longer held. On failure it may be there still.
     Outcome remove();
 
   private:
     struct Open;
     struct Attempt;
-    enum class Wish { Make, Take, Lock };
+    enum class Wish { Make, MakeReadable, Take, Lock };
 
     explicit HeldFile(std::shared_ptr<Open> open) : open_(std::move(open)) {}
     static Result<Attempt> hold(const std::string& path, Wish wish);
+    static Result<HeldFile> make(const std::string& path, Wish wish);
 
     std::shared_ptr<Open> open_;
 };

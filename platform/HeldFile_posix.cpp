@@ -66,7 +66,8 @@ Result<HeldFile::Attempt> HeldFile::hold(const std::string& path, Wish wish) {
         return systemFailure(EINVAL);
     // A mark on a medium that has become write-protected can be held and read all the same, and
     // another user's lock tells whether he holds it.
-    Descriptor file = openForHolding(path, wish != Wish::Take, wish != Wish::Make);
+    Descriptor file =
+        openForHolding(path, wish != Wish::Take, wish == Wish::Take || wish == Wish::Lock);
     if (!file.isOpen() && wish == Wish::Take && errno == ENOENT)
         return Attempt{};
     if (!file.isOpen())
@@ -91,7 +92,15 @@ Result<HeldFile::Attempt> HeldFile::hold(const std::string& path, Wish wish) {
 }
 
 Result<HeldFile> HeldFile::make(const std::string& path) {
-    auto held = hold(path, Wish::Make);
+    return make(path, Wish::Make);
+}
+
+Result<HeldFile> HeldFile::makeReadable(const std::string& path) {
+    return make(path, Wish::MakeReadable);
+}
+
+Result<HeldFile> HeldFile::make(const std::string& path, Wish wish) {
+    auto held = hold(path, wish);
     if (!held)
         return Failure{held.reason()};
     return held->file ? Result<HeldFile>(std::move(*held->file)) : systemFailure(EWOULDBLOCK);
@@ -147,6 +156,18 @@ Outcome HeldFile::write(std::string_view content) {
     if (::fsync(file) != 0)
         return systemFailure(errno);
     return flushFolder(folderOf(open_->path));
+}
+
+Outcome HeldFile::append(std::string_view content) {
+    const int file = open_->file.number();
+    if (::lseek(file, 0, SEEK_END) < 0)
+        return systemFailure(errno);
+    const int error = writeAll(file, content);
+    return error == 0 ? Outcome(Done{}) : Outcome(systemFailure(error));
+}
+
+Outcome HeldFile::flush() {
+    return ::fsync(open_->file.number()) == 0 ? Outcome(Done{}) : Outcome(systemFailure(errno));
 }
 
 Outcome HeldFile::remove() {

@@ -21,7 +21,8 @@ Result<HeldFile::Attempt> HeldFile::hold(const std::string& path, Wish wish) {
         return systemFailure(ERROR_INVALID_NAME);
     const std::wstring name = systemPath(path);
     const DWORD how = wish == Wish::Take ? OPEN_EXISTING : OPEN_ALWAYS;
-    const DWORD shared = wish == Wish::Lock ? FILE_SHARE_READ : 0;
+    const bool isReadable = wish == Wish::Lock || wish == Wish::MakeReadable;
+    const DWORD shared = isReadable ? FILE_SHARE_READ : 0;
     const auto open = [&name, how, shared](DWORD access) {
         return Handle(::CreateFileW(name.c_str(), access, shared, nullptr, how,
                                     FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
@@ -44,7 +45,15 @@ Result<HeldFile::Attempt> HeldFile::hold(const std::string& path, Wish wish) {
 }
 
 Result<HeldFile> HeldFile::make(const std::string& path) {
-    auto held = hold(path, Wish::Make);
+    return make(path, Wish::Make);
+}
+
+Result<HeldFile> HeldFile::makeReadable(const std::string& path) {
+    return make(path, Wish::MakeReadable);
+}
+
+Result<HeldFile> HeldFile::make(const std::string& path, Wish wish) {
+    auto held = hold(path, wish);
     if (!held)
         return Failure{held.reason()};
     return held->file ? Result<HeldFile>(std::move(*held->file))
@@ -97,6 +106,19 @@ Outcome HeldFile::write(std::string_view content) {
         (open_->isLasting && !::FlushFileBuffers(file)))
         return lastFailure();
     return written == content.size() ? Outcome(Done{}) : Outcome(systemFailure(ERROR_DISK_FULL));
+}
+
+Outcome HeldFile::append(std::string_view content) {
+    const HANDLE file = open_->file.get();
+    DWORD written = 0;
+    if (::SetFilePointer(file, 0, nullptr, FILE_END) == INVALID_SET_FILE_POINTER ||
+        !::WriteFile(file, content.data(), static_cast<DWORD>(content.size()), &written, nullptr))
+        return lastFailure();
+    return written == content.size() ? Outcome(Done{}) : Outcome(systemFailure(ERROR_DISK_FULL));
+}
+
+Outcome HeldFile::flush() {
+    return ::FlushFileBuffers(open_->file.get()) ? Outcome(Done{}) : Outcome(lastFailure());
 }
 
 Outcome HeldFile::remove() {

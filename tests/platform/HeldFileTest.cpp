@@ -4,6 +4,10 @@
 #include "platform/Files.h"
 #include "support/TemporaryFolder.h"
 
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace vantrel {
@@ -75,6 +79,34 @@ TEST_F(HeldFileTest, OfAHugeFileOnlyTheBeginningIsRead) {
     EXPECT_EQ((*held)->read()->size(), 65536u);
 }
 
+TEST_F(HeldFileTest, AReadableOneIsReadByEverybodyAndHeldByNobodyElse) {
+    auto held = HeldFile::makeReadable(path);
+    ASSERT_TRUE(held) << held.reason();
+    EXPECT_TRUE(held->write("mine"));
+    EXPECT_FALSE(HeldFile::makeReadable(path));
+    const auto other = HeldFile::take(path);
+    EXPECT_TRUE(other && !*other);
+    const auto content = readFile(path);
+    ASSERT_TRUE(content) << content.reason();
+    EXPECT_EQ(*content, "mine");
+    EXPECT_TRUE(held->remove());
+    EXPECT_FALSE(anythingExists(path));
+}
+
+TEST_F(HeldFileTest, WhatIsAddedStandsAtTheEnd) {
+    folder.write("mark", "older");
+    const auto taken = HeldFile::take(path);
+    ASSERT_TRUE(taken && *taken);
+    HeldFile held = **taken;
+    EXPECT_TRUE(held.append(" and newer"));
+    EXPECT_TRUE(held.append(", twice"));
+    EXPECT_TRUE(held.flush());
+    EXPECT_EQ(*held.read(), "older and newer, twice");
+    EXPECT_TRUE(held.write("all new"));
+    EXPECT_TRUE(held.append("!"));
+    EXPECT_EQ(*held.read(), "all new!");
+}
+
 TEST_F(HeldFileTest, WhoHoldsALockCanBeReadMeanwhile) {
     auto held = HeldFile::lock(path);
     ASSERT_TRUE(held && *held);
@@ -130,6 +162,23 @@ TEST(FlushTest, WhatIsNotThereIsAFailure) {
     EXPECT_FALSE(flushFile(folder.path("A.JBI")));
     EXPECT_FALSE(flushFolder(folder.path("nowhere")));
     EXPECT_FALSE(flushFile(std::string("a\0b", 3)));
+}
+
+TEST_F(HeldFileTest, OfManyFilesThoseThatAreNotOnTheDiskAreNamed) {
+    for (const int count : {0, 1, 3, 4, 30}) {
+        std::vector<std::string> names;
+        for (int number = 0; number < count; ++number) {
+            names.push_back(std::to_string(number) + ".JBI");
+            folder.write(names.back(), "job");
+        }
+        EXPECT_THAT(flushFiles(folder.path(), names), testing::IsEmpty()) << count;
+        names.insert(names.begin(), "GONE.JBI");
+        EXPECT_THAT(flushFiles(folder.path(), names), testing::ElementsAre("GONE.JBI")) << count;
+    }
+    const std::vector<std::string> one{"A.JBI"};
+    EXPECT_EQ(flushFiles(folder.path("nowhere"), one), one);
+    const std::vector<std::string> bad{std::string("a\0b", 3), "0.JBI"};
+    EXPECT_THAT(flushFiles(folder.path(), bad), testing::ElementsAre(bad.front()));
 }
 
 } // namespace
