@@ -6,7 +6,7 @@
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
-#include "link/FetchMark.h"
+#include "link/GroupMark.h"
 #include "link/OverwriteQuestion.h"
 #include "platform/Files.h"
 
@@ -36,6 +36,7 @@ void CopyIntoFolder::take(const std::string& path) {
     if (isInPCFolder(path))
         return with_.results.note(name, ItemEnd::Skipped,
                                   with_.messages.getMessage(message::alreadyInFolder));
+    // Half a file would arrive as a whole one, a mark would have another file put away.
     if (isBeingFetched(rules.parent(path), name) || isBeingFetched(with_.state.PCPath, name))
         return reports.aboutFile(name, message::fetchNotFinished);
     if (!mayTakePlace(name))
@@ -53,13 +54,6 @@ void CopyIntoFolder::take(const std::string& path) {
     }
     outcome_.succeeded = false;
     reports.aboutFile(name, message::notCopied, copied.reason());
-}
-
-/// Half a file would arrive as a whole one, a mark would have another file put away, and what
-/// replaces half a file would be put away with it.
-bool CopyIntoFolder::isBeingFetched(const std::string& folder, const std::string& name) {
-    return FetchMark::isFileName(name) ||
-           anythingExists(PathRules().join(folder, FetchMark::fileNameFor(name)));
 }
 
 bool CopyIntoFolder::isInPCFolder(const std::string& path) const {

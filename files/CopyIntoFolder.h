@@ -22,7 +22,6 @@ class CopyIntoFolder {
   private:
     void take(const std::string& path);
     bool isInPCFolder(const std::string& path) const;
-    static bool isBeingFetched(const std::string& folder, const std::string& name);
     bool mayTakePlace(const std::string& name);
 
     TransferServices with_;

@@ -5,6 +5,7 @@
 #include "files/TransferReports.h"
 #include "lang/MessageNumbers.h"
 #include "lang/MessageTable.h"
+#include "link/SessionErrorRecord.h"
 #include "link/Snappy.h"
 
 namespace vantrel {
@@ -63,20 +64,25 @@ void ListTransfer::noteEnds() const {
         const bool isTried = ends[index] != EntryEnd::Failed || !with_.session.operatorIsTold();
         const EntryEnd end = isTried ? ends[index] : EntryEnd::NotTried;
         with_.results.note(with_.session.JobList(static_cast<std::int32_t>(index)), itemEnd(end),
-                           reasonOf(end));
+                           reasonOf(end, static_cast<std::int32_t>(index)));
     }
 }
 
-/// Why it failed is noted where it is told.
-std::string ListTransfer::reasonOf(EntryEnd end) const {
+/// Why the recorded one failed is noted where it is told. Others have arrived and not reached the
+/// disk, and the session has told of them.
+std::string ListTransfer::reasonOf(EntryEnd end, std::int32_t index) const {
     switch (end) {
     case EntryEnd::Refused:
         return with_.messages.getMessage(message::resultKept);
     case EntryEnd::PassedOver:
         return with_.messages.getMessage(message::localJobPassedOver);
+    case EntryEnd::Failed:
+        if (index != with_.session.failedIndex())
+            return functionAndReason("BscUpLoad", session_code::fileNotFlushed,
+                                     with_.messages.resourceMessage(session_code::fileNotFlushed));
+        break;
     case EntryEnd::NotTried:
     case EntryEnd::Done:
-    case EntryEnd::Failed:
         break;
     }
     return {};

@@ -29,7 +29,7 @@ class ListTransfer {
 
   private:
     void noteEnds() const;
-    std::string reasonOf(EntryEnd end) const;
+    std::string reasonOf(EntryEnd end, std::int32_t index) const;
 
     TransferServices with_;
     Direction direction_;

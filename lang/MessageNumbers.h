@@ -337,8 +337,9 @@ inline constexpr std::int32_t controllerLoses = 391;
 inline constexpr std::int32_t pcLoses = 392;
 inline constexpr std::int32_t allMeans = 393; ///< with the number of items that follow
 // A mark in the PC folder that does not tell what became of its file.
-inline constexpr std::int32_t markUnusable = 372; ///< after [name], then [the mark's name]
-inline constexpr std::int32_t markOfNoFile = 373; ///< after [the mark's name]
+inline constexpr std::int32_t markUnusable = 372;       ///< after [name], then [the mark's name]
+inline constexpr std::int32_t markOfNoFile = 373;       ///< after [the mark's name]
+inline constexpr std::int32_t groupMarkUnusable = 6620; ///< the same
 
 // Who works with a machine that is in use.
 inline constexpr std::int32_t userProcess = 662; ///< with its number

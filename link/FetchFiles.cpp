@@ -9,6 +9,10 @@ Result<HeldFile> FetchFiles::hold(const std::string& path) {
     return HeldFile::make(path);
 }
 
+Result<HeldFile> FetchFiles::holdReadable(const std::string& path) {
+    return HeldFile::makeReadable(path);
+}
+
 Result<std::optional<HeldFile>> FetchFiles::take(const std::string& path) {
     return HeldFile::take(path);
 }
@@ -19,6 +23,14 @@ bool FetchFiles::isHeldAlone(const HeldFile& file) {
 
 Outcome FetchFiles::write(HeldFile& file, const std::string& content) {
     return file.write(content);
+}
+
+Outcome FetchFiles::append(HeldFile& file, const std::string& content) {
+    return file.append(content);
+}
+
+Outcome FetchFiles::flush(HeldFile& file) {
+    return file.flush();
 }
 
 Outcome FetchFiles::remove(HeldFile& file) {
@@ -43,6 +55,16 @@ Outcome FetchFiles::giveName(const std::string& from, const std::string& to) {
 
 Outcome FetchFiles::flush(const std::string& path) {
     return flushFile(path);
+}
+
+std::vector<std::string> FetchFiles::flushAll(const std::string& folder,
+                                              const std::vector<std::string>& names) {
+    return flushFiles(folder, names);
+}
+
+std::chrono::milliseconds FetchFiles::clock() const {
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch());
 }
 
 } // namespace vantrel

@@ -15,7 +15,6 @@ namespace {
 /// Bytes; with a suffix behind it a file system still takes it, and a message shows it whole.
 constexpr std::size_t longestStem = 180;
 constexpr std::size_t shortenedStem = longestStem / 4; ///< characters, of at most four bytes
-constexpr std::string_view markPrefix = "~vantrel-fetch-";
 constexpr std::string_view firstLine = "Vantrel fetch 1";
 constexpr std::string_view lastLine = "end";
 
@@ -42,18 +41,37 @@ std::optional<std::uint64_t> numberIn(std::string_view text) {
 
 } // namespace
 
+KnownContent KnownContent::of(std::string_view content) {
+    return {content.size(), digestOf(content)};
+}
+
+std::optional<KnownContent> KnownContent::parse(std::string_view size, std::string_view digest) {
+    const auto sizeNumber = numberIn(size);
+    const auto digestNumber = numberIn(digest);
+    if (!sizeNumber || !digestNumber)
+        return {};
+    return KnownContent{*sizeNumber, *digestNumber};
+}
+
+bool KnownContent::isIn(const std::string& path) const {
+    if (!isRegularFile(path))
+        return false;
+    const auto content = readFile(path);
+    return content && of(*content) == *this;
+}
+
 std::string FetchMark::fileNameFor(std::string_view name) {
-    return std::string(markPrefix) + std::to_string(digestOf(comparedName(name)));
+    return std::string(namePrefix) + std::to_string(digestOf(comparedName(name)));
 }
 
 bool FetchMark::isFileName(std::string_view name) {
-    return name.starts_with(markPrefix);
+    return name.starts_with(namePrefix);
 }
 
 std::string FetchMark::format() const {
     std::string text;
-    for (const std::string& line : {std::string(firstLine), name, aside, std::to_string(size),
-                                    std::to_string(digest), std::string(lastLine)})
+    for (const std::string& line : {std::string(firstLine), name, aside, std::to_string(old.size),
+                                    std::to_string(old.digest), std::string(lastLine)})
         text += line + "\n";
     return text;
 }
@@ -64,14 +82,12 @@ std::optional<FetchMark> FetchMark::parse(std::string_view content) {
     const std::vector<std::string_view> line = lines(content);
     if (line.size() != 6 || line.front() != firstLine || line.back() != lastLine)
         return {};
-    const auto size = numberIn(line[3]);
-    const auto digest = numberIn(line[4]);
-    FetchMark mark{std::string(line[1]), std::string(line[2]), size.value_or(0),
-                   digest.value_or(0)};
+    const auto old = KnownContent::parse(line[3], line[4]);
+    FetchMark mark{std::string(line[1]), std::string(line[2]), old.value_or(KnownContent())};
     const bool isAside = mark.aside.empty() ||
                          (PathRules::isPlainName(mark.aside) &&
                           mark.aside.starts_with(stemOf(mark.name) + std::string(replacedSuffix)));
-    if (!size || !digest || !PathRules::isPlainName(mark.name) || !isAside)
+    if (!old || !PathRules::isPlainName(mark.name) || !isAside)
         return {};
     return mark;
 }
@@ -81,18 +97,6 @@ bool FetchMark::isTorn(std::string_view content) {
         return true;
     const bool hasEnd = content.ends_with(std::string(lastLine) + "\n");
     return !hasEnd && (content.starts_with(firstLine) || firstLine.starts_with(content));
-}
-
-void FetchMark::describeOld(std::string_view content) {
-    size = content.size();
-    digest = digestOf(content);
-}
-
-bool FetchMark::describes(const std::string& path) const {
-    if (!isRegularFile(path))
-        return false;
-    const auto content = readFile(path);
-    return content && content->size() == size && digestOf(*content) == digest;
 }
 
 std::string freeSpareName(const std::string& folder, const std::string& name,

@@ -22,6 +22,7 @@ EntryEnd endOf(TransferOutcome outcome) {
     case TransferOutcome::Failed:
         return EntryEnd::Failed;
     case TransferOutcome::Cancelled:
+    case TransferOutcome::Stopped:
         break;
     }
     return EntryEnd::NotTried;
@@ -31,7 +32,7 @@ EntryEnd endOf(TransferOutcome outcome) {
 
 bool JobBatch::run(const std::vector<std::string>& entries) {
     tools_.progress.open(tools_.progress.transferring(), true, true);
-    const TransferOutcome outcome = runThrough(entries);
+    const TransferOutcome outcome = conclude(runThrough(entries));
     tools_.progress.hide();
     // Before the caller's report of a failure, which so is the last thing that the operator reads.
     if (!tools_.link.endedByUnsetAddress())
@@ -48,10 +49,20 @@ TransferOutcome JobBatch::runThrough(const std::vector<std::string>& entries) {
                                             ? passOver(entry, index, count)
                                             : handle(entry, index, count);
         record(outcome, index);
-        if (outcome == TransferOutcome::Failed || outcome == TransferOutcome::Cancelled)
+        if (outcome == TransferOutcome::Failed || outcome == TransferOutcome::Cancelled ||
+            outcome == TransferOutcome::Stopped)
             return outcome;
     }
     return TransferOutcome::Done;
+}
+
+TransferOutcome JobBatch::conclude(TransferOutcome outcome) {
+    if (!conclude_)
+        return outcome;
+    const auto lost = conclude_(outcome);
+    for (const std::int32_t index : lost)
+        tools_.ends[static_cast<std::size_t>(index)] = EntryEnd::Failed;
+    return lost.empty() ? outcome : TransferOutcome::Failed;
 }
 
 TransferOutcome JobBatch::passOver(const std::string& entry, std::int32_t index,
@@ -67,7 +78,7 @@ TransferOutcome JobBatch::handle(const std::string& entry, std::int32_t index, s
     const TransferOutcome outcome = transfer_(entry, index, overwriteAll_);
     tools_.ends[static_cast<std::size_t>(index)] = endOf(outcome);
     overwriteAll_ = overwriteAll_ || outcome == TransferOutcome::DoneAll;
-    if (outcome == TransferOutcome::Failed)
+    if (outcome == TransferOutcome::Failed || outcome == TransferOutcome::Stopped)
         return outcome;
     return tools_.progress.isCancelledAfterYield() ? TransferOutcome::Cancelled : outcome;
 }

@@ -35,8 +35,12 @@ class JobBatch {
         std::vector<EntryEnd>& ends; ///< filled, entry by entry
     };
 
-    JobBatch(const Tools& tools, Transfer transfer)
-        : tools_(tools), transfer_(std::move(transfer)) {}
+    /// Ends what the transfers have begun together, whatever ended the list. Returns the entries
+    /// that have failed after all; the record then tells of a failure.
+    using Conclude = std::function<std::vector<std::int32_t>(TransferOutcome outcome)>;
+
+    JobBatch(const Tools& tools, Transfer transfer, Conclude conclude = {})
+        : tools_(tools), transfer_(std::move(transfer)), conclude_(std::move(conclude)) {}
 
     /// True when every entry was handled. Hides the progress.
     bool run(const std::vector<std::string>& entries);
@@ -44,6 +48,7 @@ class JobBatch {
   private:
     /// `Done` at the end of the list, else what ended it early.
     TransferOutcome runThrough(const std::vector<std::string>& entries);
+    TransferOutcome conclude(TransferOutcome outcome);
     TransferOutcome passOver(const std::string& entry, std::int32_t index, std::int32_t count);
     TransferOutcome handle(const std::string& entry, std::int32_t index, std::int32_t count);
     /// What a failure or a cancel adds to the error record: the entry's index.
@@ -52,6 +57,7 @@ class JobBatch {
 
     Tools tools_;
     Transfer transfer_;
+    Conclude conclude_;
     bool overwriteAll_ = false;
     std::int32_t skipped_ = 0;
 };

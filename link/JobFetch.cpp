@@ -5,6 +5,7 @@
 #include "lang/MessageTable.h"
 #include "link/FetchMark.h"
 #include "link/InterruptedFetches.h"
+#include "link/JobLists.h"
 #include "link/JobNameSet.h"
 #include "link/LinkConnection.h"
 #include "link/OperatorTalk.h"
@@ -80,8 +81,9 @@ TransferOutcome JobFetch::fetch(const std::string& name, std::int32_t index, boo
     if (!goesOn(outcome))
         return outcome;
     const bool mayReplace = overwriteAll || !tools_.inTheWay.empty();
-    if (!receive(name, *libraryName, index, mayReplace))
-        return TransferOutcome::Failed;
+    const TransferOutcome received = receive(name, *libraryName, index, mayReplace);
+    if (received != TransferOutcome::Done)
+        return received;
     tools_.directory.insert(name);
     return outcome;
 }
@@ -93,23 +95,113 @@ bool JobFetch::existsOnPC(const std::string& name) const {
            anythingExists(PathRules().join(tools_.properties.path, name));
 }
 
+void JobFetch::beginList(const std::vector<std::string>& entries, const LocalJobList& localJobs) {
+    lost_.clear();
+    group_.begin(tools_.properties.path, entries, [this, &localJobs](const std::string& name) {
+        return !localJobs.contains(name) && !tools_.directory.hasFile(name);
+    });
+}
+
+// A question may stay open for long. What replaces a file that is announced is no new file any
+// more.
+TransferOutcome JobFetch::fetchOfList(const std::string& name, std::int32_t index,
+                                      bool overwriteAll) {
+    const bool endsGroup =
+        group_.isDue(index) || (existsOnPC(name) && (!overwriteAll || group_.announces(name)));
+    if (endsGroup && !settleGroup())
+        return TransferOutcome::Stopped;
+    return fetch(name, index, overwriteAll);
+}
+
+std::vector<std::int32_t> JobFetch::endList(TransferOutcome outcome) {
+    settleGroup();
+    group_.end();
+    const bool isRecorded = outcome != TransferOutcome::Failed && !lost_.empty();
+    if (isRecorded)
+        tools_.error.set(session_code::fileNotFlushed, "BscUpLoad", lost_.front().index);
+    std::vector<std::string> untold;
+    std::vector<std::int32_t> indexes;
+    for (const FetchGroup::Lost& lost : lost_) {
+        if (!isRecorded || !indexes.empty())
+            untold.push_back(bracketed(lost.name) + " " +
+                             tools_.messages.resourceMessage(session_code::fileNotFlushed));
+        indexes.push_back(lost.index);
+    }
+    interrupted_.tell(untold);
+    return indexes;
+}
+
+bool JobFetch::settleGroup() {
+    const auto lost = group_.settle();
+    for (const FetchGroup::Lost& file : lost)
+        if (file.isThere)
+            tellPartKept(file.name);
+    lost_.insert(lost_.end(), lost.begin(), lost.end());
+    return lost.empty();
+}
+
 // Connecting takes long and lets events run: what came meanwhile was asked for by nobody.
-bool JobFetch::receive(const std::string& name, const std::string& libraryName, std::int32_t index,
-                       bool mayReplace) {
+TransferOutcome JobFetch::receive(const std::string& name, const std::string& libraryName,
+                                  std::int32_t index, bool mayReplace) {
     const std::int16_t handle = tools_.link.connect();
     if (handle < 0)
-        return false;
-    if (mayReplace || !anythingExists(PathRules().join(tools_.properties.path, name)))
-        return receiveOver(handle, name, libraryName, index);
-    tools_.link.disconnect(handle);
-    tools_.error.set(session_code::fileChanged, "", index);
+        return TransferOutcome::Failed;
+    if (!mayReplace && anythingExists(PathRules().join(tools_.properties.path, name))) {
+        tools_.link.disconnect(handle);
+        tools_.error.set(session_code::fileChanged, "", index);
+        return TransferOutcome::Failed;
+    }
+    const bool isOfGroup = group_.takes(index);
+    if (!isOfGroup && group_.announces(name) && !settleGroup()) {
+        tools_.link.disconnect(handle);
+        return TransferOutcome::Stopped;
+    }
+    const bool hasArrived = isOfGroup ? receiveInGroup(handle, name, libraryName, index)
+                                      : receiveOver(handle, name, libraryName, index);
+    return hasArrived ? TransferOutcome::Done : TransferOutcome::Failed;
+}
+
+bool JobFetch::receiveInGroup(std::int16_t handle, const std::string& name,
+                              const std::string& libraryName, std::int32_t index) {
+    if (receiveNew(handle, name, libraryName, index))
+        return true;
+    const std::string path = group_.pathOf(name);
+    if (anythingExists(path) && !files_.remove(path))
+        tellPartKept(name);
     return false;
+}
+
+bool JobFetch::receiveNew(std::int16_t handle, const std::string& name,
+                          const std::string& libraryName, std::int32_t index) {
+    const std::int16_t received = tools_.link.library().BscUpLoad(handle, libraryName.c_str());
+    if (!tools_.link.finish(handle, received, "BscUpLoad", index))
+        return false;
+    const auto content = readFile(group_.pathOf(name));
+    if (!content || content->empty()) {
+        tools_.error.set(session_code::fileDidNotArrive, "BscUpLoad", index);
+        return false;
+    }
+    if (!tools_.link.isAsBegun())
+        return false;
+    group_.hasArrived(index, *content);
+    return true;
+}
+
+void JobFetch::tellPartKept(const std::string& name) const {
+    tools_.talk.tell(bracketed(name) + tools_.messages.getMessage(message::partialFileKept),
+                     BoxIcon::Exclamation);
 }
 
 bool JobFetch::receiveOver(std::int16_t handle, const std::string& name,
                            const std::string& libraryName, std::int32_t index) {
     const std::string folder = tools_.properties.path;
     const bool isTold = interrupted_.isTold(folder, name);
+    // Two programs would write one file.
+    if (interrupted_.isAnnounced(folder, name)) {
+        tools_.link.disconnect(handle);
+        tools_.error.set(session_code::fetchNotMarked, "", index);
+        return false;
+    }
     const OwnFetch own(interrupted_, folder, name);
     ReplacedFile file(files_, folder, name, isTold);
     if (file.problem() != 0) {
@@ -156,12 +248,10 @@ void JobFetch::tellLeftover(const ReplacedFile& file, const std::string& name) c
 void JobFetch::putBack(ReplacedFile& file, const std::string& name) {
     if (file.putBack())
         return;
-    const std::string shownName = bracketed(name);
     if (file.asideName().empty()) {
-        tools_.talk.tell(shownName + tools_.messages.getMessage(message::partialFileKept),
-                         BoxIcon::Exclamation);
+        tellPartKept(name);
     } else {
-        tools_.talk.tell(shownName + tools_.messages.getMessage(message::oldFileKept) +
+        tools_.talk.tell(bracketed(name) + tools_.messages.getMessage(message::oldFileKept) +
                              bracketed(file.asideName()),
                          BoxIcon::Exclamation);
     }

@@ -2,7 +2,6 @@
 
 #include "base/PathRules.h"
 #include "base/TextCase.h"
-#include "link/FetchMark.h"
 #include "link/InterruptedFetches.h"
 #include "link/JobFile.h"
 #include "link/JobNameSet.h"
@@ -63,15 +62,15 @@ void JobSend::begin() {
 }
 
 bool JobSend::isWhole(const std::string& file, std::int32_t index) {
-    return accept(interrupted_.forbidsSending(tools_.properties.path, file), file, index);
+    return accept(interrupted_.forbidsSending(tools_.properties.path, file), index);
 }
 
-bool JobSend::accept(std::int16_t code, const std::string& file, std::int32_t index) {
+bool JobSend::accept(std::int16_t code, std::int32_t index) {
     if (code == 0)
         return true;
     tools_.error.set(code, "", index);
     if (code == session_code::markUnusable)
-        tools_.error.mark = FetchMark::fileNameFor(file);
+        tools_.error.mark = interrupted_.unusableMark();
     return false;
 }
 
@@ -161,7 +160,7 @@ TransferOutcome JobSend::agree(const std::string& file, JobFile& job, std::int32
         return isAgreed ? TransferOutcome::Done : TransferOutcome::Failed;
     }
     const TransferOutcome outcome = askAll(file);
-    const bool goesWrong = goesOn(outcome) && !accept(readAgain(file, job), file, index);
+    const bool goesWrong = goesOn(outcome) && !accept(readAgain(file, job), index);
     return goesWrong ? TransferOutcome::Failed : outcome;
 }
 
@@ -225,7 +224,7 @@ bool JobSend::removeAll(const std::vector<std::string>& jobs, const std::string&
     for (const std::string& name : jobs) {
         if (!deletion_.remove(name, mayBegin)) {
             // Whatever the link says to being closed.
-            accept(code, file, index);
+            accept(code, index);
             return false;
         }
         tools_.directory.remove(name);
@@ -243,7 +242,7 @@ bool JobSend::transmit(const std::string& file, const std::string& libraryName,
     // Connecting takes long and lets events run: somebody may have begun to fetch the file.
     if (const auto code = interrupted_.forbidsSending(tools_.properties.path, file); code != 0) {
         tools_.link.disconnect(handle);
-        return accept(code, file, index);
+        return accept(code, index);
     }
     const std::int16_t sent = tools_.link.library().BscDownLoad(handle, libraryName.c_str());
     if (sent == 0)

@@ -96,7 +96,7 @@ class JobSend {
     /// one that was looked at before: somebody may have saved, opened or removed it meanwhile.
     std::int16_t readAgain(const std::string& file, JobFile& job);
     /// False, with the code recorded, for any but 0.
-    bool accept(std::int16_t code, const std::string& file, std::int32_t index);
+    bool accept(std::int16_t code, std::int32_t index);
     bool removeAll(const std::vector<std::string>& jobs, const std::string& file, JobFile& job,
                    std::int32_t index);
     bool transmit(const std::string& file, const std::string& libraryName,

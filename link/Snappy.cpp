@@ -55,7 +55,7 @@ struct Snappy::Parts {
     bool readDirectory();
     /// Works through `entries`; `transfer` does one of them.
     bool transferList(const SessionProperties& properties, const std::vector<std::string>& entries,
-                      JobBatch::Transfer transfer);
+                      JobBatch::Transfer transfer, JobBatch::Conclude conclude = {});
     bool sendSingle(const std::string& file, const ReplaceConsent& consent);
     /// Hides the progress and turns the outcome of a single transfer into record and result.
     bool concludeSingle(TransferOutcome outcome);
@@ -289,6 +289,7 @@ bool Snappy::Parts::concludeSingle(TransferOutcome outcome) {
         break;
     case TransferOutcome::Done:
     case TransferOutcome::Failed:
+    case TransferOutcome::Stopped:
         break;
     }
     return goesOn(outcome);
@@ -296,10 +297,10 @@ bool Snappy::Parts::concludeSingle(TransferOutcome outcome) {
 
 bool Snappy::Parts::transferList(const SessionProperties& properties,
                                  const std::vector<std::string>& entries,
-                                 JobBatch::Transfer transfer) {
+                                 JobBatch::Transfer transfer, JobBatch::Conclude conclude) {
     JobBatch batch(
         {properties, link, progress, error, localJobs, services.messages, services.talk, ends},
-        std::move(transfer));
+        std::move(transfer), std::move(conclude));
     return batch.run(entries);
 }
 
@@ -360,12 +361,14 @@ bool Snappy::JobListUpLoad() {
         parts_->localJobs.read(path);
         if (!parts_->fetching.listFolder())
             return false;
+        parts_->fetching.beginList(entries, parts_->localJobs);
         return parts_->transferList(
             *this, entries,
             [this](const std::string& entry, std::int32_t index, bool overwriteAll) {
                 parts_->entryTried = true;
-                return parts_->fetching.fetch(entry, index, overwriteAll);
-            });
+                return parts_->fetching.fetchOfList(entry, index, overwriteAll);
+            },
+            [this](TransferOutcome outcome) { return parts_->fetching.endList(outcome); });
     });
 }
 

@@ -22,6 +22,7 @@ enum class TransferOutcome : std::int16_t {
     Refused = 1,   ///< the operator keeps what is there
     DoneAll = 2,   ///< transferred, and no further question is wanted
     Cancelled = 3, ///< the operator wants no more
+    Stopped = 4,   ///< not tried: an entry before it has failed after all
 };
 
 /// Whether the transfer itself may go on, or has been made.

@@ -11,6 +11,7 @@
 #include "lang/MessageTable.h"
 #include "lang/SystemReasons.h"
 #include "link/FetchMark.h"
+#include "link/GroupMark.h"
 #include "link/OperatorTalk.h"
 #include "link/ShownText.h"
 #include "platform/Files.h"
@@ -74,13 +75,6 @@ void PCFileCommands::rename() {
 void PCFileCommands::tellUnfinished(const std::string& name) const {
     with_.talk.tell(bracketed(name) + with_.messages.getMessage(message::fetchNotFinished),
                     BoxIcon::Exclamation);
-}
-
-/// A mark finds its file by the name: under another one half a file would look like a whole one,
-/// and what took the name of one that is still to come would be replaced by it.
-bool PCFileCommands::isBeingFetched(const std::string& folder, const std::string& name) const {
-    return FetchMark::isFileName(name) ||
-           anythingExists(PathRules().join(folder, FetchMark::fileNameFor(name)));
 }
 
 /// Whoever makes a name makes one that both systems can hold. Whether it is taken is left to the

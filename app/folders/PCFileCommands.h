@@ -73,7 +73,6 @@ class PCFileCommands {
   private:
     std::string problemOfName(const std::string& folder, const std::string& name,
                               const std::string& old) const;
-    bool isBeingFetched(const std::string& folder, const std::string& name) const;
     void showNew(const std::string& name);
     void tellUnfinished(const std::string& name) const;
     static std::string absolute(const std::string& shown, const std::string& typed);

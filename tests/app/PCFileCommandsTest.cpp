@@ -3,6 +3,7 @@
 #include "MainCommandsFixture.h"
 #include "base/PathRules.h"
 #include "link/FetchMark.h"
+#include "link/GroupMark.h"
 #include "platform/Files.h"
 
 #include <gmock/gmock.h>
@@ -407,6 +408,17 @@ TEST_F(PCFileCommandsTest, AFileThatIsBeingFetchedKeepsItsName) {
     EXPECT_FALSE(pc.has("B.JBI"));
     EXPECT_THAT(boxes.texts(), ElementsAre("[A.JBI] not finished"));
     EXPECT_THAT(prompts.asked, IsEmpty());
+}
+
+TEST_F(PCFileCommandsTest, AFileOfAGroupThatIsBeingFetchedKeepsItsNameToo) {
+    show({"A.JBI"});
+    pc.write(GroupMark::fileName(), GroupMark{{{.name = "A.JBI"}, {.name = "C.JBI"}}}.format());
+    window.pc.click({"A.JBI"});
+    prompts.answer = "B.JBI";
+    files.rename();
+    EXPECT_TRUE(pc.has("A.JBI"));
+    EXPECT_FALSE(pc.has("B.JBI"));
+    EXPECT_THAT(boxes.texts(), ElementsAre("[A.JBI] not finished"));
 }
 
 TEST_F(PCFileCommandsTest, NoFileTakesTheNameOfOneThatIsStillToCome) {

@@ -86,6 +86,7 @@ class CommandFixture : public testing::Test {
             text(391, "the controller loses"),
             text(392, "the PC loses"),
             text(393, "% more"),
+            text(546, "not flushed"),
             text(547, "mark unusable"),
             text(372, " mark unusable: "),
             text(394, "replace values? "),

@@ -3,6 +3,8 @@
 #include "CommandFixture.h"
 #include "base/PathRules.h"
 
+#include <filesystem>
+
 #include <gmock/gmock.h>
 
 namespace vantrel {
@@ -144,6 +146,30 @@ TEST_F(CopyCommandTest, ReceivedJobsArriveByteForByteAndStayOnTheController) {
     EXPECT_EQ(window.pcStatus, "PC: 2 items");
     EXPECT_EQ(window.controller.focuses, 1);
     EXPECT_EQ(library.callCount("BscFindFirst"), 0) << "a receive does not read the controller";
+}
+
+/// New files are brought to the disk together: that one has not reached it is found out later.
+TEST_F(CopyCommandTest, EachReceivedFileThatDoesNotReachTheDiskIsToldAndNotedWithItsReason) {
+    for (const char* name : {"A", "B", "C"})
+        robotJob(name);
+    selectOnController({"A.JBI", "B.JBI", "C.JBI"});
+    library.onCall = [this](const std::string& function) {
+        if (function == "BscUpLoad" && library.callCount(function) == 3)
+            for (const char* name : {"A.JBI", "B.JBI"})
+                std::filesystem::remove(pc.path(name));
+    };
+    EXPECT_FALSE(commands.receiveCopy());
+    EXPECT_THAT(boxes.texts(),
+                ElementsAre("[B.JBI] not flushed",
+                            "Transfer failed: BscUpLoad ( not flushed (46) ) (0)\n[A.JBI]"));
+    ASSERT_TRUE(results.last() && results.last()->items.size() == 3);
+    const std::string reason = "BscUpLoad ( not flushed (46) )";
+    for (const std::size_t item : {0u, 1u}) {
+        EXPECT_EQ(results.last()->items[item].end, ItemEnd::Failed);
+        EXPECT_EQ(results.last()->items[item].reason, reason);
+    }
+    EXPECT_EQ(results.last()->items[2].end, ItemEnd::Done);
+    EXPECT_EQ(pc.read("C.JBI"), job("C"));
 }
 
 TEST_F(CopyCommandTest, AFixedNameIsReceivedToo) {

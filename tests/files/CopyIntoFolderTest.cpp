@@ -2,6 +2,7 @@
 
 #include "CommandFixture.h"
 #include "link/FetchMark.h"
+#include "link/GroupMark.h"
 
 #include <gmock/gmock.h>
 
@@ -161,6 +162,19 @@ TEST_F(CopyIntoFolderTest, HalfAFileAndItsMarkStayWhereTheyAre) {
     EXPECT_EQ(pc.read("A.JBI"), job("A"));
     EXPECT_FALSE(pc.has(FetchMark::fileNameFor("A.JBI")));
     EXPECT_TRUE(pc.has("B.JBI"));
+    EXPECT_EQ(window.result, "1 copied, 2 skipped, 0 failed");
+}
+
+TEST_F(CopyIntoFolderTest, SoDoFilesOfAGroupThatIsBeingFetched) {
+    pcJob("A");
+    showPanes();
+    const auto half = dropped("A");
+    elsewhere.write(GroupMark::fileName(), GroupMark{{{.name = "A.JBI"}}}.format());
+    pc.write(GroupMark::fileName(), GroupMark{{{.name = "C.JBI"}}}.format());
+    EXPECT_TRUE(commands.copyIntoFolder({half, dropped("B"), dropped("C")}));
+    EXPECT_EQ(pc.read("A.JBI"), job("A"));
+    EXPECT_TRUE(pc.has("B.JBI"));
+    EXPECT_FALSE(pc.has("C.JBI"));
     EXPECT_EQ(window.result, "1 copied, 2 skipped, 0 failed");
 }
 

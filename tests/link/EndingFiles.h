@@ -19,6 +19,19 @@ class EndingFiles : public FetchFiles {
     Result<HeldFile> hold(const std::string& path) override {
         return step() ? FetchFiles::hold(path) : Failure{"ended"};
     }
+    Result<HeldFile> holdReadable(const std::string& path) override {
+        return step() ? FetchFiles::holdReadable(path) : Failure{"ended"};
+    }
+    Outcome append(HeldFile& file, const std::string& content) override {
+        return step() ? FetchFiles::append(file, content) : Failure{"ended"};
+    }
+    Outcome flush(HeldFile& file) override {
+        return step() ? FetchFiles::flush(file) : Failure{"ended"};
+    }
+    std::vector<std::string> flushAll(const std::string& folder,
+                                      const std::vector<std::string>& names) override {
+        return step() ? FetchFiles::flushAll(folder, names) : names;
+    }
     Outcome write(HeldFile& file, const std::string& content) override {
         return step() ? FetchFiles::write(file, content) : Failure{"ended"};
     }

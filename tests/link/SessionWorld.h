@@ -52,6 +52,8 @@ inline MessageTable sessionMessages() {
     add(547, "mark unusable");
     add(372, " mark unusable: ");
     add(373, " mark of nothing");
+    add(6620, " group mark unusable");
+    add(546, "not flushed");
     add(502, "already exists. Overwrite it?");
     add(504, "Transferring ");
     add(507, "Deleting ");
