@@ -7,10 +7,10 @@ source "$(dirname "${BASH_SOURCE[0]}")/steps.sh"
 linux_packages=(dpkg-dev fakeroot file librsvg2-bin)
 # The two headers-only libraries of console/.
 header_packages=(libcli11-dev nlohmann-json3-dev)
-build_packages=("${header_packages[@]}" g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev pkg-config librsvg2-common fonts-vlgothic
+build_packages=("${header_packages[@]}" g++ cmake ninja-build ccache libwxgtk3.2-dev libgtk-3-dev libgit2-dev pkg-config librsvg2-common fonts-vlgothic
     ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic)
 display_packages=(xvfb openbox xdotool imagemagick x11-utils adwaita-icon-theme)
-test_packages=(libgtest-dev libgmock-dev g++-multilib python3 poppler-utils "${linux_packages[@]}" desktop-file-utils appstream)
+test_packages=(git libgtest-dev libgmock-dev g++-multilib python3 poppler-utils "${linux_packages[@]}" desktop-file-utils appstream)
 # For scripts/format.sh and scripts/tidy.sh, of one version everywhere.
 style_packages=(git clang-14 clang-format-14 clang-tidy-14)
 fuzz_packages=(clang cmake ninja-build ccache)

@@ -1,0 +1,165 @@
+#include "history/HistoryStore.h"
+
+#include "history/HistoryLog.h"
+#include "history/HistoryRepository.h"
+#include "history/HistoryTrees.h"
+#include "history/SnapshotWriter.h"
+#include "history/StoredNames.h"
+#include "history/WorkingTree.h"
+#include "platform/HeldFile.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <map>
+#include <utility>
+
+namespace vantrel {
+namespace {
+
+/// Files by the names that the robot has for them.
+std::map<std::string, git_oid> namedFiles(const git_tree* folder) {
+    std::map<std::string, git_oid> files;
+    for (const auto& [place, id] : filesOf(folder))
+        files.emplace(nameFromStored(place), id);
+    return files;
+}
+
+StateChanges difference(const std::map<std::string, git_oid>& before,
+                        const std::map<std::string, git_oid>& after) {
+    StateChanges changes;
+    for (const auto& [name, id] : after) {
+        const auto old = before.find(name);
+        if (old == before.end())
+            changes.added.push_back(name);
+        else if (git_oid_equal(&old->second, &id) == 0)
+            changes.changed.push_back(name);
+    }
+    for (const auto& [name, id] : before)
+        if (!after.contains(name))
+            changes.gone.push_back(name);
+    return changes;
+}
+
+} // namespace
+
+/// The library has to outlive what it made.
+struct HistoryStore::Parts {
+    GitLibrary library{};
+    std::optional<HistoryRepository> repository{};
+};
+
+HistoryStore::HistoryStore(std::unique_ptr<Parts> parts) : parts_(std::move(parts)) {}
+HistoryStore::HistoryStore(HistoryStore&&) noexcept = default;
+HistoryStore& HistoryStore::operator=(HistoryStore&&) noexcept = default;
+HistoryStore::~HistoryStore() = default;
+
+Result<HistoryStore> HistoryStore::open(const std::string& folder) {
+    auto parts = std::make_unique<Parts>();
+    auto repository = HistoryRepository::open(folder);
+    if (!repository)
+        return Failure{repository.reason()};
+    parts->repository.emplace(std::move(*repository));
+    return HistoryStore(std::move(parts));
+}
+
+// The order is the promise: what is new is on the disk before the branch points to it, and the
+// plain files follow. Whatever of that a crash leaves out, the next record makes up for.
+Result<Recorded>
+HistoryStore::record(const RobotState& state, const HistorySignature& by,
+                     const std::function<std::string(const StateChanges&)>& message) {
+    HistoryRepository& repository = *parts_->repository;
+    const auto lock = HeldFile::lock(repository.pathOf("vantrel.lock"));
+    if (!lock)
+        return Failure{lock.reason()};
+    if (!*lock)
+        return Recorded{.end = Recorded::End::InUse};
+    auto tip = repository.tip();
+    if (!tip)
+        return Failure{tip.reason()};
+    auto writer = SnapshotWriter::begin(repository.folder(), *tip);
+    if (!writer)
+        return Failure{writer.reason()};
+    if (const auto taken = writer->take(state); !taken)
+        return Failure{taken.reason()};
+    Recorded recorded{.changes = writer->changes(), .notStored = writer->notStored()};
+    if (!recorded.changes.none()) {
+        const auto commit = writer->write(by, message(recorded.changes));
+        if (!commit)
+            return Failure{commit.reason()};
+        if (const auto moved = repository.move(*commit, *tip, patience); !moved)
+            return Failure{moved.reason()};
+        recorded.end = Recorded::End::Committed;
+        *tip = *commit;
+    }
+    if (!*tip)
+        return recorded;
+    recorded.version = hexadecimal(**tip);
+    if (const auto shown = WorkingTree(writer->repository(), repository.folder()).show(**tip);
+        !shown)
+        recorded.treeProblem = shown.reason();
+    return recorded;
+}
+
+Result<std::vector<HistoryEntry>> HistoryStore::log(const HistoryFilter& filter) const {
+    return HistoryLog(*parts_->repository, filter).entries();
+}
+
+Result<StateChanges> HistoryStore::changes(const std::string& version,
+                                           const std::string& robot) const {
+    const HistoryRepository& repository = *parts_->repository;
+    const auto before = repository.versionBefore(version);
+    if (!before)
+        return Failure{before.reason()};
+    const auto old = *before ? repository.robotIn(robot, **before) : Result<GitTree>(GitTree());
+    if (!old)
+        return Failure{old.reason()};
+    const auto present = repository.robotIn(robot, version);
+    if (!present)
+        return Failure{present.reason()};
+    return difference(namedFiles(old->get()), namedFiles(present->get()));
+}
+
+Result<std::vector<std::string>> HistoryStore::robots(const std::string& version) const {
+    const auto root = parts_->repository->rootOf(version);
+    if (!root)
+        return Failure{root.reason()};
+    std::vector<std::string> names;
+    for (const std::string& place : placesIn(root->get()))
+        if (git_tree_entry_type(git_tree_entry_byname(root->get(), place.c_str())) ==
+            GIT_OBJECT_TREE)
+            names.push_back(nameFromStored(place));
+    std::ranges::sort(names);
+    return names;
+}
+
+Result<std::vector<std::string>> HistoryStore::files(const std::string& robot,
+                                                     const std::string& version) const {
+    const auto folder = parts_->repository->robotIn(robot, version);
+    if (!folder)
+        return Failure{folder.reason()};
+    std::vector<std::string> names;
+    for (const auto& [name, id] : namedFiles(folder->get()))
+        names.push_back(name);
+    return names;
+}
+
+Result<std::optional<std::string>> HistoryStore::read(const std::string& robot,
+                                                      const std::string& file,
+                                                      const std::string& version) const {
+    const auto folder = parts_->repository->robotIn(robot, version);
+    if (!folder)
+        return Failure{folder.reason()};
+    const auto files = namedFiles(folder->get());
+    const auto found = files.find(file);
+    if (found == files.end())
+        return std::optional<std::string>();
+    const auto blob = gitMade<GitBlob>([&](git_blob** made) {
+        return git_blob_lookup(made, parts_->repository->get(), &found->second);
+    });
+    if (!blob)
+        return Failure{blob.reason()};
+    return std::optional(std::string(static_cast<const char*>(git_blob_rawcontent(blob->get())),
+                                     static_cast<std::size_t>(git_blob_rawsize(blob->get()))));
+}
+
+} // namespace vantrel
