@@ -24,3 +24,13 @@ execute_process(
 set(wxWidgets_CONFIG_EXECUTABLE "${toolkit}/bin/wx-config" CACHE FILEPATH
     "The configuration program of the cross-built toolkit" FORCE)
 list(APPEND CMAKE_FIND_ROOT_PATH "${toolkit}")
+
+# The same for the library of the history.
+execute_process(
+    COMMAND "${PROJECT_SOURCE_DIR}/scripts/windows-git.sh" ${CMAKE_SYSTEM_PROCESSOR}
+    OUTPUT_VARIABLE git2_folder OUTPUT_STRIP_TRAILING_WHITESPACE
+    COMMAND_ERROR_IS_FATAL ANY)
+add_library(vantrel_git2 INTERFACE)
+target_include_directories(vantrel_git2 SYSTEM INTERFACE "${git2_folder}/include")
+target_link_directories(vantrel_git2 INTERFACE "${git2_folder}/lib")
+target_link_libraries(vantrel_git2 INTERFACE git2 http_parser pcre2-posix pcre2-8 z ws2_32 secur32 crypt32 rpcrt4 ole32)

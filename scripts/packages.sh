@@ -14,9 +14,9 @@ test_packages=(git libgtest-dev libgmock-dev g++-multilib python3 poppler-utils 
 # For scripts/format.sh and scripts/tidy.sh, of one version everywhere.
 style_packages=(git clang-14 clang-format-14 clang-tidy-14)
 fuzz_packages=(clang cmake ninja-build ccache)
-# For the Windows build and its tests under Wine; the source package of the toolkit is fetched by
-# scripts/windows-toolkit.sh.
-windows_packages=("${header_packages[@]}" g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build ccache make dpkg-dev
+# For the Windows build and its tests under Wine; the source packages of the toolkit and of
+# libgit2 are fetched by scripts/windows-toolkit.sh and scripts/windows-git.sh.
+windows_packages=("${header_packages[@]}" g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build ccache make dpkg-dev libz-mingw-w64-dev
     libgtest-dev libgmock-dev python3 librsvg2-bin icoutils fakeroot nsis wine wine64 locales fonts-vlgothic
     ruby-asciidoctor-pdf fonts-morisawa-bizud-gothic poppler-utils)
 
