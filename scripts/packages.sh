@@ -13,7 +13,7 @@ display_packages=(xvfb openbox xdotool imagemagick x11-utils adwaita-icon-theme)
 test_packages=(git libgtest-dev libgmock-dev g++-multilib python3 poppler-utils "${linux_packages[@]}" desktop-file-utils appstream)
 # For scripts/format.sh and scripts/tidy.sh, of one version everywhere.
 style_packages=(git clang-14 clang-format-14 clang-tidy-14)
-fuzz_packages=(clang cmake ninja-build ccache)
+fuzz_packages=(clang cmake ninja-build ccache libgit2-dev pkg-config)
 # For the Windows build and its tests under Wine; the source packages of the toolkit and of
 # libgit2 are fetched by scripts/windows-toolkit.sh and scripts/windows-git.sh.
 windows_packages=("${header_packages[@]}" g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix cmake ninja-build ccache make dpkg-dev libz-mingw-w64-dev
