@@ -3,7 +3,7 @@
 #include "lang/MessageNumbers.h"
 
 // Numbers of the texts in the language files that only the program without windows needs, in the
-// style of lang/MessageNumbers.h: 600 to 659.
+// style of lang/MessageNumbers.h: 600 to 659, and 6640 to 6659.
 
 namespace vantrel::message {
 
@@ -39,5 +39,21 @@ inline constexpr std::int32_t consoleDone = 640; ///< of an operation that was c
 inline constexpr std::int32_t consoleTookTooLong = 665; ///< after [robot], with the seconds
 inline constexpr std::int32_t consoleStopped = 666;     ///< after [robot]
 inline constexpr std::int32_t consoleRobotsChanged = 667;
+
+// Of the history.
+inline constexpr std::int32_t snapshotRecorded = 6640;
+inline constexpr std::int32_t snapshotUnchanged = 6641;
+inline constexpr std::int32_t snapshotFailed = 6642;
+inline constexpr std::int32_t snapshotChanged = 6643; ///< with the number of files
+inline constexpr std::int32_t snapshotNew = 6644;     ///< with the number of files
+inline constexpr std::int32_t snapshotGone = 6645;    ///< with the number of files
+inline constexpr std::int32_t snapshotUnread = 6646;  ///< with the number of files
+inline constexpr std::int32_t historyInUse = 6647;
+inline constexpr std::int32_t historyFilesBehind = 6648; ///< then the reason
+inline constexpr std::int32_t nameTooLongForHistory = 6649;
+inline constexpr std::int32_t historyNotOpened = 6650; ///< then the reason
+inline constexpr std::int32_t fileNotInHistory = 6651;
+inline constexpr std::int32_t versionUnknown = 6652;
+inline constexpr std::int32_t backupSummary = 6653; ///< with the numbers read and not read
 
 } // namespace vantrel::message

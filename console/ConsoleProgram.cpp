@@ -4,8 +4,10 @@
 #include "app/robots/Machine.h"
 #include "app/robots/RobotRegistry.h"
 #include "app/start/DeliveredFiles.h"
+#include "base/PathRules.h"
 #include "console/ConsoleMessages.h"
 #include "console/FileCommands.h"
+#include "console/HistoryCommands.h"
 #include "console/ListCommands.h"
 #include "console/OperationCall.h"
 #include "console/Relay.h"
@@ -100,6 +102,8 @@ int ConsoleProgram::start() {
         report_.message(messages_.getMessage(message::consoleNoTerminal));
         return exit_code::wrongUsage;
     }
+    if (request_.isAboutHistoryAlone())
+        return exit_code::allDone;
     auto targets = chooseTargets(request_, state_, world_.workingFolder, messages_);
     if (!targets) {
         report_.message(targets.reason());
@@ -164,6 +168,8 @@ void ConsoleProgram::readSettings() {
 void ConsoleProgram::perform() {
     if (request_.task == Task::Robots && !request_.check)
         return listRobots(desk_);
+    if (request_.task == Task::HistoryLog)
+        return listHistory(desk_);
     if (request_.task == Task::Doctor && request_.relay.empty())
         Doctor(desk_, found_).lookAtProgram();
     if (request_.usesProcesses() && request_.relay.empty())
@@ -191,6 +197,12 @@ void ConsoleProgram::performOn(const Target& target) {
         return OperationCall(desk_, target).run();
     case Task::Doctor:
         return Doctor(desk_, found_).lookAtRobot(target);
+    case Task::Backup:
+        return backUp(desk_, target);
+    case Task::HistoryRestore:
+        return restoreFiles(desk_, target);
+    case Task::HistoryLog:
+        break;
     }
 }
 
@@ -203,6 +215,10 @@ int ConsoleProgram::concluded() {
 void ConsoleProgram::tellEnd(int code) {
     if (world_.relay)
         return world_.relay(relayLine({.kind = Relayed::Kind::End, .code = code}));
+    if (request_.task == Task::Backup)
+        report_.message(messages_.getMessageWithInsertion(
+            message::backupSummary, std::to_string(tally_.count(ItemEnd::Done)),
+            std::to_string(tally_.count(ItemEnd::Failed) + tally_.count(ItemEnd::NotTried))));
     const auto number = [this](ItemEnd end) {
         return static_cast<std::int64_t>(tally_.count(end));
     };
@@ -214,10 +230,9 @@ void ConsoleProgram::tellEnd(int code) {
                            {"not_tried", number(ItemEnd::NotTried)}});
 }
 
-int runConsole(const std::vector<std::string>& arguments, const ConsoleWorld& world) {
-    const ParsedArguments parsed = parseArguments(arguments);
-    if (parsed.request && !parsed.request->relay.empty() && !world.relay)
-        return runConsole(arguments, relayingWorld(world));
+namespace {
+
+int runParsed(const ParsedArguments& parsed, const ConsoleWorld& world) {
     Report report(world.output, world.messages, parsed.json);
     if (parsed.isHelp) {
         report.text(parsed.text);
@@ -232,6 +247,41 @@ int runConsole(const std::vector<std::string>& arguments, const ConsoleWorld& wo
             throw;
         return unexpectedEnd(*parsed.request, error, report);
     }
+}
+
+/// All that is said goes into a file too, when it is over.
+int runWithReport(const ParsedArguments& parsed, const ConsoleWorld& world) {
+    std::string said;
+    ConsoleWorld copying = world;
+    const auto copied = [&said](const TextSink& sink) {
+        return [&said, &sink](std::string_view text) {
+            said += text;
+            sink(text);
+        };
+    };
+    copying.output = copied(world.output);
+    if (!parsed.json) // what is said twice there is read once
+        copying.messages = copied(world.messages);
+    const int code = runParsed(parsed, copying);
+    const PathRules rules;
+    const std::string& given = *parsed.request->report;
+    const std::string path =
+        rules.isAbsolute(given) ? given : rules.resolved(rules.join(world.workingFolder, given));
+    const auto written = replaceFile(path, said);
+    if (written)
+        return code;
+    Report(world.output, world.messages, parsed.json).message(path + ": " + written.reason());
+    return code == exit_code::allDone ? exit_code::partlyDone : code;
+}
+
+} // namespace
+
+int runConsole(const std::vector<std::string>& arguments, const ConsoleWorld& world) {
+    const ParsedArguments parsed = parseArguments(arguments);
+    if (parsed.request && !parsed.request->relay.empty() && !world.relay)
+        return runConsole(arguments, relayingWorld(world));
+    return parsed.request && parsed.request->report && !world.relay ? runWithReport(parsed, world)
+                                                                    : runParsed(parsed, world);
 }
 
 } // namespace vantrel

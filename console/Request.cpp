@@ -32,7 +32,12 @@ enum Feature : unsigned {
     mayReplace = 8,
     takesOneFile = 16, ///< the name is that of one file
     hasDirection = 32, ///< both ways lie open, and one has to be named
-    takesCall = 64     ///< the names are those of an operation and its arguments
+    takesCall = 64,    ///< the names are those of an operation and its arguments
+    usesHistory = 128,
+    makesReport = 256,
+    usesNoMachine = 512,
+    takesVersion = 1024,
+    namesAreOptional = 2048
 };
 
 /// One command of the table.
@@ -42,7 +47,8 @@ struct Command {
     const char* purpose;
     const char* names = nullptr; ///< what its names are; null when it takes none
     unsigned features = 0;
-    Task sending = task; ///< the task with --send, where there is a direction
+    Task sending = task;         ///< the task with --send, where there is a direction
+    const char* group = nullptr; ///< the word before it, where there is one
 };
 
 constexpr const char* controllerFiles = "Files on the controller; * and ? stand for any characters";
@@ -72,6 +78,15 @@ constexpr Command commands[] = {
      "The operation; a wrong one gets a list of all",
      usesFolder | mayRehearse | mayReplace | takesCall},
     {Task::Doctor, "doctor", "Says what works, what does not and what to do"},
+    {Task::Backup, "backup", "Puts the state of robots into the history", nullptr,
+     usesHistory | makesReport},
+    {Task::HistoryLog, "log", "Lists what was recorded, the latest first",
+     "A robot's file that it is to be about",
+     usesHistory | usesNoMachine | takesOneFile | namesAreOptional, Task::HistoryLog, "history"},
+    {Task::HistoryRestore, "restore", "Puts files into the PC folder as they were",
+     "Files of the robot; * and ? stand for any characters",
+     usesFolder | usesHistory | mayReplace | mayRehearse | takesVersion, Task::HistoryRestore,
+     "history"},
 };
 
 std::string notAddress(std::string& text) {
@@ -167,7 +182,8 @@ void addNames(CLI::App& into, const Command& command, Request& request) {
     }
     const bool isOne = command.features & takesOneFile;
     CLI::Option& names = *into.add_option(isOne ? "FILE" : "NAME", request.names, command.names);
-    names.required()->check(CLI::Validator(isOne ? notOneFile : notPlain, "", ""));
+    names.required(!(command.features & namesAreOptional))
+        ->check(CLI::Validator(isOne ? notOneFile : notPlain, "", ""));
     if (isOne)
         names.expected(1)->option_text(" ");
     else
@@ -195,14 +211,51 @@ void addProcesses(CLI::App& into, Request& request) {
     into.add_option("--relay", request.relay)->group(""); // for this program's own use
 }
 
+void addHistory(CLI::App& into, unsigned features, Request& request) {
+    into.add_option("--history", request.history, "The history's folder, in place of the settings'")
+        ->option_text("PATH");
+    if (features & makesReport)
+        into.add_option("--report", request.report, "Write all that is said into a file as well")
+            ->option_text("FILE");
+    if (features & takesVersion)
+        into.add_option(
+                "--version", request.version,
+                "The version, as the log has it or its first digits. Without it: the latest")
+            ->option_text("VERSION");
+    if (!(features & usesNoMachine))
+        return;
+    into.add_option("--robot", request.robots, "What is listed is to be about this robot")
+        ->expected(1)
+        ->option_text("NAME");
+    into.add_option("--most", request.most, "No more entries than these")
+        ->check(CLI::PositiveNumber)
+        ->option_text("NUMBER");
+}
+
+/// The command's place: under its group's word, which is made with the first of them.
+CLI::App& placeOf(CLI::App& app, const Command& command) {
+    if (!command.group)
+        return app;
+    for (CLI::App* const known : app.get_subcommands({}))
+        if (known->get_name() == command.group)
+            return *known;
+    CLI::App& group = *app.add_subcommand(command.group, "Looks into the history");
+    group.require_subcommand(1);
+    return group;
+}
+
 void addCommand(CLI::App& app, const Command& command, Request& request) {
-    CLI::App& into = *app.add_subcommand(command.word, command.purpose);
+    CLI::App& into = *placeOf(app, command).add_subcommand(command.word, command.purpose);
     into.allow_windows_style_options(false);
     into.add_flag("--json", request.json, "One JSON object a line, for programs to read");
     into.add_option("--lang", request.language, "The language of the texts, by its file's name")
         ->option_text("NAME");
-    addMachine(into, request);
-    addProcesses(into, request);
+    if (!(command.features & usesNoMachine)) {
+        addMachine(into, request);
+        addProcesses(into, request);
+    }
+    if (command.features & usesHistory)
+        addHistory(into, command.features, request);
     addManners(into, command.features, request);
     if (command.task == Task::Robots)
         into.add_flag("--check", request.check, "Connect to each of them");
@@ -213,7 +266,7 @@ void addCommand(CLI::App& app, const Command& command, Request& request) {
     into.callback([&into, &request, &command] {
         const bool isSent = (command.features & hasDirection) && into.count("--send") > 0;
         request.task = isSent ? command.sending : command.task;
-        request.command = command.word;
+        request.command = (command.group ? std::string(command.group) + " " : "") + command.word;
     });
 }
 

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <map>
+#include <thread>
 #include <utility>
 
 namespace vantrel {
@@ -38,6 +39,18 @@ StateChanges difference(const std::map<std::string, git_oid>& before,
         if (!after.contains(name))
             changes.gone.push_back(name);
     return changes;
+}
+
+/// Nothing when somebody else holds the file all the time.
+Result<std::optional<HeldFile>> lockFor(const std::string& path,
+                                        std::chrono::milliseconds patience) {
+    constexpr std::chrono::milliseconds pause{50};
+    auto lock = HeldFile::lock(path);
+    for (auto waited = pause; lock && !*lock && waited <= patience; waited += pause) {
+        std::this_thread::sleep_for(pause);
+        lock = HeldFile::lock(path);
+    }
+    return lock;
 }
 
 } // namespace
@@ -68,7 +81,7 @@ Result<Recorded>
 HistoryStore::record(const RobotState& state, const HistorySignature& by,
                      const std::function<std::string(const StateChanges&)>& message) {
     HistoryRepository& repository = *parts_->repository;
-    const auto lock = HeldFile::lock(repository.pathOf("vantrel.lock"));
+    const auto lock = lockFor(repository.pathOf("vantrel.lock"), writerPatience);
     if (!lock)
         return Failure{lock.reason()};
     if (!*lock)
@@ -98,6 +111,18 @@ HistoryStore::record(const RobotState& state, const HistorySignature& by,
         !shown)
         recorded.treeProblem = shown.reason();
     return recorded;
+}
+
+Result<std::string> HistoryStore::version(const std::string& start) const {
+    git_oid id{};
+    if (git_oid_fromstrp(&id, start.c_str()) < 0)
+        return gitFailure();
+    const auto commit = gitMade<GitCommit>([&](git_commit** made) {
+        return git_commit_lookup_prefix(made, parts_->repository->get(), &id, start.size());
+    });
+    if (!commit)
+        return Failure{commit.reason()};
+    return hexadecimal(*git_commit_id(commit->get()));
 }
 
 Result<std::vector<HistoryEntry>> HistoryStore::log(const HistoryFilter& filter) const {

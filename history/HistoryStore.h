@@ -96,6 +96,8 @@ class HistoryStore {
     Result<Recorded> record(const RobotState& state, const HistorySignature& by,
                             const std::function<std::string(const StateChanges&)>& message);
 
+    /// The whole name of a version of which only the first digits are given, four at least.
+    Result<std::string> version(const std::string& start) const;
     /// The latest first.
     Result<std::vector<HistoryEntry>> log(const HistoryFilter& filter) const;
     /// What the entry changed for this robot, beside the entry before it.
@@ -112,6 +114,8 @@ class HistoryStore {
     /// How long another Git program may hold the branch before its lock is taken for one that a
     /// crash has left.
     std::chrono::milliseconds patience{3000};
+    /// How long to wait for another program that is writing this history.
+    std::chrono::milliseconds writerPatience{60000};
 
   private:
     struct Parts;

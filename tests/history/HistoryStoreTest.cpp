@@ -207,6 +207,16 @@ TEST_F(HistoryStoreTest, ListsWhatConcernsOneRobotOrFileOrTime) {
     EXPECT_EQ(list({.robot = "LINE1", .most = 2}), (Versions{gone, a2}));
 }
 
+TEST_F(HistoryStoreTest, FindsAVersionByItsFirstDigits) {
+    auto store = open();
+    const auto version = record(store, "LINE1", {{"A", "1"}}).version;
+    EXPECT_EQ(*store.version(version.substr(0, 4)), version);
+    EXPECT_EQ(*store.version(version), version);
+    for (const std::string& wrong : {std::string(), version.substr(0, 3), std::string("zzzzz"),
+                                     version + "0", std::string(10, '0')})
+        EXPECT_FALSE(store.version(wrong)) << wrong;
+}
+
 TEST_F(HistoryStoreTest, NeverUsesARepositoryAboveItsFolder) {
     open();
     const auto inside = HistoryStore::open(folder.path("history/inside"));
@@ -243,6 +253,7 @@ TEST_F(HistoryStoreTest, TwoProgramsDoNotWriteAtOnce) {
     auto store = open();
     const auto other = HeldFile::lock(folder.path("history/.git/vantrel.lock"));
     ASSERT_TRUE(other && *other);
+    store.writerPatience = std::chrono::milliseconds(0);
     EXPECT_EQ(record(store, "LINE1", {{"A", "1"}}).end, Recorded::End::InUse);
     EXPECT_TRUE(store.log({})->empty());
 }

@@ -1,0 +1,255 @@
+#include "console/HistoryCommands.h"
+
+#include "app/history/RobotSnapshot.h"
+#include "app/start/Engine.h"
+#include "base/PathRules.h"
+#include "base/Text.h"
+#include "console/ConsoleMessages.h"
+#include "console/ItemReport.h"
+#include "console/NamePatterns.h"
+#include "files/ControllerPlace.h"
+#include "history/HistoryStore.h"
+#include "lang/SystemReasons.h"
+#include "platform/Files.h"
+#include "platform/ProfileFile.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <optional>
+#include <utility>
+
+namespace vantrel {
+namespace {
+
+std::string padded(std::int64_t number, std::size_t width) {
+    const std::string digits = std::to_string(number);
+    return std::string(width - std::min(width, digits.size()), '0') + digits;
+}
+
+std::string textOf(const Desk& desk, std::int32_t number) {
+    return desk.engine.messages.getMessage(number);
+}
+
+/// Nothing, after a message, where there is no history to work with.
+std::optional<HistoryStore> openHistory(Desk& desk, std::string& reason) {
+    auto history = HistoryStore::open(historyFolder(desk));
+    if (history)
+        return std::move(*history);
+    reason = textOf(desk, message::historyNotOpened) + " " +
+             reasonInLanguage(desk.engine.messages, history.reason());
+    return std::nullopt;
+}
+
+/// The lines of output for one robot's snapshot.
+class BackupReport {
+  public:
+    BackupReport(Desk& desk, MachineDesk& machine)
+        : desk_(desk), machine_(machine), items_(desk, machine, CommandKind::ReceiveCopy) {}
+
+    /// Nothing of this robot is in the history after it.
+    void fail(const std::string& reason, int cause) {
+        const bool isTried = !desk_.world.isInterrupted();
+        desk_.tally.add(isTried ? ItemEnd::Failed : ItemEnd::NotTried, cause);
+        write(textOf(desk_, message::snapshotFailed), reason,
+              {{"end", isTried ? "failed" : "not-tried"}, {"reason", reason}});
+    }
+    void add(const SnapshotResult& result) {
+        for (std::size_t file = 0; file < result.fetched; ++file)
+            desk_.tally.add(ItemEnd::Done);
+        const Recorded& recorded = result.recorded;
+        const bool isNew = recorded.end == Recorded::End::Committed;
+        write(textOf(desk_, isNew ? message::snapshotRecorded : message::snapshotUnchanged),
+              counts(result),
+              {{"end", isNew ? "recorded" : "unchanged"},
+               {"reason", std::string()},
+               {"version", recorded.version},
+               {"complete", result.isWhole()},
+               {"changed", recorded.changes.changed},
+               {"new", recorded.changes.added},
+               {"gone", recorded.changes.gone}});
+        for (const UnreadFile& file : result.unread)
+            items_.add({file.name, file.name, ItemEnd::Failed, file.reason});
+        items_.addAll(recorded.notStored, ItemEnd::Failed,
+                      textOf(desk_, message::nameTooLongForHistory));
+        if (!recorded.treeProblem.empty())
+            desk_.report.message(textOf(desk_, message::historyFilesBehind) + "\n" +
+                                 reasonInLanguage(desk_.engine.messages, recorded.treeProblem));
+    }
+
+  private:
+    std::string counts(const SnapshotResult& result) const {
+        const std::pair<std::int32_t, std::size_t> parts[] = {
+            {message::snapshotChanged, result.recorded.changes.changed.size()},
+            {message::snapshotNew, result.recorded.changes.added.size()},
+            {message::snapshotGone, result.recorded.changes.gone.size()},
+            {message::snapshotUnread, result.unread.size()}};
+        std::string text;
+        for (const auto& [number, count] : parts)
+            if (count > 0)
+                text +=
+                    (text.empty() ? "" : textOf(desk_, message::resultJoint)) +
+                    desk_.engine.messages.getMessageWithInsertion(number, std::to_string(count));
+        return text;
+    }
+    void write(const std::string& end, const std::string& more, Report::Members members) {
+        members.insert(members.begin(), {"robot", machine_.name()});
+        std::vector<std::string> cells{machine_.name(), end};
+        if (!more.empty())
+            cells.push_back(more);
+        desk_.report.line(cells, "snapshot", members);
+    }
+
+    Desk& desk_;
+    MachineDesk& machine_;
+    ItemReport items_;
+};
+
+HistoryFilter filterOf(const Request& request, const std::string& robot) {
+    HistoryFilter filter{.robot = robot};
+    if (!request.names.empty())
+        filter.file = request.names.front();
+    if (request.most)
+        filter.most = static_cast<std::size_t>(*request.most);
+    return filter;
+}
+
+void listEntry(Desk& desk, const HistoryEntry& entry) {
+    const std::string time = isoTime(entry.by.time, entry.by.offset);
+    const auto lineEnd = entry.message.find('\n');
+    desk.report.line(
+        {entry.version.substr(0, 10), time, entry.by.name, entry.message.substr(0, lineEnd)},
+        "history-entry",
+        {{"version", entry.version},
+         {"time", time},
+         {"by", entry.by.name},
+         {"mail", entry.by.mail},
+         {"message", entry.message},
+         {"before", entry.before}});
+    desk.tally.add(ItemEnd::Done);
+}
+
+/// `history restore` in one folder.
+class Restoring {
+  public:
+    Restoring(Desk& desk, MachineDesk& machine, HistoryStore& history, std::string version)
+        : desk_(desk), machine_(machine), history_(history), version_(std::move(version)),
+          items_(desk, machine, CommandKind::ReceiveCopy) {}
+
+    void run(const std::string& folder) {
+        const auto files = history_.files(machine_.name(), version_);
+        if (!files)
+            return items_.addAll(desk_.request.names, ItemEnd::Failed, files.reason());
+        const auto matched = matchNames(desk_.request.names, *files);
+        for (const std::string& name : matched.names)
+            restore(name, PathRules().join(folder, name));
+        items_.addAll(matched.unmatched, ItemEnd::Failed, textOf(desk_, message::fileNotInHistory));
+    }
+
+  private:
+    void restore(const std::string& name, const std::string& path) {
+        const auto add = [&](ItemEnd end, const std::string& reason = {}) {
+            items_.add({name, name, end, reason});
+        };
+        if (desk_.world.isInterrupted())
+            return add(ItemEnd::NotTried);
+        if (!PathRules::isPlainName(name))
+            return add(ItemEnd::Failed,
+                       std::string(trimmed(textOf(desk_, message::controllerNameRefused))));
+        if (desk_.request.overwrite != OverwritePolicy::Always && anythingExists(path))
+            return add(ItemEnd::Skipped, textOf(desk_, message::consoleKept));
+        const auto content = history_.read(machine_.name(), name, version_);
+        if (!content || !*content)
+            return add(ItemEnd::Failed,
+                       content ? textOf(desk_, message::fileNotInHistory) : content.reason());
+        const auto written = desk_.request.dryRun ? Outcome(Done{}) : replaceFile(path, **content);
+        add(written ? ItemEnd::Done : ItemEnd::Failed,
+            written ? std::string() : reasonInLanguage(desk_.engine.messages, written.reason()));
+    }
+
+    Desk& desk_;
+    MachineDesk& machine_;
+    HistoryStore& history_;
+    std::string version_;
+    ItemReport items_;
+};
+
+} // namespace
+
+std::string isoTime(std::int64_t time, int offset) {
+    using namespace std::chrono;
+    const sys_seconds local{seconds(time) + minutes(offset)};
+    const auto day = floor<days>(local);
+    const year_month_day date(day);
+    const hh_mm_ss<seconds> clock(local - day);
+    const int zone = std::abs(offset);
+    return padded(int(date.year()), 4) + "-" + padded(unsigned(date.month()), 2) + "-" +
+           padded(unsigned(date.day()), 2) + "T" + padded(clock.hours().count(), 2) + ":" +
+           padded(clock.minutes().count(), 2) + ":" + padded(clock.seconds().count(), 2) +
+           (offset < 0 ? "-" : "+") + padded(zone / 60, 2) + ":" + padded(zone % 60, 2);
+}
+
+std::string historyFolder(const Desk& desk) {
+    constexpr std::size_t longestPath = 4096;
+    const PathRules rules;
+    if (desk.request.history)
+        return rules.isAbsolute(*desk.request.history)
+                   ? *desk.request.history
+                   : rules.resolved(rules.join(desk.world.workingFolder, *desk.request.history));
+    const std::string folder =
+        ProfileFile(desk.engine.settings.path()).text("History", "Folder", "history", longestPath);
+    return rules.isAbsolute(folder) ? folder : rules.join(desk.engine.programFolder, folder);
+}
+
+void backUp(Desk& desk, const Target& target) {
+    MachineDesk machine(desk, target);
+    BackupReport report(desk, machine);
+    if (desk.world.isInterrupted())
+        return report.fail({}, exit_code::interrupted);
+    std::string reason;
+    auto history = openHistory(desk, reason);
+    if (!history)
+        return report.fail(reason, exit_code::nothingDone);
+    if (!machine.readController())
+        return report.fail(desk.world.isInterrupted() ? std::string() : machine.reason(),
+                           causeOf(desk.engine.session));
+    const auto result = RobotSnapshot(machine.services, *history, machine.name()).take();
+    if (!result)
+        return report.fail(reasonInLanguage(desk.engine.messages, result.reason()),
+                           exit_code::nothingDone);
+    if (result->recorded.end == Recorded::End::InUse)
+        return report.fail(textOf(desk, message::historyInUse), exit_code::inUse);
+    report.add(*result);
+}
+
+void listHistory(Desk& desk) {
+    std::string reason;
+    auto history = openHistory(desk, reason);
+    const std::string robot =
+        desk.request.robots.empty() ? std::string() : desk.request.robots.front();
+    const auto entries = history ? history->log(filterOf(desk.request, robot))
+                                 : Result<std::vector<HistoryEntry>>(Failure{reason});
+    if (!entries) {
+        desk.report.message(entries.reason());
+        return desk.tally.add(ItemEnd::Failed);
+    }
+    for (const HistoryEntry& entry : *entries)
+        listEntry(desk, entry);
+}
+
+void restoreFiles(Desk& desk, const Target& target) {
+    MachineDesk machine(desk, target);
+    ItemReport items(desk, machine, CommandKind::ReceiveCopy);
+    std::string reason;
+    auto history = openHistory(desk, reason);
+    if (!history)
+        return items.addAll(desk.request.names, ItemEnd::Failed, reason);
+    const auto version = desk.request.version.empty() ? Result<std::string>(std::string())
+                                                      : history->version(desk.request.version);
+    if (!version)
+        return items.addAll(desk.request.names, ItemEnd::Failed,
+                            textOf(desk, message::versionUnknown));
+    Restoring(desk, machine, *history, *version).run(target.folder);
+}
+
+} // namespace vantrel
