@@ -6,7 +6,7 @@ _vantrelctl() {
     --overwrite) choices='never always ask' ;;
     --mode) choices='bsc hispeed' ;;
     --lang) choices='English Japanese System' ;;
-    --folder)
+    --folder | --history)
         mapfile -t COMPREPLY < <(compgen -d -- "$word")
         return
         ;;
@@ -17,14 +17,22 @@ _vantrelctl() {
         [ ${#COMPREPLY[@]} -eq 0 ] || mapfile -t COMPREPLY < <(printf '%q\n' "${COMPREPLY[@]}")
         return
         ;;
-    --port | --address | --parallel | --timeout) return ;;
+    --report)
+        mapfile -t COMPREPLY < <(compgen -f -- "$word")
+        return
+        ;;
+    --port | --address | --parallel | --timeout | --version | --most) return ;;
     esac
     if [ -n "$choices" ]; then
         mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$word")
         return
     fi
     if [ "$COMP_CWORD" -eq 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W 'robots list get put delete get-vars put-vars jobs-run vars-run call doctor --help' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W 'robots list get put delete get-vars put-vars jobs-run vars-run call doctor backup history --help' -- "$word")
+        return
+    fi
+    if [ "$command $COMP_CWORD" = 'history 2' ]; then
+        mapfile -t COMPREPLY < <(compgen -W 'log restore --help' -- "$word")
         return
     fi
     choices='--help --json --lang --robot --all-robots --mode --port --address --parallel --timeout'
@@ -34,6 +42,14 @@ _vantrelctl() {
     delete) choices+=' --keep-going --dry-run' ;;
     get-vars) choices+=' --folder --dry-run --overwrite' ;;
     put-vars) choices+=' --folder --keep-going --dry-run' ;;
+    backup) choices+=' --history --report' ;;
+    history)
+        if [ "${COMP_WORDS[2]}" = log ]; then
+            choices='--help --json --lang --robot --history --most'
+        else
+            choices+=' --folder --dry-run --overwrite --history --version'
+        fi
+        ;;
     call) choices+=' --folder --dry-run --overwrite' ;;
     *-run) choices+=' --send --receive --folder --keep-going --dry-run --overwrite' ;;
     esac

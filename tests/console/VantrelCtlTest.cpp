@@ -49,6 +49,22 @@ TEST_F(VantrelCtlTest, NothingDoneIsOneAndPartlyDoneIsThree) {
     EXPECT_EQ(folder_.read("one/SUB.JBI"), job("SUB", "first"));
 }
 
+TEST_F(VantrelCtlTest, BacksUpSeveralRobotsAtATimeIntoOneHistory) {
+    EXPECT_EQ(run("backup --all-robots --parallel 2 --report night.txt"), 0);
+    EXPECT_EQ(folder_.read("history/LINE1/OWN.JBI"), job("OWN", "first"));
+    EXPECT_EQ(folder_.read("history/LINE2/OWN.JBI"), job("OWN", "second"));
+    EXPECT_THAT(messages_, HasSubstr("3 files read, 0 failed"));
+    EXPECT_THAT(folder_.read("night.txt"),
+                AllOf(HasSubstr("LINE1\trecorded\t2 new"), HasSubstr("LINE2\trecorded\t1 new")));
+    folder_.write("first/OWN.JBI", job("OWN", "changed"));
+    EXPECT_EQ(run("backup --all-robots --parallel 2"), 0);
+    EXPECT_THAT(output_,
+                AllOf(HasSubstr("LINE1\trecorded\t1 changed"), HasSubstr("LINE2\tunchanged")));
+    EXPECT_EQ(run("history log OWN.JBI --robot LINE1"), 0);
+    EXPECT_THAT(output_, AllOf(HasSubstr("LINE1: 1 changed"), HasSubstr("LINE1: 2 new"),
+                               Not(HasSubstr("LINE2"))));
+}
+
 TEST_F(VantrelCtlTest, RunsListFilesBothWays) {
     folder_.write("first/variables.txt", "B001=5\nB002=6\n");
     folder_.write("one/V.lst", "B001=\r\nB002=\r\n");

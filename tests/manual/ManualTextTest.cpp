@@ -116,6 +116,8 @@ constexpr std::pair<int, int> captionNumbers[] = {
     {message::listFilesOffered, message::listFilesOffered},
     {message::consoleFolder, message::consoleWouldBeDone}, // cells of vantrelctl's lines
     {message::consoleDone, message::consoleDone},
+    {message::snapshotRecorded, message::snapshotUnread},
+    {message::backupSummary, message::backupSummary},
     {message::userProcess, message::unknownUser}, // of who works with a machine
     {ofResource(message::resource::yes), ofResource(message::resource::cancel)}};
 
