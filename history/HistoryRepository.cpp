@@ -43,16 +43,40 @@ Result<GitRepository> made(const std::string& folder) {
     return repository;
 }
 
-Result<GitRepository> opened(const std::string& folder) {
-    auto repository = gitMade<GitRepository>([&](git_repository** made) {
+Result<GitRepository> openedAsItIs(const std::string& folder) {
+    return gitMade<GitRepository>([&](git_repository** made) {
         return git_repository_open_ext(made, folder.c_str(), GIT_REPOSITORY_OPEN_NO_SEARCH,
                                        nullptr);
     });
+}
+
+/// With the folders above it.
+Outcome makeFolder(const std::string& folder) {
+    if (isFolder(folder))
+        return Done{};
+    const std::string above = PathRules().parent(folder);
+    if (above != folder && !isFolder(above))
+        if (auto made = makeFolder(above); !made)
+            return made;
+    auto made = createFolder(folder);
+    return made || isFolder(folder) ? Outcome(Done{}) : std::move(made);
+}
+
+// Two programs that begin with it at once would take what the other has half made for broken.
+Result<GitRepository> opened(const std::string& folder) {
+    auto repository = openedAsItIs(folder);
     if (repository)
         return repository;
     if (isFolder(folder) && !isEmptyOrBegun(folder))
         return Failure{folder + ": " + repository.reason()};
-    return made(folder);
+    const std::string inside = PathRules().join(folder, repositoryName);
+    if (const auto folders = makeFolder(inside); !folders)
+        return Failure{folder + ": " + folders.reason()};
+    const auto lock = lockForWriting(folder, std::chrono::seconds(10));
+    if (!lock || !*lock)
+        return Failure{folder + ": " + (lock ? repository.reason() : lock.reason())};
+    repository = openedAsItIs(folder);
+    return repository ? std::move(repository) : made(folder);
 }
 
 } // namespace
@@ -62,6 +86,19 @@ Result<HistoryRepository> HistoryRepository::open(const std::string& folder) {
     if (!repository)
         return Failure{repository.reason()};
     return HistoryRepository(folder, std::move(*repository));
+}
+
+Result<std::optional<HeldFile>> lockForWriting(const std::string& folder,
+                                               std::chrono::milliseconds patience) {
+    constexpr std::chrono::milliseconds pause{50};
+    const std::string path =
+        PathRules().join(PathRules().join(folder, repositoryName), "vantrel.lock");
+    auto lock = HeldFile::lock(path);
+    for (auto waited = pause; lock && !*lock && waited <= patience; waited += pause) {
+        std::this_thread::sleep_for(pause);
+        lock = HeldFile::lock(path);
+    }
+    return lock;
 }
 
 std::string HistoryRepository::pathOf(std::string_view place) const {

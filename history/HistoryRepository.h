@@ -1,6 +1,7 @@
 #pragma once
 
 #include "history/GitHandles.h"
+#include "platform/HeldFile.h"
 
 #include <chrono>
 #include <optional>
@@ -8,6 +9,11 @@
 #include <string_view>
 
 namespace vantrel {
+
+/// Keeps this program's other copies from writing to the history in this folder; nothing when one
+/// of them does so all the time.
+Result<std::optional<HeldFile>> lockForWriting(const std::string& folder,
+                                               std::chrono::milliseconds patience);
 
 /// The repository of a history, and its one branch.
 class HistoryRepository {

@@ -6,12 +6,10 @@
 #include "history/SnapshotWriter.h"
 #include "history/StoredNames.h"
 #include "history/WorkingTree.h"
-#include "platform/HeldFile.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <map>
-#include <thread>
 #include <utility>
 
 namespace vantrel {
@@ -39,18 +37,6 @@ StateChanges difference(const std::map<std::string, git_oid>& before,
         if (!after.contains(name))
             changes.gone.push_back(name);
     return changes;
-}
-
-/// Nothing when somebody else holds the file all the time.
-Result<std::optional<HeldFile>> lockFor(const std::string& path,
-                                        std::chrono::milliseconds patience) {
-    constexpr std::chrono::milliseconds pause{50};
-    auto lock = HeldFile::lock(path);
-    for (auto waited = pause; lock && !*lock && waited <= patience; waited += pause) {
-        std::this_thread::sleep_for(pause);
-        lock = HeldFile::lock(path);
-    }
-    return lock;
 }
 
 } // namespace
@@ -81,7 +67,7 @@ Result<Recorded>
 HistoryStore::record(const RobotState& state, const HistorySignature& by,
                      const std::function<std::string(const StateChanges&)>& message) {
     HistoryRepository& repository = *parts_->repository;
-    const auto lock = lockFor(repository.pathOf("vantrel.lock"), writerPatience);
+    const auto lock = lockForWriting(repository.folder(), writerPatience);
     if (!lock)
         return Failure{lock.reason()};
     if (!*lock)

@@ -50,7 +50,8 @@ TEST_F(VantrelCtlTest, NothingDoneIsOneAndPartlyDoneIsThree) {
 }
 
 TEST_F(VantrelCtlTest, BacksUpSeveralRobotsAtATimeIntoOneHistory) {
-    EXPECT_EQ(run("backup --all-robots --parallel 2 --report night.txt"), 0);
+    EXPECT_EQ(
+        run("backup --all-robots --parallel 2 --report \"" + folder_.path("night.txt") + "\""), 0);
     EXPECT_EQ(folder_.read("history/LINE1/OWN.JBI"), job("OWN", "first"));
     EXPECT_EQ(folder_.read("history/LINE2/OWN.JBI"), job("OWN", "second"));
     EXPECT_THAT(messages_, HasSubstr("3 files read, 0 failed"));

@@ -4,7 +4,9 @@
 #include "platform/Files.h"
 #include "platform/HeldFile.h"
 
+#include <atomic>
 #include <cstdlib>
+#include <thread>
 
 namespace vantrel::tests {
 namespace {
@@ -236,6 +238,24 @@ TEST_F(HistoryStoreTest, CompletesARepositoryWhoseMakingWasCutOff) {
     folder.makeFolder("history/.git/objects");
     auto store = open();
     EXPECT_EQ(record(store, "LINE1", {{"A", "1"}}).end, Recorded::End::Committed);
+}
+
+TEST_F(HistoryStoreTest, SeveralProgramsMayBeginWithItAtOnce) {
+    constexpr int programs = 4;
+    std::vector<std::thread> running;
+    std::atomic<int> opened = 0;
+    for (int program = 0; program < programs; ++program)
+        running.emplace_back([&] { opened += HistoryStore::open(place()) ? 1 : 0; });
+    for (auto& one : running)
+        one.join();
+    EXPECT_EQ(opened, programs);
+    auto store = open();
+    EXPECT_EQ(record(store, "LINE1", {{"A", "1"}}).end, Recorded::End::Committed);
+}
+
+TEST_F(HistoryStoreTest, MakesTheFoldersAboveIt) {
+    ASSERT_TRUE(HistoryStore::open(folder.path("a/b/c")));
+    EXPECT_TRUE(folder.has("a/b/c/.git/HEAD"));
 }
 
 TEST_F(HistoryStoreTest, ALockThatACrashHasLeftStopsNobody) {
