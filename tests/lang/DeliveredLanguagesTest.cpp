@@ -200,10 +200,10 @@ TEST_P(DeliveredLanguage, HasTextsThatCanBeShown) {
 }
 
 TEST_P(DeliveredLanguage, HasPlaceholdersWhereSomethingIsInserted) {
-    const std::map<int, int> inserted{{3, 1},    {10, 1},   {11, 2},   {49, 1},  {70, 1},
-                                      {390, 2},  {393, 1},  {408, 2},  {423, 2}, {6549, 2},
-                                      {6551, 1}, {6552, 1}, {6554, 1}, {449, 1}, {456, 2},
-                                      {660, 2},  {661, 2},  {662, 1},  {663, 1}, {665, 1},
+    const std::map<int, int> inserted{{3, 1},    {10, 1},   {11, 2},   {49, 1},   {70, 1},
+                                      {390, 2},  {393, 1},  {408, 2},  {423, 2},  {6549, 2},
+                                      {6551, 1}, {6552, 1}, {6554, 1}, {449, 1},  {456, 2},
+                                      {660, 2},  {661, 2},  {662, 1},  {663, 1},  {665, 1},
                                       {6643, 1}, {6644, 1}, {6645, 1}, {6646, 1}, {6653, 2}};
     for (const auto& [number, entry] : textsOf(GetParam())) {
         const auto found = inserted.find(number);
