@@ -62,12 +62,14 @@ Outcome makeFolder(const std::string& folder) {
     return made || isFolder(folder) ? Outcome(Done{}) : std::move(made);
 }
 
-// Two programs that begin with it at once would take what the other has half made for broken.
+// Two programs that begin with it at once would each take what the other has half made for broken.
 Result<GitRepository> opened(const std::string& folder) {
+    // Looked at first: what another program makes meanwhile is a history.
+    const bool mayBegin = !isFolder(folder) || isEmptyOrBegun(folder);
     auto repository = openedAsItIs(folder);
     if (repository)
         return repository;
-    if (isFolder(folder) && !isEmptyOrBegun(folder))
+    if (!mayBegin)
         return Failure{folder + ": " + repository.reason()};
     const std::string inside = PathRules().join(folder, repositoryName);
     if (const auto folders = makeFolder(inside); !folders)
