@@ -16,6 +16,10 @@ if(UNIX AND CMAKE_SIZEOF_VOID_P EQUAL 4)
     # Sizes above 2 GB and times after 2038 fit as they do in 64 bits.
     add_compile_definitions(_FILE_OFFSET_BITS=64 _TIME_BITS=64)
 endif()
+if(UNIX)
+    # A program loads at its start what it calls, and not what one of its rooms could.
+    add_link_options(-Wl,--as-needed)
+endif()
 if(VANTREL_SANITIZE)
     target_compile_options(vantrel_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

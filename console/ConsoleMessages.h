@@ -54,6 +54,7 @@ inline constexpr std::int32_t nameTooLongForHistory = 6649;
 inline constexpr std::int32_t historyNotOpened = 6650; ///< then the reason
 inline constexpr std::int32_t fileNotInHistory = 6651;
 inline constexpr std::int32_t versionUnknown = 6652;
-inline constexpr std::int32_t backupSummary = 6653; ///< with the numbers read and not read
+inline constexpr std::int32_t historyFileKept = 6654; ///< then the path that it has now
+inline constexpr std::int32_t backupSummary = 6653;   ///< with the numbers read and not read
 
 } // namespace vantrel::message

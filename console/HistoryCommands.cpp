@@ -1,16 +1,18 @@
 #include "console/HistoryCommands.h"
 
 #include "app/history/RobotSnapshot.h"
+#include "app/robots/RobotFile.h"
 #include "app/start/Engine.h"
 #include "base/PathRules.h"
 #include "base/Text.h"
 #include "console/ConsoleMessages.h"
 #include "console/ItemReport.h"
 #include "console/NamePatterns.h"
-#include "files/ControllerPlace.h"
 #include "history/HistoryStore.h"
 #include "lang/SystemReasons.h"
+#include "link/ShownText.h"
 #include "platform/Files.h"
+#include "platform/Links.h"
 #include "platform/ProfileFile.h"
 
 #include <algorithm>
@@ -31,14 +33,35 @@ std::string textOf(const Desk& desk, std::int32_t number) {
     return desk.engine.messages.getMessage(number);
 }
 
-/// Nothing, after a message, where there is no history to work with.
+/// Only a backup makes one. Where it cannot be used `reason` says why.
 std::optional<HistoryStore> openHistory(Desk& desk, std::string& reason) {
-    auto history = HistoryStore::open(historyFolder(desk));
+    const std::string folder = historyFolder(desk);
+    auto history = desk.request.task == Request::Task::Backup ? HistoryStore::openOrMake(folder)
+                                                              : HistoryStore::open(folder);
     if (history)
         return std::move(*history);
     reason = textOf(desk, message::historyNotOpened) + " " +
              reasonInLanguage(desk.engine.messages, history.reason());
     return std::nullopt;
+}
+
+/// How the history calls a robot: by the exact name that it is registered with. What is at the end
+/// of a serial line nobody knows unless it is named.
+std::string nameInHistory(const Desk& desk, const Target& target) {
+    const bool isNamed =
+        desk.targets.mode == TransferMode::HispeedLink || !desk.request.robots.empty();
+    if (!isNamed)
+        return "COM" + std::to_string(desk.targets.port);
+    return target.robot.Name.empty() ? target.robot.IPaddr : target.robot.Name;
+}
+
+/// What two machines have would be one robot's history.
+bool isNameShared(const Desk& desk, const std::string& name) {
+    const auto& robots = desk.engine.state.RobotList;
+    std::size_t owners = 0;
+    for (std::size_t index = 0; index < robotCount(robots); ++index)
+        owners += robots[index].Name == name ? 1 : 0;
+    return owners > 1;
 }
 
 /// The lines of output for one robot's snapshot.
@@ -70,8 +93,13 @@ class BackupReport {
                {"gone", recorded.changes.gone}});
         for (const UnreadFile& file : result.unread)
             items_.add({file.name, file.name, ItemEnd::Failed, file.reason});
-        items_.addAll(recorded.notStored, ItemEnd::Failed,
-                      textOf(desk_, message::nameTooLongForHistory));
+        for (const NotStored& file : recorded.notStored)
+            items_.add({file.name, file.name, ItemEnd::Failed,
+                        file.reason.empty()
+                            ? textOf(desk_, message::nameTooLongForHistory)
+                            : reasonInLanguage(desk_.engine.messages, file.reason)});
+        for (const std::string& path : recorded.setAside)
+            desk_.report.message(textOf(desk_, message::historyFileKept) + "\n" + path);
         if (!recorded.treeProblem.empty())
             desk_.report.message(textOf(desk_, message::historyFilesBehind) + "\n" +
                                  reasonInLanguage(desk_.engine.messages, recorded.treeProblem));
@@ -83,7 +111,7 @@ class BackupReport {
             {message::snapshotChanged, result.recorded.changes.changed.size()},
             {message::snapshotNew, result.recorded.changes.added.size()},
             {message::snapshotGone, result.recorded.changes.gone.size()},
-            {message::snapshotUnread, result.unread.size()}};
+            {message::snapshotUnread, result.unread.size() + result.recorded.notStored.size()}};
         std::string text;
         for (const auto& [number, count] : parts)
             if (count > 0)
@@ -129,15 +157,28 @@ void listEntry(Desk& desk, const HistoryEntry& entry) {
     desk.tally.add(ItemEnd::Done);
 }
 
+/// One for all files, whatever is recorded meanwhile.
+Result<std::string> versionToRestore(const Desk& desk, const HistoryStore& history) {
+    if (!desk.request.version.empty()) {
+        auto version = history.version(desk.request.version);
+        return version ? std::move(version) : Failure{textOf(desk, message::versionUnknown)};
+    }
+    const auto latest = history.log({.most = 1});
+    if (!latest)
+        return Failure{latest.reason()};
+    return latest->empty() ? std::string() : latest->front().version;
+}
+
 /// `history restore` in one folder.
 class Restoring {
   public:
-    Restoring(Desk& desk, MachineDesk& machine, HistoryStore& history, std::string version)
-        : desk_(desk), machine_(machine), history_(history), version_(std::move(version)),
+    Restoring(Desk& desk, MachineDesk& machine, HistoryStore& history, std::string robot,
+              std::string version)
+        : desk_(desk), history_(history), robot_(std::move(robot)), version_(std::move(version)),
           items_(desk, machine, CommandKind::ReceiveCopy) {}
 
     void run(const std::string& folder) {
-        const auto files = history_.files(machine_.name(), version_);
+        const auto files = history_.files(robot_, version_);
         if (!files)
             return items_.addAll(desk_.request.names, ItemEnd::Failed, files.reason());
         const auto matched = matchNames(desk_.request.names, *files);
@@ -158,18 +199,35 @@ class Restoring {
                        std::string(trimmed(textOf(desk_, message::controllerNameRefused))));
         if (desk_.request.overwrite != OverwritePolicy::Always && anythingExists(path))
             return add(ItemEnd::Skipped, textOf(desk_, message::consoleKept));
-        const auto content = history_.read(machine_.name(), name, version_);
+        const auto content = history_.read(robot_, name, version_);
         if (!content || !*content)
             return add(ItemEnd::Failed,
                        content ? textOf(desk_, message::fileNotInHistory) : content.reason());
-        const auto written = desk_.request.dryRun ? Outcome(Done{}) : replaceFile(path, **content);
+        const auto written = desk_.request.dryRun ? Outcome(Done{}) : write(path, **content);
         add(written ? ItemEnd::Done : ItemEnd::Failed,
             written ? std::string() : reasonInLanguage(desk_.engine.messages, written.reason()));
     }
 
+    /// Nothing but a plain file is replaced, and nothing at all that was not agreed to.
+    Outcome write(const std::string& path, const std::string& content) const {
+        if (anythingExists(path) && (isLink(path) || !isRegularFile(path)))
+            return Failure{"Not a regular file"};
+        if (desk_.request.overwrite == OverwritePolicy::Always)
+            return replaceFile(path, content);
+        std::string spare = path + ".restored";
+        while (anythingExists(spare))
+            spare += "-";
+        if (auto written = replaceFile(spare, content); !written)
+            return written;
+        auto named = renameToFree(spare, path);
+        if (!named)
+            static_cast<void>(removeFile(spare));
+        return named;
+    }
+
     Desk& desk_;
-    MachineDesk& machine_;
     HistoryStore& history_;
+    std::string robot_;
     std::string version_;
     ItemReport items_;
 };
@@ -206,6 +264,10 @@ void backUp(Desk& desk, const Target& target) {
     BackupReport report(desk, machine);
     if (desk.world.isInterrupted())
         return report.fail({}, exit_code::interrupted);
+    const std::string robot = nameInHistory(desk, target);
+    if (isNameShared(desk, robot))
+        return report.fail(bracketed(robot) + textOf(desk, message::consoleRobotShared),
+                           exit_code::nothingDone);
     std::string reason;
     auto history = openHistory(desk, reason);
     if (!history)
@@ -213,7 +275,7 @@ void backUp(Desk& desk, const Target& target) {
     if (!machine.readController())
         return report.fail(desk.world.isInterrupted() ? std::string() : machine.reason(),
                            causeOf(desk.engine.session));
-    const auto result = RobotSnapshot(machine.services, *history, machine.name()).take();
+    const auto result = RobotSnapshot(machine.services, *history, robot).take();
     if (!result)
         return report.fail(reasonInLanguage(desk.engine.messages, result.reason()),
                            exit_code::nothingDone);
@@ -244,12 +306,14 @@ void restoreFiles(Desk& desk, const Target& target) {
     auto history = openHistory(desk, reason);
     if (!history)
         return items.addAll(desk.request.names, ItemEnd::Failed, reason);
-    const auto version = desk.request.version.empty() ? Result<std::string>(std::string())
-                                                      : history->version(desk.request.version);
-    if (!version)
+    const std::string robot = nameInHistory(desk, target);
+    if (isNameShared(desk, robot))
         return items.addAll(desk.request.names, ItemEnd::Failed,
-                            textOf(desk, message::versionUnknown));
-    Restoring(desk, machine, *history, *version).run(target.folder);
+                            bracketed(robot) + textOf(desk, message::consoleRobotShared));
+    const auto version = versionToRestore(desk, *history);
+    if (!version)
+        return items.addAll(desk.request.names, ItemEnd::Failed, version.reason());
+    Restoring(desk, machine, *history, robot, *version).run(target.folder);
 }
 
 } // namespace vantrel

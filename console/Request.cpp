@@ -283,6 +283,8 @@ const char* contradiction(const Request& request) {
         return "a serial port has one robot at its end";
     if (request.usesProcesses() && request.overwrite == OverwritePolicy::Ask)
         return "--overwrite ask does not go with --parallel and --timeout: nobody could answer";
+    if (request.task == Task::HistoryLog && !request.names.empty() && request.robots.empty())
+        return "a file goes with --robot: other robots may have one of its name";
     if (request.task == Task::PutVariables && request.overwrite != OverwritePolicy::Never)
         return "--overwrite does not go with variables that are sent: each has a value to replace";
     if (request.task == Task::GetVariables && request.keepGoing)

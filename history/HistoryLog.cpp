@@ -98,7 +98,8 @@ Result<std::string> HistoryLog::trace(const git_oid& commit) {
 }
 
 Result<std::string> HistoryLog::traceIn(const git_tree* root) {
-    const std::string place = StoredPlaces(placesIn(root)).placeFor(filter_.robot);
+    const std::string place =
+        StoredPlaces(placesIn(root, GIT_OBJECT_TREE).ofKind).placeFor(filter_.robot);
     const git_tree_entry* const folder = git_tree_entry_byname(root, place.c_str());
     if (!folder || git_tree_entry_type(folder) != GIT_OBJECT_TREE)
         return std::string();
@@ -110,7 +111,8 @@ Result<std::string> HistoryLog::traceIn(const git_tree* root) {
     const auto tree = folderIn(repository_.get(), root, place);
     if (!tree)
         return Failure{tree.reason()};
-    const std::string file = StoredPlaces(placesIn(tree->get())).placeFor(filter_.file);
+    const std::string file =
+        StoredPlaces(placesIn(tree->get(), GIT_OBJECT_BLOB).ofKind).placeFor(filter_.file);
     const git_tree_entry* const entry = git_tree_entry_byname(tree->get(), file.c_str());
     return fileTraces_[robot] = entry ? bytesOf(git_tree_entry_id(entry)) : std::string();
 }

@@ -4,6 +4,7 @@
 #include "history/HistoryTrees.h"
 #include "history/StoredNames.h"
 #include "platform/Files.h"
+#include "platform/Links.h"
 
 #include <cstddef>
 #include <thread>
@@ -23,24 +24,44 @@ bool isEmptyOrBegun(const std::string& folder) {
     return looked && isEmpty;
 }
 
-/// Makes a repository, or completes one whose making was cut off.
+/// Files come back as they were, whatever anybody sets for himself.
+Outcome setUp(git_repository* repository) {
+    const auto configuration = gitMade<GitConfiguration>(
+        [&](git_config** made) { return git_repository_config(made, repository); });
+    if (!configuration)
+        return Failure{configuration.reason()};
+    for (const char* const key : {"core.autocrlf", "core.filemode"}) {
+        int isOn = 1;
+        const bool isOff = git_config_get_bool(&isOn, configuration->get(), key) == 0 && isOn == 0;
+        if (!isOff && git_config_set_bool(configuration->get(), key, 0) < 0)
+            return gitFailure();
+    }
+    return Done{};
+}
+
+/// A power cut can leave HEAD without its content.
+Outcome mendHead(const std::string& inside) {
+    const std::string head = PathRules().join(inside, "HEAD");
+    const auto content = readFile(head);
+    const bool isWhole =
+        content && content->find_first_not_of(std::string("\0\r\n ", 4)) != std::string::npos;
+    return isWhole ? Outcome(Done{}) : replaceFile(head, std::string("ref: ") + branch + "\n");
+}
+
+/// What a program that ended while it made the repository has left locked.
+void removeLeftovers(const std::string& inside) {
+    for (const char* const name : {"config.lock", "HEAD.lock"})
+        if (isRegularFile(PathRules().join(inside, name)))
+            static_cast<void>(removeFile(PathRules().join(inside, name)));
+}
+
 Result<GitRepository> made(const std::string& folder) {
     git_repository_init_options options = GIT_REPOSITORY_INIT_OPTIONS_INIT;
     options.flags = GIT_REPOSITORY_INIT_MKPATH;
     options.initial_head = "main";
-    auto repository = gitMade<GitRepository>([&](git_repository** made) {
+    return gitMade<GitRepository>([&](git_repository** made) {
         return git_repository_init_ext(made, folder.c_str(), &options);
     });
-    if (!repository)
-        return repository;
-    const auto configuration = gitMade<GitConfiguration>(
-        [&](git_config** made) { return git_repository_config(made, repository->get()); });
-    if (!configuration)
-        return Failure{configuration.reason()};
-    if (git_config_set_bool(configuration->get(), "core.autocrlf", 0) < 0 ||
-        git_config_set_bool(configuration->get(), "core.filemode", 0) < 0)
-        return gitFailure();
-    return repository;
 }
 
 Result<GitRepository> openedAsItIs(const std::string& folder) {
@@ -63,28 +84,49 @@ Outcome makeFolder(const std::string& folder) {
 }
 
 // Two programs that begin with it at once would each take what the other has half made for broken.
-Result<GitRepository> opened(const std::string& folder) {
+Result<GitRepository> openedOrMade(const std::string& folder) {
     // Looked at first: what another program makes meanwhile is a history.
     const bool mayBegin = !isFolder(folder) || isEmptyOrBegun(folder);
-    auto repository = openedAsItIs(folder);
-    if (repository)
-        return repository;
-    if (!mayBegin)
-        return Failure{folder + ": " + repository.reason()};
     const std::string inside = PathRules().join(folder, repositoryName);
+    const auto refused = [&folder](const std::string& reason) {
+        return Failure{folder + ": " + reason};
+    };
+    auto repository = openedAsItIs(folder);
+    if (!repository && !mayBegin)
+        return refused(repository.reason());
+    if (isLink(inside))
+        return refused("a link in place of " + std::string(repositoryName));
     if (const auto folders = makeFolder(inside); !folders)
-        return Failure{folder + ": " + folders.reason()};
+        return refused(folders.reason());
     const auto lock = lockForWriting(folder, std::chrono::seconds(10));
-    if (!lock || !*lock)
-        return Failure{folder + ": " + (lock ? repository.reason() : lock.reason())};
+    if (!lock)
+        return refused(lock.reason());
+    if (!*lock) // somebody writes to it for long, so it is whole
+        return openedAsItIs(folder);
+    removeLeftovers(inside);
     repository = openedAsItIs(folder);
-    return repository ? std::move(repository) : made(folder);
+    if (!repository)
+        repository = made(folder);
+    if (!repository)
+        return refused(repository.reason());
+    if (const auto mended = mendHead(inside); !mended)
+        return refused(mended.reason());
+    if (const auto set = setUp(repository->get()); !set)
+        return refused(set.reason());
+    return repository;
 }
 
 } // namespace
 
 Result<HistoryRepository> HistoryRepository::open(const std::string& folder) {
-    auto repository = opened(folder);
+    auto repository = openedAsItIs(folder);
+    if (!repository)
+        return Failure{folder + ": " + repository.reason()};
+    return HistoryRepository(folder, std::move(*repository));
+}
+
+Result<HistoryRepository> HistoryRepository::openOrMake(const std::string& folder) {
+    auto repository = openedOrMade(folder);
     if (!repository)
         return Failure{repository.reason()};
     return HistoryRepository(folder, std::move(*repository));
@@ -150,7 +192,7 @@ Outcome HistoryRepository::move(const git_oid& to, const std::optional<git_oid>&
         result = tryMove(to, before);
     }
     if (result == GIT_ELOCKED) {
-        if (const auto removed = removeFile(pathOf(std::string(branch) + ".lock")); !removed)
+        if (auto removed = removeFile(pathOf(std::string(branch) + ".lock")); !removed)
             return removed;
         result = tryMove(to, before);
     }
@@ -163,7 +205,7 @@ Result<GitTree> HistoryRepository::robotIn(const std::string& robot,
     if (!root || !*root)
         return root;
     return folderIn(repository_.get(), root->get(),
-                    StoredPlaces(placesIn(root->get())).placeFor(robot));
+                    StoredPlaces(placesIn(root->get(), GIT_OBJECT_TREE).ofKind).placeFor(robot));
 }
 
 Result<std::optional<std::string>>

@@ -20,6 +20,7 @@ class HistoryRepository {
   public:
     /// As `HistoryStore::open`.
     static Result<HistoryRepository> open(const std::string& folder);
+    static Result<HistoryRepository> openOrMake(const std::string& folder);
 
     git_repository* get() const { return repository_.get(); }
     const std::string& folder() const { return folder_; }

@@ -23,6 +23,19 @@ std::map<std::string, git_oid> namedFiles(const git_tree* folder) {
     return files;
 }
 
+/// Where the folder has a file of this name; null where it has none.
+const git_oid* fileIn(const git_tree* folder, const std::string& name) {
+    const git_tree_entry* const usual = git_tree_entry_byname(folder, storedName(name).c_str());
+    if (usual && isPlainFile(usual))
+        return git_tree_entry_id(usual);
+    for (std::size_t at = 0; at < git_tree_entrycount(folder); ++at) {
+        const git_tree_entry* const entry = git_tree_entry_byindex(folder, at);
+        if (isPlainFile(entry) && nameFromStored(git_tree_entry_name(entry)) == name)
+            return git_tree_entry_id(entry);
+    }
+    return nullptr;
+}
+
 StateChanges difference(const std::map<std::string, git_oid>& before,
                         const std::map<std::string, git_oid>& after) {
     StateChanges changes;
@@ -53,26 +66,51 @@ HistoryStore& HistoryStore::operator=(HistoryStore&&) noexcept = default;
 HistoryStore::~HistoryStore() = default;
 
 Result<HistoryStore> HistoryStore::open(const std::string& folder) {
+    return opened(folder, false);
+}
+
+Result<HistoryStore> HistoryStore::openOrMake(const std::string& folder) {
+    return opened(folder, true);
+}
+
+Result<HistoryStore> HistoryStore::opened(const std::string& folder, bool mayMake) {
     auto parts = std::make_unique<Parts>();
-    auto repository = HistoryRepository::open(folder);
+    auto repository =
+        mayMake ? HistoryRepository::openOrMake(folder) : HistoryRepository::open(folder);
     if (!repository)
         return Failure{repository.reason()};
     parts->repository.emplace(std::move(*repository));
     return HistoryStore(std::move(parts));
 }
 
-// The order is the promise: what is new is on the disk before the branch points to it, and the
-// plain files follow. Whatever of that a crash leaves out, the next record makes up for.
-Result<Recorded>
-HistoryStore::record(const RobotState& state, const HistorySignature& by,
-                     const std::function<std::string(const StateChanges&)>& message) {
-    HistoryRepository& repository = *parts_->repository;
-    const auto lock = lockForWriting(repository.folder(), writerPatience);
+// What another Git program does to the branch at the same moment is followed, not undone.
+Result<Recorded> HistoryStore::record(const RobotState& state, const HistorySignature& by,
+                                      const std::function<std::string(const Recorded&)>& message) {
+    constexpr int mostTries = 3;
+    const auto lock = lockForWriting(parts_->repository->folder(), writerPatience);
     if (!lock)
         return Failure{lock.reason()};
     if (!*lock)
         return Recorded{.end = Recorded::End::InUse};
-    auto tip = repository.tip();
+    for (int tries = 0; tries < mostTries; ++tries) {
+        auto recorded = recordOnce(state, by, message);
+        if (!recorded)
+            return Failure{recorded.reason()};
+        if (!*recorded)
+            continue;
+        showFiles(**recorded);
+        return std::move(**recorded);
+    }
+    return Recorded{.end = Recorded::End::InUse};
+}
+
+// The order is the promise: what is new is on the disk before the branch points to it, and the
+// plain files follow. Whatever of that a crash leaves out, the next record makes up for.
+Result<std::optional<Recorded>>
+HistoryStore::recordOnce(const RobotState& state, const HistorySignature& by,
+                         const std::function<std::string(const Recorded&)>& message) {
+    HistoryRepository& repository = *parts_->repository;
+    const auto tip = repository.tip();
     if (!tip)
         return Failure{tip.reason()};
     auto writer = SnapshotWriter::begin(repository.folder(), *tip);
@@ -80,23 +118,34 @@ HistoryStore::record(const RobotState& state, const HistorySignature& by,
         return Failure{writer.reason()};
     if (const auto taken = writer->take(state); !taken)
         return Failure{taken.reason()};
-    Recorded recorded{.changes = writer->changes(), .notStored = writer->notStored()};
-    if (!recorded.changes.none()) {
-        const auto commit = writer->write(by, message(recorded.changes));
-        if (!commit)
-            return Failure{commit.reason()};
-        if (const auto moved = repository.move(*commit, *tip, patience); !moved)
-            return Failure{moved.reason()};
-        recorded.end = Recorded::End::Committed;
-        *tip = *commit;
+    Recorded recorded{.version = *tip ? hexadecimal(**tip) : std::string(),
+                      .changes = writer->changes(),
+                      .notStored = writer->notStored()};
+    if (recorded.changes.none())
+        return std::optional(std::move(recorded));
+    const auto commit = writer->write(by, message(recorded));
+    if (!commit)
+        return Failure{commit.reason()};
+    if (const auto moved = repository.move(*commit, *tip, patience); !moved) {
+        const auto now = repository.tip();
+        const bool isSame = now && now->has_value() == tip->has_value() &&
+                            (!*now || git_oid_equal(&**now, &**tip) != 0);
+        return isSame ? Result<std::optional<Recorded>>(Failure{moved.reason()})
+                      : std::optional<Recorded>();
     }
-    if (!*tip)
-        return recorded;
-    recorded.version = hexadecimal(**tip);
-    if (const auto shown = WorkingTree(writer->repository(), repository.folder()).show(**tip);
-        !shown)
+    recorded.end = Recorded::End::Committed;
+    recorded.version = hexadecimal(*commit);
+    return std::optional(std::move(recorded));
+}
+
+void HistoryStore::showFiles(Recorded& recorded) {
+    git_oid version{};
+    if (recorded.version.empty() || git_oid_fromstr(&version, recorded.version.c_str()) < 0)
+        return;
+    WorkingTree files(parts_->repository->get(), parts_->repository->folder());
+    if (const auto shown = files.show(version); !shown)
         recorded.treeProblem = shown.reason();
-    return recorded;
+    recorded.setAside = files.setAside();
 }
 
 Result<std::string> HistoryStore::version(const std::string& start) const {
@@ -135,10 +184,8 @@ Result<std::vector<std::string>> HistoryStore::robots(const std::string& version
     if (!root)
         return Failure{root.reason()};
     std::vector<std::string> names;
-    for (const std::string& place : placesIn(root->get()))
-        if (git_tree_entry_type(git_tree_entry_byname(root->get(), place.c_str())) ==
-            GIT_OBJECT_TREE)
-            names.push_back(nameFromStored(place));
+    for (const std::string& place : placesIn(root->get(), GIT_OBJECT_TREE).ofKind)
+        names.push_back(nameFromStored(place));
     std::ranges::sort(names);
     return names;
 }
@@ -160,13 +207,11 @@ Result<std::optional<std::string>> HistoryStore::read(const std::string& robot,
     const auto folder = parts_->repository->robotIn(robot, version);
     if (!folder)
         return Failure{folder.reason()};
-    const auto files = namedFiles(folder->get());
-    const auto found = files.find(file);
-    if (found == files.end())
+    const git_oid* const found = *folder ? fileIn(folder->get(), file) : nullptr;
+    if (!found)
         return std::optional<std::string>();
-    const auto blob = gitMade<GitBlob>([&](git_blob** made) {
-        return git_blob_lookup(made, parts_->repository->get(), &found->second);
-    });
+    const auto blob = gitMade<GitBlob>(
+        [&](git_blob** made) { return git_blob_lookup(made, parts_->repository->get(), found); });
     if (!blob)
         return Failure{blob.reason()};
     return std::optional(std::string(static_cast<const char*>(git_blob_rawcontent(blob->get())),

@@ -47,6 +47,12 @@ struct HistorySignature {
     friend bool operator==(const HistorySignature&, const HistorySignature&) = default;
 };
 
+/// A file that was fetched and could not be recorded.
+struct NotStored {
+    std::string name;
+    std::string reason; ///< the system's; empty when its name is longer than a disk can hold
+};
+
 struct Recorded {
     enum class End {
         Committed,
@@ -56,7 +62,9 @@ struct Recorded {
     End end = End::Unchanged;
     std::string version{}; ///< of the new state
     StateChanges changes{};
-    std::vector<std::string> notStored{}; ///< their names are longer than a disk can hold
+    std::vector<NotStored> notStored{}; ///< their last versions stay
+    /// Plain files of the folder that somebody has changed, and the names that they have now.
+    std::vector<std::string> setAside{};
     /// Why the plain files beside the repository do not show the state; the next record tries
     /// again.
     std::string treeProblem{};
@@ -85,16 +93,19 @@ struct HistoryFilter {
 /// while it writes, the last complete state stays, and no lock stays that needs a person.
 class HistoryStore {
   public:
-    /// Opens the history in this folder, or makes a new one where there is no folder or an empty
-    /// one. A folder with anything else in it is refused.
+    /// Opens the history in this folder to read it; nothing is made.
     static Result<HistoryStore> open(const std::string& folder);
+    /// The same, or a new one where there is no folder or an empty one. A folder with anything else
+    /// in it is refused.
+    static Result<HistoryStore> openOrMake(const std::string& folder);
     HistoryStore(HistoryStore&&) noexcept;
     HistoryStore& operator=(HistoryStore&&) noexcept;
     ~HistoryStore();
 
-    /// `message` gives the entry's text for what has changed. Nothing is written where nothing has.
+    /// `message` gives the entry's text for what has changed and what was not stored. No entry is
+    /// made where nothing has changed.
     Result<Recorded> record(const RobotState& state, const HistorySignature& by,
-                            const std::function<std::string(const StateChanges&)>& message);
+                            const std::function<std::string(const Recorded&)>& message);
 
     /// The whole name of a version of which only the first digits are given, four at least.
     Result<std::string> version(const std::string& start) const;
@@ -120,6 +131,12 @@ class HistoryStore {
   private:
     struct Parts;
     explicit HistoryStore(std::unique_ptr<Parts> parts);
+    static Result<HistoryStore> opened(const std::string& folder, bool mayMake);
+    /// One attempt; nothing when another Git program has moved the branch meanwhile.
+    Result<std::optional<Recorded>>
+    recordOnce(const RobotState& state, const HistorySignature& by,
+               const std::function<std::string(const Recorded&)>& message);
+    void showFiles(Recorded& recorded);
 
     std::unique_ptr<Parts> parts_;
 };

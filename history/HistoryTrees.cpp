@@ -3,14 +3,11 @@
 #include <cstddef>
 
 namespace vantrel {
-namespace {
 
 bool isPlainFile(const git_tree_entry* entry) {
     const git_filemode_t mode = git_tree_entry_filemode(entry);
     return mode == GIT_FILEMODE_BLOB || mode == GIT_FILEMODE_BLOB_EXECUTABLE;
 }
-
-} // namespace
 
 Result<GitTree> treeOf(git_repository* repository, const git_oid& commit) {
     const auto found = gitMade<GitCommit>(
@@ -20,11 +17,15 @@ Result<GitTree> treeOf(git_repository* repository, const git_oid& commit) {
     return gitMade<GitTree>([&](git_tree** made) { return git_commit_tree(made, found->get()); });
 }
 
-std::vector<std::string> placesIn(const git_tree* tree) {
-    std::vector<std::string> places;
+Places placesIn(const git_tree* tree, git_object_t kind) {
+    Places places;
     const std::size_t count = tree ? git_tree_entrycount(tree) : 0;
-    for (std::size_t at = 0; at < count; ++at)
-        places.emplace_back(git_tree_entry_name(git_tree_entry_byindex(tree, at)));
+    for (std::size_t at = 0; at < count; ++at) {
+        const git_tree_entry* const entry = git_tree_entry_byindex(tree, at);
+        const bool isLeadingElsewhere = kind == GIT_OBJECT_BLOB && !isPlainFile(entry);
+        const bool isOfKind = git_tree_entry_type(entry) == kind && !isLeadingElsewhere;
+        (isOfKind ? places.ofKind : places.others).emplace_back(git_tree_entry_name(entry));
+    }
     return places;
 }
 

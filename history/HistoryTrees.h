@@ -10,8 +10,13 @@ namespace vantrel {
 
 /// The tree of a commit.
 Result<GitTree> treeOf(git_repository* repository, const git_oid& commit);
-/// The names of all entries.
-std::vector<std::string> placesIn(const git_tree* tree);
+bool isPlainFile(const git_tree_entry* entry);
+/// The names of the entries of this kind, and of all others.
+struct Places {
+    std::vector<std::string> ofKind{};
+    std::vector<std::string> others{};
+};
+Places placesIn(const git_tree* tree, git_object_t kind);
 /// The tree of a folder, such as a robot's; null where there is none.
 Result<GitTree> folderIn(git_repository* repository, const git_tree* root,
                          const std::string& place);

@@ -83,7 +83,8 @@ Outcome SnapshotWriter::openLast(const std::string& robot) {
             return Failure{root.reason()};
         lastRoot_ = std::move(*root);
     }
-    robotPlace_ = StoredPlaces(placesIn(lastRoot_.get())).placeFor(robot);
+    const Places robots = placesIn(lastRoot_.get(), GIT_OBJECT_TREE);
+    robotPlace_ = StoredPlaces(robots.ofKind, robots.others).placeFor(robot);
     return robotPlace_.empty() ? Failure{"The robot's name is empty or too long"} : openFolder();
 }
 
@@ -94,7 +95,8 @@ Outcome SnapshotWriter::openFolder() {
     if (!folder)
         return Failure{folder.reason()};
     last_ = filesOf(folder->get());
-    places_.emplace(placesIn(folder->get()));
+    const Places files = placesIn(folder->get(), GIT_OBJECT_BLOB);
+    places_.emplace(files.ofKind, files.others);
     auto builder = gitMade<GitTreeBuilder>([&](git_treebuilder** made) {
         return git_treebuilder_new(made, repository_.get(), folder->get());
     });
@@ -107,19 +109,21 @@ Outcome SnapshotWriter::openFolder() {
 Outcome SnapshotWriter::takeFile(const FetchedFile& file) {
     const std::string place = places_->placeFor(file.name);
     if (place.empty()) {
-        notStored_.push_back(file.name);
+        notStored_.push_back({file.name, {}});
         return Done{};
     }
     const auto content = readFile(file.path);
-    if (!content)
-        return Failure{file.name + ": " + content.reason()};
+    if (!content) {
+        notStored_.push_back({file.name, content.reason()});
+        return Done{};
+    }
     git_oid id{};
     if (git_odb_hash(&id, content->data(), content->size(), GIT_OBJECT_BLOB) < 0)
         return gitFailure();
     const auto before = last_.find(place);
     if (before != last_.end() && git_oid_equal(&before->second, &id) != 0)
         return Done{};
-    if (git_odb_exists(database_.get(), &id) == 0) {
+    if (git_odb_exists_ext(database_.get(), &id, GIT_ODB_LOOKUP_NO_REFRESH) == 0) {
         if (git_odb_write(&id, database_.get(), content->data(), content->size(), GIT_OBJECT_BLOB) <
             0)
             return gitFailure();

@@ -22,7 +22,7 @@ class SnapshotWriter {
     /// Compares the state with the last one, and keeps in memory what differs.
     Outcome take(const RobotState& state);
     const StateChanges& changes() const { return changes_; }
-    const std::vector<std::string>& notStored() const { return notStored_; }
+    const std::vector<NotStored>& notStored() const { return notStored_; }
     /// Writes the commit; it is on the disk afterwards, and nothing points to it yet.
     Result<git_oid> write(const HistorySignature& by, const std::string& message);
     git_repository* repository() const { return repository_.get(); }
@@ -49,7 +49,7 @@ class SnapshotWriter {
     std::optional<StoredPlaces> places_{};
     std::vector<git_oid> fresh_{}; ///< objects that the history does not have yet
     StateChanges changes_{};
-    std::vector<std::string> notStored_{};
+    std::vector<NotStored> notStored_{};
 };
 
 } // namespace vantrel

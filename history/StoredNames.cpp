@@ -97,7 +97,10 @@ std::string nameFromStored(std::string_view stored) {
     return name;
 }
 
-StoredPlaces::StoredPlaces(const std::vector<std::string>& places) {
+StoredPlaces::StoredPlaces(const std::vector<std::string>& places,
+                           const std::vector<std::string>& others) {
+    for (const std::string& other : others)
+        taken_.insert(upperCase(other));
     for (const std::string& place : places) {
         placeOf_.emplace(nameFromStored(place), place);
         taken_.insert(upperCase(place));

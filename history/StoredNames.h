@@ -19,11 +19,13 @@ std::string storedName(std::string_view name);
 std::string nameFromStored(std::string_view stored);
 
 /// Where one folder's names are stored. Names that differ in letter case only get places that
-/// differ otherwise too, since many disks take them for one; a name keeps its place for good.
+/// differ otherwise too, since many disks take them for one; a name that the history has keeps its
+/// place.
 class StoredPlaces {
   public:
-    /// `places` are those that the history has already.
-    explicit StoredPlaces(const std::vector<std::string>& places);
+    /// `places` are those that the history has already, `others` those of what is none of ours.
+    explicit StoredPlaces(const std::vector<std::string>& places,
+                          const std::vector<std::string>& others = {});
 
     /// Empty when the name is too long for a disk.
     std::string placeFor(const std::string& name);

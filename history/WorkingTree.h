@@ -2,8 +2,10 @@
 
 #include "history/GitHandles.h"
 
+#include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace vantrel {
 
@@ -19,10 +21,16 @@ class WorkingTree {
     /// Brings the files from the state that they show to this commit's, whatever ended the last
     /// attempt. The first failure ends it; the next attempt does it all again.
     Outcome show(const git_oid& commit);
+    /// The files that got another name, with it.
+    const std::vector<std::string>& setAside() const { return setAside_; }
 
   private:
-    Result<GitTree> shownTree() const;
+    Result<std::optional<git_oid>> shown() const;
+    Outcome apply(git_diff* difference, bool removals);
     Outcome apply(const git_diff_delta& delta);
+    /// Makes room under a name; fails where that cannot be done without a loss.
+    Outcome clear(const std::string& place);
+    bool isKnown(const std::string& content) const;
     Outcome write(const std::string& place, const git_oid& blob);
     Outcome remove(const std::string& place);
     /// For `git status` and its like.
@@ -31,6 +39,7 @@ class WorkingTree {
 
     git_repository* repository_;
     std::string folder_;
+    std::vector<std::string> setAside_{};
 };
 
 } // namespace vantrel

@@ -17,7 +17,13 @@ flags="-O2 -ffunction-sections -fdata-sections -DPCRE2_STATIC"
 
 # The archive's own version: the sources of security updates are not served everywhere.
 version_of() {
-    apt-cache madison "$1" | awk -F' *[|] *' '$3 !~ /security/ { print $2; exit }'
+    local version
+    version=$(apt-cache madison "$1" | awk -F' *[|] *' '$3 !~ /security/ && !found { print $2; found = 1 }')
+    if [ -z "$version" ]; then
+        echo "The package lists do not have $1; apt-get update reads them." >&2
+        return 1
+    fi
+    printf '%s\n' "$version"
 }
 
 # build_with_cmake SOURCE BUILD OPTION...

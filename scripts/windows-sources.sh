@@ -45,10 +45,13 @@ source_apt() {
 fetch_sources() {
     local folder=$1
     shift
+    exec 8>"$cache/lock-apt" # two builds share the lists
+    flock 8
     as_source_entries
     source_apt update
     mkdir -p "$folder"
     (cd "$folder" && source_apt source "$@")
+    exec 8>&-
 }
 
 # key_of TEXT...: short, and another one for other texts or another compiler.

@@ -18,6 +18,7 @@
 #include "platform/TextEncoding.h"
 
 #include <algorithm>
+#include <array>
 #include <ctime>
 #include <map>
 #include <set>
@@ -59,7 +60,10 @@ std::map<std::string, std::set<std::string>> spellings(const std::vector<std::st
 
 int offsetFromUtc(std::time_t time) {
     constexpr int minutesOfDay = 24 * 60;
-    const std::tm local = *std::localtime(&time);
+    const std::tm* const found = std::localtime(&time);
+    if (!found)
+        return 0;
+    const std::tm local = *found;
     const std::tm utc = *std::gmtime(&time);
     const int days = local.tm_yday - utc.tm_yday;
     const int day = days > 1 ? -1 : (days < -1 ? 1 : days); // over New Year
@@ -81,8 +85,12 @@ std::string listed(const std::vector<std::string>& names, const char* sign) {
 
 HistorySignature signatureOfNow() {
     const std::time_t now = std::time(nullptr);
-    const auto orUnknown = [](std::string text) {
-        return text.empty() ? std::string("unknown") : std::move(text);
+    // Git has no room for brackets in names.
+    const auto orUnknown = [](const std::string& text) {
+        std::string name = onOneLine(text);
+        std::erase_if(name, [](char c) { return c == '<' || c == '>'; });
+        name = trimmed(name, " .,:;'\"");
+        return name.empty() ? std::string("unknown") : name;
     };
     const std::string user = orUnknown(userName());
     return {user, user + "@" + orUnknown(computerName()), now, offsetFromUtc(now)};
@@ -94,28 +102,30 @@ Result<SnapshotResult> RobotSnapshot::take() {
         return Failure{path.reason()};
     const FetchFolder folder(with_.session, *path);
     RobotState state{.robot = robot_};
-    if (!fetch(namesToFetch(), *path, state))
+    if (!fetch(namesToFetch(state), *path, state))
         return Failure{with_.messages.getMessage(message::resultCancelled)};
     dropNeverSeen();
     for (const UnreadFile& file : result_.unread)
         state.unfetched.push_back(file.name);
-    auto recorded = history_.record(
-        state, signatureOfNow(), [this](const StateChanges& changes) { return message(changes); });
+    auto recorded = history_.record(state, signatureOfNow(),
+                                    [this](const Recorded& entry) { return message(entry); });
     if (!recorded)
         return Failure{recorded.reason()};
     result_.recorded = std::move(*recorded);
     return std::move(result_);
 }
 
-std::vector<std::string> RobotSnapshot::namesToFetch() {
+std::vector<std::string> RobotSnapshot::namesToFetch(RobotState& state) {
     const std::int16_t model = controllerModel(with_.state.Controler).bit;
     const auto spelled = spellings(with_.state.CtrlListing.Names);
     std::vector<std::string> names;
     std::set<std::string_view> seen;
     for (const std::string& name : with_.state.CtrlListing.Names) {
-        if (!seen.insert(name).second || !with_.table.isTransferable(name, false, model))
+        if (!seen.insert(name).second)
             continue;
-        if (!PathRules::isPlainName(name))
+        if (!with_.table.isTransferable(name, false, model))
+            state.unfetched.push_back(name); // with another model or table it may have been fetched
+        else if (!PathRules::isPlainName(name))
             leaveOut(name, with_.messages.getMessage(message::controllerNameRefused));
         else if (!toCodePage(name))
             leaveOut(name, with_.messages.getMessage(message::nameNotExpressible));
@@ -153,18 +163,22 @@ bool RobotSnapshot::fetch(std::vector<std::string> names, const std::string& fol
             else
                 leaveOut(names[at], reason);
         }
-        names = std::move(rest);
+        const bool isGettingOn = rest.size() < names.size();
+        names = isGettingOn ? std::move(rest) : std::vector<std::string>();
     }
     result_.fetched = state.files.size();
     return !progress.isCancelled();
 }
 
-// What the library says of one file, or what has not arrived, says nothing of the next one.
+// What is wrong with one file says nothing of the next one; a link that fails does.
 bool RobotSnapshot::goesOnAfterFailure() const {
-    return with_.session.ErrorFunction() == "BscUpLoad" && !with_.session.operatorIsTold();
+    constexpr std::array<std::string_view, 6> ofTheLink{
+        "BscOpen", "BscSetCom", "BscSetEther", "BscConnect", "BscDisConnect", "BscClose"};
+    return std::ranges::find(ofTheLink, with_.session.ErrorFunction()) == ofTheLink.end() &&
+           !with_.session.operatorIsTold();
 }
 
-void RobotSnapshot::leaveOut(const std::string& name, std::string reason) {
+void RobotSnapshot::leaveOut(const std::string& name, const std::string& reason) {
     result_.unread.push_back({name, std::string(trimmed(reason))});
 }
 
@@ -181,19 +195,23 @@ void RobotSnapshot::dropNeverSeen() {
 }
 
 // English whatever the language: several PCs write one history, and programs read it.
-std::string RobotSnapshot::message(const StateChanges& changes) const {
-    std::string counts =
-        counted(changes.changed.size(), "changed") + counted(changes.added.size(), "new") +
-        counted(changes.gone.size(), "gone") + counted(result_.unread.size(), "not read");
+std::string RobotSnapshot::message(const Recorded& entry) const {
+    const StateChanges& changes = entry.changes;
+    std::string counts = counted(changes.changed.size(), "changed") +
+                         counted(changes.added.size(), "new") +
+                         counted(changes.gone.size(), "gone") +
+                         counted(result_.unread.size() + entry.notStored.size(), "not read");
     std::vector<std::string> unread;
     for (const UnreadFile& file : result_.unread)
         unread.push_back(file.name);
+    for (const NotStored& file : entry.notStored)
+        unread.push_back(file.name);
     return onOneLine(robot_) + ": " + counts.substr(2) + "\n\n" + listed(changes.changed, "~") +
            listed(changes.added, "+") + listed(changes.gone, "-") + listed(unread, "?") + "\n" +
-           trailers();
+           trailers(unread.empty());
 }
 
-std::string RobotSnapshot::trailers() const {
+std::string RobotSnapshot::trailers(bool isWhole) const {
     const bool isSerial = with_.state.TransMode == TransferMode::Bsc;
     const std::string address =
         isSerial ? "COM" + std::to_string(with_.session.port) : with_.session.IPaddress;
@@ -203,7 +221,7 @@ std::string RobotSnapshot::trailers() const {
         {"Mode", isSerial ? "BSC" : "Hispeed Link"},
         {"Model", std::string(controllerModel(with_.state.Controler).name)},
         {"Files", std::to_string(result_.fetched)},
-        {"Result", result_.isWhole() ? "complete" : "partial"}};
+        {"Result", isWhole ? "complete" : "partial"}};
     std::string text;
     for (const auto& [key, value] : lines)
         text += std::string(key) + ": " + onOneLine(value) + "\n";

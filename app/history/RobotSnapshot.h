@@ -41,16 +41,16 @@ class RobotSnapshot {
   private:
     /// The names to fetch, in the directory's order; those that nobody can fetch for certain are
     /// unread.
-    std::vector<std::string> namesToFetch();
+    std::vector<std::string> namesToFetch(RobotState& state);
     /// False when Cancel was pressed. A file that fails leaves the rest a try, a link that fails
     /// does not.
     bool fetch(std::vector<std::string> names, const std::string& folder, RobotState& state);
     bool goesOnAfterFailure() const;
-    void leaveOut(const std::string& name, std::string reason);
+    void leaveOut(const std::string& name, const std::string& reason);
     /// A data file that some robots of the model have, and that this one never had, is none.
     void dropNeverSeen();
-    std::string message(const StateChanges& changes) const;
-    std::string trailers() const;
+    std::string message(const Recorded& entry) const;
+    std::string trailers(bool isWhole) const;
 
     TransferServices with_;
     HistoryStore& history_;

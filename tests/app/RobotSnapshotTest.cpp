@@ -12,14 +12,13 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using testing::StartsWith;
 
 class RobotSnapshotTest : public tests::CommandTest {
   protected:
     RobotSnapshotTest() {
         state.CurrentRobot.Name = "LINE1";
-        auto opened = HistoryStore::open(place.path("history"));
+        auto opened = HistoryStore::openOrMake(place.path("history"));
         if (!opened)
             throw std::runtime_error(opened.reason());
         history.emplace(std::move(*opened));
@@ -176,6 +175,30 @@ TEST_F(RobotSnapshotTest, ADataFileThatOnlySomeRobotsHaveIsMissedWhereItWasSeen)
     robot().erase("FIXED.DAT");
     EXPECT_THAT(unreadNames(taken()), ElementsAre("FIXED.DAT"));
     EXPECT_EQ(content("FIXED.DAT"), "1");
+}
+
+TEST_F(RobotSnapshotTest, WhatIsNoLongerLetThroughIsNotGone) {
+    robotJob("A");
+    robot().put("B.DAT", "1");
+    taken();
+    program.write("FileTable.tbl", "*.JBI,1,1,1,1,1,1,1,1,1\n");
+    TransferTable narrower;
+    ASSERT_TRUE(narrower.load(program.path()));
+    table = narrower;
+    const auto result = taken();
+    EXPECT_EQ(result.recorded.end, Recorded::End::Unchanged);
+    EXPECT_TRUE(result.isWhole());
+    EXPECT_EQ(content("B.DAT"), "1");
+}
+
+TEST_F(RobotSnapshotTest, TheEntrySaysWhichFilesTheHistoryCouldNotTake) {
+    robotJob("A");
+    const std::string longName = std::string(242, 'X') + ".JBI";
+    robot().put(longName, "1");
+    const auto result = taken();
+    EXPECT_FALSE(result.isWhole());
+    EXPECT_THAT(message(), AllOf(StartsWith("LINE1: 1 new, 1 not read\n"),
+                                 HasSubstr("\n? " + longName), HasSubstr("Result: partial")));
 }
 
 TEST_F(RobotSnapshotTest, NothingIsRecordedAfterAPressOfCancel) {

@@ -130,9 +130,41 @@ TEST_F(HistoryCommandsTest, TheLogListsTheLatestFirst) {
     EXPECT_EQ(lines(output_).size(), 1U);
 }
 
-TEST_F(HistoryCommandsTest, AnEmptyHistoryHasNothingToList) {
-    EXPECT_EQ(run({"history", "log"}), 0);
-    EXPECT_THAT(output_, IsEmpty());
+TEST_F(HistoryCommandsTest, WhereThereIsNoHistoryNothingIsMade) {
+    EXPECT_EQ(run({"history", "log"}), 1);
+    EXPECT_EQ(run({"history", "restore", "OWN.JBI"}), 1);
+    EXPECT_THAT(output_, HasSubstr("The history could not be opened"));
+    EXPECT_FALSE(program_.has("history"));
+}
+
+TEST_F(HistoryCommandsTest, AFileIsListedForOneRobot) {
+    run({"backup"});
+    EXPECT_EQ(run({"history", "log", "OWN.JBI"}), 2);
+}
+
+TEST_F(HistoryCommandsTest, ANameThatTwoRobotsHaveIsNobodysHistory) {
+    program_.write("robot.ini",
+                   robots_ + "[Robot]\r\nName=first\r\nIPaddr=10.0.0.2\r\nPath=two\r\n");
+    EXPECT_EQ(run({"backup", "--all-robots"}), 3);
+    EXPECT_THAT(output_,
+                AllOf(HasSubstr("first\tnot recorded\t[first]"), HasSubstr("second\trecorded")));
+    EXPECT_EQ(latest("first", "OWN.JBI"), "none");
+}
+
+TEST_F(HistoryCommandsTest, OverASerialLineTheNamedRobotIsRecorded) {
+    library_.at("COM1").put("S.JBI", job("S", "serial"));
+    EXPECT_EQ(run({"backup", "--mode", "bsc", "--port", "1", "--robot", "second"}), 0);
+    EXPECT_EQ(latest("second", "S.JBI"), job("S", "serial"));
+    EXPECT_EQ(run({"backup", "--port", "1"}), 0);
+    EXPECT_EQ(latest("COM1", "S.JBI"), job("S", "serial"));
+}
+
+TEST_F(HistoryCommandsTest, ARestoreThatNobodyAgreedToReplacesNothing) {
+    run({"backup"});
+    program_.makeFolder("one/OWN.JBI");
+    EXPECT_EQ(run({"history", "restore", "OWN.JBI", "--overwrite", "always"}), 1);
+    EXPECT_EQ(run({"history", "restore", "OWN.JBI"}), 1);
+    EXPECT_FALSE(program_.has("one/OWN.JBI.restored"));
 }
 
 TEST_F(HistoryCommandsTest, OlderVersionsComeBackIntoTheRobotsFolder) {

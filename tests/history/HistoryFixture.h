@@ -4,9 +4,12 @@
 #include "support/TemporaryFolder.h"
 
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <gmock/gmock.h>
 
 namespace vantrel::tests {
 
@@ -16,7 +19,7 @@ class HistoryFixture : public testing::Test {
     using Files = std::map<std::string, std::string>; ///< contents by name
 
     HistoryStore open() {
-        auto store = HistoryStore::open(place());
+        auto store = HistoryStore::openOrMake(place());
         if (!store)
             throw std::runtime_error(store.reason());
         return std::move(*store);
@@ -33,7 +36,7 @@ class HistoryFixture : public testing::Test {
     }
     Recorded record(HistoryStore& store, const RobotState& state) {
         by.time += 60;
-        auto recorded = store.record(state, by, [this](const StateChanges&) { return message; });
+        auto recorded = store.record(state, by, [this](const Recorded&) { return message; });
         EXPECT_TRUE(recorded) << (recorded ? "" : recorded.reason());
         if (!recorded)
             return {};

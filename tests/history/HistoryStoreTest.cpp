@@ -63,8 +63,8 @@ TEST_F(HistoryStoreTest, TellsWhatHasChanged) {
 
 TEST_F(HistoryStoreTest, TheMessageIsMadeFromWhatHasChanged) {
     auto store = open();
-    ASSERT_TRUE(store.record(stateOf("LINE1", {{"A", "1"}}), by, [](const StateChanges& changes) {
-        return "LINE1: " + std::to_string(changes.added.size()) + " new\n\nRobot: LINE1\n";
+    ASSERT_TRUE(store.record(stateOf("LINE1", {{"A", "1"}}), by, [](const Recorded& entry) {
+        return "LINE1: " + std::to_string(entry.changes.added.size()) + " new\n\nRobot: LINE1\n";
     }));
     const auto entries = store.log({});
     ASSERT_EQ(entries->size(), 1U);
@@ -132,7 +132,9 @@ TEST_F(HistoryStoreTest, ANameThatNoDiskHoldsIsToldAndTheRestIsStored) {
     const std::string longName(250, 'X');
     auto store = open();
     const auto recorded = record(store, "LINE1", {{longName, "1"}, {"A", "1"}});
-    EXPECT_EQ(recorded.notStored, std::vector<std::string>{longName});
+    ASSERT_EQ(recorded.notStored.size(), 1U);
+    EXPECT_EQ(recorded.notStored[0].name, longName);
+    EXPECT_EQ(recorded.notStored[0].reason, "");
     EXPECT_EQ(recorded.changes, StateChanges{.added = {"A"}});
 }
 
@@ -143,17 +145,22 @@ TEST_F(HistoryStoreTest, ANameThatAControllerShowsTwiceIsOneFile) {
     EXPECT_EQ(record(store, state).changes, StateChanges{.added = {"A"}});
 }
 
-TEST_F(HistoryStoreTest, NothingIsWrittenWhenAFetchedFileCannotBeRead) {
+TEST_F(HistoryStoreTest, AFetchedFileThatCannotBeReadKeepsItsLastVersion) {
     auto store = open();
-    record(store, "LINE1", {{"A", "1"}});
+    record(store, "LINE1", {{"A", "1"}, {"B", "1"}});
     auto state = stateOf("LINE1", {{"A", "2"}});
     state.files.push_back({"B", folder.path("fetched/none")});
-    const auto recorded = store.record(state, by, [](const StateChanges&) { return "x"; });
-    ASSERT_FALSE(recorded);
-    EXPECT_THAT(recorded.reason(), testing::HasSubstr("B: "));
-    EXPECT_EQ(store.log({})->size(), 1U);
-    EXPECT_EQ(filesIn(store, "LINE1"), (Files{{"A", "1"}}));
-    EXPECT_EQ(folder.read("history/LINE1/A"), "1");
+    std::size_t told = 0;
+    const auto recorded = store.record(state, by, [&told](const Recorded& entry) {
+        told = entry.notStored.size();
+        return "x";
+    });
+    ASSERT_TRUE(recorded);
+    ASSERT_EQ(recorded->notStored.size(), 1U);
+    EXPECT_EQ(recorded->notStored[0].name, "B");
+    EXPECT_NE(recorded->notStored[0].reason, "");
+    EXPECT_EQ(told, 1U);
+    EXPECT_EQ(filesIn(store, "LINE1"), (Files{{"A", "2"}, {"B", "1"}}));
 }
 
 TEST_F(HistoryStoreTest, ReadsEveryOlderVersion) {
@@ -221,17 +228,17 @@ TEST_F(HistoryStoreTest, FindsAVersionByItsFirstDigits) {
 
 TEST_F(HistoryStoreTest, NeverUsesARepositoryAboveItsFolder) {
     open();
-    const auto inside = HistoryStore::open(folder.path("history/inside"));
-    ASSERT_TRUE(inside);
+    EXPECT_FALSE(HistoryStore::open(folder.path("history/inside")));
+    ASSERT_TRUE(HistoryStore::openOrMake(folder.path("history/inside")));
     EXPECT_TRUE(folder.has("history/inside/.git"));
 }
 
 TEST_F(HistoryStoreTest, RefusesAFolderWithAnythingElseInIt) {
     folder.write("history/mine.txt", "mine");
-    EXPECT_FALSE(HistoryStore::open(place()));
+    EXPECT_FALSE(HistoryStore::openOrMake(place()));
     EXPECT_FALSE(folder.has("history/.git"));
     folder.write("file", "mine");
-    EXPECT_FALSE(HistoryStore::open(folder.path("file")));
+    EXPECT_FALSE(HistoryStore::openOrMake(folder.path("file")));
 }
 
 TEST_F(HistoryStoreTest, CompletesARepositoryWhoseMakingWasCutOff) {
@@ -245,7 +252,7 @@ TEST_F(HistoryStoreTest, SeveralProgramsMayBeginWithItAtOnce) {
     std::vector<std::thread> running;
     std::atomic<int> opened = 0;
     for (int program = 0; program < programs; ++program)
-        running.emplace_back([&] { opened += HistoryStore::open(place()) ? 1 : 0; });
+        running.emplace_back([&] { opened += HistoryStore::openOrMake(place()) ? 1 : 0; });
     for (auto& one : running)
         one.join();
     EXPECT_EQ(opened, programs);
@@ -254,8 +261,26 @@ TEST_F(HistoryStoreTest, SeveralProgramsMayBeginWithItAtOnce) {
 }
 
 TEST_F(HistoryStoreTest, MakesTheFoldersAboveIt) {
-    ASSERT_TRUE(HistoryStore::open(folder.path("a/b/c")));
+    ASSERT_TRUE(HistoryStore::openOrMake(folder.path("a/b/c")));
     EXPECT_TRUE(folder.has("a/b/c/.git/HEAD"));
+}
+
+TEST_F(HistoryStoreTest, ReadingMakesNothing) {
+    EXPECT_FALSE(HistoryStore::open(place()));
+    EXPECT_FALSE(folder.has("history"));
+}
+
+TEST_F(HistoryStoreTest, WhatACutAtItsBeginningHasLeftIsMended) {
+    record(*std::make_unique<HistoryStore>(open()), "LINE1", {{"A", "1"}});
+    folder.write("history/.git/HEAD", "");
+    folder.write("history/.git/config.lock", "half");
+    folder.write("history/.git/config",
+                 "[core]\n\trepositoryformatversion = 0\n\tautocrlf = true\n");
+    auto store = open();
+    EXPECT_EQ(record(store, "LINE1", {{"A", "2"}}).end, Recorded::End::Committed);
+    EXPECT_EQ(folder.read("history/.git/HEAD"), "ref: refs/heads/main\n");
+    EXPECT_THAT(folder.read("history/.git/config"), testing::HasSubstr("autocrlf = false"));
+    EXPECT_EQ(store.log({})->size(), 2U);
 }
 
 TEST_F(HistoryStoreTest, ALockThatACrashHasLeftStopsNobody) {
@@ -304,9 +329,33 @@ TEST_F(HistoryStoreTest, PlainFilesComeBackWhenNobodyKnowsWhatTheyShow) {
     auto store = open();
     record(store, "LINE1", {{"A", "1"}});
     folder.write("history/.git/vantrel-shown", "damaged");
-    folder.write("history/LINE1/A", "half");
+    std::filesystem::remove(folder.path("history/LINE1/A"));
     record(store, "LINE1", {{"A", "1"}});
     EXPECT_EQ(folder.read("history/LINE1/A"), "1");
+}
+
+TEST_F(HistoryStoreTest, APlainFileThatSomebodyHasChangedIsKeptUnderAnotherName) {
+    auto store = open();
+    record(store, "LINE1", {{"A", "1"}, {"B", "1"}});
+    folder.write("history/LINE1/A", "mine");
+    folder.write("history/LINE1/B", "mine too");
+    folder.write("history/LINE1/C", "and mine");
+    const auto recorded = record(store, "LINE1", {{"A", "2"}, {"C", "1"}});
+    EXPECT_EQ(recorded.setAside.size(), 3U);
+    EXPECT_EQ(folder.read("history/LINE1/A"), "2");
+    EXPECT_EQ(folder.read("history/LINE1/A.kept-1"), "mine");
+    EXPECT_FALSE(folder.has("history/LINE1/B"));
+    EXPECT_EQ(folder.read("history/LINE1/B.kept-1"), "mine too");
+    EXPECT_EQ(folder.read("history/LINE1/C"), "1");
+    EXPECT_EQ(folder.read("history/LINE1/C.kept-1"), "and mine");
+}
+
+TEST_F(HistoryStoreTest, ARobotOfASpecialNameTakesNobodysPlace) {
+    auto store = open();
+    record(store, ".gitattributes", {{"A", "1"}});
+    EXPECT_EQ(folder.read("history/.gitattributes"), "* -text\n");
+    EXPECT_EQ(filesIn(store, ".gitattributes"), (Files{{"A", "1"}}));
+    EXPECT_EQ(*store.robots(), std::vector<std::string>{".gitattributes"});
 }
 
 TEST_F(HistoryStoreTest, WhatSomebodyElseHasPutBesideTheFilesStays) {
@@ -353,6 +402,40 @@ TEST_F(HistoryStoreTest, GoesOnAfterAnotherGitProgramHasPackedIt) {
     EXPECT_EQ(git(folder, "fsck --full --strict"), 0) << folder.read("git.txt");
 }
 
+TEST_F(HistoryStoreTest, ALinkInPlaceOfAFileIsNotFollowed) {
+    auto store = open();
+    record(store, "LINE1", {{"A", "1"}});
+    folder.write("elsewhere", "mine");
+    for (const char* name : {"history/LINE1/A", "history/.git/vantrel-shown"}) {
+        std::filesystem::remove(folder.path(name));
+        std::filesystem::create_symlink(folder.path("elsewhere"), folder.path(name));
+    }
+    record(store, "LINE1", {{"A", "2"}});
+    EXPECT_EQ(folder.read("elsewhere"), "mine");
+    EXPECT_EQ(folder.read("history/LINE1/A"), "2");
+}
+
+TEST_F(HistoryStoreTest, ATreeOfSomebodyElseWritesNothingIntoTheRepository) {
+    auto store = open();
+    record(store, "LINE1", {{"A", "1"}});
+    ASSERT_EQ(git(folder, "config user.email a@b && git -c safe.directory='*' -C '" + place() +
+                              "' config user.name a"),
+              0);
+    folder.write("history/GIT~1/config", "hostile");
+    folder.write("history/LINE1/link", "");
+    std::filesystem::remove(folder.path("history/LINE1/link"));
+    std::filesystem::create_symlink(folder.path("elsewhere"), folder.path("history/LINE1/link"));
+    ASSERT_EQ(git(folder, "-c core.protectNTFS=false add -A"), 0) << folder.read("git.txt");
+    ASSERT_EQ(git(folder, "commit -q -m hostile"), 0) << folder.read("git.txt");
+    std::filesystem::remove_all(folder.path("history/GIT~1"));
+    folder.write("history/.git/vantrel-shown", "unknown");
+    record(store, "LINE1", {{"A", "2"}, {"link", "1"}});
+    EXPECT_FALSE(folder.has("history/GIT~1"));
+    EXPECT_FALSE(folder.has("elsewhere"));
+    EXPECT_EQ(folder.read("history/LINE1/A"), "2");
+    EXPECT_EQ(filesIn(store, "LINE1"), (Files{{"A", "2"}, {"link", "1"}}));
+}
+
 TEST_F(HistoryStoreTest, ALinkInPlaceOfARobotsFolderIsNotFollowed) {
     auto store = open();
     record(store, "LINE1", {{"A", "1"}});
@@ -361,7 +444,7 @@ TEST_F(HistoryStoreTest, ALinkInPlaceOfARobotsFolderIsNotFollowed) {
     std::filesystem::create_directory_symlink(folder.path("elsewhere"),
                                               folder.path("history/LINE1"));
     const auto recorded = store.record(stateOf("LINE1", {{"A", "2"}, {"B", "1"}}), by,
-                                       [](const StateChanges&) { return "x"; });
+                                       [](const Recorded&) { return "x"; });
     ASSERT_TRUE(recorded);
     EXPECT_EQ(recorded->end, Recorded::End::Committed);
     EXPECT_THAT(recorded->treeProblem, testing::HasSubstr("LINE1"));
