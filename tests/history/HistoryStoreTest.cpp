@@ -250,6 +250,7 @@ TEST_F(HistoryStoreTest, CompletesARepositoryWhoseMakingWasCutOff) {
 TEST_F(HistoryStoreTest, SeveralProgramsMayBeginWithItAtOnce) {
     constexpr int programs = 4;
     std::vector<std::thread> running;
+    running.reserve(programs);
     std::atomic<int> opened = 0;
     for (int program = 0; program < programs; ++program)
         running.emplace_back([&] { opened += HistoryStore::openOrMake(place()) ? 1 : 0; });
