@@ -41,7 +41,7 @@ std::vector<std::vector<std::string>> matches(const std::string& text, const cha
     return found;
 }
 
-std::string replaced(std::string text, const char* pattern, const char* by) {
+std::string replaced(const std::string& text, const char* pattern, const char* by) {
     return std::regex_replace(text, std::regex(pattern), by);
 }
 
