@@ -5,6 +5,7 @@
 #include "files/AmbiguousNames.h"
 #include "files/CommandScopes.h"
 #include "files/ControllerPlace.h"
+#include "files/FetchFolder.h"
 #include "files/TransferReports.h"
 #include "files/ViewerText.h"
 #include "lang/MessageNumbers.h"
@@ -16,34 +17,6 @@
 #include <vector>
 
 namespace vantrel {
-namespace {
-
-/// An empty folder for the session to fetch into. It goes with whatever is in it then, and the
-/// session works in its own folder again.
-class PeekFolder {
-  public:
-    PeekFolder(Snappy& session, std::string path)
-        : session_(session), path_(std::move(path)), before_(session.path) {
-        session_.path = PathRules().withSeparator(path_);
-    }
-    ~PeekFolder() {
-        session_.path = before_;
-        // What cannot be removed is the system's to clear away, as everything in its place.
-        std::vector<std::string> names;
-        (void)visitNames(path_, [&names](std::string_view name) { names.emplace_back(name); });
-        for (const std::string& name : names)
-            (void)removeFile(PathRules().join(path_, name));
-        (void)removeFolder(path_);
-    }
-    PeekFolder(const PeekFolder&) = delete;
-    PeekFolder& operator=(const PeekFolder&) = delete;
-
-  private:
-    Snappy& session_;
-    std::string path_, before_;
-};
-
-} // namespace
 
 std::optional<std::string> peekAtController(const TransferServices& with, const std::string& name) {
     // The other one of that name could come.
@@ -57,7 +30,7 @@ std::optional<std::string> peekAtController(const TransferServices& with, const 
     const auto path = createTemporaryFolder();
     if (!path)
         return notShown(path.reason());
-    const PeekFolder folder(with.session, *path);
+    const FetchFolder folder(with.session, *path);
     CommandProgress progress(with, with.messages.getMessage(message::transferTitle),
                              with.messages.resourceMessage(message::resource::transferring),
                              fromController(with.state));

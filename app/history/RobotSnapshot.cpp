@@ -7,6 +7,7 @@
 #include "files/CommandScopes.h"
 #include "files/ControllerModels.h"
 #include "files/ControllerPlace.h"
+#include "files/FetchFolder.h"
 #include "files/TransferReports.h"
 #include "files/TransferTable.h"
 #include "lang/MessageNumbers.h"
@@ -26,29 +27,6 @@
 
 namespace vantrel {
 namespace {
-
-/// An empty folder for the session to fetch into, which goes with whatever is in it.
-class FetchFolder {
-  public:
-    FetchFolder(Snappy& session, std::string path)
-        : session_(session), path_(std::move(path)), before_(session.path) {
-        session_.path = PathRules().withSeparator(path_);
-    }
-    ~FetchFolder() {
-        session_.path = before_;
-        std::vector<std::string> names;
-        (void)visitNames(path_, [&names](std::string_view name) { names.emplace_back(name); });
-        for (const std::string& name : names)
-            (void)removeFile(PathRules().join(path_, name));
-        (void)removeFolder(path_);
-    }
-    FetchFolder(const FetchFolder&) = delete;
-    FetchFolder& operator=(const FetchFolder&) = delete;
-
-  private:
-    Snappy& session_;
-    std::string path_, before_;
-};
 
 /// How often each name comes, in the form in which some disk would take several for one.
 std::map<std::string, std::set<std::string>> spellings(const std::vector<std::string>& names) {
