@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Checks what a Windows build asks of the system and what it offers:
 #   scripts/windows-tables.sh BUILD
-# Program and stand-in library may need libraries of the system only and start from Windows 7 on, and
+# Programs and stand-in library may need libraries of the system only and start from Windows 7 on, and
 # the library has to export its functions under their plain names, and nothing else. In 32 bits each of
 # them also has to clean exactly its arguments from the stack. The program has to keep the
 # system from taking a blocking call for its end.
@@ -10,8 +10,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$1
 dump=x86_64-w64-mingw32-objdump # reads the tables of both machines
 
-system_libraries='advapi32 comctl32 comdlg32 gdi32 kernel32 mpr msvcrt ole32 oleacc oleaut32 shell32
-    shlwapi user32 uxtheme version winspool.drv'
+system_libraries='advapi32 comctl32 comdlg32 crypt32 gdi32 kernel32 mpr msvcrt ole32 oleacc oleaut32 rpcrt4
+    secur32 shell32 shlwapi user32 uxtheme version winspool.drv ws2_32'
 failed=0
 fail() {
     echo "FAILED: $*"
@@ -27,7 +27,7 @@ exports() { "$dump" -p "$1" | sed -n '/\[Ordinal\/Name Pointer\]/,/^$/s/^\t\[ *[
 # The names in the definition file.
 wanted() { sed -n 's/^    \([A-Za-z]*\)$/\1/p' simulator/Zurolink.def | sort; }
 
-for file in "$build/ui/Vantrel.exe" "$build/simulator/Zurolink.dll"; do
+for file in "$build/ui/Vantrel.exe" "$build/console/vantrelctl.exe" "$build/simulator/Zurolink.dll"; do
     for library in $(imports "$file"); do
         case " $(echo $system_libraries) " in
         *" $library "*) ;;
