@@ -181,7 +181,13 @@ bool WorkingTree::isKnown(const std::string& content) const {
            git_odb_exists(database->get(), &id) != 0;
 }
 
+// Names of somebody else's may be such as no index takes, and nothing here needs one.
 Outcome WorkingTree::writeIndex(git_tree* tree) {
+    for (std::size_t at = 0; at < git_tree_entrycount(tree); ++at) {
+        const std::string name = git_tree_entry_name(git_tree_entry_byindex(tree, at));
+        if (name != attributesName && !isOurs(name + "/FILE"))
+            return Done{};
+    }
     const std::string path = pathOf(std::string(newIndexName));
     for (const std::string& left : {path, path + std::string(lockEnd)})
         if (isRegularFile(left) || isLink(left))
@@ -194,7 +200,7 @@ Outcome WorkingTree::writeIndex(git_tree* tree) {
     if (!index)
         return Failure{index.reason()};
     if (git_index_read_tree(index->get(), tree) < 0)
-        return Done{}; // a name of somebody else's that no index takes; nothing here needs one
+        return Done{};
     if (git_index_write(index->get()) < 0)
         return gitFailure();
     return renameFile(path, place);
